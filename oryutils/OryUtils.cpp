@@ -1,0 +1,70 @@
+#include "oryutils/OryUtils.hpp"
+
+#include "oryutils/dates/OryUtilsDatas.hpp"
+#include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
+#include "oryutils/text/OryUtilsStrings.hpp"
+#include "oryutils/ui/OryUtilsControls.hpp"
+#include "oryutils/ui/UnOryUtilsDialogs.hpp"
+
+#include <array>
+#include <mutex>
+
+namespace OryUtils {
+namespace {
+
+struct TUnidade {
+    void (*Iniciar)();
+    void (*Finalizar)();
+};
+
+template <auto& AInstancia>
+constexpr TUnidade UnidadeDe() {
+    return {[] { AInstancia.Criar(); }, [] { AInstancia.Liberar(); }};
+}
+
+// In starting order; they stop in the opposite one.
+constexpr std::array CUnidades{
+    UnidadeDe<GOryUtilsStrings>(),   UnidadeDe<GOryUtilsDatas>(),    UnidadeDe<GOryUtilsValidacoes>(),
+    UnidadeDe<GOryUtilsControls>(),  UnidadeDe<GOryUtilsDialogs>(),  TUnidade{IniciarInterface, FinalizarInterface},
+};
+
+constinit std::mutex GTrava;
+constinit int GInicios = 0;
+
+}  // namespace
+
+void IniciarOryUtils() {
+    const std::lock_guard trava(GTrava);
+    if (GInicios++ > 0) return;
+    for (const TUnidade& unidade : CUnidades) unidade.Iniciar();
+}
+
+void FinalizarOryUtils() noexcept {
+    const std::lock_guard trava(GTrava);
+    if (GInicios == 0 || --GInicios > 0) return;
+    for (auto unidade = CUnidades.rbegin(); unidade != CUnidades.rend(); ++unidade) unidade->Finalizar();
+}
+
+int BuscarContadorInicioOryUtils() noexcept {
+    const std::lock_guard trava(GTrava);
+    return GInicios;
+}
+
+const char* BuscarVersaoOryUtils() noexcept { return ORYUTILS_VERSAO; }
+
+}  // namespace OryUtils
+
+namespace {
+
+// Lives as long as the library is loaded.
+struct TCargaDaBiblioteca {
+    TCargaDaBiblioteca() { OryUtils::IniciarOryUtils(); }
+    ~TCargaDaBiblioteca() { OryUtils::FinalizarOryUtils(); }
+};
+
+}  // namespace
+
+// The name by which a static link pulls this object in.
+extern "C" const char OryUtilsInicio[];
+const char OryUtilsInicio[] = ORYUTILS_VERSAO;
+static const TCargaDaBiblioteca GCarga;

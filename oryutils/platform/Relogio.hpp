@@ -1,0 +1,13 @@
+#pragma once
+
+namespace OryUtils::Plataforma {
+
+/// A local date and time as the wall shows it.
+struct TInstanteLocal {
+    int Ano, Mes, Dia, Hora, Minuto, Segundo, Milissegundo;
+};
+
+/// The current local date and time.
+TInstanteLocal BuscarInstanteLocal();
+
+}  // namespace OryUtils::Plataforma

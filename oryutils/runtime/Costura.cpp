@@ -1,0 +1,32 @@
+#include "oryutils/runtime/Costura.hpp"
+
+#include "oryutils/runtime/Utf.hpp"
+
+#include <cstdio>
+
+namespace OryUtils {
+namespace {
+
+void Escrever(const char* ATitulo, std::u16string_view AMensagem) {
+    std::fprintf(stderr, "%s: %s\n", ATitulo, ParaUtf8(AMensagem).c_str());
+}
+
+void AtribuirFocoDireto(TWinControl* AControle) {
+    if (AControle && AControle->PodeReceberFoco()) AControle->ReceberFoco();
+}
+
+}  // namespace
+
+TCosturaInterface BuscarCosturaPadrao() noexcept {
+    return {.Alerta = [](std::u16string_view AMensagem) { Escrever("Aviso", AMensagem); },
+            .Erro = [](std::u16string_view AMensagem) { Escrever("Erro", AMensagem); },
+            .ProcessarMensagens = [] {},
+            .AtribuirFoco = AtribuirFocoDireto};
+}
+
+TCosturaInterface& CosturaInterface() noexcept {
+    static TCosturaInterface costura = BuscarCosturaPadrao();
+    return costura;
+}
+
+}  // namespace OryUtils

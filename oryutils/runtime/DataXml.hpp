@@ -1,0 +1,24 @@
+#pragma once
+
+#include "oryutils/OryExport.hpp"
+#include "oryutils/runtime/DataHora.hpp"
+
+#include <string>
+#include <string_view>
+
+namespace OryUtils {
+
+/// XML Schema dateTime of a local date-time, with milliseconds and the given offset from UTC, in minutes:
+/// "2024-03-05T14:07:09.000-03:00". The offset 0 is written "Z".
+ORY_API std::u16string DataHoraParaXml(TDateTime AData, int ADeslocamentoMinutos);
+/// As above with the offset that the system's time zone has at that local time.
+ORY_API std::u16string DataHoraParaXml(TDateTime AData);
+
+/// Reads an XML Schema dateTime or date and gives the instant in UTC. Fractions of a second of any length, "Z",
+/// "+hh:mm", "-hh:mm" (up to 14:00) and 24:00:00 are understood; a text without zone is taken as local time with the
+/// given offset in minutes. Raises EConvertError for anything else.
+ORY_API TDateTime XmlParaDataHoraUtc(std::u16string_view ATexto, int ADeslocamentoLocalMinutos);
+/// As above; a text without zone is local time in the system's time zone.
+ORY_API TDateTime XmlParaDataHoraUtc(std::u16string_view ATexto);
+
+}  // namespace OryUtils

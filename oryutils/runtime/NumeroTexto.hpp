@@ -1,0 +1,43 @@
+#pragma once
+
+#include "oryutils/OryExport.hpp"
+#include "oryutils/runtime/Formatos.hpp"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace OryUtils {
+
+/// The extended float: 80 bits on both platforms.
+using Extended = long double;
+
+/// A decimal 64-bit integer: blanks before it, an optional sign, digits; nothing after. None otherwise, also when it
+/// does not fit.
+ORY_API std::optional<std::int64_t> TentarTextoParaInt64(std::u16string_view ATexto) noexcept;
+ORY_API std::int64_t TextoParaInt64Padrao(std::u16string_view ATexto, std::int64_t APadrao) noexcept;
+ORY_API int TextoParaIntPadrao(std::u16string_view ATexto, int APadrao) noexcept;
+/// Raise EConvertError.
+ORY_API std::int64_t TextoParaInt64(std::u16string_view ATexto);
+ORY_API int TextoParaInt(std::u16string_view ATexto);
+
+/// A floating-point number with the decimal separator of the formats, optional sign and exponent, blanks at both ends
+/// allowed; no thousands separators. None otherwise.
+ORY_API std::optional<Extended> TentarTextoParaExtended(std::u16string_view ATexto,
+                                                        const TFormatSettings& AFormatos = FormatSettings());
+ORY_API Extended TextoParaExtendedPadrao(std::u16string_view ATexto, Extended APadrao,
+                                         const TFormatSettings& AFormatos = FormatSettings());
+/// Raises EConvertError.
+ORY_API Extended TextoParaExtended(std::u16string_view ATexto, const TFormatSettings& AFormatos = FormatSettings());
+
+/// The shortest general text with at most 15 significant digits: "0,1", "1234,5", "1E15", "1E-5". From 10^15 up and
+/// below 10^-4 in magnitude the scientific form is used.
+ORY_API std::u16string ExtendedParaTexto(Extended AValor, const TFormatSettings& AFormatos = FormatSettings());
+ORY_API std::u16string InteiroParaTexto(std::int64_t AValor);
+
+/// AValor rounded to an integer (halves away from zero) and written with at least ADigitos digits, zero-filled on the
+/// left; a minus sign comes before the zeros.
+ORY_API std::u16string FormatarZeros(Extended AValor, int ADigitos);
+
+}  // namespace OryUtils
