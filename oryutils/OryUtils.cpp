@@ -24,8 +24,8 @@ constexpr TUnidade UnidadeDe() {
 
 // In starting order; they stop in the opposite one.
 constexpr std::array CUnidades{
-    UnidadeDe<GOryUtilsStrings>(),   UnidadeDe<GOryUtilsDatas>(),    UnidadeDe<GOryUtilsValidacoes>(),
-    UnidadeDe<GOryUtilsControls>(),  UnidadeDe<GOryUtilsDialogs>(),  TUnidade{IniciarInterface, FinalizarInterface},
+    UnidadeDe<GOryUtilsStrings>(),  UnidadeDe<GOryUtilsDatas>(),   UnidadeDe<GOryUtilsValidacoes>(),
+    UnidadeDe<GOryUtilsControls>(), UnidadeDe<GOryUtilsDialogs>(), TUnidade{IniciarInterface, FinalizarInterface},
 };
 
 constinit std::mutex GTrava;

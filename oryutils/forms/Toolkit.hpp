@@ -1,26 +1,70 @@
 #pragma once
 
 #include "oryutils/OryExport.hpp"
+#include "oryutils/forms/Formulario.hpp"
 
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace OryUtils {
 
-enum TTipoMensagem : int { tmAlerta, tmErro, tmInformacao };
+/// A line of a file picker's filter: "Textos", "*.txt" (several masks with ";").
+struct TFiltroArquivo {
+    std::u16string Descricao;
+    std::u16string Mascara;
+};
 
-/// What realises messages natively.
+enum TCursorTela : int { ctNormal, ctAmpulheta };
+
+/// What realises forms natively. Every operation belongs to the thread of the user interface (EhThreadDaInterface).
 class TToolkit {
 public:
     virtual ~TToolkit() = default;
-    /// Shows a message and waits until the user has seen it.
-    virtual void MostrarMensagem(TTipoMensagem ATipo, std::u16string_view ATitulo, std::u16string_view AMensagem) = 0;
-    /// Lets the message loop run once.
+
+    /// "win32", "qt", "console".
+    virtual const char* GetNome() const noexcept = 0;
+    /// Whether the calling thread may show forms.
+    virtual bool EhThreadDaInterface() const = 0;
+
+    /// Realises AFormulario, fires OnShow, runs it until its modal result is set, writes back what the user did,
+    /// and returns the result. The form's other windows of this thread are disabled meanwhile.
+    virtual int ExecutarModal(TFormulario& AFormulario) = 0;
+    /// Lets the message loop run once, without waiting.
     virtual void ProcessarMensagens() = 0;
+
+    /// Size of ATexto in the dialog font. ALarguraMaxima above 0 wraps at words, 0 does not; line breaks count.
+    virtual TTamanho MedirTexto(std::u16string_view ATexto, int ALarguraMaxima) const = 0;
+    /// Size of the dialog font, in points.
+    virtual int GetTamanhoFonte() const = 0;
+    virtual int GetPixelsPorPolegada() const = 0;
+    /// Part of the main screen that task bars leave free, in pixels.
+    virtual TRetangulo GetAreaDeTrabalho() const = 0;
+
+    /// Calls AAcao every AMilissegundos until switched off. Returns the number for DesligarTemporizador, never 0.
+    virtual std::uintptr_t LigarTemporizador(int AMilissegundos, std::function<void()> AAcao) = 0;
+    virtual void DesligarTemporizador(std::uintptr_t ATemporizador) = 0;
+
+    /// Pickers: the chosen full path; none when cancelled.
+    virtual std::optional<std::u16string> EscolherArquivo(std::u16string_view APastaInicial,
+                                                          const std::vector<TFiltroArquivo>& AFiltros) = 0;
+    virtual std::optional<std::u16string> EscolherPasta(std::u16string_view ATitulo,
+                                                        std::u16string_view APastaInicial) = 0;
+
+    virtual void SetCursor(TCursorTela ACursor) = 0;
+    /// Whether the key of that virtual-key code is down.
+    virtual bool EstahPressionada(std::uint16_t ATecla) const = 0;
+    virtual void Bipar() = 0;
+    virtual void CopiarParaAreaDeTransferencia(std::u16string_view ATexto) = 0;
 };
 
-/// The toolkit in use: the one that the host installed, else the console.
+/// The toolkit in use: the one that the host installed; else Win32 on Windows; on Linux the Qt library when it can be
+/// loaded and a display exists; else the console.
 ORY_API TToolkit& BuscarToolkit();
-/// Installs AToolkit, which must outlive its use; null goes back to the default.
+/// Installs AToolkit, which must outlive its use; null goes back to the default. Call from the user-interface thread.
 ORY_API void InstalarToolkit(TToolkit* AToolkit);
 
 }  // namespace OryUtils

@@ -20,7 +20,6 @@ enum TTipoMedidaTempo : int {
 
 /// Full weekday names; entry 1 is Sunday, entry 0 is not used.
 inline constexpr std::array<std::u16string_view, 8> CVetorDiasSemanaCompleto{
-    u"",          u"Domingo",      u"Segunda-feira", u"Terça-feira", u"Quarta-feira", u"Quinta-feira",
-    u"Sexta-feira", u"Sábado"};
+    u"", u"Domingo", u"Segunda-feira", u"Terça-feira", u"Quarta-feira", u"Quinta-feira", u"Sexta-feira", u"Sábado"};
 
 }  // namespace OryTypes

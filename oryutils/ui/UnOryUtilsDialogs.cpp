@@ -8,17 +8,22 @@ namespace OryUtils {
 
 TInstanciaGlobal<TOryUtilsDialogs> GOryUtilsDialogs;
 
-void TOryUtilsDialogs::Informacao(std::u16string_view AMensagem) {
-    BuscarToolkit().MostrarMensagem(tmInformacao, u"Informação", AMensagem);
+namespace {
+
+void Mostrar(std::u16string_view ATitulo, std::u16string_view AMensagem) {
+    TFormulario formulario;
+    formulario.SetTitulo(ATitulo);
+    auto& texto = formulario.Adicionar<TRotulo>();
+    texto.SetNome(u"Message");
+    texto.SetTexto(AMensagem);
+    formulario.ExecutarModal();
 }
 
-void TOryUtilsDialogs::Alerta(std::u16string_view AMensagem) {
-    BuscarToolkit().MostrarMensagem(tmAlerta, u"Aviso", AMensagem);
-}
+}  // namespace
 
-void TOryUtilsDialogs::Erro(std::u16string_view AMensagem) {
-    BuscarToolkit().MostrarMensagem(tmErro, u"Erro", AMensagem);
-}
+void TOryUtilsDialogs::Informacao(std::u16string_view AMensagem) { Mostrar(u"Informação", AMensagem); }
+void TOryUtilsDialogs::Alerta(std::u16string_view AMensagem) { Mostrar(u"Aviso", AMensagem); }
+void TOryUtilsDialogs::Erro(std::u16string_view AMensagem) { Mostrar(u"Erro", AMensagem); }
 
 void IniciarInterface() {
     CosturaInterface() = {

@@ -1,0 +1,81 @@
+#include "oryutils/forms/Controles.hpp"
+
+#include "oryutils/forms/Formulario.hpp"
+
+namespace OryUtils {
+
+TControleFormulario::~TControleFormulario() = default;
+
+void TControleFormulario::Avisar(TMudanca AMudanca) {
+    if (TJanela* janela = FFormulario.GetJanela()) janela->Mudou(*this, AMudanca);
+}
+
+void TControleFormulario::SetRetangulo(const TRetangulo& ARetangulo) {
+    if (FRetangulo == ARetangulo) return;
+    FRetangulo = ARetangulo;
+    Avisar(mdPosicao);
+}
+
+void TControleFormulario::SetLeft(int AValor) { SetRetangulo({AValor, GetTop(), GetWidth(), GetHeight()}); }
+void TControleFormulario::SetTop(int AValor) { SetRetangulo({GetLeft(), AValor, GetWidth(), GetHeight()}); }
+void TControleFormulario::SetWidth(int AValor) { SetRetangulo({GetLeft(), GetTop(), AValor, GetHeight()}); }
+void TControleFormulario::SetHeight(int AValor) { SetRetangulo({GetLeft(), GetTop(), GetWidth(), AValor}); }
+
+void TControleFormulario::SetTexto(std::u16string_view ATexto) {
+    if (FTexto == ATexto) return;
+    FTexto = ATexto;
+    Avisar(mdTexto);
+}
+
+void TControleFormulario::SetVisivel(bool AVisivel) {
+    if (FVisivel == AVisivel) return;
+    FVisivel = AVisivel;
+    Avisar(mdEstado);
+}
+
+void TControleFormulario::SetHabilitado(bool AHabilitado) {
+    if (FHabilitado == AHabilitado) return;
+    FHabilitado = AHabilitado;
+    Avisar(mdEstado);
+}
+
+bool TControleFormulario::PodeReceberFoco() const { return FVisivel && FHabilitado; }
+
+void TControleFormulario::ReceberFoco() { FFormulario.SetControleAtivo(this); }
+
+void TBotao::Clicar() {
+    if (!GetHabilitado()) return;
+    OnClick(this);
+    if (FModalResult != mrNone) GetFormulario().SetModalResult(FModalResult);
+}
+
+void TGrupoOpcoes::AdicionarItem(std::u16string_view AItem) {
+    FItens.emplace_back(AItem);
+    Avisar(mdItens);
+}
+
+void TGrupoOpcoes::SetIndice(int AIndice) {
+    const int indice = AIndice >= 0 && AIndice < static_cast<int>(FItens.size()) ? AIndice : -1;
+    if (FIndice == indice) return;
+    FIndice = indice;
+    Avisar(mdSelecao);
+}
+
+void TCaixaChecagem::SetMarcada(bool AMarcada) {
+    if (FMarcada == AMarcada) return;
+    FMarcada = AMarcada;
+    Avisar(mdSelecao);
+}
+
+void TCaixaEdicao::SelecionarTudo() {
+    FSelecionarTudo = true;
+    Avisar(mdSelecao);
+}
+
+void TMemorando::SetSomenteLeitura(bool ASomenteLeitura) {
+    if (FSomenteLeitura == ASomenteLeitura) return;
+    FSomenteLeitura = ASomenteLeitura;
+    Avisar(mdEstado);
+}
+
+}  // namespace OryUtils

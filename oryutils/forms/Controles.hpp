@@ -1,0 +1,219 @@
+#pragma once
+
+#include "oryutils/OryExport.hpp"
+#include "oryutils/runtime/Controle.hpp"
+#include "oryutils/runtime/Evento.hpp"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace OryUtils {
+
+class TFormulario;
+
+/// Position inside the form's client area, in pixels.
+struct TRetangulo {
+    int Left = 0;
+    int Top = 0;
+    int Width = 0;
+    int Height = 0;
+    bool operator==(const TRetangulo&) const = default;
+};
+
+struct TTamanho {
+    int Largura = 0;
+    int Altura = 0;
+    bool operator==(const TTamanho&) const = default;
+};
+
+/// What of a control or form has changed; a toolkit brings the native side up to date.
+enum TMudanca : unsigned {
+    mdPosicao = 1,   ///< rectangle
+    mdTexto = 2,     ///< caption or text
+    mdEstado = 4,    ///< visible, enabled, read-only
+    mdItens = 8,     ///< options of a radio group
+    mdSelecao = 16,  ///< chosen option, checked state, selected text
+    mdFoco = 32,     ///< active control
+};
+
+enum TTipoControle : int { tcRotulo, tcBotao, tcGrupoOpcoes, tcCaixaChecagem, tcCaixaEdicao, tcMemorando, tcIcone };
+
+/// Modal results: what a button answers and a modal run returns. 0 keeps the form open.
+enum TModalResult : int {
+    mrNone = 0,
+    mrOk = 1,
+    mrCancel = 2,
+    mrAbort = 3,
+    mrRetry = 4,
+    mrIgnore = 5,
+    mrYes = 6,
+    mrNo = 7,
+    mrAll = 8,
+    mrNoToAll = 9,
+    mrYesToAll = 10,
+    mrClose = 11,
+};
+
+/// Something on a form. The form owns its controls; they are realised, and tabbed through, in creation order.
+/// Setters work before, while and after the form is shown: a shown form is brought up to date at once.
+class ORY_API TControleFormulario : public TWinControl {
+public:
+    ~TControleFormulario() override;
+    TControleFormulario(const TControleFormulario&) = delete;
+    TControleFormulario& operator=(const TControleFormulario&) = delete;
+
+    TTipoControle GetTipo() const noexcept { return FTipo; }
+    TFormulario& GetFormulario() const noexcept { return FFormulario; }
+
+    /// Name by which hosts and tests find it ("Message"); need not be unique.
+    const std::u16string& GetNome() const noexcept { return FNome; }
+    void SetNome(std::u16string_view ANome) { FNome = ANome; }
+
+    const TRetangulo& GetRetangulo() const noexcept { return FRetangulo; }
+    void SetRetangulo(const TRetangulo& ARetangulo);
+    int GetLeft() const noexcept { return FRetangulo.Left; }
+    int GetTop() const noexcept { return FRetangulo.Top; }
+    int GetWidth() const noexcept { return FRetangulo.Width; }
+    int GetHeight() const noexcept { return FRetangulo.Height; }
+    void SetLeft(int AValor);
+    void SetTop(int AValor);
+    void SetWidth(int AValor);
+    void SetHeight(int AValor);
+
+    /// Caption of a label, button, group or check box ("&" marks the Alt letter); text of an edit or memo.
+    const std::u16string& GetTexto() const noexcept { return FTexto; }
+    void SetTexto(std::u16string_view ATexto);
+
+    bool GetVisivel() const noexcept { return FVisivel; }
+    void SetVisivel(bool AVisivel);
+    bool GetHabilitado() const noexcept { return FHabilitado; }
+    void SetHabilitado(bool AHabilitado);
+
+    bool PodeReceberFoco() const override;
+    void ReceberFoco() override;
+
+    /// What the user did, told by the toolkit: the new text, without telling the toolkit back.
+    void AceitarTexto(std::u16string_view ATexto) { FTexto = ATexto; }
+
+protected:
+    TControleFormulario(TFormulario& AFormulario, TTipoControle ATipo) : FFormulario(AFormulario), FTipo(ATipo) {}
+    /// Brings the native side up to date when the form is shown.
+    void Avisar(TMudanca AMudanca);
+
+private:
+    TFormulario& FFormulario;
+    TTipoControle FTipo;
+    std::u16string FNome;
+    std::u16string FTexto;
+    TRetangulo FRetangulo;
+    bool FVisivel = true;
+    bool FHabilitado = true;
+};
+
+/// Text without interaction; wraps at its width when SetQuebraLinha. Its "&" is shown as it is.
+class ORY_API TRotulo final : public TControleFormulario {
+public:
+    explicit TRotulo(TFormulario& AFormulario) : TControleFormulario(AFormulario, tcRotulo) {}
+    bool GetQuebraLinha() const noexcept { return FQuebraLinha; }
+    void SetQuebraLinha(bool AQuebra) { FQuebraLinha = AQuebra; }
+    bool PodeReceberFoco() const override { return false; }
+
+private:
+    bool FQuebraLinha = false;
+};
+
+/// System icon of a message, by the system's number (32513 stop, 32514 question, 32515 exclamation, 32516 information).
+class ORY_API TIcone final : public TControleFormulario {
+public:
+    explicit TIcone(TFormulario& AFormulario) : TControleFormulario(AFormulario, tcIcone) {}
+    int GetIdIcone() const noexcept { return FIdIcone; }
+    void SetIdIcone(int AId) { FIdIcone = AId; }
+    bool PodeReceberFoco() const override { return false; }
+
+private:
+    int FIdIcone = 0;
+};
+
+/// Push button. Pressed, it fires OnClick and then, when its modal result is not mrNone, ends the modal run with it.
+class ORY_API TBotao final : public TControleFormulario {
+public:
+    explicit TBotao(TFormulario& AFormulario) : TControleFormulario(AFormulario, tcBotao) {}
+    int GetModalResult() const noexcept { return FModalResult; }
+    void SetModalResult(int AResultado) { FModalResult = AResultado; }
+    /// Pressed by Enter while no other button has the focus.
+    bool GetPadrao() const noexcept { return FPadrao; }
+    void SetPadrao(bool APadrao) { FPadrao = APadrao; }
+    /// Pressed by Esc.
+    bool GetCancelar() const noexcept { return FCancelar; }
+    void SetCancelar(bool ACancelar) { FCancelar = ACancelar; }
+
+    TEvento<TObjeto*> OnClick;
+
+    /// What a click does; toolkits and tests call it.
+    void Clicar();
+
+private:
+    int FModalResult = mrNone;
+    bool FPadrao = false;
+    bool FCancelar = false;
+};
+
+/// Group box with one radio button for each item, in one column.
+class ORY_API TGrupoOpcoes final : public TControleFormulario {
+public:
+    explicit TGrupoOpcoes(TFormulario& AFormulario) : TControleFormulario(AFormulario, tcGrupoOpcoes) {}
+    const std::vector<std::u16string>& GetItens() const noexcept { return FItens; }
+    void AdicionarItem(std::u16string_view AItem);
+    /// Chosen item from 0; -1 for none. A value outside the items chooses none.
+    int GetIndice() const noexcept { return FIndice; }
+    void SetIndice(int AIndice);
+    bool GetQuebraLinha() const noexcept { return FQuebraLinha; }
+    void SetQuebraLinha(bool AQuebra) { FQuebraLinha = AQuebra; }
+    void AceitarIndice(int AIndice) { FIndice = AIndice; }
+
+private:
+    std::vector<std::u16string> FItens;
+    int FIndice = -1;
+    bool FQuebraLinha = false;
+};
+
+class ORY_API TCaixaChecagem final : public TControleFormulario {
+public:
+    explicit TCaixaChecagem(TFormulario& AFormulario) : TControleFormulario(AFormulario, tcCaixaChecagem) {}
+    bool GetMarcada() const noexcept { return FMarcada; }
+    void SetMarcada(bool AMarcada);
+    void AceitarMarcada(bool AMarcada) { FMarcada = AMarcada; }
+
+private:
+    bool FMarcada = false;
+};
+
+/// One line of text that the user edits.
+class ORY_API TCaixaEdicao final : public TControleFormulario {
+public:
+    explicit TCaixaEdicao(TFormulario& AFormulario) : TControleFormulario(AFormulario, tcCaixaEdicao) {}
+    /// Selects the whole text (when shown, or as soon as it is).
+    void SelecionarTudo();
+    bool GetSelecionarTudo() const noexcept { return FSelecionarTudo; }
+    /// Fired after the user changed the text.
+    TEvento<TObjeto*> OnMudar;
+    /// Fired when the focus leaves the box. EAbort raised here is swallowed.
+    TEvento<TObjeto*> OnSair;
+
+private:
+    bool FSelecionarTudo = false;
+};
+
+/// Lines of text with a vertical scroll bar.
+class ORY_API TMemorando final : public TControleFormulario {
+public:
+    explicit TMemorando(TFormulario& AFormulario) : TControleFormulario(AFormulario, tcMemorando) {}
+    bool GetSomenteLeitura() const noexcept { return FSomenteLeitura; }
+    void SetSomenteLeitura(bool ASomenteLeitura);
+
+private:
+    bool FSomenteLeitura = false;
+};
+
+}  // namespace OryUtils

@@ -1,0 +1,127 @@
+#pragma once
+
+#include "oryutils/forms/Controles.hpp"
+
+#include <concepts>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace OryUtils {
+
+/// Border of a form: a dialog of fixed size, or one that the user may resize.
+enum TEstiloBorda : int { ebDialogo, ebRedimensionavel };
+
+enum TPosicaoFormulario : int { pfDesenhada, pfCentroDaTela };
+
+/// A key pressed on a form, before the focused control sees it.
+struct TTecla {
+    std::uint16_t Codigo = 0;  ///< virtual-key code as on Windows (Esc 27, Enter 13, C 67)
+    bool Shift = false;
+    bool Ctrl = false;
+    bool Alt = false;
+    bool Tratada = false;  ///< out: true keeps the key from the focused control
+};
+
+/// The native window of a shown form, implemented by a toolkit.
+class TJanela {
+public:
+    virtual ~TJanela() = default;
+    virtual void Mudou(TControleFormulario& AControle, TMudanca AMudanca) = 0;
+    virtual void MudouFormulario(TMudanca AMudanca) = 0;
+    /// Wakes the modal loop up: the form's modal result may have changed.
+    virtual void ResultadoMudou() = 0;
+};
+
+/// A dialog as a model: controls with positions in pixels, computed by portable code. A toolkit realises it natively,
+/// runs it, and writes back what the user did. Belongs to the thread of the user interface.
+/// Example:
+///   TFormulario formulario;
+///   auto& botao = formulario.Adicionar<TBotao>();
+///   botao.SetTexto(u"O&K");
+///   botao.SetModalResult(mrOk);
+///   if (formulario.ExecutarModal() == mrOk) ...
+class ORY_API TFormulario : public TObjeto {
+public:
+    TFormulario();
+    ~TFormulario() override;
+    TFormulario(const TFormulario&) = delete;
+    TFormulario& operator=(const TFormulario&) = delete;
+
+    /// Adds a control; also while the form is shown.
+    template <std::derived_from<TControleFormulario> T>
+    T& Adicionar() {
+        auto controle = std::make_unique<T>(*this);
+        T& referencia = *controle;
+        Incorporar(std::move(controle));
+        return referencia;
+    }
+    /// In creation order.
+    const std::vector<std::unique_ptr<TControleFormulario>>& GetControles() const noexcept { return FControles; }
+    /// The first control of that name; null when there is none.
+    TControleFormulario* BuscarControle(std::u16string_view ANome) const noexcept;
+    /// The buttons in creation order.
+    std::vector<TBotao*> GetBotoes() const;
+
+    const std::u16string& GetTitulo() const noexcept { return FTitulo; }
+    void SetTitulo(std::u16string_view ATitulo);
+    /// Size of the client area, in pixels.
+    int GetLarguraCliente() const noexcept { return FCliente.Largura; }
+    int GetAlturaCliente() const noexcept { return FCliente.Altura; }
+    void SetTamanhoCliente(int ALargura, int AAltura);
+    /// Left and top of the window for pfDesenhada, screen pixels.
+    const TRetangulo& GetPosicao() const noexcept { return FPosicaoNaTela; }
+    void SetPosicao(int ALeft, int ATop);
+
+    TEstiloBorda EstiloBorda = ebDialogo;
+    TPosicaoFormulario Posicao = pfCentroDaTela;
+    int ContextoAjuda = 0;
+
+    /// Has the focus when the form is shown; while it is shown, has it now. Null: the first that can take it.
+    TControleFormulario* GetControleAtivo() const noexcept { return FControleAtivo; }
+    void SetControleAtivo(TControleFormulario* AControle);
+    void AceitarControleAtivo(TControleFormulario* AControle) { FControleAtivo = AControle; }
+
+    /// Fired when the form has just been shown.
+    TEvento<TObjeto*> OnShow;
+    /// Fired for each key before the focused control.
+    TEvento<TObjeto*, TTecla&> OnKeyDown;
+    /// Fired after the user resized the window; the client size is the new one.
+    TEvento<TObjeto*> OnResize;
+
+    int GetModalResult() const noexcept { return FModalResult; }
+    /// Other than mrNone ends the modal run.
+    void SetModalResult(int AResultado);
+    /// Ends a modal run with mrCancel unless a result stands already. Does nothing when not shown.
+    void Fechar();
+
+    /// Shows the form by the toolkit in use until a modal result is set, and returns it. Modal runs nest. Raises
+    /// Exception when called from a thread that does not own the user interface.
+    int ExecutarModal();
+
+    /// The native window while shown, else null. Toolkits set it.
+    TJanela* GetJanela() const noexcept { return FJanela; }
+    void SetJanela(TJanela* AJanela) noexcept { FJanela = AJanela; }
+
+    // What the toolkits tell of the user, the same for all of them.
+
+    /// A key before the focused control: OnKeyDown, then Enter and Esc by the default and cancel buttons. Returns true
+    /// when the key is spent. Enter in a memo or on a focused button is left to the control.
+    bool TratarTecla(TTecla& ATecla);
+    void AoRedimensionar(int ALargura, int AAltura);
+
+private:
+    void Incorporar(std::unique_ptr<TControleFormulario> AControle);
+
+    std::vector<std::unique_ptr<TControleFormulario>> FControles;
+    std::u16string FTitulo;
+    TTamanho FCliente{320, 200};
+    TRetangulo FPosicaoNaTela;
+    TControleFormulario* FControleAtivo = nullptr;
+    TJanela* FJanela = nullptr;
+    int FModalResult = mrNone;
+};
+
+}  // namespace OryUtils
