@@ -8,9 +8,14 @@ target_compile_options(ory_opcoes INTERFACE -Wall -Wextra -Wpedantic -Wconversio
 if(ORY_AVISOS_SAO_ERROS)
   target_compile_options(ory_opcoes INTERFACE -Werror)
 endif()
+# The system's own libraries, for the rooms that call them.
 if(WIN32)
   target_compile_definitions(ory_opcoes INTERFACE _WIN32_WINNT=0x0A00 UNICODE _UNICODE)
+  set(ORY_SISTEMA user32 advapi32 bcrypt gdi32 comctl32 comdlg32 ole32 shell32 uuid)
+else()
+  set(ORY_SISTEMA ${CMAKE_DL_LIBS})
 endif()
+target_link_libraries(ory_opcoes INTERFACE ${ORY_SISTEMA})
 if(ORY_SANITIZADORES)
   target_compile_options(ory_opcoes INTERFACE -fsanitize=${ORY_SANITIZADORES} -fno-sanitize-recover=all
                                              -fno-omit-frame-pointer -O1)
