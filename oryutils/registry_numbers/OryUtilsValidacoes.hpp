@@ -1,0 +1,143 @@
+#pragma once
+
+#include "oryutils/OryExport.hpp"
+#include "oryutils/registry_numbers/UnOryUtilsValidacoesTypes.hpp"
+#include "oryutils/runtime/Controle.hpp"
+#include "oryutils/runtime/Instancia.hpp"
+#include "oryutils/runtime/Variante.hpp"
+#include "oryutils/types/OryTypesSistema.hpp"
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace OryUtils {
+
+using OryTypes::TTipoInscricao;
+
+/// Validations of Brazilian registry numbers and of form fields.
+///
+/// Validou... answers and shows nothing (ValidouDocumento also reports). Validar... reports a failing value: it gives
+/// the focus to the control, shows the message as a warning and raises EAbort, so the caller's event handler ends.
+///
+/// A check applies to a control when ValidouCampo says so; otherwise Validar... does nothing. Arguments of the family:
+///   ASender    what fired the event: the control itself in its exit handler, or null (a save button checking the form)
+///   AControle  the control that holds the value; null when there is none
+///   AMensagem  the warning to show
+///
+/// The Validou... rules without a control may run on any thread and never allocate; what reports belongs to the thread
+/// of the user interface.
+class ORY_API TOryUtilsValidacoes {
+public:
+    /// True when AControle is given, can take the focus, and ASender is null or that same control.
+    static bool ValidouCampo(const TObjeto* ASender, const TWinControl* AControle);
+    /// True as soon as one of AControles passes, in order.
+    static bool ValidouCampo(const TObjeto* ASender, std::span<TWinControl* const> AControles);
+    /// Reports, always: focus when AControle is given, warning, EAbort.
+    [[noreturn]] static void TratarResultadoValidacao(TWinControl* AControle, std::u16string_view AMensagem);
+
+    /// CPF (tiCPF) or CNPJ (tiCNPJ) by its check digits; false for every other kind. Everything but digits is dropped
+    /// first. Repeated digits ("111.111.111-11") pass: callers that refuse them do so themselves. Never throws.
+    /// Example:  ValidouCnpjCpf(tiCNPJ, u"11.222.333/0001-81")  ->  true
+    static bool ValidouCnpjCpf(TTipoInscricao ATipo, std::u16string_view ANumero) noexcept;
+    /// CNPJ of letters and digits, in use since July 2026, and the numeric one: twelve of A-Z and 0-9, two check
+    /// digits. Letters count in either case; ". / -" and blanks are dropped, anything else is refused. Never throws.
+    /// Example:  ValidouCnpjAlfanumerico(u"12.ABC.345/01DE-35")  ->  true
+    static bool ValidouCnpjAlfanumerico(std::u16string_view ANumero) noexcept;
+    /// "12.ABC.345/01DE-35" from the fourteen characters, bare or formatted, in either case; the check digits are not
+    /// verified. ANumero unchanged when it does not hold twelve of A-Z and 0-9 and two digits.
+    static std::u16string FormatarCnpjAlfanumerico(std::u16string_view ANumero);
+    /// PIS: eleven digits; spaces are dropped, punctuation is refused. Never throws.
+    static bool ValidouPIS(std::u16string_view ANumero) noexcept;
+    /// CEI: twelve characters after dropping ". , _ / -" and the blanks at both ends. Twelve zeros are valid.
+    /// Raises EConvertError when the twelve characters are not a number.
+    static bool ValidouCEI(std::u16string_view ANumero);
+    /// CNO: as the CEI.
+    static bool ValidouCNO(std::u16string_view ANumero);
+    /// Driving licence: the new format, else the old one, else any text of the integer 0. Never throws.
+    static bool ValidouCNH(std::u16string_view ANumero) noexcept;
+    /// Eleven digits; shorter numbers are completed with zeros on the left. Punctuation is refused. Never throws.
+    static bool ValidouNovoFormatoCNH(std::u16string_view ANumero) noexcept;
+    /// Nine digits, likewise.
+    static bool ValidouFormatoAntigoCNH(std::u16string_view ANumero) noexcept;
+    /// Municipality code of the national statistics office: seven digits after dropping "." and the blanks at both
+    /// ends. Raises EConvertError when one of the first six of seven characters is not a digit.
+    static bool ValidouCodigoMunicipio(std::u16string_view ACodigo);
+    /// As ValidouCodigoMunicipio, and also true for the nine codes in use whose digit breaks the rule ("2201919").
+    static bool ValidouCodigoMunicipioOficial(std::u16string_view ACodigo);
+    /// State registration by the rule of AUF (two letters in either case, "EX" for export). AIE: bare digits, or a
+    /// text with "ISENT" in it, valid whatever AUF. See TOryUtilsValidacoesIE. Never throws.
+    /// Example:  ValidouIE(u"2243658792", u"RS")  ->  true
+    static bool ValidouIE(std::u16string_view AIE, std::u16string_view AUF) noexcept;
+
+    /// Verdict by the rule of ATipo: CNPJ, CPF, CEI, PIS, CNH or CNO; false for any other kind. A false verdict is
+    /// reported ("CNPJ inválido. Verifique."; an empty text for another kind) when the check applies. A blank number
+    /// is false and not reported. Raises EConvertError as ValidouCEI.
+    static bool ValidouDocumento(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ANumero,
+                                 TTipoInscricao ATipo);
+    /// Reports when ValidouIE is false.
+    static void ValidarIE(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AIE,
+                          std::u16string_view AUF, std::u16string_view AMensagem);
+    /// Reports a blank value.
+    static void ValidarString(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
+                              std::u16string_view AMensagem);
+    /// Reports a blank value with AMensagem, and "0", "+", "," or a value with a "-" with "Código inválido.
+    /// Verifique.".
+    static void ValidarCodigoCadastral(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
+                                       std::u16string_view AMensagem);
+    /// Reports a number that does not fit APrecisao digits of which ADecimais after the comma, and a value without
+    /// digits and commas. All other characters are ignored. A comma in first place does not start a fraction.
+    static void ValidarCampoNumerico(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
+                                     std::u16string_view AMensagem, std::int16_t APrecisao, std::int16_t ADecimais);
+    /// Reports a value made only of digits, also an empty one.
+    static void ValidarCampoSomenteNumeros(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
+                                           std::u16string_view AMensagem);
+    /// Reports a value with neither a letter nor a digit, also an empty one.
+    static void ValidarCampoSomenteCaracteresEspeciais(const TObjeto* ASender, TWinControl* AControle,
+                                                       std::u16string_view AValor, std::u16string_view AMensagem);
+
+    /// Calls AMetodos in order until the first result of the kind named by ATipo; each one is let go after its call.
+    /// The result is the last one produced: with tvrPrimeiroResultadoFalso true when all passed, with
+    /// tvrPrimeiroResultadoVerdadeiro false when none did. False without methods. Raises Exception at an empty one.
+    static bool ValidouMetodosRetorno(std::vector<TValidacaoMetodoRetorno> AMetodos,
+                                      TTipoValidacaoResultadoMetodoRetorno ATipo);
+    /// A copy of the chosen value. Both are evaluated by the caller before the call.
+    static Variant Iif(bool ACondicao, const Variant& AValorVerdadeiro, const Variant& AValorFalso);
+};
+
+extern ORY_API TInstanciaGlobal<TOryUtilsValidacoes> GOryUtilsValidacoes;
+
+/// The free functions forward to the operation of TOryUtilsValidacoes with the same name, except the first three.
+
+/// ValidouCampo.
+ORY_API bool ValidarCampo(const TObjeto* ASender, const TWinControl* AControle);
+ORY_API bool ValidarCampo(const TObjeto* ASender, std::span<TWinControl* const> AControles);
+/// ValidouDocumento.
+ORY_API bool ValidarDocumento(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ANumero,
+                              TTipoInscricao ATipo);
+
+ORY_API bool ValidouCnpjCpf(TTipoInscricao ATipo, std::u16string_view ANumero) noexcept;
+ORY_API bool ValidouCnpjAlfanumerico(std::u16string_view ANumero) noexcept;
+ORY_API std::u16string FormatarCnpjAlfanumerico(std::u16string_view ANumero);
+ORY_API bool ValidouPIS(std::u16string_view ANumero) noexcept;
+ORY_API bool ValidouCEI(std::u16string_view ANumero);
+ORY_API bool ValidouCNH(std::u16string_view ANumero) noexcept;
+ORY_API bool ValidouCodigoMunicipioOficial(std::u16string_view ACodigo);
+ORY_API bool ValidouIE(std::u16string_view AIE, std::u16string_view AUF) noexcept;
+ORY_API void ValidarIE(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AIE, std::u16string_view AUF,
+                       std::u16string_view AMensagem);
+ORY_API void ValidarString(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
+                           std::u16string_view AMensagem);
+ORY_API void ValidarCodigoCadastral(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
+                                    std::u16string_view AMensagem);
+ORY_API void ValidarCampoNumerico(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
+                                  std::u16string_view AMensagem, std::int16_t APrecisao, std::int16_t ADecimais);
+ORY_API void ValidarCampoSomenteNumeros(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
+                                        std::u16string_view AMensagem);
+ORY_API void ValidarCampoSomenteCaracteresEspeciais(const TObjeto* ASender, TWinControl* AControle,
+                                                    std::u16string_view AValor, std::u16string_view AMensagem);
+ORY_API Variant Iif(bool ACondicao, const Variant& AValorVerdadeiro, const Variant& AValorFalso);
+
+}  // namespace OryUtils
