@@ -1,6 +1,6 @@
 #include "oryutils/forms/Toolkit.hpp"
 
-#include "oryutils/forms/console/ToolkitConsole.hpp"
+#include "oryutils/forms/interno/ToolkitPadrao.hpp"
 
 namespace OryUtils {
 namespace {
@@ -9,10 +9,7 @@ TToolkit* GInstalado = nullptr;
 
 }  // namespace
 
-TToolkit& BuscarToolkit() {
-    static TToolkitConsole console;
-    return GInstalado ? *GInstalado : console;
-}
+TToolkit& BuscarToolkit() { return GInstalado ? *GInstalado : BuscarToolkitPadrao(); }
 
 void InstalarToolkit(TToolkit* AToolkit) { GInstalado = AToolkit; }
 
