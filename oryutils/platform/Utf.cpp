@@ -1,4 +1,4 @@
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/platform/Utf.hpp"
 
 #include <array>
 #include <cstdint>
