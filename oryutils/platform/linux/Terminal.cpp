@@ -1,0 +1,21 @@
+#include "oryutils/platform/Terminal.hpp"
+
+#include <csignal>
+#include <cstdlib>
+
+namespace OryUtils::Plataforma {
+
+std::vector<std::string> BuscarArgumentos(int AQuantidade, const char* const* AArgumentos) {
+    return AQuantidade > 1 ? std::vector<std::string>(AArgumentos + 1, AArgumentos + AQuantidade)
+                           : std::vector<std::string>();
+}
+
+TTerminalUtf8::TTerminalUtf8() { std::signal(SIGPIPE, SIG_IGN); }
+TTerminalUtf8::~TTerminalUtf8() = default;
+
+bool PossuiVariavelDeAmbiente(const char* ANome) {
+    const char* valor = std::getenv(ANome);
+    return valor && *valor;
+}
+
+}  // namespace OryUtils::Plataforma
