@@ -1,0 +1,334 @@
+#include "oryutils/runtime/NumeroTexto.hpp"
+
+#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/runtime/interno/InteiroLongo.hpp"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace OryUtils {
+namespace {
+
+using TLimites = std::numeric_limits<Extended>;
+static_assert(TLimites::digits >= 64, "Extended holds every 64-bit integer");
+
+[[noreturn]] void RecusarConversao(std::u16string_view ATexto, std::u16string_view ATipo) {
+    throw EConvertError(u"'" + std::u16string(ATexto) + u"' não é um valor " + std::u16string(ATipo) + u" válido");
+}
+
+/// Takes a sign off the front of ATexto; true when it was "-".
+bool RetirarSinal(std::u16string_view& ATexto) noexcept {
+    if (ATexto.empty() || (ATexto.front() != u'-' && ATexto.front() != u'+')) return false;
+    const bool negativo = ATexto.front() == u'-';
+    ATexto.remove_prefix(1);
+    return negativo;
+}
+
+/// Digits joined in one number as far as 64 bits certainly hold them; the rest only counts.
+constexpr int CDigitosEm64Bits = 19;
+/// No extended float, nor the point half way between two of them, has more significant digits.
+constexpr int CDigitosQueDecidem = 11600;
+/// 10 to this power and all below are exact in an extended float.
+constexpr int CPotenciaExata = 27;
+/// Numbers with so many places before the comma overflow, and with so few round to zero.
+constexpr std::int64_t CMaiorOrdem = TLimites::max_exponent10 + 2;
+constexpr std::int64_t CMenorOrdem = TLimites::min_exponent10 - TLimites::digits;
+
+/// A decimal number as written: Digitos (which may hold one separator) with the exponent of its last digit.
+struct TDecimal {
+    std::u16string_view Digitos;
+    std::int64_t Expoente = 0;
+    std::int64_t Significativos = 0;
+    std::uint64_t Inicio = 0;  // the first 19 significant digits
+};
+
+std::optional<TDecimal> LerDecimal(std::u16string_view ATexto, char16_t ASeparador) noexcept {
+    TDecimal decimal;
+    std::size_t i = 0;
+    bool tem_digito = false;
+    bool tem_separador = false;
+    for (; i < ATexto.size(); ++i) {
+        if (ATexto[i] == ASeparador && !tem_separador) {
+            tem_separador = true;
+            continue;
+        }
+        if (!EhDigito(ATexto[i])) break;
+        tem_digito = true;
+        decimal.Expoente -= tem_separador;
+        const auto digito = static_cast<unsigned>(ATexto[i] - u'0');
+        if (decimal.Significativos == 0 && digito == 0) continue;
+        if (++decimal.Significativos <= CDigitosEm64Bits) decimal.Inicio = decimal.Inicio * 10 + digito;
+    }
+    if (!tem_digito) return std::nullopt;
+    decimal.Digitos = ATexto.substr(0, i);
+    if (i == ATexto.size()) return decimal;
+
+    if (ATexto[i] != u'E' && ATexto[i] != u'e') return std::nullopt;
+    ATexto.remove_prefix(i + 1);
+    const bool negativo = RetirarSinal(ATexto);
+    if (ATexto.empty()) return std::nullopt;
+    std::int64_t expoente = 0;
+    for (const char16_t c : ATexto) {
+        if (!EhDigito(c)) return std::nullopt;
+        expoente = std::min<std::int64_t>(expoente * 10 + (c - u'0'), std::numeric_limits<std::int32_t>::max());
+    }
+    decimal.Expoente += negativo ? -expoente : expoente;
+    return decimal;
+}
+
+/// ANumero times 2 to AExpoente, rounded half to even; ASobrou tells that the number is a little larger.
+std::optional<Extended> Arredondar(const TInteiroLongo& ANumero, int AExpoente, bool ASobrou) noexcept {
+    constexpr int CMenorBit = TLimites::min_exponent - TLimites::digits;
+    const int bits = ANumero.ContarBits();
+    const int descartados = std::max({bits - 64, CMenorBit - AExpoente, 0});
+    std::uint64_t mantissa = ANumero.Buscar64Bits(descartados);
+    int expoente = AExpoente + descartados;
+    const bool metade = ANumero.Bit(descartados - 1);
+    if (metade && ((mantissa & 1) || ASobrou || ANumero.TemBitAbaixoDe(descartados - 1)) && ++mantissa == 0) {
+        mantissa = std::uint64_t{1} << 63;
+        ++expoente;
+    }
+    const Extended valor = std::ldexp(static_cast<Extended>(mantissa), expoente);
+    return std::isinf(valor) ? std::nullopt : std::optional(valor);
+}
+
+/// The exact value of the digits, then one rounding.
+std::optional<Extended> ConverterDecimalLongo(const TDecimal& ADecimal) noexcept {
+    TInteiroLongo numero;
+    std::int64_t lidos = 0;
+    bool sobrou = false;
+    std::uint32_t grupo = 0;  // nine digits at a time
+    std::uint32_t fator = 1;
+    for (const char16_t c : ADecimal.Digitos) {
+        if (!EhDigito(c) || (lidos == 0 && c == u'0')) continue;
+        if (++lidos > CDigitosQueDecidem) {
+            sobrou |= c != u'0';
+            continue;
+        }
+        grupo = grupo * 10 + static_cast<std::uint32_t>(c - u'0');
+        fator *= 10;
+        if (fator < 1'000'000'000) continue;
+        numero.MultiplicarSomar(fator, grupo);
+        grupo = 0;
+        fator = 1;
+    }
+    numero.MultiplicarSomar(fator, grupo);
+    const auto expoente = static_cast<int>(ADecimal.Expoente + std::max<std::int64_t>(lidos - CDigitosQueDecidem, 0));
+    if (expoente >= 0) {
+        numero.MultiplicarPorPotenciaDe5(expoente);
+        return Arredondar(numero, expoente, sobrou);
+    }
+    // Enough bits in front for the quotient to keep more than the 64 of the result.
+    const int bits_do_divisor = -expoente * 7 / 3 + 1;
+    const int deslocamento = std::max(bits_do_divisor + 66 - numero.ContarBits(), 0);
+    numero.DeslocarEsquerda(deslocamento);
+    sobrou |= numero.DividirPorPotenciaDe5(-expoente);
+    return Arredondar(numero, expoente - deslocamento, sobrou);
+}
+
+std::optional<Extended> ConverterDecimal(const TDecimal& ADecimal) noexcept {
+    if (ADecimal.Significativos == 0) return Extended{0};
+    const std::int64_t ordem = ADecimal.Significativos + ADecimal.Expoente;
+    if (ordem > CMaiorOrdem) return std::nullopt;
+    if (ordem < CMenorOrdem) return Extended{0};
+    if (ADecimal.Significativos > CDigitosEm64Bits || std::abs(ADecimal.Expoente) > CPotenciaExata)
+        return ConverterDecimalLongo(ADecimal);
+    // Both numbers are exact, so the one operation rounds once.
+    Extended potencia = 1;
+    for (std::int64_t i = std::abs(ADecimal.Expoente); i > 0; --i) potencia *= 10;
+    const auto inicio = static_cast<Extended>(ADecimal.Inicio);
+    return ADecimal.Expoente < 0 ? inicio / potencia : inicio * potencia;
+}
+
+/// AValor (positive, finite) as a 64-bit mantissa times 2 to Expoente.
+struct TBinario {
+    std::uint64_t Mantissa = 0;
+    int Expoente = 0;
+};
+TBinario SepararBinario(Extended AValor) noexcept {
+    TBinario binario;
+    const Extended fracao = std::frexp(AValor, &binario.Expoente);
+    binario.Mantissa = static_cast<std::uint64_t>(std::ldexp(fracao, 64));
+    binario.Expoente -= 64;
+    return binario;
+}
+
+/// AValor times 10 to APotencia as an integer, halves up; the result fits 64 bits.
+std::uint64_t EscalarArredondando(TBinario AValor, int APotencia) noexcept {
+    TInteiroLongo numero(AValor.Mantissa);
+    const int expoente = AValor.Expoente + APotencia;
+    // Two bits at least stay below the units: the first one decides the rounding.
+    const int deslocamento = std::max(expoente, 0) + 2;
+    numero.DeslocarEsquerda(deslocamento);
+    if (APotencia >= 0)
+        numero.MultiplicarPorPotenciaDe5(APotencia);
+    else
+        numero.DividirPorPotenciaDe5(-APotencia);
+    const int unidade = deslocamento - expoente;
+    return numero.Buscar64Bits(unidade) + numero.Bit(unidade - 1);
+}
+
+void AcrescentarInteiro(std::u16string& ADestino, std::int64_t AValor) {
+    std::array<char, 24> texto{};
+    const auto fim = std::to_chars(texto.data(), texto.data() + texto.size(), AValor).ptr;
+    ADestino.append(texto.data(), fim);
+}
+
+}  // namespace
+
+std::optional<std::int64_t> TentarTextoParaInt64(std::u16string_view ATexto) noexcept {
+    while (!ATexto.empty() && EhBranco(ATexto.front())) ATexto.remove_prefix(1);
+    const bool negativo = RetirarSinal(ATexto);
+    if (ATexto.empty()) return std::nullopt;
+    // The negative side holds one number more: count down.
+    constexpr std::int64_t CMenor = std::numeric_limits<std::int64_t>::min();
+    std::int64_t valor = 0;
+    for (const char16_t c : ATexto) {
+        if (!EhDigito(c)) return std::nullopt;
+        const int digito = c - u'0';
+        if (valor < CMenor / 10 || valor * 10 < CMenor + digito) return std::nullopt;
+        valor = valor * 10 - digito;
+    }
+    if (negativo) return valor;
+    return valor == CMenor ? std::nullopt : std::optional(-valor);
+}
+
+std::int64_t TextoParaInt64Padrao(std::u16string_view ATexto, std::int64_t APadrao) noexcept {
+    return TentarTextoParaInt64(ATexto).value_or(APadrao);
+}
+
+int TextoParaIntPadrao(std::u16string_view ATexto, int APadrao) noexcept {
+    const std::int64_t valor = TextoParaInt64Padrao(ATexto, APadrao);
+    return valor == static_cast<int>(valor) ? static_cast<int>(valor) : APadrao;
+}
+
+std::int64_t TextoParaInt64(std::u16string_view ATexto) {
+    if (const auto valor = TentarTextoParaInt64(ATexto)) return *valor;
+    RecusarConversao(ATexto, u"inteiro");
+}
+
+int TextoParaInt(std::u16string_view ATexto) {
+    const std::int64_t valor = TextoParaInt64(ATexto);
+    if (valor == static_cast<int>(valor)) return static_cast<int>(valor);
+    RecusarConversao(ATexto, u"inteiro");
+}
+
+std::optional<Extended> TentarTextoParaExtended(std::u16string_view ATexto, const TFormatSettings& AFormatos) noexcept {
+    ATexto = Aparar(ATexto);
+    const bool negativo = RetirarSinal(ATexto);
+    const auto decimal = LerDecimal(ATexto, AFormatos.DecimalSeparator);
+    if (!decimal) return std::nullopt;
+    const auto valor = ConverterDecimal(*decimal);
+    return valor && negativo ? -*valor : valor;
+}
+
+Extended TextoParaExtendedPadrao(std::u16string_view ATexto, Extended APadrao,
+                                 const TFormatSettings& AFormatos) noexcept {
+    return TentarTextoParaExtended(ATexto, AFormatos).value_or(APadrao);
+}
+
+Extended TextoParaExtended(std::u16string_view ATexto, const TFormatSettings& AFormatos) {
+    if (const auto valor = TentarTextoParaExtended(ATexto, AFormatos)) return *valor;
+    RecusarConversao(ATexto, u"de ponto flutuante");
+}
+
+std::u16string ExtendedParaTexto(Extended AValor, const TFormatSettings& AFormatos) {
+    constexpr int CDigitos = 15;
+    if (std::isnan(AValor)) return u"NAN";
+    if (std::isinf(AValor)) return AValor < 0 ? u"-INF" : u"INF";
+    if (AValor == 0) return u"0";
+
+    const TBinario binario = SepararBinario(std::abs(AValor));
+    // Digits before the comma less one, or one less than that: log10(2) is 0.30103.
+    int ordem = static_cast<int>(std::floor((binario.Expoente + 63) * 0.30102999566398120));
+    constexpr std::uint64_t CPrimeiroLongo = 1'000'000'000'000'000;
+    std::uint64_t valor = EscalarArredondando(binario, CDigitos - 1 - ordem);
+    if (valor >= CPrimeiroLongo) valor = EscalarArredondando(binario, CDigitos - 1 - ++ordem);
+
+    std::array<char, 24> digitos{};
+    std::size_t quantos = 0;
+    {
+        auto fim = std::to_chars(digitos.data(), digitos.data() + digitos.size(), valor).ptr;
+        while (fim[-1] == '0') --fim;
+        quantos = static_cast<std::size_t>(fim - digitos.data());
+    }
+
+    std::u16string texto;
+    if (AValor < 0) texto += u'-';
+    const auto escrever = [&](std::size_t ADe, std::size_t AAte) {
+        for (std::size_t i = ADe; i < AAte; ++i) texto += i < quantos ? static_cast<char16_t>(digitos[i]) : u'0';
+    };
+    const bool cientifico = ordem >= CDigitos || ordem < -4;
+    if (!cientifico && ordem < 0) {
+        texto += u'0';
+        texto += AFormatos.DecimalSeparator;
+        texto.append(static_cast<std::size_t>(-ordem - 1), u'0');
+        escrever(0, quantos);
+        return texto;
+    }
+    const std::size_t inteiros = cientifico ? 1 : static_cast<std::size_t>(ordem) + 1;
+    escrever(0, inteiros);
+    if (quantos > inteiros) {
+        texto += AFormatos.DecimalSeparator;
+        escrever(inteiros, quantos);
+    }
+    if (cientifico) {
+        texto += u'E';
+        AcrescentarInteiro(texto, ordem);
+    }
+    return texto;
+}
+
+std::u16string InteiroParaTexto(std::int64_t AValor) {
+    std::u16string texto;
+    AcrescentarInteiro(texto, AValor);
+    return texto;
+}
+
+std::u16string_view EscreverZeros(Extended AValor, int ADigitos, std::span<char16_t> ADestino) noexcept {
+    if (!std::isfinite(AValor)) AValor = 0;
+    const Extended magnitude = std::abs(AValor);
+    std::size_t inicio = ADestino.size();
+    const auto por = [&](char16_t ACaractere) {
+        if (inicio > 0) ADestino[--inicio] = ACaractere;
+    };
+    const auto por_grupo = [&](std::uint64_t AGrupo, int AMinimo) {
+        for (; AGrupo > 0 || AMinimo > 0; AGrupo /= 10, --AMinimo) por(static_cast<char16_t>(u'0' + AGrupo % 10));
+    };
+
+    bool zero = false;
+    if (magnitude < 0x1p63L) {
+        const auto inteiro = static_cast<std::uint64_t>(magnitude);
+        const std::uint64_t arredondado = inteiro + (magnitude - static_cast<Extended>(inteiro) >= 0.5L);
+        zero = arredondado == 0;
+        por_grupo(arredondado, 0);
+    } else {
+        const TBinario binario = SepararBinario(magnitude);
+        TInteiroLongo numero(binario.Mantissa);
+        numero.DeslocarEsquerda(binario.Expoente);
+        while (!numero.EhZero()) {
+            const std::uint32_t grupo = numero.Dividir(1'000'000'000);
+            por_grupo(grupo, numero.EhZero() ? 0 : 9);
+        }
+    }
+    for (auto digitos = static_cast<std::int64_t>(ADestino.size() - inicio); digitos < ADigitos && inicio > 0;
+         ++digitos)
+        por(u'0');
+    if (AValor < 0 && !zero) por(u'-');
+    return {ADestino.data() + inicio, ADestino.size() - inicio};
+}
+
+std::u16string FormatarZeros(Extended AValor, int ADigitos) {
+    std::array<char16_t, CTamanhoMaximoInteiro> numero;
+    std::u16string texto(EscreverZeros(AValor, 1, numero));
+    const std::size_t sinal = texto.front() == u'-';
+    const auto digitos = static_cast<std::size_t>(std::max(ADigitos, 1));
+    if (texto.size() - sinal < digitos) texto.insert(sinal, digitos - (texto.size() - sinal), u'0');
+    return texto;
+}
+
+}  // namespace OryUtils
