@@ -4,6 +4,22 @@
 
 namespace OryUtils {
 
+std::u16string RemoverAtalho(std::u16string_view ACaption) {
+    std::u16string texto;
+    texto.reserve(ACaption.size());
+    for (std::size_t i = 0; i < ACaption.size(); ++i) {
+        if (ACaption[i] == u'&' && ++i == ACaption.size()) break;
+        texto += ACaption[i];
+    }
+    return texto;
+}
+
+char16_t BuscarLetraAtalho(std::u16string_view ACaption) noexcept {
+    for (std::size_t i = 0; i + 1 < ACaption.size(); ++i)
+        if (ACaption[i] == u'&' && ACaption[++i] != u'&') return ACaption[i];
+    return 0;
+}
+
 TControleFormulario::~TControleFormulario() = default;
 
 void TControleFormulario::Avisar(TMudanca AMudanca) {

@@ -69,11 +69,13 @@ void TFormulario::Fechar() {
 }
 
 int TFormulario::ExecutarModal() {
-    TToolkit& toolkit = BuscarToolkit();
-    if (!toolkit.EhThreadDaInterface())
-        throw Exception(u"Formulários só podem ser mostrados pela thread da interface do usuário.");
+    TToolkit& toolkit = ExigirToolkit();
     if (FJanela) throw Exception(u"O formulário já está sendo mostrado.");
     FModalResult = mrNone;
+    struct TEncerramento {
+        TFormulario& Formulario;
+        ~TEncerramento() { Formulario.AoEncerrar(); }
+    } encerramento{*this};
     return toolkit.ExecutarModal(*this);
 }
 

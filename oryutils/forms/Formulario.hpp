@@ -112,6 +112,10 @@ public:
     bool TratarTecla(TTecla& ATecla);
     void AoRedimensionar(int ALargura, int AAltura);
 
+protected:
+    /// Called once after every modal run, however it ended (an exception included); must not raise.
+    virtual void AoEncerrar() noexcept {}
+
 private:
     void Incorporar(std::unique_ptr<TControleFormulario> AControle);
 

@@ -64,6 +64,9 @@ public:
 /// The toolkit in use: the one that the host installed; else Win32 on Windows; on Linux the Qt library when it can be
 /// loaded and a display exists; else the console.
 ORY_API TToolkit& BuscarToolkit();
+/// The toolkit in use, for callers that are about to show or measure something. Raises Exception "Formulários só podem
+/// ser mostrados pela thread da interface do usuário." when called from another thread.
+ORY_API TToolkit& ExigirToolkit();
 /// Installs AToolkit, which must outlive its use; null goes back to the default. Call from the user-interface thread.
 ORY_API void InstalarToolkit(TToolkit* AToolkit);
 
