@@ -28,7 +28,7 @@ struct TPartesHora {
 };
 
 ORY_API bool EhAnoBissexto(int AAno) noexcept;
-/// 28 to 31. AMes is 1 to 12.
+/// 28 to 31; 0 when AMes is not 1 to 12.
 ORY_API int BuscarDiasNoMes(int AAno, int AMes) noexcept;
 
 /// The date, years 1 to 9999; none when there is no such day.
@@ -39,28 +39,33 @@ ORY_API std::optional<TDateTime> TentarCodificarHora(int AHora, int AMinuto, int
 ORY_API TDateTime CodificarData(int AAno, int AMes, int ADia);
 ORY_API TDateTime CodificarHora(int AHora, int AMinuto, int ASegundo, int AMili);
 
-/// Year, month and day. A value outside years 1 to 9999 (or not a number) gives 0, 0, 0.
+/// Year, month and day of the value rounded to the millisecond: what rounds up to midnight is the next day. A value
+/// outside years 1 to 9999 (or not a number) gives 0, 0, 0.
 ORY_API TPartesData DecodificarData(TDateTime AData) noexcept;
-/// Time of day, rounded to the millisecond.
+/// Time of day, rounded to the millisecond. A value without one (not a number, infinite, a hundred million days away)
+/// gives 00:00:00.000.
 ORY_API TPartesHora DecodificarHora(TDateTime AData) noexcept;
-/// 1 = Sunday to 7 = Saturday.
+/// 1 = Sunday to 7 = Saturday; 0 where DecodificarData gives 0, 0, 0.
 ORY_API int BuscarDiaDaSemana(TDateTime AData) noexcept;
 
 /// The date part: the value cut to whole days towards zero.
 ORY_API TDateTime BuscarParteData(TDateTime AData) noexcept;
-/// The time part, 0 up to 1.
+/// The time part, 0 up to 1, unrounded.
 ORY_API TDateTime BuscarParteHora(TDateTime AData) noexcept;
 /// Date and time of day joined, also before 1899-12-30.
 ORY_API TDateTime JuntarDataHora(TDateTime AData, TDateTime AHora) noexcept;
 
-/// AData moved by calendar months; the day is clamped to the month's end. Raises EConvertError outside years 1..9999.
+/// AData, rounded to the millisecond, moved by calendar months or years; the day is clamped to the month's end. Raises
+/// EConvertError outside years 1 to 9999.
 ORY_API TDateTime IncrementarMes(TDateTime AData, int AMeses);
-/// AData moved by whole milliseconds.
+ORY_API TDateTime IncrementarAno(TDateTime AData, int AAnos);
+/// AData, rounded to the millisecond, moved by whole milliseconds. A value without a time of day comes back as it is.
 ORY_API TDateTime IncrementarMilissegundos(TDateTime AData, std::int64_t AMilissegundos) noexcept;
 
 /// The current local date and time; the current date.
 ORY_API TDateTime Agora();
 ORY_API TDateTime Hoje();
+/// An instant as the system's clock tells it; 0 when it is no date and time.
 ORY_API TDateTime DeInstanteLocal(const Plataforma::TInstanteLocal& AInstante) noexcept;
 
 }  // namespace OryUtils
