@@ -10,26 +10,26 @@ TFormatSettings& FormatosDoProcesso() {
     return formatos;
 }
 
-// Names in lower case, as the Brazilian locales of the systems have them.
+// Letter for letter what forms and reports have shown since the first version: months in capitals without the cedilla,
+// "Sabado" without its accent, two spaces after the day of the long date.
 TFormatSettings CriarFormatosBrasileiros() {
     return {
         .DateSeparator = u'/',
         .TimeSeparator = u':',
         .DecimalSeparator = u',',
         .ThousandSeparator = u'.',
-        .ShortDateFormat = u"dd/mm/yyyy",
-        .LongDateFormat = u"dddd, d' de 'mmmm' de 'yyyy",
+        .ShortDateFormat = u"dd/MM/yyyy",
+        .LongDateFormat = u"dd  \"de\" MMMM \"de\" yyyy",
         .ShortTimeFormat = u"hh:mm",
         .LongTimeFormat = u"hh:mm:ss",
         .TimeAMString = u"AM",
         .TimePMString = u"PM",
-        .ShortMonthNames = {u"jan", u"fev", u"mar", u"abr", u"mai", u"jun", u"jul", u"ago", u"set", u"out", u"nov",
-                            u"dez"},
-        .LongMonthNames = {u"janeiro", u"fevereiro", u"março", u"abril", u"maio", u"junho", u"julho", u"agosto",
-                           u"setembro", u"outubro", u"novembro", u"dezembro"},
-        .ShortDayNames = {u"dom", u"seg", u"ter", u"qua", u"qui", u"sex", u"sáb"},
-        .LongDayNames = {u"domingo", u"segunda-feira", u"terça-feira", u"quarta-feira", u"quinta-feira", u"sexta-feira",
-                         u"sábado"},
+        .ShortMonthNames = {u"JAN", u"FEV", u"MAR", u"ABR", u"MAI", u"JUN", u"JUL", u"AGO", u"SET", u"OUT", u"NOV",
+                            u"DEZ"},
+        .LongMonthNames = {u"JANEIRO", u"FEVEREIRO", u"MARCO", u"ABRIL", u"MAIO", u"JUNHO", u"JULHO", u"AGOSTO",
+                           u"SETEMBRO", u"OUTUBRO", u"NOVEMBRO", u"DEZEMBRO"},
+        .ShortDayNames = {u"Dom", u"Seg", u"Ter", u"Qua", u"Qui", u"Sex", u"Sab"},
+        .LongDayNames = {u"Domingo", u"Segunda", u"Terça", u"Quarta", u"Quinta", u"Sexta", u"Sabado"},
         .TwoDigitYearCenturyWindow = 50,
     };
 }

@@ -13,7 +13,8 @@ ORY_API const TFormatSettings& FormatSettings();
 /// Replaces the process-wide formats.
 ORY_API void DefinirFormatSettings(const TFormatSettings& AFormatos);
 
-/// The Brazilian formats: 31/12/2024, 23:59:59, 1.234,56, Portuguese month and day names.
+/// The Brazilian formats: 31/12/2024, 23:59:59, 1.234,56, "05  de MARCO de 2024", months in capitals (JAN, JANEIRO),
+/// days as "Dom", "Domingo", "Segunda".
 ORY_API const TFormatSettings& BuscarFormatosBrasileiros();
 
 /// Process-wide formats for the time of a scope, then back (tests, commands).
