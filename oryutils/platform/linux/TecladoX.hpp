@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace OryUtils::Plataforma {
+
+using TKeysym = std::uint32_t;
+
+// Bits of the modifiers; two more hold the layout group.
+inline constexpr unsigned CShift = 0x01;
+inline constexpr unsigned CCapsLock = 0x02;
+inline constexpr unsigned CControl = 0x04;
+inline constexpr unsigned CAltGr = 0x80;
+inline constexpr unsigned CDeslocamentoGrupo = 13;
+
+/// What the X server tells of its keyboard at one moment.
+struct TTeclado {
+    std::uint8_t MenorTecla = 0;
+    std::size_t PorTecla = 0;
+    std::vector<TKeysym> Keysyms{};  // PorTecla for each key from MenorTecla on
+    unsigned Modificadores = 0;
+
+    std::size_t ContarTeclas() const { return Keysyms.size() / PorTecla; }
+    TKeysym Buscar(std::size_t ATecla, std::size_t ANivel) const {
+        return ATecla < ContarTeclas() && ANivel < PorTecla ? Keysyms[ATecla * PorTecla + ANivel] : 0;
+    }
+};
+
+/// Asks the X server named by DISPLAY; none without a server or without its library.
+std::optional<TTeclado> PerguntarAoServidorX();
+
+}  // namespace OryUtils::Plataforma
