@@ -109,7 +109,7 @@ public:
 
 extern ORY_API TInstanciaGlobal<TOryUtilsValidacoes> GOryUtilsValidacoes;
 
-/// The free functions forward to the operation of TOryUtilsValidacoes with the same name, except the first three.
+// The free functions forward to the operation of TOryUtilsValidacoes with the same name, except the first three.
 
 /// ValidouCampo.
 ORY_API bool ValidarCampo(const TObjeto* ASender, const TWinControl* AControle);

@@ -9,6 +9,8 @@
 
 namespace OryUtils {
 
+enum TMotivoRecusa : int;  // 0 is valid; the names are internal
+
 /// Checks one state registration (IE) against the rule of its federative unit (UF).
 /// Lives for one validation: SetUF, SetIE, Validar, GetValido; it may be used again with new values. Never allocates.
 /// Example:
@@ -31,9 +33,11 @@ public:
     std::u16string_view GetUF() const noexcept { return {FUF.Texto.data(), FUF.Tamanho}; }
 
     /// The verdict of the last Validar or Validar_XX; false before.
-    bool GetValido() const noexcept { return FValido; }
+    bool GetValido() const noexcept { return FMotivo == TMotivoRecusa{0}; }
+    /// The reason behind that verdict.
+    TMotivoRecusa GetMotivo() const noexcept { return FMotivo; }
 
-    /// True when the kept IE says "ISENTO" or "ISENTA" (exempt) somewhere.
+    /// True when the IE given to SetIE says "ISENTO" or "ISENTA" (exempt) somewhere.
     bool Isenta() const noexcept { return FIsenta; }
 
     /// Sets the verdict: false for an empty IE, true for an exempt one whatever the UF, false for zeros alone and for
@@ -95,10 +99,10 @@ private:
     };
 
     TTexto<15> FIE;
-    TTexto<3> FUF;
+    TTexto<3> FUF;  // a third character tells that the unit is none
     TTexto<20> FBase;
     bool FIsenta = false;
-    bool FValido = false;
+    TMotivoRecusa FMotivo{1};  // not valid before a rule says so
 };
 
 }  // namespace OryUtils

@@ -1,0 +1,240 @@
+#include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
+
+#include "oryutils/registry_numbers/UnOryUtilsValidacoesClasseIE.hpp"
+#include "oryutils/registry_numbers/interno/DigitosCpfCnpj.hpp"
+#include "oryutils/registry_numbers/interno/OutrosDocumentos.hpp"
+#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/runtime/Costura.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/text/OryUtilsStrings.hpp"
+
+#include <algorithm>
+#include <array>
+
+namespace OryUtils {
+
+TInstanciaGlobal<TOryUtilsValidacoes> GOryUtilsValidacoes;
+
+namespace {
+
+using namespace OryTypes;
+
+constexpr std::u16string_view CCodigoInvalido = u"Código inválido. Verifique.";
+
+/// What ValidouDocumento handles: the rule of each kind and its warning.
+struct TDocumento {
+    TTipoInscricao Tipo;
+    TMotivoRecusa (*Conferir)(std::u16string_view ANumero);
+    std::u16string_view Mensagem;
+};
+constexpr std::array CDocumentos{
+    TDocumento{tiCNPJ, DigitosCpfCnpj::ConferirCnpj<char16_t>, u"CNPJ inválido. Verifique."},
+    TDocumento{tiCPF, DigitosCpfCnpj::ConferirCpf<char16_t>, u"CPF inválido. Verifique."},
+    TDocumento{tiCEI, ConferirCei, u"CEI inválido. Verifique."},
+    TDocumento{tiPIS, ConferirPis, u"PIS inválido. Verifique."},
+    TDocumento{tiCNH, ConferirCnh, u"CNH inválida. Verifique."},
+    TDocumento{tiCNO, ConferirCei, u"CNO inválida. Verifique."},
+};
+
+}  // namespace
+
+bool TOryUtilsValidacoes::ValidouCampo(const TObjeto* ASender, const TWinControl* AControle) {
+    if (!AControle || !AControle->PodeReceberFoco()) return false;
+    return !ASender || EhMesmoControle(dynamic_cast<const TWinControl*>(ASender), AControle);
+}
+
+bool TOryUtilsValidacoes::ValidouCampo(const TObjeto* ASender, std::span<TWinControl* const> AControles) {
+    return std::ranges::any_of(AControles,
+                               [&](const TWinControl* AControle) { return ValidouCampo(ASender, AControle); });
+}
+
+void TOryUtilsValidacoes::TratarResultadoValidacao(TWinControl* AControle, std::u16string_view AMensagem) {
+    if (AControle) CosturaInterface().AtribuirFoco(AControle);
+    CosturaInterface().Alerta(AMensagem);
+    Abort();
+}
+
+bool TOryUtilsValidacoes::ValidouCnpjCpf(TTipoInscricao ATipo, std::u16string_view ANumero) noexcept {
+    if (ATipo == tiCNPJ) return DigitosCpfCnpj::ConferirCnpj(ANumero) == mrNenhum;
+    return ATipo == tiCPF && DigitosCpfCnpj::ConferirCpf(ANumero) == mrNenhum;
+}
+
+bool TOryUtilsValidacoes::ValidouCnpjAlfanumerico(std::u16string_view ANumero) noexcept {
+    return DigitosCpfCnpj::ConferirCnpjAlfanumerico(ANumero) == mrNenhum;
+}
+
+std::u16string TOryUtilsValidacoes::FormatarCnpjAlfanumerico(std::u16string_view ANumero) {
+    const auto cnpj = DigitosCpfCnpj::LimparCnpjAlfanumerico(ANumero);
+    if (cnpj.Motivo != mrNenhum) return std::u16string(ANumero);
+    std::u16string texto;
+    std::size_t lidos = 0;
+    for (const char lugar : DigitosCpfCnpj::CCnpjFormatado)
+        texto += lugar == '0' ? cnpj.Texto[lidos++] : static_cast<char16_t>(lugar);
+    return texto;
+}
+
+bool TOryUtilsValidacoes::ValidouPIS(std::u16string_view ANumero) noexcept { return ConferirPis(ANumero) == mrNenhum; }
+
+bool TOryUtilsValidacoes::ValidouCEI(std::u16string_view ANumero) { return ConferirCei(ANumero) == mrNenhum; }
+
+bool TOryUtilsValidacoes::ValidouCNO(std::u16string_view ANumero) { return ConferirCei(ANumero) == mrNenhum; }
+
+bool TOryUtilsValidacoes::ValidouCNH(std::u16string_view ANumero) noexcept { return ConferirCnh(ANumero) == mrNenhum; }
+
+bool TOryUtilsValidacoes::ValidouNovoFormatoCNH(std::u16string_view ANumero) noexcept {
+    return ConferirNovoFormatoCnh(ANumero) == mrNenhum;
+}
+
+bool TOryUtilsValidacoes::ValidouFormatoAntigoCNH(std::u16string_view ANumero) noexcept {
+    return ConferirFormatoAntigoCnh(ANumero) == mrNenhum;
+}
+
+bool TOryUtilsValidacoes::ValidouCodigoMunicipio(std::u16string_view ACodigo) {
+    return ConferirCodigoMunicipio(ACodigo) == mrNenhum;
+}
+
+bool TOryUtilsValidacoes::ValidouCodigoMunicipioOficial(std::u16string_view ACodigo) {
+    return ConferirCodigoMunicipioOficial(ACodigo) == mrNenhum;
+}
+
+bool TOryUtilsValidacoes::ValidouIE(std::u16string_view AIE, std::u16string_view AUF) noexcept {
+    TOryUtilsValidacoesIE ie;
+    ie.SetUF(AUF);
+    ie.SetIE(AIE);
+    ie.Validar();
+    return ie.GetValido();
+}
+
+bool TOryUtilsValidacoes::ValidouDocumento(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ANumero,
+                                           TTipoInscricao ATipo) {
+    if (Aparar(ANumero).empty()) return false;
+    const auto* documento = std::ranges::find(CDocumentos, ATipo, &TDocumento::Tipo);
+    const bool conhecido = documento != CDocumentos.end();
+    const bool valido = conhecido && documento->Conferir(ANumero) == mrNenhum;
+    if (!valido && ValidouCampo(ASender, AControle))
+        TratarResultadoValidacao(AControle, conhecido ? documento->Mensagem : std::u16string_view{});
+    return valido;
+}
+
+void TOryUtilsValidacoes::ValidarIE(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AIE,
+                                    std::u16string_view AUF, std::u16string_view AMensagem) {
+    if (ValidouCampo(ASender, AControle) && !ValidouIE(AIE, AUF)) TratarResultadoValidacao(AControle, AMensagem);
+}
+
+void TOryUtilsValidacoes::ValidarString(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
+                                        std::u16string_view AMensagem) {
+    if (ValidouCampo(ASender, AControle) && Aparar(AValor).empty()) TratarResultadoValidacao(AControle, AMensagem);
+}
+
+void TOryUtilsValidacoes::ValidarCodigoCadastral(const TObjeto* ASender, TWinControl* AControle,
+                                                 std::u16string_view AValor, std::u16string_view AMensagem) {
+    ValidarString(ASender, AControle, AValor, AMensagem);
+    const bool recusado = AValor == u"0" || AValor == u"+" || AValor == u"," || AValor.find(u'-') != AValor.npos;
+    if (recusado && ValidouCampo(ASender, AControle)) TratarResultadoValidacao(AControle, CCodigoInvalido);
+}
+
+void TOryUtilsValidacoes::ValidarCampoNumerico(const TObjeto* ASender, TWinControl* AControle,
+                                               std::u16string_view AValor, std::u16string_view AMensagem,
+                                               std::int16_t APrecisao, std::int16_t ADecimais) {
+    if (!ValidouCampo(ASender, AControle)) return;
+    std::ptrdiff_t mantidos = 0;
+    std::ptrdiff_t primeira_virgula = -1;
+    for (const char16_t c : AValor) {
+        if (c != u',' && !EhDigito(c)) continue;
+        if (c == u',' && primeira_virgula < 0) primeira_virgula = mantidos;
+        ++mantidos;
+    }
+    const bool tem_fracao = primeira_virgula > 0;
+    const std::ptrdiff_t inteiros = tem_fracao ? primeira_virgula : mantidos;
+    const std::ptrdiff_t decimais = tem_fracao ? mantidos - primeira_virgula - 1 : 0;
+    if (inteiros == 0 || inteiros > APrecisao - ADecimais || decimais > ADecimais)
+        TratarResultadoValidacao(AControle, AMensagem);
+}
+
+void TOryUtilsValidacoes::ValidarCampoSomenteNumeros(const TObjeto* ASender, TWinControl* AControle,
+                                                     std::u16string_view AValor, std::u16string_view AMensagem) {
+    if (ValidouCampo(ASender, AControle) && TOryUtilsStrings::TextoEhSomenteNumerico(Aparar(AValor)))
+        TratarResultadoValidacao(AControle, AMensagem);
+}
+
+void TOryUtilsValidacoes::ValidarCampoSomenteCaracteresEspeciais(const TObjeto* ASender, TWinControl* AControle,
+                                                                 std::u16string_view AValor,
+                                                                 std::u16string_view AMensagem) {
+    if (ValidouCampo(ASender, AControle) && TOryUtilsStrings::TextoPossuiSomenteCaracteresEspeciais(Aparar(AValor)))
+        TratarResultadoValidacao(AControle, AMensagem);
+}
+
+bool TOryUtilsValidacoes::ValidouMetodosRetorno(std::vector<TValidacaoMetodoRetorno> AMetodos,
+                                                TTipoValidacaoResultadoMetodoRetorno ATipo) {
+    const bool resultado_que_para = ATipo == tvrPrimeiroResultadoVerdadeiro;
+    bool resultado = false;
+    for (TValidacaoMetodoRetorno& metodo : AMetodos) {
+        if (!metodo) throw Exception(u"Argumento <AMetodos> não está instanciado.");
+        resultado = metodo();
+        metodo = nullptr;
+        if (resultado == resultado_que_para) break;
+    }
+    return resultado;
+}
+
+Variant TOryUtilsValidacoes::Iif(bool ACondicao, const Variant& AValorVerdadeiro, const Variant& AValorFalso) {
+    return ACondicao ? AValorVerdadeiro : AValorFalso;
+}
+
+bool ValidarCampo(const TObjeto* ASender, const TWinControl* AControle) {
+    return TOryUtilsValidacoes::ValidouCampo(ASender, AControle);
+}
+bool ValidarCampo(const TObjeto* ASender, std::span<TWinControl* const> AControles) {
+    return TOryUtilsValidacoes::ValidouCampo(ASender, AControles);
+}
+bool ValidarDocumento(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ANumero,
+                      TTipoInscricao ATipo) {
+    return TOryUtilsValidacoes::ValidouDocumento(ASender, AControle, ANumero, ATipo);
+}
+bool ValidouCnpjCpf(TTipoInscricao ATipo, std::u16string_view ANumero) noexcept {
+    return TOryUtilsValidacoes::ValidouCnpjCpf(ATipo, ANumero);
+}
+bool ValidouCnpjAlfanumerico(std::u16string_view ANumero) noexcept {
+    return TOryUtilsValidacoes::ValidouCnpjAlfanumerico(ANumero);
+}
+std::u16string FormatarCnpjAlfanumerico(std::u16string_view ANumero) {
+    return TOryUtilsValidacoes::FormatarCnpjAlfanumerico(ANumero);
+}
+bool ValidouPIS(std::u16string_view ANumero) noexcept { return TOryUtilsValidacoes::ValidouPIS(ANumero); }
+bool ValidouCEI(std::u16string_view ANumero) { return TOryUtilsValidacoes::ValidouCEI(ANumero); }
+bool ValidouCNH(std::u16string_view ANumero) noexcept { return TOryUtilsValidacoes::ValidouCNH(ANumero); }
+bool ValidouCodigoMunicipioOficial(std::u16string_view ACodigo) {
+    return TOryUtilsValidacoes::ValidouCodigoMunicipioOficial(ACodigo);
+}
+bool ValidouIE(std::u16string_view AIE, std::u16string_view AUF) noexcept {
+    return TOryUtilsValidacoes::ValidouIE(AIE, AUF);
+}
+void ValidarIE(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AIE, std::u16string_view AUF,
+               std::u16string_view AMensagem) {
+    TOryUtilsValidacoes::ValidarIE(ASender, AControle, AIE, AUF, AMensagem);
+}
+void ValidarString(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
+                   std::u16string_view AMensagem) {
+    TOryUtilsValidacoes::ValidarString(ASender, AControle, AValor, AMensagem);
+}
+void ValidarCodigoCadastral(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
+                            std::u16string_view AMensagem) {
+    TOryUtilsValidacoes::ValidarCodigoCadastral(ASender, AControle, AValor, AMensagem);
+}
+void ValidarCampoNumerico(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
+                          std::u16string_view AMensagem, std::int16_t APrecisao, std::int16_t ADecimais) {
+    TOryUtilsValidacoes::ValidarCampoNumerico(ASender, AControle, AValor, AMensagem, APrecisao, ADecimais);
+}
+void ValidarCampoSomenteNumeros(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
+                                std::u16string_view AMensagem) {
+    TOryUtilsValidacoes::ValidarCampoSomenteNumeros(ASender, AControle, AValor, AMensagem);
+}
+void ValidarCampoSomenteCaracteresEspeciais(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
+                                            std::u16string_view AMensagem) {
+    TOryUtilsValidacoes::ValidarCampoSomenteCaracteresEspeciais(ASender, AControle, AValor, AMensagem);
+}
+Variant Iif(bool ACondicao, const Variant& AValorVerdadeiro, const Variant& AValorFalso) {
+    return TOryUtilsValidacoes::Iif(ACondicao, AValorVerdadeiro, AValorFalso);
+}
+
+}  // namespace OryUtils

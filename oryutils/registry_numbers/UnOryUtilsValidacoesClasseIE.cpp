@@ -1,0 +1,198 @@
+#include "oryutils/registry_numbers/UnOryUtilsValidacoesClasseIE.hpp"
+
+#include "oryutils/registry_numbers/interno/RegrasIE.hpp"
+#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/runtime/NumeroTexto.hpp"
+
+#include <algorithm>
+#include <cstdint>
+
+namespace OryUtils {
+namespace {
+
+using namespace RegrasIE;
+
+/// Only the letters A to Z matter to an IE and to a UF.
+constexpr char16_t Maiuscula(char16_t ACaractere) noexcept {
+    return ACaractere >= u'a' && ACaractere <= u'z' ? static_cast<char16_t>(ACaractere - (u'a' - u'A')) : ACaractere;
+}
+
+template <typename TTexto>
+void Guardar(TTexto& ADestino, std::u16string_view ATexto) noexcept {
+    ADestino.Tamanho = std::min(ATexto.size(), ADestino.Texto.size());
+    for (std::size_t i = 0; i < ADestino.Tamanho; ++i) ADestino.Texto[i] = Maiuscula(ATexto[i]);
+}
+
+bool TemIsent(std::u16string_view ATexto) noexcept {
+    constexpr std::u16string_view CIsent = u"ISENT";
+    return std::search(ATexto.begin(), ATexto.end(), CIsent.begin(), CIsent.end(),
+                       [](char16_t ADoTexto, char16_t ADaPalavra) { return Maiuscula(ADoTexto) == ADaPalavra; }) !=
+           ATexto.end();
+}
+
+struct TUnidade {
+    std::u16string_view Sigla;
+    void (TOryUtilsValidacoesIE::*Validar)() noexcept;
+};
+
+// clang-format off
+constexpr std::array CUnidades{
+    TUnidade{u"EX", &TOryUtilsValidacoesIE::Validar_Exportacao},
+    TUnidade{u"AC", &TOryUtilsValidacoesIE::Validar_AC}, TUnidade{u"AL", &TOryUtilsValidacoesIE::Validar_AL},
+    TUnidade{u"AM", &TOryUtilsValidacoesIE::Validar_AM}, TUnidade{u"AP", &TOryUtilsValidacoesIE::Validar_AP},
+    TUnidade{u"BA", &TOryUtilsValidacoesIE::Validar_BA}, TUnidade{u"CE", &TOryUtilsValidacoesIE::Validar_CE},
+    TUnidade{u"DF", &TOryUtilsValidacoesIE::Validar_DF}, TUnidade{u"ES", &TOryUtilsValidacoesIE::Validar_ES},
+    TUnidade{u"GO", &TOryUtilsValidacoesIE::Validar_GO}, TUnidade{u"MA", &TOryUtilsValidacoesIE::Validar_MA},
+    TUnidade{u"MG", &TOryUtilsValidacoesIE::Validar_MG}, TUnidade{u"MS", &TOryUtilsValidacoesIE::Validar_MS},
+    TUnidade{u"MT", &TOryUtilsValidacoesIE::Validar_MT}, TUnidade{u"PA", &TOryUtilsValidacoesIE::Validar_PA},
+    TUnidade{u"PB", &TOryUtilsValidacoesIE::Validar_PB}, TUnidade{u"PE", &TOryUtilsValidacoesIE::Validar_PE},
+    TUnidade{u"PR", &TOryUtilsValidacoesIE::Validar_PR}, TUnidade{u"PI", &TOryUtilsValidacoesIE::Validar_PI},
+    TUnidade{u"RJ", &TOryUtilsValidacoesIE::Validar_RJ}, TUnidade{u"RN", &TOryUtilsValidacoesIE::Validar_RN},
+    TUnidade{u"RO", &TOryUtilsValidacoesIE::Validar_RO}, TUnidade{u"RR", &TOryUtilsValidacoesIE::Validar_RR},
+    TUnidade{u"RS", &TOryUtilsValidacoesIE::Validar_RS}, TUnidade{u"SC", &TOryUtilsValidacoesIE::Validar_SC},
+    TUnidade{u"SP", &TOryUtilsValidacoesIE::Validar_SP}, TUnidade{u"SE", &TOryUtilsValidacoesIE::Validar_SE},
+    TUnidade{u"TO", &TOryUtilsValidacoesIE::Validar_TO}};
+// clang-format on
+
+constexpr std::size_t PosicaoDaSigla(std::u16string_view ASigla) noexcept {
+    return static_cast<std::size_t>(ASigla[0] - u'A') * 26 + static_cast<std::size_t>(ASigla[1] - u'A');
+}
+
+/// For each pair of letters the place of its unit, counted from 1; 0 for none.
+constexpr auto CIndiceDasUnidades = [] {
+    std::array<std::uint8_t, 26 * 26> indice{};
+    for (std::size_t i = 0; i < CUnidades.size(); ++i)
+        indice[PosicaoDaSigla(CUnidades[i].Sigla)] = static_cast<std::uint8_t>(i + 1);
+    return indice;
+}();
+
+const TUnidade* BuscarUnidade(std::u16string_view AUF) noexcept {
+    if (AUF.size() != 2 || !EhLetra(AUF[0]) || !EhLetra(AUF[1])) return nullptr;
+    const std::size_t indice = CIndiceDasUnidades[PosicaoDaSigla(AUF)];
+    return indice == 0 ? nullptr : &CUnidades[indice - 1];
+}
+
+}  // namespace
+
+void TOryUtilsValidacoesIE::SetUF(std::u16string_view AUF) noexcept { Guardar(FUF, AUF); }
+
+void TOryUtilsValidacoesIE::SetIE(std::u16string_view AIE) noexcept {
+    const bool sem_outros = std::ranges::all_of(AIE, [](char16_t c) { return EhDigito(c) || Maiuscula(c) == u'P'; });
+    FIsenta = !sem_outros && TemIsent(AIE);
+    Guardar(FIE, sem_outros || FIsenta ? AIE : std::u16string_view{});
+}
+
+void TOryUtilsValidacoesIE::Validar() noexcept {
+    const std::u16string_view ie = GetIE();
+    if (ie.empty())
+        FMotivo = mrVazio;
+    else if (FIsenta)
+        FMotivo = mrNenhum;
+    else if (ie.find_first_not_of(u'0') == ie.npos)
+        FMotivo = mrRepetido;
+    else if (ie.size() > CMaiorTamanho)
+        FMotivo = mrTamanho;
+    else if (const TUnidade* unidade = BuscarUnidade(GetUF()))
+        (this->*unidade->Validar)();
+    else
+        FMotivo = mrUf;
+}
+
+std::u16string_view TOryUtilsValidacoesIE::FormatarBase(std::u16string_view AModelo) noexcept {
+    return FormatarBase(AModelo, GetIE());
+}
+
+std::u16string_view TOryUtilsValidacoesIE::FormatarBase(std::u16string_view AModelo,
+                                                        std::u16string_view ATexto) noexcept {
+    constexpr std::size_t CDigitosExatos = 18;
+    const std::size_t zeros = std::min(AModelo.size(), FBase.Texto.size());
+    TTexto<20> base;
+    if (!ATexto.empty() && ATexto.size() <= CDigitosExatos && std::ranges::all_of(ATexto, EhDigito)) {
+        // The digits are the number: only the zeros on the left change.
+        ATexto.remove_prefix(std::min(ATexto.find_first_not_of(u'0'), ATexto.size()));
+        base.Tamanho = std::max({zeros, ATexto.size(), std::size_t{1}});
+        std::fill_n(base.Texto.begin(), base.Tamanho - ATexto.size(), u'0');
+        std::ranges::copy(ATexto, base.Texto.begin() + static_cast<std::ptrdiff_t>(base.Tamanho - ATexto.size()));
+    } else {
+        Guardar(base, EscreverZeros(TextoParaExtendedPadrao(ATexto, 0), static_cast<int>(zeros), FBase.Texto));
+    }
+    FBase = base;
+    return {FBase.Texto.data(), FBase.Tamanho};
+}
+
+int TOryUtilsValidacoesIE::SomarBase(std::span<const int> APesos) const noexcept {
+    return SomarBase(APesos, {FBase.Texto.data(), FBase.Tamanho});
+}
+
+int TOryUtilsValidacoesIE::SomarBase(std::span<const int> APesos, std::u16string_view ABase) const noexcept {
+    int soma = 0;
+    for (std::size_t i = 0; i < std::min(APesos.size(), ABase.size()); ++i)
+        if (EhDigito(ABase[i])) soma += (ABase[i] - u'0') * APesos[i];
+    return soma;
+}
+
+int TOryUtilsValidacoesIE::BuscarSomaModulo11(std::span<const int> APesos) const noexcept {
+    return SomarBase(APesos) % 11;
+}
+
+int TOryUtilsValidacoesIE::BuscarSomaModulo11(std::span<const int> APesos, std::u16string_view ABase) const noexcept {
+    return SomarBase(APesos, ABase) % 11;
+}
+
+int TOryUtilsValidacoesIE::BuscarDigitoPadrao(int AResto) noexcept { return CalcularDigitoPadrao(AResto); }
+
+// Where a rule compares the IE with the text it expects, zeros and all, the base is the IE itself or the IE is refused:
+// most units read the digits where they stand.
+void TOryUtilsValidacoesIE::Validar_AC() noexcept { FMotivo = Conferir(CFormatosAC, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_AL() noexcept { FMotivo = Conferir(CFormatosAL, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_AM() noexcept { FMotivo = Conferir(CFormatosAM, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_AP() noexcept { FMotivo = Conferir(CFormatosAP, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_CE() noexcept { FMotivo = Conferir(CFormatosCE, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_DF() noexcept { FMotivo = Conferir(CFormatosDF, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_ES() noexcept { FMotivo = Conferir(CFormatosES, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_GO() noexcept { FMotivo = Conferir(CFormatosGO, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_MA() noexcept { FMotivo = Conferir(CFormatosMA, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_MG() noexcept { FMotivo = Conferir(CFormatosMG, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_MS() noexcept { FMotivo = Conferir(CFormatosMS, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_PA() noexcept { FMotivo = Conferir(CFormatosPA, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_PB() noexcept { FMotivo = Conferir(CFormatosPB, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_PE() noexcept { FMotivo = Conferir(CFormatosPE, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_PI() noexcept { FMotivo = Conferir(CFormatosPI, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_PR() noexcept { FMotivo = Conferir(CFormatosPR, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_RJ() noexcept { FMotivo = Conferir(CFormatosRJ, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_RN() noexcept { FMotivo = Conferir(CFormatosRN, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_RO() noexcept { FMotivo = Conferir(CFormatosRO, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_RR() noexcept { FMotivo = Conferir(CFormatosRR, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_RS() noexcept { FMotivo = Conferir(CFormatosRS, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_SC() noexcept { FMotivo = Conferir(CFormatosSC, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_SE() noexcept { FMotivo = Conferir(CFormatosSE, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_TO() noexcept { FMotivo = Conferir(CFormatosTO, GetIE()); }
+
+void TOryUtilsValidacoesIE::Validar_BA() noexcept {
+    // The number counts, not how it was written: the IE takes the zeros of each format in turn.
+    FMotivo = mrTamanho;
+    if (FIE.Tamanho > CMaiorTamanho) return;
+    for (const TFormatoIE& formato : CFormatosBA) {
+        Guardar(FIE, FormatarBase(std::u16string_view(u"000000000").substr(0, formato.Tamanho)));
+        FMotivo = Conferir({&formato, 1}, GetIE());
+        if (FMotivo == mrNenhum) return;
+    }
+}
+
+void TOryUtilsValidacoesIE::Validar_MT() noexcept {
+    if (FIE.Tamanho == 9) {
+        std::shift_right(FIE.Texto.begin(), FIE.Texto.end(), 2);
+        FIE.Texto[0] = FIE.Texto[1] = u'0';
+        FIE.Tamanho += 2;
+    }
+    FMotivo = Conferir(CFormatosMT, GetIE());
+}
+
+void TOryUtilsValidacoesIE::Validar_SP() noexcept {
+    const std::u16string_view ie = GetIE();
+    FMotivo = ie.starts_with(u'P') ? Conferir(CFormatosSPRural, ie.substr(1)) : Conferir(CFormatosSP, ie);
+}
+
+void TOryUtilsValidacoesIE::Validar_Exportacao() noexcept { FMotivo = mrNenhum; }
+
+}  // namespace OryUtils
