@@ -1,0 +1,39 @@
+#include "Fluxos.hpp"
+
+namespace Ory {
+
+using namespace OryUtils::Plataforma;
+
+std::string_view DescreverErro(TErroFluxo AErro) {
+    switch (AErro) {
+        case efNaoExiste:
+            return "o arquivo não existe";
+        case efJaExiste:
+            return "o arquivo já existe";
+        case efSemPermissao:
+            return "acesso negado";
+        case efEhPasta:
+            return "é uma pasta";
+        case efDiscoCheio:
+            return "o disco está cheio";
+        case efFechado:
+            return "a outra ponta foi fechada";
+        default:
+            return "erro de entrada ou saída";
+    }
+}
+
+std::size_t TEntradaDeFluxo::Ler(std::span<char> ADestino) {
+    TErroFluxo erro = efNenhum;
+    const std::size_t lidos = FFluxo.Ler(ADestino, erro);
+    if (erro != efNenhum) throw EFalha("não foi possível ler " + FNome + ": " + std::string(DescreverErro(erro)));
+    return lidos;
+}
+
+void TSaidaDeFluxo::Escrever(std::string_view ABytes) {
+    const TErroFluxo erro = FFluxo.Escrever(ABytes);
+    if (erro == efFechado) throw ESaidaFechada();
+    if (erro != efNenhum) throw EFalha("não foi possível gravar " + FNome + ": " + std::string(DescreverErro(erro)));
+}
+
+}  // namespace Ory

@@ -1,0 +1,199 @@
+#include "LinhaDeComando.hpp"
+
+#include "oryutils/OryUtils.hpp"
+
+#include "chamar/Chamadas.hpp"
+#include "conferir/Conferir.hpp"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Ory {
+namespace {
+
+/// The options as they come, before they are checked.
+struct TOpcoesLidas {
+    TPedidoDeConferencia Conferencia{};
+    std::vector<std::string> Colunas{};
+    std::string Codificacao{};
+    std::string Delimitador{};
+    std::string Vereditos{};
+    std::string Cores = "auto";
+    std::string Operacao{};
+    std::vector<std::string> Argumentos{};
+    bool Lote = false;
+    bool JsonDeChamar = false;
+    bool JsonDeOperacoes = false;
+};
+
+TTipoColuna LerTipo(const std::string& ANome) {
+    const auto tipo = BuscarTipo(ANome);
+    if (!tipo) throw EFalha("tipo desconhecido: " + ANome + " (os tipos são " + ListarTipos() + ")");
+    return *tipo;
+}
+
+TPedidoDeConferencia LerPedido(const TOpcoesLidas& ALidas) {
+    TPedidoDeConferencia pedido = ALidas.Conferencia;
+    for (const std::string& coluna : ALidas.Colunas) {
+        const std::size_t igual = coluna.rfind('=');
+        if (igual == std::string::npos || igual == 0) throw EFalha("--coluna espera nome=tipo, veio " + coluna);
+        pedido.Opcoes.Colunas.emplace_back(coluna.substr(0, igual), LerTipo(coluna.substr(igual + 1)));
+    }
+    if (ALidas.Codificacao == "utf-8" || ALidas.Codificacao == "utf8")
+        pedido.Opcoes.Codificacao = coUtf8;
+    else if (ALidas.Codificacao == "windows-1252" || ALidas.Codificacao == "1252")
+        pedido.Opcoes.Codificacao = coWindows1252;
+    else if (!ALidas.Codificacao.empty())
+        throw EFalha("--codificacao espera utf-8 ou windows-1252, veio " + ALidas.Codificacao);
+    if (ALidas.Delimitador == "tab")
+        pedido.Opcoes.Delimitador = '\t';
+    else if (ALidas.Delimitador.size() == 1 && ALidas.Delimitador.find_first_of("\"\r\n") == std::string::npos)
+        pedido.Opcoes.Delimitador = ALidas.Delimitador.front();
+    else if (!ALidas.Delimitador.empty())
+        throw EFalha("--delimitador espera um caractere ou tab, veio " + ALidas.Delimitador);
+    if (ALidas.Cores != "auto" && ALidas.Cores != "nunca")
+        throw EFalha("--cores espera nunca ou auto, veio " + ALidas.Cores);
+    pedido.SemCores = ALidas.Cores == "nunca";
+    if (ALidas.Vereditos.empty()) return pedido;
+    pedido.Vereditos = LerTipo(ALidas.Vereditos);
+    if (*pedido.Vereditos == tcNenhum || *pedido.Vereditos == tcUf)
+        throw EFalha("não há vereditos do tipo " + ALidas.Vereditos);
+    if (*pedido.Vereditos == tcIe && pedido.Opcoes.Uf.empty()) throw EFalha("vereditos de ie pedem --uf");
+    if (pedido.Json || !pedido.Saida.empty() || !pedido.Opcoes.Colunas.empty())
+        throw EFalha("--vereditos não combina com --json, --saida nem --coluna");
+    return pedido;
+}
+
+void DescreverConferir(CLI::App& AComando, TOpcoesLidas& AOpcoes) {
+    TPedidoDeConferencia& pedido = AOpcoes.Conferencia;
+    AComando.add_option("ARQUIVO", pedido.Arquivo, "arquivo CSV; \"-\" ou nenhum: a entrada padrão");
+    AComando
+        .add_option("--coluna", AOpcoes.Colunas,
+                    "nome=tipo: diz o que há na coluna desse nome ou dessa posição; pode repetir.\n"
+                    "Tipos: " +
+                        ListarTipos())
+        ->allow_extra_args(false);
+    AComando.add_option("--uf", pedido.Opcoes.Uf, "UF das inscrições estaduais de todo o arquivo");
+    AComando.add_option("--codificacao", AOpcoes.Codificacao, "utf-8 ou windows-1252 (padrão: detecta)");
+    AComando.add_option("--delimitador", AOpcoes.Delimitador, "um caractere ou tab (padrão: detecta ; ou ,)");
+    AComando.add_flag("--sem-cabecalho", pedido.Opcoes.SemCabecalho,
+                      "a primeira linha já é dado; as colunas vão pela posição: --coluna 2=cnpj");
+    AComando.add_option("--saida", pedido.Saida,
+                        "grava o arquivo de novo com veredito e número formatado de cada coluna conferida");
+    AComando.add_flag("--json", pedido.Json, "resumo em JSON");
+    AComando.add_option("--mostrar", pedido.Opcoes.Mostrar, "quantos inválidos mostrar por coluna (padrão: 5)");
+    AComando.add_option("--vereditos", AOpcoes.Vereditos,
+                        "tipo: em vez de CSV lê um número por linha e escreve 1 (válido) ou 0 por linha");
+    AComando.add_option("--cores", AOpcoes.Cores, "nunca ou auto (padrão: auto, só em terminal e sem NO_COLOR)");
+    AComando.footer(
+        "Saída do programa: 0 tudo válido, 1 há inválidos, 2 não foi possível ler ou gravar.\n"
+        "Um registro pode ter até 16 MiB. --saida pode ser o próprio ARQUIVO: ele só é trocado no fim.\n\n"
+        "Exemplos:\n"
+        "  ory conferir clientes.csv\n"
+        "  ory conferir clientes.csv --coluna \"doc do sócio=cpf\" --saida conferido.csv\n"
+        "  cut -d';' -f3 clientes.csv | ory conferir --vereditos cnpj");
+}
+
+void DescreverChamar(CLI::App& AComando, TOpcoesLidas& AOpcoes) {
+    AComando.add_option("OPERACAO", AOpcoes.Operacao, "nome da operação; veja ory operacoes");
+    AComando.add_option("ARGUMENTO", AOpcoes.Argumentos,
+                        "um valor por argumento: texto como está, listas em JSON ([\"a\",\"b\"]),\n"
+                        "datas AAAA-MM-DDTHH:MM:SS, enumerações pelo ordinal");
+    AComando.add_flag("--lote", AOpcoes.Lote, "lê um pedido JSON por linha e responde um JSON por linha");
+    AComando.add_flag("--json", AOpcoes.JsonDeChamar, "resposta em JSON, como em --lote (antes da operação)");
+    AComando.footer(
+        "Saída do programa: 0 certo, 1 a operação falhou, 2 chamada errada.\n\n"
+        "Exemplos:\n"
+        "  ory chamar ValidouCnpjCpf 1 11222333000181\n"
+        "  ory chamar LimparTexto:chars 1-2.3 '[\".\",\"-\"]'\n"
+        "  echo '{\"op\":\"ValidouCnpjCpf\",\"args\":[1,\"11222333000181\"]}' | ory chamar --lote");
+}
+
+/// The library's own words are English; these take their place.
+void Traduzir(CLI::App& AAplicativo) {
+    const auto formatador = std::make_shared<CLI::Formatter>();
+    formatador->label("Usage", "Uso");
+    formatador->label("OPTIONS", "opções");
+    formatador->label("SUBCOMMAND", "COMANDO");
+    formatador->label("SUBCOMMANDS", "COMANDOS");
+    formatador->label("Positionals", "Argumentos");
+    formatador->label("TEXT", "TEXTO");
+    formatador->label("UINT", "N");
+    formatador->label("REQUIRED", "(obrigatório)");
+    formatador->column_width(28);
+    AAplicativo.formatter(formatador);
+    AAplicativo.option_defaults()->group("Opções");
+    AAplicativo.set_help_flag("-h,--ajuda,--help", "mostra esta ajuda")->group("Opções");
+}
+
+CLI::App* NovoComando(CLI::App& AAplicativo, const std::string& ANome, const std::string& ADescricao) {
+    CLI::App* comando = AAplicativo.add_subcommand(ANome, ADescricao);
+    comando->group("Comandos");
+    return comando;
+}
+
+std::string DescreverErroDeUso(const CLI::ParseError& AErro, const CLI::App& AAplicativo) {
+    if (dynamic_cast<const CLI::ExtrasError*>(&AErro)) {
+        std::string sobra;
+        for (const std::string& argumento : AAplicativo.remaining(true)) sobra += " " + argumento;
+        return "argumento desconhecido:" + sobra;
+    }
+    const std::string mensagem = AErro.what();
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&AErro))
+        return "falta o valor de " + mensagem.substr(0, mensagem.find(':'));
+    if (dynamic_cast<const CLI::ConversionError*>(&AErro)) return "valor inválido: " + mensagem;
+    return mensagem;
+}
+
+}  // namespace
+
+int ExecutarLinhaDeComando(std::span<const std::string> AArgumentos, TAmbiente& AAmbiente) {
+    TOpcoesLidas opcoes;
+    CLI::App aplicativo("Confere e formata números de cadastro brasileiros e chama as operações da OryUtils.", "ory");
+    Traduzir(aplicativo);
+    bool versao = false;
+    aplicativo.add_flag("--versao,--version", versao, "mostra a versão");
+    CLI::App* conferir = NovoComando(aplicativo, "conferir", "confere os números de um arquivo CSV");
+    CLI::App* chamar = NovoComando(aplicativo, "chamar", "chama uma operação da biblioteca");
+    CLI::App* operacoes = NovoComando(aplicativo, "operacoes", "lista o que chamar pode chamar");
+    DescreverConferir(*conferir, opcoes);
+    DescreverChamar(*chamar, opcoes);
+    operacoes->add_flag("--json", opcoes.JsonDeOperacoes, "lista em JSON");
+    aplicativo.require_subcommand(0, 1);
+
+    std::vector<std::string> invertidos(AArgumentos.rbegin(), AArgumentos.rend());
+    try {
+        aplicativo.parse(std::move(invertidos));
+    } catch (const CLI::CallForHelp&) {
+        AAmbiente.Saida.Escrever(aplicativo.help());
+        return stTudoCerto;
+    } catch (const CLI::ParseError& erro) {
+        throw EFalha(DescreverErroDeUso(erro, aplicativo) + "; veja ory --ajuda");
+    }
+    if (versao) {
+        AAmbiente.Saida.Escrever("ory " + std::string(OryUtils::BuscarVersaoOryUtils()) + "\n");
+        return stTudoCerto;
+    }
+    if (conferir->parsed()) return Conferir(LerPedido(opcoes), AAmbiente);
+    if (operacoes->parsed()) {
+        ListarOperacoes(AAmbiente.Saida, opcoes.JsonDeOperacoes);
+        return stTudoCerto;
+    }
+    if (chamar->parsed() && opcoes.Lote) {
+        if (!opcoes.Operacao.empty()) throw EFalha("--lote não leva operação na linha de comando");
+        ChamarEmLote(AAmbiente.Entrada, AAmbiente.Saida);
+        return stTudoCerto;
+    }
+    if (chamar->parsed() && !opcoes.Operacao.empty())
+        return ChamarUma(opcoes.Operacao, opcoes.Argumentos, opcoes.JsonDeChamar, AAmbiente);
+    if (chamar->parsed()) throw EFalha("falta a operação ou --lote; veja ory chamar --ajuda");
+    AAmbiente.Erro.Escrever(aplicativo.help());
+    return stFalha;
+}
+
+}  // namespace Ory

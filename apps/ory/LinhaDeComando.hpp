@@ -1,0 +1,13 @@
+#pragma once
+
+#include "Ambiente.hpp"
+
+#include <span>
+#include <string>
+
+namespace Ory {
+
+/// Reads the command line with its options, sub-commands and help, and runs what it asks for.
+int ExecutarLinhaDeComando(std::span<const std::string> AArgumentos, TAmbiente& AAmbiente);
+
+}  // namespace Ory

@@ -1,0 +1,99 @@
+#include "conferir/Conferir.hpp"
+
+#include "oryutils/platform/Arquivos.hpp"
+
+#include "conferir/Progresso.hpp"
+#include "conferir/Relatorio.hpp"
+
+#include <memory>
+#include <utility>
+
+namespace Ory {
+namespace {
+
+using namespace OryUtils::Plataforma;
+
+/// The file that takes the place of ANome when it is finished, and goes when it is not.
+class TArquivoNovo {
+public:
+    explicit TArquivoNovo(const std::string& ANome) : FNome(ANome) {
+        constexpr int CTentativas = 100;
+        TFluxo fluxo;
+        TErroFluxo erro = efJaExiste;
+        for (int i = 0; i < CTentativas && erro == efJaExiste; ++i) {
+            FNomeProvisorio = ANome + ".parte" + (i ? std::to_string(i) : "");
+            erro = fluxo.CriarNovo(FNomeProvisorio);
+        }
+        if (erro != efNenhum) throw EFalha("não foi possível criar " + ANome + ": " + std::string(DescreverErro(erro)));
+        FSaida = std::make_unique<TSaidaDeFluxo>(std::move(fluxo), ANome);
+    }
+    TArquivoNovo(const TArquivoNovo&) = delete;
+    TArquivoNovo& operator=(const TArquivoNovo&) = delete;
+    ~TArquivoNovo() {
+        if (!FSaida) return;
+        FSaida.reset();
+        ExcluirArquivo(FNomeProvisorio);
+    }
+
+    TSaida& GetSaida() { return *FSaida; }
+
+    void Concluir() {
+        TErroFluxo erro = FSaida->GetFluxo().Fechar();
+        if (erro == efNenhum) erro = SubstituirArquivo(FNomeProvisorio, FNome);
+        if (erro != efNenhum)
+            throw EFalha("não foi possível gravar " + FNome + ": " + std::string(DescreverErro(erro)));
+        FSaida.reset();
+    }
+
+private:
+    std::string FNome;
+    std::string FNomeProvisorio{};
+    std::unique_ptr<TSaidaDeFluxo> FSaida{};  // none when there is nothing to undo
+};
+
+}  // namespace
+
+TStatus Conferir(const TPedidoDeConferencia& APedido, TAmbiente& AAmbiente) {
+    const bool entradaPadrao = APedido.Arquivo.empty() || APedido.Arquivo == "-";
+    if (APedido.Arquivo.empty() && AAmbiente.EntradaEhTerminal)
+        throw EFalha("falta o arquivo (ou \"-\" para a entrada padrão); veja ory conferir --ajuda");
+
+    std::unique_ptr<TEntradaDeFluxo> arquivo;
+    std::optional<std::uint64_t> tamanho;
+    if (!entradaPadrao) {
+        TFluxo fluxo;
+        const TErroFluxo erro = fluxo.AbrirParaLer(APedido.Arquivo);
+        if (erro != efNenhum)
+            throw EFalha("não foi possível ler " + APedido.Arquivo + ": " + std::string(DescreverErro(erro)));
+        tamanho = fluxo.BuscarTamanho();
+        arquivo = std::make_unique<TEntradaDeFluxo>(std::move(fluxo), APedido.Arquivo);
+    }
+    TEntrada& entrada = arquivo ? *arquivo : AAmbiente.Entrada;
+
+    TOpcoesDeConferencia opcoes = APedido.Opcoes;
+    opcoes.Tarefas = AAmbiente.Tarefas;
+    TProgresso progresso(AAmbiente.Erro, tamanho);
+    if (AAmbiente.ErroEhTerminal) opcoes.AoProgredir = [&](std::uint64_t ABytes) { progresso.Mostrar(ABytes); };
+
+    if (APedido.Vereditos) {
+        if (AAmbiente.Cores) opcoes.AoProgredir = nullptr;  // the verdicts themselves move on the terminal
+        const TResumoDeVereditos resumo = EscreverVereditos(entrada, AAmbiente.Saida, *APedido.Vereditos, opcoes);
+        progresso.Apagar();
+        return resumo.Outros ? stInvalido : stTudoCerto;
+    }
+
+    std::optional<TArquivoNovo> saida;
+    if (!APedido.Saida.empty()) saida.emplace(APedido.Saida);
+    const TResumo resumo = ConferirCsv(entrada, saida ? &saida->GetSaida() : nullptr, opcoes);
+    progresso.Apagar();
+    arquivo.reset();  // the output may be about to take its name
+    if (saida) saida->Concluir();
+
+    const std::string nome = entradaPadrao ? "entrada padrão" : APedido.Arquivo;
+    const bool cores = AAmbiente.Cores && !APedido.SemCores;
+    AAmbiente.Saida.Escrever(APedido.Json ? EscreverRelatorioJson(resumo, nome)
+                                          : EscreverRelatorio(resumo, nome, AAmbiente.Largura, cores));
+    return resumo.EstahTudoValido() ? stTudoCerto : stInvalido;
+}
+
+}  // namespace Ory

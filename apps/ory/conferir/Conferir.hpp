@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Ambiente.hpp"
+#include "conferir/Conferencia.hpp"
+
+#include <optional>
+#include <string>
+
+namespace Ory {
+
+/// `ory conferir`, its command line read.
+struct TPedidoDeConferencia {
+    std::string Arquivo{};  // "-" or empty: the standard input
+    std::string Saida{};    // empty: none
+    bool Json = false;
+    bool SemCores = false;
+    std::optional<TTipoColuna> Vereditos{};  // the bare stream
+    TOpcoesDeConferencia Opcoes{};
+};
+
+/// Runs it and gives the exit status. A file named by Saida is written beside it under a temporary name and renamed
+/// when all went well, so it may be the input itself, and after a failure the old one stands. Raises EFalha,
+/// ESaidaFechada.
+TStatus Conferir(const TPedidoDeConferencia& APedido, TAmbiente& AAmbiente);
+
+}  // namespace Ory

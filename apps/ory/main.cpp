@@ -1,0 +1,25 @@
+#include "oryutils/platform/Terminal.hpp"
+#include "oryutils/runtime/Costura.hpp"
+#include "oryutils/runtime/Formatos.hpp"
+
+#include "Comando.hpp"
+
+int main(int AQuantidade, char** AArgumentos) {
+    using namespace OryUtils::Plataforma;
+    const TTerminalUtf8 terminal;
+    // Brazilian formats whatever the machine's, and messages on stderr instead of dialogs.
+    OryUtils::DefinirFormatSettings(OryUtils::BuscarFormatosBrasileiros());
+    OryUtils::CosturaInterface() = OryUtils::BuscarCosturaPadrao();
+
+    Ory::TEntradaDeFluxo entrada(TFluxo::EntradaPadrao(), "a entrada padrão");
+    Ory::TSaidaDeFluxo saida(TFluxo::SaidaPadrao(), "a saída padrão");
+    Ory::TSaidaDeFluxo erro(TFluxo::ErroPadrao(), "a saída de erros");
+    Ory::TAmbiente ambiente{.Entrada = entrada, .Saida = saida, .Erro = erro};
+    ambiente.EntradaEhTerminal = entrada.GetFluxo().EhTerminal();
+    ambiente.ErroEhTerminal = erro.GetFluxo().EhTerminal();
+    if (saida.GetFluxo().EhTerminal()) {
+        ambiente.Cores = !PossuiVariavelDeAmbiente("NO_COLOR");
+        ambiente.Largura = saida.GetFluxo().BuscarLarguraDoTerminal();
+    }
+    return Ory::Executar(BuscarArgumentos(AQuantidade, AArgumentos), ambiente);
+}
