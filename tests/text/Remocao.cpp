@@ -1,0 +1,122 @@
+#include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/text/OryUtilsStrings.hpp"
+
+#include "text/Apoio.hpp"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace {
+
+using namespace std::literals;
+using OryUtils::TCaracteres;
+using OryUtils::TOryUtilsStrings;
+using Testes::TLista;
+using Testes::TSorteio;
+
+TEST(Strings, Acentos) {
+    EXPECT_EQ(OryUtils::RemoverAcentos(u"D'Ávila"), u"D\"Avila");
+    EXPECT_EQ(OryUtils::RemoverAcentos(u"Ação, pêssego, ÜBER, õÕ, ñÑýå, \u0301\U0001F600"),
+              u"Acao, pessego, UBER, oO, ñÑýå, \u0301\U0001F600");
+}
+
+TEST(Strings, Remocao) {
+    struct TCaso {
+        std::u16string Obtido;
+        std::u16string_view Esperado;
+        const char* Porque;
+    };
+    const TCaso casos[] = {
+        {OryUtils::AllTrim(u" a \t b "), u"a\tb", "only code 32"},
+        {OryUtils::ClearString(u" -1.234,5/6_7- \t"), u"1234567", "the five, then the ends"},
+        {OryUtils::ClearString(u" aAb ", TCaracteres{u'a'}), u"Ab", "respects case, trims"},
+        {OryUtils::ClearString(u" xaby", {u"ab", u"xy"}), u" ", "in order, each on the result; no trimming"},
+        {OryUtils::ClearString(u"aAab", {u"", u"aA"}), u"ab", "an empty text occurs nowhere"},
+        {OryUtils::ClearStringKeepChars(u"a\u0161b1", TCaracteres{u'1', u'a', u'\u0161'}), u"a1", "8-bit members only"},
+        {TOryUtilsStrings::ExtrairSomenteNumeros(u"12.3a\u0661"), u"123", ""},
+        {OryUtils::RemoverCaracter(u"BAnana", u"a"), u"BAnn", "respects case"},
+        {OryUtils::RemoverCaracter(u"\u2013a\u20ACb\u2013", u"\u20AC\u2013\u2013"), u"ab", "characters above code 255"},
+        {OryUtils::RemoverCaracteres({u'a'}, u"Banana"), u"Bnn", ""},
+        {OryUtils::RemoverCaracteres({u'É', u'a'}, u"éÉAae"), u"e", "ignores case, accents too"},
+        {OryUtils::RemoverCaracterSomenteDeStrings(u" 'a,b',c ", u'x'), u"'a b',c", "the comma, whatever is asked"},
+        {OryUtils::RemoverCaracterSomenteDeStrings(u"a,'b,'',c,", u','), u"a,'b '' c ", "each quote toggles"},
+        {TOryUtilsStrings::SubstituirCaracteresAcentuados(u"a é.1", u"<>"), u"a<><>.1", "longer than one"},
+        {TOryUtilsStrings::SubstituirCaracteresAcentuados(u"ç-ã", u""), u"", ""},
+        {OryUtils::SubstituirMultiplosTextos(u"abc", {u"a", u"b"}, {u"x"}, false), u"xc", "no partner: nothing"},
+        {OryUtils::SubstituirMultiplosTextos(u"abc", {u"a", u"xb"}, {u"x", u"y"}, false), u"yc", "on the result"},
+        {OryUtils::SubstituirMultiplosTextos(u"São SÃO", {u"são"}, {u"x"}, true), u"x x", "ignoring case"},
+        {OryUtils::SubstituirMultiplosTextos(u"aaa", {u"aa"}, {u"aab"}, false), u"aaba", "what is put in is not seen"},
+    };
+    for (const TCaso& c : casos) EXPECT_EQ(c.Obtido, c.Esperado) << c.Porque;
+}
+
+// As the operation is described: nothing after too many steps.
+std::optional<std::u16string> SubstituirDevagar(std::u16string ATexto, const std::u16string& AAntigo,
+                                                const std::u16string& ANovo) {
+    const std::size_t limite = 4 * ATexto.size();
+    std::size_t passos = 0;
+    for (std::size_t p = ATexto.find(AAntigo); p != ATexto.npos; p = ATexto.find(AAntigo)) {
+        if (++passos > limite) return std::nullopt;
+        ATexto.insert(p, ANovo);
+        ATexto.erase(ATexto.find(AAntigo), 1);
+    }
+    return ATexto;
+}
+
+TEST(Strings, SubstituicaoPorPassosComoADevagar) {
+    TSorteio sorteio;
+    int semFim = 0;
+    for (int i = 0; i < 20000; ++i) {
+        const std::u16string antigo = sorteio.Texto(u"ab", 1, 5);
+        const std::u16string novo = sorteio.Texto(u"abc", 0, 5);
+        std::u16string texto;
+        for (int n = sorteio.Numero(0, 6); n > 0; --n)
+            texto += sorteio.Numero(0, 1) ? antigo.substr(sorteio.Numero(0, 3) == 0) : sorteio.Texto(u"abc", 0, 4);
+        const auto esperado = SubstituirDevagar(texto, antigo, novo);
+        SCOPED_TRACE(sorteio.Semente() + ": " + OryUtils::ParaUtf8(texto + u" " + antigo + u" " + novo));
+        if (esperado) {
+            ASSERT_EQ(OryUtils::SubstituirCaracteres(texto, antigo, novo), *esperado);
+        } else {
+            ++semFim;
+            ASSERT_THROW(OryUtils::SubstituirCaracteres(texto, antigo, novo), OryUtils::Exception);
+        }
+    }
+    EXPECT_GT(semFim, 100) << "the endless ones must be among what is tried";
+}
+
+TEST(Strings, SubstituicaoPorPassos) {
+    EXPECT_EQ(OryUtils::SubstituirCaracteres(u"a.b.c", u".", u", "), u"a, b, c");
+    EXPECT_EQ(OryUtils::SubstituirCaracteres(u"xaay", u"aa", u"b"), u"xbay") << "only the first character goes";
+    EXPECT_EQ(OryUtils::SubstituirCaracteres(u"aAa", u"A", u""), u"aa");
+    EXPECT_EQ(OryUtils::SubstituirCaracteres(u"abc", u"", u"x"), u"abc") << "an empty text occurs nowhere";
+    EXPECT_EQ(OryUtils::SubstituirCaracteres(u"abc", u"x", u"xx"), u"abc") << "endless only where it occurs";
+    EXPECT_THROW(OryUtils::SubstituirCaracteres(u"abc", u"b", u"bb"), OryUtils::Exception);
+    EXPECT_THROW(OryUtils::SubstituirCaracteres(u"ababaa", u"abaa", u"aab"), OryUtils::Exception)
+        << "endless only because of what stands before it";
+}
+
+std::u16string TrocarDevagar(std::u16string_view ATexto, const std::u16string& AAntigo, const std::u16string& ANovo) {
+    std::u16string resultado;
+    while (!ATexto.empty()) {
+        const bool aqui = !AAntigo.empty() && ATexto.substr(0, AAntigo.size()) == AAntigo;
+        resultado += aqui ? ANovo : std::u16string(1, ATexto.front());
+        ATexto.remove_prefix(aqui ? AAntigo.size() : 1);
+    }
+    return resultado;
+}
+
+TEST(Strings, MultiplosTextosComoADevagar) {
+    TSorteio sorteio;
+    for (int i = 0; i < 20000; ++i) {
+        const std::u16string texto = sorteio.Texto(u"abA", 0, 25);
+        const TLista antigos{sorteio.Texto(u"ab", 0, 4), sorteio.Texto(u"abA", 1, 3)};
+        const TLista novos(static_cast<std::size_t>(sorteio.Numero(0, 2)), sorteio.Texto(u"abx", 0, 3));
+        std::u16string esperado = texto;
+        for (std::size_t j = 0; j < antigos.size(); ++j)
+            esperado = TrocarDevagar(esperado, antigos[j], j < novos.size() ? novos[j] : u""s);
+        ASSERT_EQ(OryUtils::SubstituirMultiplosTextos(texto, antigos, novos, false), esperado) << sorteio.Semente();
+    }
+}
+
+}  // namespace
