@@ -1,31 +1,172 @@
 #include "oryutils/ui/UnOryUtilsDialogs.hpp"
 
-#include "oryutils/forms/Toolkit.hpp"
+#include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/ui/OryUtilsControls.hpp"
+#include "oryutils/ui/interno/FormularioDetalhe.hpp"
+#include "oryutils/ui/interno/FormularioEntrada.hpp"
+#include "oryutils/ui/interno/Medidas.hpp"
+#include "oryutils/ui/interno/Seletores.hpp"
+#include "oryutils/ui/interno/Variantes.hpp"
+
+#include <algorithm>
 
 namespace OryUtils {
 
 TInstanciaGlobal<TOryUtilsDialogs> GOryUtilsDialogs;
 
-namespace {
+TOryUtilsDialogs::TOryUtilsDialogs() : FFormularios(std::make_shared<TFormulariosVivos>()) {}
+TOryUtilsDialogs::~TOryUtilsDialogs() = default;
 
-void Mostrar(std::u16string_view ATitulo, std::u16string_view AMensagem) {
-    TFormulario formulario;
-    formulario.SetTitulo(ATitulo);
-    auto& texto = formulario.Adicionar<TRotulo>();
-    texto.SetNome(u"Message");
-    texto.SetTexto(AMensagem);
-    formulario.ExecutarModal();
+int TOryUtilsDialogs::Avisar(TMsgDlgType ATipo, TTextoDialogo ATitulo, std::u16string_view AMensagem) {
+    const auto parametros = BuscarConfiguracaoPadraoMensagem(AMensagem);
+    parametros->TipoDialogo = ATipo;
+    parametros->Titulo = TextosDialogos().Buscar(ATitulo);
+    return ValidarExibicaoMensagem(*parametros);
 }
 
-}  // namespace
+int TOryUtilsDialogs::Informacao(std::u16string_view AMensagem) {
+    return Avisar(mtInformation, tdInformacao, AMensagem);
+}
+int TOryUtilsDialogs::Alerta(std::u16string_view AMensagem) { return Avisar(mtWarning, tdAviso, AMensagem); }
+int TOryUtilsDialogs::Erro(std::u16string_view AMensagem) { return Avisar(mtError, tdErro, AMensagem); }
 
-void TOryUtilsDialogs::Informacao(std::u16string_view AMensagem) { Mostrar(u"Informação", AMensagem); }
-void TOryUtilsDialogs::Alerta(std::u16string_view AMensagem) { Mostrar(u"Aviso", AMensagem); }
-void TOryUtilsDialogs::Erro(std::u16string_view AMensagem) { Mostrar(u"Erro", AMensagem); }
+bool TOryUtilsDialogs::Confirmacao(std::u16string_view AMensagem, TButtonType APadrao, std::u16string_view ATitulo) {
+    return ConfirmacaoRetornoModal(AMensagem, APadrao, ATitulo) == mrYes;
+}
+
+int TOryUtilsDialogs::ConfirmacaoRetornoModal(std::u16string_view AMensagem, TButtonType APadrao,
+                                              std::u16string_view ATitulo) {
+    const std::u16string_view titulo = Aparar(ATitulo).empty() ? CCaptionsDialogo[mtConfirmation] : ATitulo;
+    return ConfirmacaoCustomizada(AMensagem, mtConfirmation, {mbYes, mbNo}, APadrao, titulo,
+                                  {CCaptionsBotao[mbYes], CCaptionsBotao[mbNo]});
+}
+
+int TOryUtilsDialogs::ConfirmacaoCustomizada(const TOryUtilsDialogsFormCustomizadoIOP& AParametros) {
+    return BuscarFormularioConfirmacaoCustomizado(AParametros)->ExecutarModal();
+}
+
+int TOryUtilsDialogs::ConfirmacaoCustomizada(std::u16string_view AMensagem, TMsgDlgType ATipo,
+                                             const std::vector<TMsgDlgBtn>& ABotoes, int APadrao,
+                                             std::u16string_view ATitulo,
+                                             const std::vector<std::u16string>& ACaptions) {
+    return ConfirmacaoCustomizada(
+        MontarParametros<TOryUtilsDialogsFormCustomizadoIOP>(AMensagem, ATipo, ABotoes, APadrao, ATitulo, ACaptions));
+}
+
+std::unique_ptr<TOryUtilsDialogsRetornoMensagemOpcoesIOP> TOryUtilsDialogs::ConfirmacaoCustomizadaComOpcoes(
+    const TOryUtilsDialogsFormCustomizadoComOpcoesIOP& AParametros) {
+    return std::make_unique<TOryUtilsDialogsRetornoMensagemOpcoesIOP>(
+        ExecutarComOpcoes(AParametros, TextosDialogos(), FFormularios));
+}
+
+std::unique_ptr<TOryUtilsDialogsRetornoMensagemCaixaChecagemIOP>
+TOryUtilsDialogs::ConfirmacaoCustomizadaComCaixaChecagem(
+    const TOryUtilsDialogsFormCustomizadoCaixaChecagemIOP& AParametros) {
+    return std::make_unique<TOryUtilsDialogsRetornoMensagemCaixaChecagemIOP>(
+        ExecutarComCaixaChecagem(AParametros, TextosDialogos(), FFormularios));
+}
+
+int TOryUtilsDialogs::ConfirmacaoCustomizadaComCaixaChecagem(std::u16string_view AMensagem, TMsgDlgType ATipo,
+                                                             const std::vector<TMsgDlgBtn>& ABotoes, int APadrao,
+                                                             std::u16string_view ATitulo,
+                                                             const std::vector<std::u16string>& ACaptions,
+                                                             std::u16string_view ATextoCaixaChecagem,
+                                                             TPosicaoCaixaChecagem APosicao, bool& AMarcada) {
+    auto parametros = MontarParametros<TOryUtilsDialogsFormCustomizadoCaixaChecagemIOP>(AMensagem, ATipo, ABotoes,
+                                                                                        APadrao, ATitulo, ACaptions);
+    parametros.TextoCaixaChecagem = ATextoCaixaChecagem;
+    parametros.PosicaoCaixaChecagem = APosicao;
+    const auto retorno = ConfirmacaoCustomizadaComCaixaChecagem(parametros);
+    AMarcada = retorno->CaixaChecagem;
+    return retorno->RetornoMensagem;
+}
+
+int TOryUtilsDialogs::ConfirmacaoCustomizadaComDetalhes(
+    const TOryUtilsDialogsFormCustomizadoComDetalhesIOP& AParametros) {
+    TFormularioDetalhe formulario(AParametros, AParametros.MensagemDetalhe, TextosDialogos(), FFormularios);
+    formulario.ContextoAjuda = AParametros.ContextoAjuda;
+    return formulario.ExecutarModal();
+}
+
+int TOryUtilsDialogs::InformacaoDetalhada(const TOryUtilsDialogsFormDetalhesIOP& AParametros) {
+    return ExecutarFormularioDetalhe(AParametros, CCaptionsDialogo[AParametros.TipoDialogo], TextosDialogos(),
+                                     FFormularios);
+}
+
+std::unique_ptr<TFormulario> TOryUtilsDialogs::BuscarFormularioConfirmacaoCustomizado(
+    const TOryUtilsDialogsFormCustomizadoBaseIOP& AParametros) {
+    return std::make_unique<TFormularioMensagem>(AParametros, TextosDialogos(), FFormularios);
+}
+
+std::unique_ptr<TOryUtilsDialogsFormCustomizadoIOP> TOryUtilsDialogs::BuscarConfiguracaoPadraoMensagem(
+    std::u16string_view AMensagem) const {
+    return std::make_unique<TOryUtilsDialogsFormCustomizadoIOP>(MontarParametros<TOryUtilsDialogsFormCustomizadoIOP>(
+        AMensagem, mtInformation, {mbOK}, mrNone, u"", {CCaptionsBotao[mbOK]}));
+}
+
+int TOryUtilsDialogs::ValidarExibicaoMensagem(const TOryUtilsDialogsFormCustomizadoIOP& AParametros) {
+    ExigirToolkit();
+    if (!FCentral.EstahAcumulando()) return ConfirmacaoCustomizada(AParametros);
+    FCentral.Adicionar(AParametros.Titulo, AParametros.Mensagem);
+    return mrNone;
+}
+
+TOryUtilsDialogsInfoFormMensagemIOP TOryUtilsDialogs::BuscarInformarcoesFormMensagem(const TFormulario& AFormulario) {
+    return BuscarFatosDoFormulario(AFormulario);
+}
+
+int TOryUtilsDialogs::BuscarTamanhoBotao(const TBotao& ABotao) {
+    return CalcularLarguraBotao(BuscarToolkit().GetTamanhoFonte(), ABotao.GetTexto().size());
+}
+
+TTamanho TOryUtilsDialogs::GetAveCharSize(const TToolkit& ACanvas) { return MedirCaractere(ACanvas); }
+
+std::u16string TOryUtilsDialogs::InputBox(std::u16string_view ATitulo, std::u16string_view APergunta,
+                                          std::u16string_view ADefault) {
+    std::u16string valor(ADefault);
+    InputQuery(ATitulo, APergunta, valor);
+    return valor;
+}
+
+bool TOryUtilsDialogs::InputQuery(std::u16string_view ATitulo, std::u16string_view APergunta, std::u16string& AValor) {
+    auto resposta = ExecutarFormularioEntrada(ATitulo, APergunta, AValor, TextosDialogos());
+    if (resposta) AValor = *std::move(resposta);
+    return resposta.has_value();
+}
+
+std::u16string TOryUtilsDialogs::BuscarArquivoSelecionado(std::u16string_view APastaInicial) {
+    return SelecionarArquivo(APastaInicial, TextosDialogos().Buscar(tdTodosArquivos) + u"|*.*");
+}
+
+std::u16string TOryUtilsDialogs::BuscarArquivoSelecionado(std::u16string_view APastaInicial,
+                                                          const std::vector<std::u16string>& ADescricoes,
+                                                          const std::vector<std::u16string>& AMascaras) {
+    std::u16string filtro;
+    for (std::size_t i = 0; i < std::min(ADescricoes.size(), AMascaras.size()); ++i)
+        filtro += ADescricoes[i] + u"|" + AMascaras[i] + u"|";
+    return SelecionarArquivo(APastaInicial, filtro);
+}
+
+std::u16string TOryUtilsDialogs::BuscarPastaSelecionada(std::u16string_view ATitulo,
+                                                        std::u16string_view APastaInicial) {
+    return SelecionarPasta(ATitulo, APastaInicial);
+}
+
+TFormulario* TOryUtilsDialogs::GetFormularioAtual() const noexcept {
+    return FFormularios->empty() ? nullptr : FFormularios->back();
+}
+
+TOryUtilsDialogsFormCustomizadoBaseIOP TOryUtilsDialogs::GetConfiguracao() const {
+    return FFormularios->empty() ? TOryUtilsDialogsFormCustomizadoBaseIOP{} : FFormularios->back()->GetParametros();
+}
+
+bool TOryUtilsDialogs::GetTemporizadorLigado() const noexcept {
+    return !FFormularios->empty() && FFormularios->back()->GetTemporizadorLigado();
+}
 
 void IniciarInterface() {
+    PreencherLargurasBotao();
     CosturaInterface() = {
         .Alerta = [](std::u16string_view AMensagem) { GOryUtilsDialogs->Alerta(AMensagem); },
         .Erro = [](std::u16string_view AMensagem) { GOryUtilsDialogs->Erro(AMensagem); },

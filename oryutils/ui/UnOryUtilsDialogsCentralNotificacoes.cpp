@@ -1,0 +1,40 @@
+#include "oryutils/ui/UnOryUtilsDialogsCentralNotificacoes.hpp"
+
+#include "oryutils/ui/interno/FormularioDetalhe.hpp"
+
+#include <algorithm>
+#include <string>
+
+namespace OryUtils {
+namespace {
+
+// Decimal digits of a count; no thousands separator.
+std::u16string EscreverQuantidade(std::size_t AQuantidade) {
+    const std::string digitos = std::to_string(AQuantidade);
+    return {digitos.begin(), digitos.end()};
+}
+
+}  // namespace
+
+void TOryUtilsDialogsCentralNotificacoes::Adicionar(std::u16string_view ATitulo, std::u16string_view AMensagem) {
+    FMensagens.push_back(std::u16string(ATitulo) + u": \r\n" + std::u16string(AMensagem));
+}
+
+int TOryUtilsDialogsCentralNotificacoes::Exibir() {
+    if (FMensagens.empty()) return mrNone;
+    const TTextosDialogos& textos = TextosDialogos();
+    TOryUtilsDialogsFormDetalhesIOP parametros;
+    const std::size_t quantidade = FMensagens.size();
+    parametros.Mensagem = Preencher(textos.Buscar(tdMensagensGuardadas), EscreverQuantidade(quantidade));
+    for (const std::u16string& mensagem : FMensagens) {
+        if (!parametros.MensagemDetalhe.empty()) parametros.MensagemDetalhe += u"\r\n\r\n";
+        parametros.MensagemDetalhe += mensagem;
+    }
+    const int resultado = ExecutarFormularioDetalhe(parametros, textos.Buscar(tdInformacao), textos, nullptr, true);
+    // What arrived while the form was open, and a nested Limpar, are respected.
+    FMensagens.erase(FMensagens.begin(),
+                     FMensagens.begin() + static_cast<std::ptrdiff_t>(std::min(quantidade, FMensagens.size())));
+    return resultado;
+}
+
+}  // namespace OryUtils

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "oryutils/OryExport.hpp"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace OryUtils {
+
+/// Holds back the information, warning and error messages of a stretch of work and shows them together. Confirmations
+/// and the other dialogs are not held back: they need their answer. Belongs to the thread of the user interface.
+/// Example:
+///   auto& central = GOryUtilsDialogs->GetCentralNotificacoes();
+///   {
+///       TAcumuloNotificacoes acumulo(central);
+///       ImportarClientes();           // its warnings queue
+///   }
+///   central.Exibir();                 // one form with all of them
+class ORY_API TOryUtilsDialogsCentralNotificacoes {
+public:
+    /// Starts accumulating. Calls nest: as many FinalizarAcumulo end it.
+    void IniciarAcumulo() { ++FAcumulos; }
+    /// Undoes one IniciarAcumulo; one too many does nothing. The messages stay until shown or emptied.
+    void FinalizarAcumulo() {
+        if (FAcumulos > 0) --FAcumulos;
+    }
+    bool EstahAcumulando() const noexcept { return FAcumulos > 0; }
+
+    /// Keeps "ATitulo: ", a line break and AMensagem.
+    void Adicionar(std::u16string_view ATitulo, std::u16string_view AMensagem);
+    /// Oldest first.
+    const std::vector<std::u16string>& GetMensagens() const noexcept { return FMensagens; }
+    void Limpar() { FMensagens.clear(); }
+
+    /// Shows what was kept as one detail form, the details open and the messages a blank line apart, and then forgets
+    /// it; also while accumulating. Returns the modal result; mrNone, and nothing is shown, when there are no messages.
+    /// Raises Exception when called from a thread that does not own the user interface.
+    int Exibir();
+
+private:
+    int FAcumulos = 0;
+    std::vector<std::u16string> FMensagens;
+};
+
+/// Accumulates while it lives, exceptions included.
+class TAcumuloNotificacoes {
+public:
+    explicit TAcumuloNotificacoes(TOryUtilsDialogsCentralNotificacoes& ACentral) : FCentral(ACentral) {
+        FCentral.IniciarAcumulo();
+    }
+    ~TAcumuloNotificacoes() { FCentral.FinalizarAcumulo(); }
+    TAcumuloNotificacoes(const TAcumuloNotificacoes&) = delete;
+    TAcumuloNotificacoes& operator=(const TAcumuloNotificacoes&) = delete;
+
+private:
+    TOryUtilsDialogsCentralNotificacoes& FCentral;
+};
+
+}  // namespace OryUtils

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "oryutils/forms/Formulario.hpp"
+#include "oryutils/forms/Toolkit.hpp"
+#include "oryutils/ui/UnOryUtilsDialogsIOP.hpp"
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace OryUtils {
+
+class TFormularioMensagem;
+
+/// The message forms of one TOryUtilsDialogs that are alive, the innermost last.
+using TFormulariosVivos = std::vector<TFormularioMensagem*>;
+
+inline constexpr std::u16string_view CNomeMensagem = u"Message";
+
+/// The standard message form with the captions, results and focus of its parameters: icon, label "Message", one button
+/// for each kind of the set in kind order. It closes itself when its parameters say so; its timer is on only between
+/// showing and the first tick or the end of the modal run.
+class TFormularioMensagem : public TFormulario {
+public:
+    /// AVivos  list in which the form stands while it lives; null for none.
+    /// Raises what ValidarPropriedades and ExigirToolkit raise.
+    TFormularioMensagem(const TOryUtilsDialogsFormCustomizadoBaseIOP& AParametros, const TTextosDialogos& ATextos,
+                        std::shared_ptr<TFormulariosVivos> AVivos);
+    ~TFormularioMensagem() override;
+
+    const TOryUtilsDialogsFormCustomizadoBaseIOP& GetParametros() const noexcept { return FParametros; }
+    bool GetTemporizadorLigado() const noexcept { return FTemporizador != 0; }
+
+    /// Gives every control its place. AReserva pixels of the screen's height are left for what the caller adds; the
+    /// client area is at least ALarguraMinima wide, where the screen has it.
+    void Dispor(int AReserva = 0, int ALarguraMinima = 0);
+
+protected:
+    void AoEncerrar() noexcept override;
+
+private:
+    void CriarControles();
+    void AplicarParametros(const TTextosDialogos& ATextos);
+    void EscolherBotaoPadrao();
+    int DisporMensagem(TTamanho AMaximo, int AEsquerda);
+    void AoMostrar(TObjeto* ASender);
+    void AoVencerTempo();
+    void DesligarTemporizador() noexcept;
+
+    TOryUtilsDialogsFormCustomizadoBaseIOP FParametros;
+    std::shared_ptr<TFormulariosVivos> FVivos;
+    TRotulo* FMensagem = nullptr;
+    TIcone* FIcone = nullptr;
+    TMemorando* FRolagem = nullptr;
+    TToolkit* FToolkit = nullptr;
+    std::uintptr_t FTemporizador = 0;
+};
+
+/// The message as shown: with the note that an auto-closing one carries.
+std::u16string BuscarMensagemComNota(const TOryUtilsDialogsFormCustomizadoBaseIOP& AParametros,
+                                     const TTextosDialogos& ATextos);
+
+/// Layout facts of any form with buttons and a label "Message".
+TOryUtilsDialogsInfoFormMensagemIOP BuscarFatosDoFormulario(const TFormulario& AFormulario);
+
+/// ATexto with AValor in the place of its first "%s".
+std::u16string Preencher(std::u16string_view ATexto, std::u16string_view AValor);
+
+}  // namespace OryUtils
