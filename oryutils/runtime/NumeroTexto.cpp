@@ -3,6 +3,7 @@
 #include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/interno/InteiroLongo.hpp"
+#include "oryutils/runtime/interno/QuinzeDigitos.hpp"
 
 #include <algorithm>
 #include <array>
@@ -32,8 +33,6 @@ bool RetirarSinal(std::u16string_view& ATexto) noexcept {
 constexpr int CDigitosEm64Bits = 19;
 /// No extended float, nor the point half way between two of them, has more significant digits.
 constexpr int CDigitosQueDecidem = 11600;
-/// 10 to this power and all below are exact in an extended float.
-constexpr int CPotenciaExata = 27;
 /// Numbers with so many places before the comma overflow, and with so few round to zero.
 constexpr std::int64_t CMaiorOrdem = TLimites::max_exponent10 + 2;
 constexpr std::int64_t CMenorOrdem = TLimites::min_exponent10 - TLimites::digits;
@@ -138,10 +137,7 @@ std::optional<Extended> ConverterDecimal(const TDecimal& ADecimal) noexcept {
     if (ADecimal.Significativos > CDigitosEm64Bits || std::abs(ADecimal.Expoente) > CPotenciaExata)
         return ConverterDecimalLongo(ADecimal);
     // Both numbers are exact, so the one operation rounds once.
-    Extended potencia = 1;
-    for (std::int64_t i = std::abs(ADecimal.Expoente); i > 0; --i) potencia *= 10;
-    const auto inicio = static_cast<Extended>(ADecimal.Inicio);
-    return ADecimal.Expoente < 0 ? inicio / potencia : inicio * potencia;
+    return MultiplicarPorPotenciaDe10(static_cast<Extended>(ADecimal.Inicio), static_cast<int>(ADecimal.Expoente));
 }
 
 /// AValor (positive, finite) as a 64-bit mantissa times 2 to Expoente.
@@ -172,10 +168,11 @@ std::uint64_t EscalarArredondando(TBinario AValor, int APotencia) noexcept {
     return numero.Buscar64Bits(unidade) + numero.Bit(unidade - 1);
 }
 
-void AcrescentarInteiro(std::u16string& ADestino, std::int64_t AValor) {
+/// Writes at ADestino and answers the end of what was written.
+char16_t* EscreverInteiro(char16_t* ADestino, std::int64_t AValor) noexcept {
     std::array<char, 24> texto{};
     const auto fim = std::to_chars(texto.data(), texto.data() + texto.size(), AValor).ptr;
-    ADestino.append(texto.data(), fim);
+    return std::copy(texto.data(), fim, ADestino);
 }
 
 }  // namespace
@@ -236,57 +233,79 @@ Extended TextoParaExtended(std::u16string_view ATexto, const TFormatSettings& AF
     RecusarConversao(ATexto, u"de ponto flutuante");
 }
 
-std::u16string ExtendedParaTexto(Extended AValor, const TFormatSettings& AFormatos) {
+TQuinzeDigitos SepararQuinzeDigitosLongo(Extended AValor) noexcept {
     constexpr int CDigitos = 15;
+    constexpr std::uint64_t CPrimeiroLongo = 1'000'000'000'000'000;
+    const TBinario binario = SepararBinario(AValor);
+    // Digits before the comma less one, or one less than that: log10(2) is 0.30103.
+    int ordem = static_cast<int>(std::floor((binario.Expoente + 63) * 0.30102999566398120));
+    std::uint64_t valor = EscalarArredondando(binario, CDigitos - 1 - ordem);
+    if (valor >= CPrimeiroLongo) valor = EscalarArredondando(binario, CDigitos - 1 - ++ordem);
+    return {static_cast<Extended>(valor), ordem};
+}
+
+Extended ArredondarPara15Digitos(Extended AValor) noexcept {
+    if (!std::isfinite(AValor)) return AValor;
+    const Extended magnitude = std::abs(AValor);
+    if (magnitude < CPrimeiroDe16Digitos && ArredondarAoInteiro(magnitude) == magnitude)
+        return magnitude == 0 ? 0 : AValor;
+    const TQuinzeDigitos decimal = SepararQuinzeDigitos(magnitude);
+    const int expoente = decimal.Ordem - 14;
+    if (std::abs(expoente) > CPotenciaExata) {
+        std::array<char16_t, CTamanhoMaximoExtended> texto;
+        return TentarTextoParaExtended(EscreverExtended(AValor, texto, u','), TFormatSettings{.DecimalSeparator = u','})
+            .value_or(AValor < 0 ? -TLimites::infinity() : TLimites::infinity());
+    }
+    const Extended arredondado = MultiplicarPorPotenciaDe10(decimal.Digitos, expoente);
+    return AValor < 0 ? -arredondado : arredondado;
+}
+
+std::u16string_view EscreverExtended(Extended AValor, std::span<char16_t, CTamanhoMaximoExtended> ADestino,
+                                     char16_t ASeparadorDecimal) noexcept {
     if (std::isnan(AValor)) return u"NAN";
     if (std::isinf(AValor)) return AValor < 0 ? u"-INF" : u"INF";
     if (AValor == 0) return u"0";
 
-    const TBinario binario = SepararBinario(std::abs(AValor));
-    // Digits before the comma less one, or one less than that: log10(2) is 0.30103.
-    int ordem = static_cast<int>(std::floor((binario.Expoente + 63) * 0.30102999566398120));
-    constexpr std::uint64_t CPrimeiroLongo = 1'000'000'000'000'000;
-    std::uint64_t valor = EscalarArredondando(binario, CDigitos - 1 - ordem);
-    if (valor >= CPrimeiroLongo) valor = EscalarArredondando(binario, CDigitos - 1 - ++ordem);
-
-    std::array<char, 24> digitos{};
-    std::size_t quantos = 0;
-    {
-        auto fim = std::to_chars(digitos.data(), digitos.data() + digitos.size(), valor).ptr;
-        while (fim[-1] == '0') --fim;
-        quantos = static_cast<std::size_t>(fim - digitos.data());
+    char16_t* fim = ADestino.data();
+    const auto escrito = [&] { return std::u16string_view(ADestino.data(), fim); };
+    const Extended magnitude = std::abs(AValor);
+    if (AValor < 0) *fim++ = u'-';
+    if (magnitude < CPrimeiroDe16Digitos && ArredondarAoInteiro(magnitude) == magnitude) {
+        fim = EscreverInteiro(fim, static_cast<std::int64_t>(magnitude));
+        return escrito();
     }
 
-    std::u16string texto;
-    if (AValor < 0) texto += u'-';
-    const auto escrever = [&](std::size_t ADe, std::size_t AAte) {
-        for (std::size_t i = ADe; i < AAte; ++i) texto += i < quantos ? static_cast<char16_t>(digitos[i]) : u'0';
-    };
+    const auto [valor, ordem] = SepararQuinzeDigitos(magnitude);
+    constexpr int CDigitos = 15;
+    std::array<char16_t, 24> digitos{};
+    const char16_t* resto = digitos.data();
+    const char16_t* fim_dos_digitos = EscreverInteiro(digitos.data(), static_cast<std::int64_t>(valor));
+    while (fim_dos_digitos[-1] == u'0') --fim_dos_digitos;
+
     const bool cientifico = ordem >= CDigitos || ordem < -4;
-    if (!cientifico && ordem < 0) {
-        texto += u'0';
-        texto += AFormatos.DecimalSeparator;
-        texto.append(static_cast<std::size_t>(-ordem - 1), u'0');
-        escrever(0, quantos);
-        return texto;
-    }
-    const std::size_t inteiros = cientifico ? 1 : static_cast<std::size_t>(ordem) + 1;
-    escrever(0, inteiros);
-    if (quantos > inteiros) {
-        texto += AFormatos.DecimalSeparator;
-        escrever(inteiros, quantos);
+    int inteiros = cientifico ? 1 : ordem + 1;
+    if (inteiros <= 0) *fim++ = u'0';
+    for (; inteiros > 0; --inteiros) *fim++ = resto < fim_dos_digitos ? *resto++ : u'0';
+    if (resto < fim_dos_digitos) {
+        *fim++ = ASeparadorDecimal;
+        for (; inteiros < 0; ++inteiros) *fim++ = u'0';
+        fim = std::copy(resto, fim_dos_digitos, fim);
     }
     if (cientifico) {
-        texto += u'E';
-        AcrescentarInteiro(texto, ordem);
+        *fim++ = u'E';
+        fim = EscreverInteiro(fim, ordem);
     }
-    return texto;
+    return escrito();
+}
+
+std::u16string ExtendedParaTexto(Extended AValor, const TFormatSettings& AFormatos) {
+    std::array<char16_t, CTamanhoMaximoExtended> texto;
+    return std::u16string(EscreverExtended(AValor, texto, AFormatos.DecimalSeparator));
 }
 
 std::u16string InteiroParaTexto(std::int64_t AValor) {
-    std::u16string texto;
-    AcrescentarInteiro(texto, AValor);
-    return texto;
+    std::array<char16_t, 24> texto{};
+    return {texto.data(), EscreverInteiro(texto.data(), AValor)};
 }
 
 std::u16string_view EscreverZeros(Extended AValor, int ADigitos, std::span<char16_t> ADestino) noexcept {

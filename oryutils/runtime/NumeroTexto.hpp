@@ -41,6 +41,15 @@ ORY_API Extended TextoParaExtended(std::u16string_view ATexto, const TFormatSett
 ORY_API std::u16string ExtendedParaTexto(Extended AValor, const TFormatSettings& AFormatos = FormatSettings());
 ORY_API std::u16string InteiroParaTexto(std::int64_t AValor);
 
+/// Room for the text of an Extended: sign, 15 digits, zeros behind the separator, exponent.
+inline constexpr std::size_t CTamanhoMaximoExtended = 32;
+/// As ExtendedParaTexto, into ADestino without allocating; the result is the written text.
+ORY_API std::u16string_view EscreverExtended(Extended AValor, std::span<char16_t, CTamanhoMaximoExtended> ADestino,
+                                             char16_t ASeparadorDecimal) noexcept;
+/// The number that the text of AValor reads back as, without going through the text. Infinity where the text would be
+/// too large to read.
+ORY_API Extended ArredondarPara15Digitos(Extended AValor) noexcept;
+
 /// AValor rounded to an integer (halves away from zero) and written with at least ADigitos digits, zero-filled on the
 /// left; a minus sign comes before the zeros, and not before zeros alone. All digits of a large number are exact; what
 /// is not finite counts 0.
