@@ -1,0 +1,274 @@
+#include "oryutils/dates/OryUtilsDatas.hpp"
+
+#include "oryutils/dates/interno/DatasInterno.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/runtime/FormatoDataHora.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+using namespace OryUtils;
+using D = TOryUtilsDatas;
+
+TDateTime Momento(int AAno, int AMes, int ADia, int AHora = 0, int AMinuto = 0, int ASegundo = 0, int AMili = 0) {
+    return JuntarDataHora(CodificarData(AAno, AMes, ADia), CodificarHora(AHora, AMinuto, ASegundo, AMili));
+}
+
+struct OryUtilsDatas : testing::Test {
+    TFormatosTemporarios Formatos{BuscarFormatosBrasileiros()};
+};
+
+TEST_F(OryUtilsDatas, PeriodosDeTodosOsMeses) {
+    const struct {
+        int Bimestre, Trimestre, Semestre;
+        int PrimeiroBi, PrimeiroTri, PrimeiroQuadri, PrimeiroSemestre;
+        int FimBi, FimTri, FimQuadri, FimSemestre;  // months
+    } meses[] = {
+        {1, 1, 1, 1, 1, 1, 1, 2, 3, 4, 6},       {1, 1, 1, 1, 1, 1, 1, 2, 3, 4, 6},
+        {2, 1, 1, 3, 1, 1, 1, 4, 3, 4, 6},       {2, 2, 1, 3, 4, 1, 1, 4, 6, 4, 6},
+        {3, 2, 1, 5, 4, 5, 1, 6, 6, 8, 6},       {3, 2, 1, 5, 4, 5, 1, 6, 6, 8, 6},
+        {4, 3, 2, 7, 7, 5, 7, 8, 9, 8, 12},      {4, 3, 2, 7, 7, 5, 7, 8, 9, 8, 12},
+        {5, 3, 2, 9, 7, 9, 7, 10, 9, 12, 12},    {5, 4, 2, 9, 10, 9, 7, 10, 12, 12, 12},
+        {6, 4, 2, 11, 10, 9, 7, 12, 12, 12, 12}, {6, 4, 2, 11, 10, 9, 7, 12, 12, 12, 12},
+    };
+    for (const int ano : {1, 1899, 1900, 2023, 2024, 9999}) {
+        const auto fim = [&](int AMes) { return CodificarData(ano, AMes, BuscarDiasNoMes(ano, AMes)); };
+        for (int mes = 1; mes <= 12; ++mes) {
+            const auto& m = meses[mes - 1];
+            for (const TDateTime data : {Momento(ano, mes, 1), Momento(ano, mes, BuscarDiasNoMes(ano, mes), 23, 59)}) {
+                SCOPED_TRACE(data.Valor);
+                EXPECT_EQ(D::BuscarBimestre(data), m.Bimestre);
+                EXPECT_EQ(D::BuscarTrimestre(data), m.Trimestre);
+                EXPECT_EQ(D::BuscarSemestre(data), m.Semestre);
+                EXPECT_EQ(D::BuscarPrimeiroMesDoBimestre(data), m.PrimeiroBi);
+                EXPECT_EQ(D::BuscarPrimeiroMesDoTrimestre(data), m.PrimeiroTri);
+                EXPECT_EQ(D::BuscarPrimeiroMesDoQuadrimestre(data), m.PrimeiroQuadri);
+                EXPECT_EQ(D::BuscarPrimeiroMesDoSemestre(data), m.PrimeiroSemestre);
+                EXPECT_EQ(D::BuscarDataFinalDoBimestre(data), fim(m.FimBi));
+                EXPECT_EQ(D::BuscarDataFinalDoTrimestre(data), fim(m.FimTri));
+                EXPECT_EQ(D::BuscarDataFinalDoQuadrimestre(data), fim(m.FimQuadri));
+                EXPECT_EQ(D::BuscarDataFinalDoSemestre(data), fim(m.FimSemestre));
+                EXPECT_EQ(D::BuscarPrimeiroDiaMes(data), CodificarData(ano, mes, 1));
+                EXPECT_EQ(D::BuscarUltimoDiaMes(data), fim(mes));
+            }
+        }
+    }
+    for (const double semData : {std::nan(""), 1e300, 2958466.0}) {
+        EXPECT_EQ(D::BuscarBimestre(semData), 0);
+        EXPECT_EQ(D::BuscarPrimeiroMesDoQuadrimestre(semData), 0);
+        EXPECT_EQ(D::BuscarDescricaoDiaSemana(semData), u"");
+        EXPECT_THROW(D::BuscarDataFinalDoSemestre(semData), EConvertError);
+        EXPECT_THROW(D::BuscarDataSemHora(semData), EConvertError);
+    }
+}
+
+TEST_F(OryUtilsDatas, DiasEntreDatas) {
+    const TDateTime fim = Momento(2024, 3, 10, 23), inicio = Momento(2024, 3, 1, 1);
+    EXPECT_EQ(D::CalcularDiferencaEntreDatas(fim, inicio), -9);
+    EXPECT_EQ(D::BuscarDiasEntreDatas(fim, inicio), 9);
+    EXPECT_EQ(D::BuscarDiasEntreDatas(inicio, fim), 9);
+    EXPECT_EQ(D::CalcularDiferencaEntreDatas(-1.75, 0.5), 1) << "before day 0";
+    EXPECT_EQ(D::BuscarDiasEntreDatas(1e300, -1e300), std::numeric_limits<int>::max());
+    EXPECT_EQ(D::CalcularDiferencaEntreDatas(std::nan(""), 1), 0);
+}
+
+TEST_F(OryUtilsDatas, DataFormatada) {
+    const TDateTime data = Momento(2024, 3, 5, 14, 7, 9);
+    EXPECT_EQ(D::BuscarDataFormatada(data), u"03/05/2024") << "month first";
+    EXPECT_EQ(D::BuscarDataFormatada(data, true), u"'03/05/2024'");
+    EXPECT_EQ(D::BuscarDataFormatada(data, fdDataHora, u" \t", false), u"05/03/2024 14:07:09") << "day first";
+    EXPECT_EQ(D::BuscarDataFormatada(data, fdHora, u"", false), u"14:07");
+    EXPECT_EQ(D::BuscarDataFormatada(data, fdHora, u" yyyy ", false), u" 2024 ")
+        << "a mask serves every type, untrimmed";
+    EXPECT_EQ(D::BuscarDataFormatada(data, fdData, u"d'''m'\"'\"", true), u"'5m'''") << "inner quotes doubled";
+    EXPECT_EQ(D::BuscarDataFormatada(data, static_cast<TTipoFormatoData>(9), u"", true), u"''");
+    EXPECT_EQ(D::BuscarDataFormatada({.Tipo = fdDataHora, .Data = -1.25}), u"29/12/1899 06:00:00");
+    EXPECT_EQ(GetDataFormatada(data, true), u"'03/05/2024'");
+    EXPECT_EQ(GetDataFormatada(data, tfdData, u"", false), u"03/05/2024");
+    EXPECT_EQ(GetDataFormatada(data, tfdDataHora, u"", false), u"05/03/2024 14:07:09");
+    EXPECT_EQ(GetDataFormatada(data, tfdHora, u"", true), u"'14:07'");
+    const TFormatosTemporarios outros([] {
+        TFormatSettings formatos = FormatSettings();
+        formatos.DateSeparator = u'.';
+        formatos.TimeSeparator = u'h';
+        return formatos;
+    }());
+    EXPECT_EQ(D::BuscarDataFormatada(data), u"03.05.2024") << "the separators are those of the formats";
+    EXPECT_EQ(D::BuscarHoraSemSegundos(data), u"14h07");
+}
+
+TEST_F(OryUtilsDatas, ParametrosCopiamTudo) {
+    const TOryUtilsDatasFormatacaoDataIOP origem{.AdicionarAspas = true, .Mascara = u"d", .Tipo = fdHora, .Data = 7};
+    TOryUtilsDatasFormatacaoDataIOP copia;
+    EXPECT_EQ(copia, (TOryUtilsDatasFormatacaoDataIOP{false, u"", fdData, 0}));
+    copia.Assign(origem);
+    EXPECT_EQ(copia, origem);
+}
+
+TEST_F(OryUtilsDatas, TextosDaData) {
+    EXPECT_EQ(D::BuscarDataPorExtenso(Momento(2026, 4, 5)), u"Domingo, 05 de Abril de 2026");
+    EXPECT_EQ(D::BuscarDataPorExtenso(Momento(987, 3, 26)), u"Segunda, 26 de Marco de 0987");
+    EXPECT_EQ(D::BuscarDescricaoDiaSemana(Momento(2024, 3, 5, 23)), u"Terça-feira");
+    EXPECT_EQ(D::BuscarHoraSemSegundos(Momento(2024, 3, 5, 14, 7, 59)), u"14:07") << "seconds are cut";
+    EXPECT_EQ(D::BuscarDataSemHora(-1.75), -1);
+    TFormatSettings outros = BuscarFormatosBrasileiros();
+    outros.LongDayNames[6] = u"SÁBADO";
+    outros.LongDayNames[2] = u"terça-feira";
+    outros.LongMonthNames[2] = u"março";
+    outros.LongMonthNames[1] = u"";
+    const TFormatosTemporarios temporarios(outros);
+    EXPECT_EQ(D::BuscarDataPorExtenso(Momento(2024, 3, 5)), u"Terça-feira, 05 de Março de 2024");
+    EXPECT_EQ(D::BuscarDataPorExtenso(Momento(2024, 2, 10)), u"Sábado, 10 de  de 2024");
+}
+
+TEST_F(OryUtilsDatas, DataValida) {
+    const struct {
+        std::u16string_view Texto;
+        bool Valida;
+        const char* Porque;
+    } casos[] = {
+        {u"29/02/2024", true, "leap day"},
+        {u"31/02/2024", false, "no such day"},
+        {u"", false, "empty"},
+        {u" ./-_, ", false, "nothing but punctuation"},
+        {u"31/12/1899", true, "first one"},
+        {u"30/12/1899", false, "day 0 can not be told from a failure"},
+        {u"01/01/1800", false, "before day 0"},
+        {u"05/03/2024 10:00", false, "a time is no part of a date"},
+    };
+    for (const auto& c : casos) {
+        EXPECT_EQ(D::EhDataValida(c.Texto), c.Valida) << c.Porque;
+        EXPECT_EQ(EhDataValida(c.Texto), c.Valida) << c.Porque;
+    }
+}
+
+TEST_F(OryUtilsDatas, OrientacaoDaData) {
+    EXPECT_EQ(D::ConverterOrientacaoData(u"03/05/2024", odDiaMes), CodificarData(2024, 3, 5));
+    EXPECT_EQ(D::ConverterOrientacaoData(u"03/05/2024", odMesDia), CodificarData(2024, 5, 3));
+    EXPECT_EQ(D::ConverterOrientacaoData(u"03x05y2024 14:07", odMesDia), CodificarData(2024, 5, 3)) << "separators";
+    EXPECT_EQ(D::ConverterOrientacaoData(u"03/05/24", odDiaMes), CodificarData(24, 3, 5)) << "the year as it stands";
+    EXPECT_EQ(D::ConverterOrientacaoData(u" -/. ", odDiaMes), 0);
+    // The older function checks with todMesDia and answers 0 all the same.
+    EXPECT_EQ(ConverterOrientacaoData(u"03/05/2024", todDiaMes), CodificarData(2024, 3, 5));
+    EXPECT_EQ(ConverterOrientacaoData(u"03/05/2024", todMesDia), 0);
+    EXPECT_EQ(ConverterOrientacaoData(u"", todMesDia), 0);
+    for (const std::u16string_view texto : {u"31/31/2024", u"ab/05/2024", u"3/5/2024", u"03/05", u"03/05/20x4", u"1"}) {
+        EXPECT_THROW(D::ConverterOrientacaoData(texto, odDiaMes), EConvertError);
+        EXPECT_THROW(D::ConverterOrientacaoData(texto, odMesDia), EConvertError);
+        EXPECT_THROW(ConverterOrientacaoData(texto, todDiaMes), EConvertError);
+        EXPECT_THROW(ConverterOrientacaoData(texto, todMesDia), EConvertError);
+    }
+}
+
+TEST_F(OryUtilsDatas, Xml) {
+    EXPECT_EQ(D::ConverterDataXMLParaFormatoNativo(u" \r\n"), 0);
+    EXPECT_EQ(ConverterDataXML(u"2024-03-05T14:07:09-03:00"), Momento(2024, 3, 5, 17, 7, 9));
+    EXPECT_THROW(ConverterDataXML(u"05/03/2024"), EConvertError);
+    EXPECT_TRUE(D::ConverterDataParaFormatoXML(Momento(2024, 3, 5, 14, 7, 9)).starts_with(u"2024-03-05T14:07:09.000"));
+}
+
+TEST_F(OryUtilsDatas, Milissegundos) {
+    EXPECT_EQ(D::ConverterMinutosParaMilisegundos(2), 120000);
+    EXPECT_EQ(D::ConverterMinutosParaMilisegundos(-1), -60000);
+    EXPECT_EQ(D::ConverterMinutosParaMilisegundos(35792), 2147520000 - (std::int64_t{1} << 32)) << "wraps around";
+    const struct {
+        int Milissegundos;
+        std::u16string_view SemUnidade, Unidade;
+    } casos[] = {
+        {0, u"00:00:00", u""},
+        {999, u"00:00:00", u""},
+        {1000, u"00:00:01", u" segundo(s)"},
+        {150000, u"00:02:30", u" minuto(s)"},
+        {3600000, u"01:00:00", u" hora(s)"},
+        {90061000, u"01:01:01", u" hora(s)"},
+        {86400000, u"00:00:00", u""},
+        {-150000, u"00:02:30", u" minuto(s)"},
+    };
+    for (const auto& c : casos) {
+        EXPECT_EQ(D::ConverterMilisegundosParaTempo(c.Milissegundos, false), c.SemUnidade);
+        EXPECT_EQ(D::ConverterMilisegundosParaTempo(c.Milissegundos, true),
+                  std::u16string(c.SemUnidade).append(c.Unidade));
+    }
+    TFormatSettings formatos = BuscarFormatosBrasileiros();
+    formatos.LongTimeFormat = u"";
+    const TFormatosTemporarios temporarios(formatos);
+    EXPECT_EQ(D::ConverterMilisegundosParaTempo(3600000, true), u"") << "no text, no unit";
+}
+
+TEST_F(OryUtilsDatas, Deslocamentos) {
+    using namespace OryTypes;
+    const TDateTime base = Momento(2024, 1, 31, 23, 59, 59);
+    const struct {
+        int Medida, Quantidade;
+        TDateTime Esperado;
+        const char* Porque;
+    } casos[] = {
+        {tmtSegundo, 1, Momento(2024, 2, 1), "into the next month"},
+        {tmtMinuto, -60, Momento(2024, 1, 31, 22, 59, 59), "back"},
+        {tmtHora, 24, Momento(2024, 2, 1, 23, 59, 59), "a day"},
+        {tmtDia, 30, Momento(2024, 3, 1, 23, 59, 59), "days"},
+        {tmtMes, 1, Momento(2024, 2, 29, 23, 59, 59), "clamped to the month's end"},
+        {tmtAno, -1, Momento(2023, 1, 31, 23, 59, 59), "a year"},
+        {tmtHora, 0, base, "nothing"},
+        {tmtNenhuma, 5, 77, "no unit: now"},
+        {tmtMilissegundo, 5, 77, "milliseconds too: now"},
+        {9, 5, 77, "unknown: now"},
+        {-1, 5, 77, "negative: now"},
+    };
+    for (const auto& c : casos)
+        EXPECT_EQ(DatasInterno::Deslocar(base, static_cast<TTipoMedidaTempo>(c.Medida), c.Quantidade,
+                                         [] { return TDateTime(77); }),
+                  c.Esperado)
+            << c.Porque;
+    EXPECT_EQ(D::BuscarDataHoraMedidaTempo(-1.25, tmtHora, 24), 0.25) << "across day 0";
+    EXPECT_THROW(D::BuscarDataHoraMedidaTempo(base, tmtAno, std::numeric_limits<int>::max()), EConvertError);
+}
+
+TEST_F(OryUtilsDatas, CompletaOQueFoiDigitado) {
+    const struct {
+        std::u16string_view Texto, Esperado;
+        const char* Porque;
+    } casos[] = {
+        {u"5/3", u"05/03/2024", "current year"},
+        {u" 5/3/24 ", u"05/03/2024", "two digits of a year"},
+        {u"5-3.74", u"05/03/1974", "other separators; the window"},
+        {u"0503", u"05/03/2024", "four digits"},
+        {u"050374", u"05/03/1974", "six digits"},
+        {u"05032024", u"05/03/2024", "eight digits"},
+        {u"2024-3-5", u"05/03/2024", "year first"},
+        {u"5/3/2024 7:5", u"05/03/2024 07:05:00", "date and time"},
+        {u"5/3   7", u"05/03/2024 07:00:00", "hours after a date"},
+        {u"5/3 7:5:3.25", u"05/03/2024 07:05:03.025", "milliseconds"},
+        {u"5/3 12 pm", u"05/03/2024 12:00:00", "twelve-hour clock"},
+        {u"7:5", u"07:05:00", "time alone"},
+        {u"7:5:3,5 PM", u"19:05:03.005", "time with everything"},
+        {u" \t", u"", "blank"},
+        {u"", u"", "empty"},
+        {u" 31/02 ", u" 31/02 ", "no such day: unchanged, blanks too"},
+        {u"5/3 25:00", u"5/3 25:00", "no such hour"},
+        {u"7", u"7", "one number alone"},
+        {u"2024", u"2024", "no day 20 of month 24"},
+        {u"amanhã", u"amanhã", "a word"},
+        {u"5/3/2024 7:5 x", u"5/3/2024 7:5 x", "rest"},
+        {u"5/3/24/1", u"5/3/24/1", "too many parts"},
+        {u"\xD800/3", u"\xD800/3", "lone surrogate"},
+    };
+    const TFormatSettings& brasil = BuscarFormatosBrasileiros();
+    for (const auto& c : casos) {
+        const std::u16string completa = DatasInterno::Completar(c.Texto, brasil, 2024);
+        EXPECT_EQ(completa, c.Esperado) << c.Porque;
+        EXPECT_EQ(DatasInterno::Completar(completa, brasil, 2024), c.Esperado) << "once is enough: " << c.Porque;
+    }
+    TFormatSettings iso = brasil;
+    iso.ShortDateFormat = u"yyyy/mm/dd";
+    iso.DateSeparator = u'-';
+    EXPECT_EQ(DatasInterno::Completar(u"240305 7:5", iso, 2024), u"2024-03-05 07:05:00");
+    EXPECT_EQ(DatasInterno::Completar(u"3-5", iso, 2024), u"2024-03-05");
+    EXPECT_EQ(FormatarData(u"5/3/2024 7:5"), u"05/03/2024 07:05:00");
+}
+
+}  // namespace

@@ -1,0 +1,212 @@
+#include "oryutils/runtime/FormatoDataHora.hpp"
+
+#include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/runtime/Utf.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <ctime>
+#include <random>
+
+namespace {
+
+using namespace OryUtils;
+
+const TFormatSettings& Brasil() { return BuscarFormatosBrasileiros(); }
+
+TDateTime Momento(int AAno, int AMes, int ADia, int AHora = 0, int AMinuto = 0, int ASegundo = 0, int AMili = 0) {
+    return JuntarDataHora(CodificarData(AAno, AMes, ADia), CodificarHora(AHora, AMinuto, ASegundo, AMili));
+}
+
+TEST(FormatoDataHora, Linguagem) {
+    const TDateTime tarde = Momento(2024, 3, 5, 14, 7, 9, 45);  // a Tuesday
+    const TDateTime madrugada = Momento(987, 12, 31, 0, 30);
+    const struct {
+        std::u16string_view Padrao;
+        TDateTime Data;
+        std::u16string_view Esperado;
+        const char* Porque;
+    } casos[] = {
+        {u"d dd ddd dddd", tarde, u"5 05 Ter Terça", "days"},
+        {u"m mm mmm mmmm mmmmmm", tarde, u"3 03 MAR MARCO MARCO", "months; a longer run is the longest element"},
+        {u"y yy yyy yyyy", madrugada, u"87 87 0987 0987", "a year of three digits is filled"},
+        {u"h:n:s.z", tarde, u"14:7:9.45", "without zeros"},
+        {u"HH:NN:SS.ZZZ", tarde, u"14:07:09.045", "either case"},
+        {u"hh:mm:ss dd/mm", tarde, u"14:07:09 05/03", "mm after hh are minutes, then the month again"},
+        {u"MM/DD HH:MM", tarde, u"03/05 14:07", "upper case"},
+        {u"hh'h'mm", tarde, u"14h07", "a literal between does not count"},
+        {u"hhmm mm", tarde, u"1407 03", "only the first m after the hour"},
+        {u"hh mmm", tarde, u"14 MAR", "a name is a month's"},
+        {u"hh x mm", tarde, u"14 x 03", "another letter parts them"},
+        {u"hh:mm am/pm", tarde, u"02:07 pm", "twelve hours"},
+        {u"AM/PM h", madrugada, u"AM 12", "a mark before the hour; midnight is 12; the pattern's case"},
+        {u"h a/P", tarde, u"2 P", "short mark"},
+        {u"h ampm", tarde, u"2 PM", "the texts of the formats"},
+        {u"h 'am/pm'", tarde, u"14 am/pm", "a quoted mark is no mark"},
+        {u"amanha", tarde, u"a3a714a", "an a without mark stands for itself"},
+        {u"c", tarde, u"05/03/2024 14:07:09", "everything"},
+        {u"", Momento(2024, 3, 5), u"05/03/2024", "empty is c; without time at midnight"},
+        {u"ddddd|dddddd", tarde, u"05/03/2024|05  de MARCO de 2024", "formats"},
+        {u"t|tt", tarde, u"14:07|14:07:09", "time formats"},
+        {u"\"d'd\" 'm\"m'", tarde, u"d'd m\"m", "each kind of quotes holds the other"},
+        {u"dd 'de mm", tarde, u"05 de mm", "an unclosed quote runs to the end"},
+        {u"'", tarde, u"", "a lone quote"},
+        {u"yyyy-mm-dd\U0001F600é\xD800", tarde, u"2024-03-05\U0001F600é\xD800", "others stand for themselves"},
+        {u"dd hh:nn:ss.zzz", 45355 + (1 - 1e-9), u"05 00:00:00.000", "rounds up into the next day"},
+        {u"dd/mm/yyyy hh", -1.25, u"29/12/1899 06", "before day 0"},
+        {u"dd/mm/yyyy dddd mmmm hh", 3e6 + 0.5, u"00/00/0000   12", "after year 9999: zeros and no names"},
+        {u"dd/mm/yy c", std::nan(""), u"00/00/00 00/00/0000", "not a number"},
+        {u"dd/mm/yy hh", -1e300, u"00/00/00 00", "far away"},
+    };
+    for (const auto& c : casos) EXPECT_EQ(FormatarDataHora(c.Padrao, c.Data, Brasil()), c.Esperado) << c.Porque;
+}
+
+TEST(FormatoDataHora, FormatosQueSeRepetemOuFaltam) {
+    TFormatSettings formatos = Brasil();
+    formatos.ShortDateFormat = u"dd c ddddd tt dddddd t";
+    formatos.LongTimeFormat = u"tt c hh";
+    formatos.DateSeparator = 0;
+    formatos.TimeSeparator = u'.';
+    const TDateTime data = Momento(2024, 3, 5, 14, 7);
+    EXPECT_EQ(FormatarDataHora(u"c", data, formatos), u"05        14") << "a format does not open formats";
+    EXPECT_EQ(FormatarDataHora(u"dd/mm hh:nn", data, formatos), u"0503 14.07") << "separator of code 0 is none";
+}
+
+TEST(FormatoDataHora, PadraoLongo) {
+    std::u16string padrao, esperado;
+    for (int i = 0; i < 20000; ++i) {
+        padrao += u"dd/mm hh:mm";
+        esperado += u"05/03 14:07";
+    }
+    EXPECT_EQ(FormatarDataHora(padrao, Momento(2024, 3, 5, 14, 7), Brasil()), esperado);
+    EXPECT_EQ(FormatarDataHora(std::u16string(1 << 20, u'd'), 0, Brasil()), FormatarDataHora(u"dddddd", 0, Brasil()));
+    EXPECT_EQ(FormatarDataHora(std::u16string(1 << 20, u'a'), 0, Brasil()).size(), 1u << 20);
+}
+
+TEST(FormatoDataHora, ComoStrftime) {
+    const auto semente = std::random_device{}();
+    SCOPED_TRACE(semente);
+    std::mt19937 sorteio(semente);
+    std::uniform_int_distribution dia(2, 2958465), segundo(0, 86399);
+    for (int i = 0; i < 20000; ++i) {
+        const int d = dia(sorteio), s = segundo(sorteio);
+        const TPartesData partes = DecodificarData(d);
+        std::tm campos{};
+        campos.tm_year = partes.Ano - 1900, campos.tm_mon = partes.Mes - 1, campos.tm_mday = partes.Dia;
+        campos.tm_hour = s / 3600, campos.tm_min = s / 60 % 60, campos.tm_sec = s % 60;
+        char esperado[64];
+        std::strftime(esperado, sizeof esperado, "%d/%m/%Y %y %H:%M:%S %I %p", &campos);
+        ASSERT_EQ(ParaUtf8(FormatarDataHora(u"dd/mm/yyyy yy hh:nn:ss", JuntarDataHora(d, s / 86400.0), Brasil()) +
+                           FormatarDataHora(u" hh AM/PM", s / 86400.0, Brasil())),
+                  esperado);
+    }
+}
+
+TEST(FormatoDataHora, LeDatas) {
+    TFormatSettings americanos = Brasil(), iso = Brasil(), semJanela = Brasil();
+    americanos.ShortDateFormat = u"'d' ddd mm/dd/yyyy";
+    iso.ShortDateFormat = u"yyyy/mm/dd";
+    iso.DateSeparator = u'-';
+    semJanela.TwoDigitYearCenturyWindow = 0;
+    const struct {
+        std::u16string_view Texto;
+        const TFormatSettings& Formatos;
+        std::optional<TDateTime> Esperado;  // in the year 2024
+        const char* Porque;
+    } casos[] = {
+        {u"05/03/2024", Brasil(), CodificarData(2024, 3, 5), "complete"},
+        {u" \t5/3/2024\r\n", Brasil(), CodificarData(2024, 3, 5), "blanks around, short parts"},
+        {u"5/3", Brasil(), CodificarData(2024, 3, 5), "current year"},
+        {u"5/3/73", Brasil(), CodificarData(2073, 3, 5), "last year of the window"},
+        {u"5/3/74", Brasil(), CodificarData(1974, 3, 5), "first year of the window"},
+        {u"5/3/0", Brasil(), CodificarData(2000, 3, 5), "one digit"},
+        {u"5/3/74", semJanela, CodificarData(2074, 3, 5), "no window: the current century"},
+        {u"5/3/987", Brasil(), CodificarData(987, 3, 5), "three digits are the year itself"},
+        {u"3/5/2024", americanos, CodificarData(2024, 3, 5), "month first; literal and weekday do not count"},
+        {u"3/5", americanos, CodificarData(2024, 3, 5), "month first without year"},
+        {u"2024-3-5", iso, CodificarData(2024, 3, 5), "year first"},
+        {u"3-5", iso, CodificarData(2024, 3, 5), "year first without year"},
+        {u"29/02/2024", Brasil(), CodificarData(2024, 2, 29), "leap day"},
+        {u"29/02/2023", Brasil(), std::nullopt, "no leap day"},
+        {u"31/04/2024", Brasil(), std::nullopt, "no such day"},
+        {u"1/13/2024", Brasil(), std::nullopt, "no such month"},
+        {u"1/1/0000", Brasil(), std::nullopt, "no year 0"},
+        {u"05-03-2024", Brasil(), std::nullopt, "another separator"},
+        {u"005/3/2024", Brasil(), std::nullopt, "three digits of a day"},
+        {u"5/3/02024", Brasil(), std::nullopt, "five digits of a year"},
+        {u"5/3/", Brasil(), std::nullopt, "missing part"},
+        {u"5/3/2024/", Brasil(), std::nullopt, "mark too much"},
+        {u"5/3/2024 x", Brasil(), std::nullopt, "rest"},
+        {u"5", Brasil(), std::nullopt, "one part"},
+        {u"-5/3/2024", Brasil(), std::nullopt, "sign"},
+        {u"٥/٣/2024", Brasil(), std::nullopt, "digits of another script"},
+        {u"", Brasil(), std::nullopt, "empty"},
+        {u"5/3/99999999999999999999", Brasil(), std::nullopt, "number that fits nowhere"},
+    };
+    for (const auto& c : casos) EXPECT_EQ(TentarTextoParaData(c.Texto, c.Formatos, 2024), c.Esperado) << c.Porque;
+    EXPECT_EQ(TextoParaDataPadrao(u"x", 7, Brasil()), 7);
+    EXPECT_EQ(TextoParaDataPadrao(u"5/3/2024", 7, Brasil()), CodificarData(2024, 3, 5));
+}
+
+TEST(FormatoDataHora, LeHorasEDatasComHora) {
+    const auto hora = [](int h, int m, int s = 0, int z = 0) { return std::optional(CodificarHora(h, m, s, z)); };
+    const auto data = [](TDateTime AData) { return std::optional(AData); };
+    const struct {
+        std::u16string_view Texto;
+        std::optional<TDateTime> Esperado;
+        const char* Porque;
+    } casos[] = {
+        {u"14:07", hora(14, 7), "hours and minutes"},
+        {u" 1:2:3.45 ", hora(1, 2, 3, 45), "a number of milliseconds"},
+        {u"1:2:3,450", hora(1, 2, 3, 450), "after the decimal separator"},
+        {u"12:30 am", hora(0, 30), "half past midnight"},
+        {u"12:30PM", hora(12, 30), "half past noon"},
+        {u"7:05 p", hora(19, 5), "short mark"},
+        {u"13:00 pm", std::nullopt, "no such hour with a mark"},
+        {u"0:30 am", std::nullopt, "no hour 0 with a mark"},
+        {u"24:00", std::nullopt, "no hour 24"},
+        {u"7", std::nullopt, "one part"},
+        {u"7.05", std::nullopt, "another separator"},
+        {u"1:2:3:4", std::nullopt, "milliseconds after a colon"},
+        {u"1:2:3.4567", std::nullopt, "more than milliseconds"},
+        {u"am", std::nullopt, "only a mark"},
+        {u"5/3/2024", data(Momento(2024, 3, 5)), "date alone"},
+        {u" 5/3/2024  \t 14:07:09 ", data(Momento(2024, 3, 5, 14, 7, 9)), "both"},
+        {u"5/3 7:00 pm", data(Momento(2024, 3, 5, 19)), "both with a mark"},
+        {u"14:07 5/3/2024", std::nullopt, "in the other order"},
+        {u"5/3/2024 ", data(Momento(2024, 3, 5)), "blank after"},
+        {u"5/3/2024 14", std::nullopt, "half a time"},
+        {u"", std::nullopt, "empty"},
+    };
+    for (const auto& c : casos) EXPECT_EQ(TentarTextoParaDataHora(c.Texto, Brasil(), 2024), c.Esperado) << c.Porque;
+    EXPECT_EQ(TentarTextoParaHora(u"5/3/2024", Brasil()), std::nullopt);
+}
+
+TEST(FormatoDataHora, ErrosCitamOTexto) {
+    const auto mensagem = [](auto AOperacao, const std::u16string& ATexto) {
+        try {
+            AOperacao(ATexto, Brasil());
+        } catch (const EConvertError& erro) {
+            return erro.GetMensagem();
+        }
+        return std::u16string();
+    };
+    EXPECT_EQ(mensagem(TextoParaData, u"31/02/2024"), u"'31/02/2024' não é uma data válida");
+    EXPECT_EQ(mensagem(TextoParaHora, u"25:00"), u"'25:00' não é uma hora válida");
+    EXPECT_LT(mensagem(TextoParaData, std::u16string(1 << 20, u'9')).size(), 200u) << "a megabyte is cut short";
+}
+
+TEST(FormatoDataHora, OQueEscreveLe) {
+    const auto semente = std::random_device{}();
+    SCOPED_TRACE(semente);
+    std::mt19937 sorteio(semente);
+    std::uniform_int_distribution dia(-693593, 2958465), mili(0, 86399999);
+    for (int i = 0; i < 20000; ++i) {
+        const TDateTime valor = JuntarDataHora(dia(sorteio), mili(sorteio) / 86400000.0);
+        const std::u16string texto = FormatarDataHora(u"ddddd h:nn:ss.zzz ampm", valor, Brasil());
+        ASSERT_EQ(TentarTextoParaDataHora(texto, Brasil(), 2024), valor) << ParaUtf8(texto);
+    }
+}
+
+}  // namespace
