@@ -135,7 +135,9 @@ TMotivoRecusa ConferirCodigoMunicipio(std::u16string_view ACodigo) {
     if (codigo.Motivo != mrNenhum) return codigo.Motivo;
     int soma = 0;
     for (std::size_t i = 0; i < CPesosMunicipio.size(); ++i) {
-        const int produto = TextoParaInt(codigo.GetTexto().substr(i, 1)) * CPesosMunicipio[i];
+        const int digito =
+            EhDigito(codigo.Texto[i]) ? codigo.Texto[i] - u'0' : TextoParaInt(codigo.GetTexto().substr(i, 1));
+        const int produto = digito * CPesosMunicipio[i];
         soma += produto / 10 + produto % 10;
     }
     return codigo.Texto[6] == u'0' + (10 - soma % 10) % 10 ? mrNenhum : mrDigito;
