@@ -1,0 +1,213 @@
+#include "toolkits/qt/ToolkitQt.hpp"
+
+#include "oryutils/forms/interno/FabricaQt.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
+
+#include "toolkits/qt/interno/AplicacaoQt.hpp"
+#include "toolkits/qt/interno/GuardaQt.hpp"
+#include "toolkits/qt/interno/JanelaQt.hpp"
+#include "toolkits/qt/interno/TextoQt.hpp"
+
+#include <QClipboard>
+#include <QFileDialog>
+#include <QFontInfo>
+#include <QFontMetrics>
+#include <QScreen>
+
+#include <algorithm>
+#include <limits>
+#include <type_traits>
+#include <utility>
+
+namespace OryUtils {
+namespace {
+
+static_assert(std::is_same_v<TFabricaQt, decltype(OryUtilsToolkitQt)>);
+
+// Every operation needs the application and belongs to its thread.
+QApplication& Exigir() {
+    if (!EhThreadDaAplicacao())
+        throw Exception(u"Formulários só podem ser mostrados pela thread da interface do usuário.");
+    return ExigirAplicacao();
+}
+
+// "*.*" means every file, also those without a point in the name.
+QString ParaFiltroQt(const TFiltroArquivo& AFiltro) {
+    QStringList mascaras = ParaQt(AFiltro.Mascara).split(QLatin1Char(';'), Qt::SkipEmptyParts);
+    for (QString& mascara : mascaras) mascara = mascara.trimmed() == QLatin1String("*.*") ? "*" : mascara.trimmed();
+    return ParaQt(AFiltro.Descricao) + QLatin1String(" (") + mascaras.join(QLatin1Char(' ')) + QLatin1Char(')');
+}
+
+// The chosen path; none when cancelled.
+std::optional<std::u16string> Escolher(QFileDialog& ADialogo) {
+    ADialogo.setAttribute(Qt::WA_QuitOnClose, false);
+    if (ADialogo.exec() != QDialog::Accepted || ADialogo.selectedFiles().isEmpty()) return std::nullopt;
+    return DeQt(ADialogo.selectedFiles().constFirst());
+}
+
+}  // namespace
+
+TToolkitQt::~TToolkitQt() { SetCursor(ctNormal); }
+
+void TToolkitQt::TFimDoTemporizador::operator()(QTimer* ATemporizador) const noexcept {
+    // A timer may be switched off by its own action, and after the application it needs nothing more.
+    ATemporizador->stop();
+    if (QCoreApplication::instance())
+        ATemporizador->deleteLater();
+    else
+        delete ATemporizador;
+}
+
+bool TToolkitQt::EhThreadDaInterface() const { return EhThreadDaAplicacao(); }
+
+int TToolkitQt::ExecutarModal(TFormulario& AFormulario) {
+    Exigir();
+    TJanelaQt* mostrada = nullptr;
+    TGuardaQt guarda([&] {
+        if (mostrada) mostrada->Acordar();
+    });
+    {
+        TJanelaQt janela(AFormulario);
+        mostrada = &janela;
+        janela.Executar(guarda);
+        mostrada = nullptr;
+    }
+    guarda.Relancar();
+    return AFormulario.GetModalResult();
+}
+
+void TToolkitQt::ProcessarMensagens() {
+    if (!QCoreApplication::instance() || !EhThreadDaAplicacao()) return;
+    TGuardaQt guarda([] {});
+    QCoreApplication::processEvents();
+    guarda.Relancar();
+}
+
+TTamanho TToolkitQt::MedirTexto(std::u16string_view ATexto, int ALarguraMaxima) const {
+    Exigir();
+    if (ATexto.empty()) return {};
+    const QRect espaco(0, 0, ALarguraMaxima > 0 ? ALarguraMaxima : QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    const int quebra = ALarguraMaxima > 0 ? Qt::TextWordWrap : 0;
+    const QRect medida =
+        QFontMetrics(QApplication::font()).boundingRect(espaco, Qt::AlignLeft | Qt::AlignTop | quebra, ParaQt(ATexto));
+    return {medida.width(), medida.height()};
+}
+
+int TToolkitQt::GetTamanhoFonte() const {
+    Exigir();
+    return QFontInfo(QApplication::font()).pointSize();
+}
+
+int TToolkitQt::GetPixelsPorPolegada() const {
+    Exigir();
+    const QScreen* tela = QGuiApplication::primaryScreen();
+    return tela ? qRound(tela->logicalDotsPerInch()) : 96;
+}
+
+TRetangulo TToolkitQt::GetAreaDeTrabalho() const {
+    Exigir();
+    const QScreen* tela = QGuiApplication::primaryScreen();
+    if (!tela) return {0, 0, 1024, 768};
+    const QRect area = tela->availableGeometry();
+    return {area.x(), area.y(), area.width(), area.height()};
+}
+
+std::uintptr_t TToolkitQt::LigarTemporizador(int AMilissegundos, std::function<void()> AAcao) {
+    Exigir();
+    std::unique_ptr<QTimer, TFimDoTemporizador> temporizador(new QTimer);
+    // The action is copied for each tick: it may switch its own timer off, which frees the original.
+    QObject::connect(temporizador.get(), &QTimer::timeout, temporizador.get(), [acao = std::move(AAcao)] {
+        const auto copia = acao;
+        TGuardaQt::Executar(copia);
+    });
+    temporizador->start(std::max(1, AMilissegundos));
+    FTemporizadores.emplace(++FUltimoTemporizador, std::move(temporizador));
+    return FUltimoTemporizador;
+}
+
+void TToolkitQt::DesligarTemporizador(std::uintptr_t ATemporizador) { FTemporizadores.erase(ATemporizador); }
+
+std::optional<std::u16string> TToolkitQt::EscolherArquivo(std::u16string_view APastaInicial,
+                                                          const std::vector<TFiltroArquivo>& AFiltros) {
+    Exigir();
+    QFileDialog dialogo(QApplication::activeWindow(), QStringLiteral("Abrir"), ParaQt(APastaInicial));
+    dialogo.setFileMode(QFileDialog::ExistingFile);
+    QStringList filtros;
+    for (const TFiltroArquivo& filtro : AFiltros) filtros += ParaFiltroQt(filtro);
+    if (!filtros.isEmpty()) dialogo.setNameFilters(filtros);
+    return Escolher(dialogo);
+}
+
+std::optional<std::u16string> TToolkitQt::EscolherPasta(std::u16string_view ATitulo,
+                                                        std::u16string_view APastaInicial) {
+    Exigir();
+    QFileDialog dialogo(QApplication::activeWindow(), ParaQt(ATitulo), ParaQt(APastaInicial));
+    dialogo.setFileMode(QFileDialog::Directory);
+    dialogo.setOption(QFileDialog::ShowDirsOnly);
+    return Escolher(dialogo);
+}
+
+void TToolkitQt::SetCursor(TCursorTela ACursor) {
+    const bool ampulheta = ACursor == ctAmpulheta;
+    if (FAmpulheta == ampulheta) return;
+    if (ampulheta) {
+        Exigir();
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    } else if (QCoreApplication::instance()) {
+        QGuiApplication::restoreOverrideCursor();
+    }
+    FAmpulheta = ampulheta;
+}
+
+bool TToolkitQt::EstahPressionada(std::uint16_t ATecla) const {
+    Exigir();
+    const Qt::KeyboardModifiers teclas = QGuiApplication::queryKeyboardModifiers();
+    const Qt::MouseButtons botoes = QGuiApplication::mouseButtons();
+    switch (ATecla) {
+        case 1:
+            return botoes.testFlag(Qt::LeftButton);
+        case 2:
+            return botoes.testFlag(Qt::RightButton);
+        case 4:
+            return botoes.testFlag(Qt::MiddleButton);
+        case 16:
+            return teclas.testFlag(Qt::ShiftModifier);
+        case 17:
+            return teclas.testFlag(Qt::ControlModifier);
+        case 18:
+            return teclas.testFlag(Qt::AltModifier);
+        case 91:
+            return teclas.testFlag(Qt::MetaModifier);
+        default:
+            return false;
+    }
+}
+
+void TToolkitQt::Bipar() {
+    Exigir();
+    QApplication::beep();
+}
+
+void TToolkitQt::CopiarParaAreaDeTransferencia(std::u16string_view ATexto) {
+    Exigir();
+    QGuiApplication::clipboard()->setText(ParaQt(ATexto));
+}
+
+namespace {
+
+// Never destroyed: dialogs may be shown by what runs at the very end of the program.
+TToolkitQt& BuscarToolkitQt() {
+    static auto* toolkit = new TToolkitQt;
+    return *toolkit;
+}
+
+}  // namespace
+
+void InstalarToolkitQt() { InstalarToolkit(&BuscarToolkitQt()); }
+
+}  // namespace OryUtils
+
+OryUtils::TToolkit* OryUtilsToolkitQt(int AVersao) noexcept {
+    if (AVersao != OryUtils::CVersaoDoModelo || !OryUtils::PodeCriarAplicacao()) return nullptr;
+    return &OryUtils::BuscarToolkitQt();
+}

@@ -1,0 +1,93 @@
+#include "toolkits/qt/interno/AplicacaoQt.hpp"
+
+#include "oryutils/runtime/Excecoes.hpp"
+
+#include "toolkits/qt/interno/TradutorQt.hpp"
+
+#include <QFileInfo>
+#include <QLibraryInfo>
+#include <QPluginLoader>
+#include <QThread>
+
+#include <atomic>
+#include <clocale>
+#include <cstdlib>
+#include <string>
+
+namespace OryUtils {
+namespace {
+
+QApplication* GPropria = nullptr;
+bool GEncerrada = false;
+
+// Runs while the process ends, before the globals of Qt go. An exit called by another thread, or from inside a dialog,
+// finds the application in use: then it is left to the system.
+void EncerrarAplicacao() {
+    if (!GPropria || GPropria != QCoreApplication::instance()) return;
+    if (GPropria->thread() != QThread::currentThread() || GPropria->thread()->loopLevel() > 0) return;
+    GEncerrada = true;
+    delete std::exchange(GPropria, nullptr);
+}
+
+// The name that window managers show for the program.
+std::string BuscarNomeDoPrograma() {
+    const QString programa = QFileInfo(QStringLiteral("/proc/self/exe")).symLinkTarget();
+    return programa.isEmpty() ? "oryutils" : QFileInfo(programa).fileName().toStdString();
+}
+
+void CriarAplicacao() {
+    // QApplication keeps references to both for as long as it lives.
+    static std::string nome = BuscarNomeDoPrograma();
+    static int quantidade = 1;
+    static char* argumentos[] = {nome.data(), nullptr};
+
+    // Qt switches the whole process to the user's locale. A program that only shows a message must go on reading and
+    // writing its numbers as before; the character set may stay, input methods need it.
+    const std::string anterior = std::setlocale(LC_ALL, nullptr);
+    GPropria = new QApplication(quantidade, argumentos);
+    const std::string caracteres = std::setlocale(LC_CTYPE, nullptr);
+    std::setlocale(LC_ALL, anterior.c_str());
+    std::setlocale(LC_CTYPE, caracteres.c_str());
+
+    GPropria->setQuitOnLastWindowClosed(false);
+    QCoreApplication::installTranslator(new TTradutorQt(GPropria));
+    std::atexit(EncerrarAplicacao);
+}
+
+bool Carrega(const char* APlugin) {
+    const QString pasta = QLibraryInfo::path(QLibraryInfo::PluginsPath) + QLatin1String("/platforms/");
+    return QPluginLoader(pasta + QLatin1String(APlugin)).load();
+}
+
+}  // namespace
+
+QApplication& ExigirAplicacao() {
+    if (!QCoreApplication::instance()) {
+        if (GEncerrada) throw Exception(u"A interface do usuário já foi encerrada.");
+        CriarAplicacao();
+    }
+    auto* aplicacao = qobject_cast<QApplication*>(QCoreApplication::instance());
+    if (!aplicacao) throw Exception(u"A aplicação não possui interface gráfica (QApplication).");
+    return *aplicacao;
+}
+
+bool PodeCriarAplicacao() {
+    if (const QCoreApplication* atual = QCoreApplication::instance()) return qobject_cast<const QApplication*>(atual);
+    if (GEncerrada) return false;
+    // A platform named by the user, or plug-ins kept elsewhere, are the user's word.
+    for (const char* variavel : {"QT_QPA_PLATFORM", "QT_QPA_PLATFORM_PLUGIN_PATH", "QT_PLUGIN_PATH"})
+        if (!qEnvironmentVariableIsEmpty(variavel)) return true;
+    const bool x11 = !qEnvironmentVariableIsEmpty("DISPLAY") && Carrega("libqxcb.so");
+    return x11 || (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") && Carrega("libqwayland-generic.so"));
+}
+
+bool EhThreadDaAplicacao() {
+    const QCoreApplication* aplicacao = QCoreApplication::instance();
+    if (aplicacao) return aplicacao->thread() == QThread::currentThread();
+    static std::atomic<Qt::HANDLE> primeira = nullptr;
+    const Qt::HANDLE atual = QThread::currentThreadId();
+    Qt::HANDLE esperada = nullptr;
+    return primeira.compare_exchange_strong(esperada, atual) || esperada == atual;
+}
+
+}  // namespace OryUtils

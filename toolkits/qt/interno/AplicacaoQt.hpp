@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QApplication>
+
+namespace OryUtils {
+
+/// The process's QApplication: the host's, else one of the toolkit's own, created now. Raises Exception when the host
+/// has an application object without a graphical interface, and after the toolkit's own one has gone.
+QApplication& ExigirAplicacao();
+
+/// True when ExigirAplicacao would succeed: with Qt, an application object that finds no usable platform plug-in ends
+/// the whole process, so this looks first. That the display answers is for the caller to know.
+bool PodeCriarAplicacao();
+
+/// The application's thread; before there is an application, the thread that first asked.
+bool EhThreadDaAplicacao();
+
+}  // namespace OryUtils

@@ -1,0 +1,374 @@
+#include "toolkits/qt/interno/JanelaQt.hpp"
+
+#include "toolkits/qt/interno/GrupoOpcoesQt.hpp"
+#include "toolkits/qt/interno/GuardaQt.hpp"
+#include "toolkits/qt/interno/TeclasQt.hpp"
+#include "toolkits/qt/interno/TextoQt.hpp"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QStyle>
+#include <QWindow>
+
+#include <utility>
+
+namespace OryUtils {
+namespace {
+
+// Tells the end of a loop by its window from the end of the application.
+constexpr int CAcordado = 0x0AC0;
+
+QRect DeRetangulo(const TRetangulo& ARetangulo) {
+    return {ARetangulo.Left, ARetangulo.Top, ARetangulo.Width, ARetangulo.Height};
+}
+
+QStyle::StandardPixmap BuscarIcone(int AId) {
+    switch (AId) {
+        case 32513:
+            return QStyle::SP_MessageBoxCritical;
+        case 32514:
+            return QStyle::SP_MessageBoxQuestion;
+        case 32515:
+            return QStyle::SP_MessageBoxWarning;
+        default:
+            return QStyle::SP_MessageBoxInformation;
+    }
+}
+
+// The tipo of a control says its class.
+template <typename T>
+T& Como(TControleFormulario& AControle) {
+    return static_cast<T&>(AControle);
+}
+
+}  // namespace
+
+TJanelaQt::TJanelaQt(TFormulario& AFormulario)
+    : QDialog(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                           Qt::WindowCloseButtonHint),
+      FFormulario(AFormulario) {
+    // A dialog that is the last window must not end the host's application.
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setWindowModality(Qt::ApplicationModal);
+    setWindowTitle(ParaQt(AFormulario.GetTitulo()));
+    for (const auto& controle : AFormulario.GetControles()) Realizar(*controle);
+    OrdenarTabulacao();
+    AplicarTamanho();
+    installEventFilter(this);
+    AFormulario.SetJanela(this);
+}
+
+TJanelaQt::~TJanelaQt() {
+    GravarMemorandos();
+    FFormulario.SetJanela(nullptr);
+    FControles.clear();  // what the widgets still tell while they go has no listener
+}
+
+void TJanelaQt::Executar(TGuardaQt& AGuarda) {
+    // Above the host's window, without belonging to it: the host may free that window meanwhile.
+    const QPointer<QWidget> ativa = QApplication::activeWindow();
+    winId();
+    if (ativa && ativa->window()->windowHandle()) windowHandle()->setTransientParent(ativa->window()->windowHandle());
+    FocarInicial();
+    show();
+    activateWindow();
+    Avisar([this] { FFormulario.OnShow(&FFormulario); });
+    while (FFormulario.GetModalResult() == mrNone && !AGuarda.PossuiErro()) {
+        QEventLoop laco;
+        FLaco = &laco;
+        const bool acordado = laco.exec(QEventLoop::DialogExec) == CAcordado;
+        FLaco = nullptr;
+        if (!acordado) FFormulario.Fechar();  // the application quits
+    }
+    hide();
+    if (ativa && ativa->isVisible()) ativa->activateWindow();
+}
+
+void TJanelaQt::Acordar() {
+    if (FLaco) FLaco->exit(CAcordado);
+}
+
+void TJanelaQt::ResultadoMudou() {
+    if (FFormulario.GetModalResult() != mrNone) Acordar();
+}
+
+void TJanelaQt::Mudou(TControleFormulario& AControle, TMudanca AMudanca) {
+    QWidget* widget = Buscar(AControle);
+    if (!widget) {
+        Realizar(AControle);
+        OrdenarTabulacao();
+        return;
+    }
+    if (AMudanca == mdTexto) AplicarTexto(AControle, *widget);
+    if (AMudanca == mdFoco) return Focar(AControle);
+    Aplicar(AControle, *widget);
+    if (AMudanca == mdItens) OrdenarTabulacao();
+    if (AMudanca == mdSelecao && AControle.GetTipo() == tcCaixaEdicao) static_cast<QLineEdit*>(widget)->selectAll();
+}
+
+void TJanelaQt::MudouFormulario(TMudanca AMudanca) {
+    if (AMudanca == mdTexto) setWindowTitle(ParaQt(FFormulario.GetTitulo()));
+    if (AMudanca == mdPosicao) AplicarTamanho();
+}
+
+QWidget* TJanelaQt::Buscar(const TControleFormulario& AControle) const {
+    const auto achado = FWidgets.find(&AControle);
+    return achado == FWidgets.end() ? nullptr : achado->second;
+}
+
+void TJanelaQt::Realizar(TControleFormulario& AControle) {
+    QWidget* widget = Criar(AControle);
+    FWidgets.emplace(&AControle, widget);
+    Vigiar(*widget, AControle);
+    AplicarTexto(AControle, *widget);
+    Aplicar(AControle, *widget);
+    if (AControle.GetTipo() == tcCaixaEdicao && Como<TCaixaEdicao>(AControle).GetSelecionarTudo())
+        static_cast<QLineEdit*>(widget)->selectAll();
+}
+
+QWidget* TJanelaQt::Criar(TControleFormulario& AControle) {
+    switch (AControle.GetTipo()) {
+        case tcRotulo: {
+            auto* rotulo = new QLabel(this);
+            rotulo->setTextFormat(Qt::PlainText);
+            rotulo->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+            return rotulo;
+        }
+        case tcIcone:
+            return new QLabel(this);
+        case tcBotao: {
+            auto* botao = new QPushButton(this);
+            botao->setAutoDefault(false);
+            connect(botao, &QPushButton::clicked, this,
+                    [this, &AControle] { Avisar([&] { Como<TBotao>(AControle).Clicar(); }); });
+            return botao;
+        }
+        case tcGrupoOpcoes:
+            return new TGrupoOpcoesQt(
+                this, [&AControle](int AIndice) { Como<TGrupoOpcoes>(AControle).AceitarIndice(AIndice); });
+        case tcCaixaChecagem: {
+            auto* caixa = new QCheckBox(this);
+            connect(caixa, &QCheckBox::toggled, this,
+                    [&AControle](bool AMarcada) { Como<TCaixaChecagem>(AControle).AceitarMarcada(AMarcada); });
+            return caixa;
+        }
+        case tcCaixaEdicao: {
+            auto* caixa = new QLineEdit(this);
+            connect(caixa, &QLineEdit::textEdited, this, [this, &AControle](const QString& ATexto) {
+                AControle.AceitarTexto(DeQt(ATexto));
+                Avisar([&] { Como<TCaixaEdicao>(AControle).OnMudar(&AControle); });
+            });
+            return caixa;
+        }
+        case tcMemorando:
+            break;
+    }
+    auto* memorando = new QPlainTextEdit(this);
+    memorando->setTabChangesFocus(true);
+    memorando->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    return memorando;
+}
+
+// Keys and focus of a control pass through eventFilter.
+void TJanelaQt::Vigiar(QWidget& AWidget, TControleFormulario& AControle) {
+    FControles.emplace(&AWidget, &AControle);
+    AWidget.installEventFilter(this);
+}
+
+void TJanelaQt::Aplicar(TControleFormulario& AControle, QWidget& AWidget) {
+    AWidget.setGeometry(DeRetangulo(AControle.GetRetangulo()));
+    AWidget.setEnabled(AControle.GetHabilitado());
+    AWidget.setVisible(AControle.GetVisivel());
+    switch (AControle.GetTipo()) {
+        case tcRotulo:
+            static_cast<QLabel&>(AWidget).setWordWrap(Como<TRotulo>(AControle).GetQuebraLinha());
+            break;
+        case tcIcone: {
+            const int id = Como<TIcone>(AControle).GetIdIcone();
+            const QSize tamanho = AWidget.size();
+            static_cast<QLabel&>(AWidget).setPixmap(
+                id == 0 ? QPixmap() : style()->standardIcon(BuscarIcone(id), nullptr, this).pixmap(tamanho));
+            break;
+        }
+        case tcBotao:
+            static_cast<QPushButton&>(AWidget).setDefault(Como<TBotao>(AControle).GetPadrao());
+            break;
+        case tcGrupoOpcoes: {
+            auto& modelo = Como<TGrupoOpcoes>(AControle);
+            auto& grupo = static_cast<TGrupoOpcoesQt&>(AWidget);
+            grupo.SetQuebraLinha(modelo.GetQuebraLinha());
+            for (QRadioButton* novo : grupo.CompletarItens(modelo.GetItens())) Vigiar(*novo, AControle);
+            grupo.Escolher(modelo.GetIndice());
+            break;
+        }
+        case tcCaixaChecagem:
+            static_cast<QCheckBox&>(AWidget).setChecked(Como<TCaixaChecagem>(AControle).GetMarcada());
+            break;
+        case tcCaixaEdicao:
+            break;
+        case tcMemorando:
+            static_cast<QPlainTextEdit&>(AWidget).setReadOnly(Como<TMemorando>(AControle).GetSomenteLeitura());
+            break;
+    }
+}
+
+void TJanelaQt::AplicarTexto(const TControleFormulario& AControle, QWidget& AWidget) {
+    const QString texto = ParaQt(AControle.GetTexto());
+    switch (AControle.GetTipo()) {
+        case tcRotulo:
+            static_cast<QLabel&>(AWidget).setText(texto);
+            break;
+        case tcBotao:
+            static_cast<QPushButton&>(AWidget).setText(texto);
+            break;
+        case tcCaixaChecagem:
+            static_cast<QCheckBox&>(AWidget).setText(texto);
+            break;
+        case tcGrupoOpcoes:
+            static_cast<QGroupBox&>(AWidget).setTitle(texto);
+            break;
+        case tcCaixaEdicao:
+            static_cast<QLineEdit&>(AWidget).setText(texto);
+            break;
+        case tcMemorando: {
+            auto& memorando = static_cast<QPlainTextEdit&>(AWidget);
+            memorando.setPlainText(texto);
+            memorando.document()->setModified(false);
+            break;
+        }
+        case tcIcone:
+            break;
+    }
+}
+
+void TJanelaQt::AplicarTamanho() {
+    const QSize cliente(FFormulario.GetLarguraCliente(), FFormulario.GetAlturaCliente());
+    if (FFormulario.EstiloBorda == ebDialogo)
+        setFixedSize(cliente);
+    else
+        resize(cliente);
+    const QScreen* tela = QGuiApplication::primaryScreen();
+    if (FFormulario.Posicao == pfDesenhada)
+        move(FFormulario.GetPosicao().Left, FFormulario.GetPosicao().Top);
+    else if (tela)
+        move(tela->availableGeometry().center() - QPoint(cliente.width() / 2, cliente.height() / 2));
+}
+
+void TJanelaQt::OrdenarTabulacao() {
+    QWidget* anterior = nullptr;
+    const auto encadear = [&](QWidget* AWidget) {
+        if (anterior) setTabOrder(anterior, AWidget);
+        anterior = AWidget;
+    };
+    for (const auto& controle : FFormulario.GetControles()) {
+        QWidget* widget = Buscar(*controle);
+        if (controle->GetTipo() == tcGrupoOpcoes) {
+            for (QRadioButton* botao : static_cast<TGrupoOpcoesQt*>(widget)->GetBotoes()) encadear(botao);
+        } else if (widget && widget->focusPolicy() != Qt::NoFocus) {
+            encadear(widget);
+        }
+    }
+}
+
+void TJanelaQt::Focar(const TControleFormulario& AControle) {
+    QWidget* widget = Buscar(AControle);
+    if (widget && AControle.GetTipo() == tcGrupoOpcoes) widget = static_cast<TGrupoOpcoesQt*>(widget)->GetBotaoDeFoco();
+    if (widget && AControle.PodeReceberFoco()) widget->setFocus(Qt::OtherFocusReason);
+}
+
+void TJanelaQt::FocarInicial() {
+    TControleFormulario* ativo = FFormulario.GetControleAtivo();
+    if (!ativo || !ativo->PodeReceberFoco()) {
+        ativo = nullptr;
+        for (const auto& controle : FFormulario.GetControles())
+            if (!ativo && controle->PodeReceberFoco()) ativo = controle.get();
+    }
+    if (!ativo) return;
+    FFormulario.AceitarControleAtivo(ativo);
+    Focar(*ativo);
+}
+
+void TJanelaQt::GravarMemorandos() {
+    for (const auto& controle : FFormulario.GetControles()) {
+        if (controle->GetTipo() != tcMemorando) continue;
+        auto* memorando = static_cast<QPlainTextEdit*>(Buscar(*controle));
+        if (!memorando || !memorando->document()->isModified()) continue;
+        controle->AceitarTexto(DeLinhasQt(memorando->toPlainText()));
+        memorando->document()->setModified(false);
+    }
+}
+
+// The focus has left these boxes. Told once the change of focus is complete, since a handler may move the focus again
+// or show a message; but always before whatever the user did next.
+bool TJanelaQt::AvisarSaidas() {
+    GravarMemorandos();
+    for (TCaixaEdicao* caixa : std::exchange(FSaidas, {}))
+        if (!TGuardaQt::Executar([&] { caixa->OnSair(caixa); })) return false;
+    return true;
+}
+
+void TJanelaQt::Avisar(const std::function<void()>& AAcao) {
+    // A box that refuses to be left (EAbort) stops the click that left it.
+    if (AvisarSaidas()) TGuardaQt::Executar(AAcao);
+}
+
+void TJanelaQt::closeEvent(QCloseEvent* AEvento) {
+    AEvento->ignore();  // the loop hides the window, once the form agrees
+    FFormulario.Fechar();
+}
+
+void TJanelaQt::resizeEvent(QResizeEvent* AEvento) {
+    QDialog::resizeEvent(AEvento);
+    if (isVisible()) Avisar([this] { FFormulario.AoRedimensionar(width(), height()); });
+}
+
+// Enter and Esc have been through the form's own rules; the dialog's would answer them a second time.
+void TJanelaQt::keyPressEvent(QKeyEvent* AEvento) { AEvento->ignore(); }
+
+bool TJanelaQt::eventFilter(QObject* AObjeto, QEvent* AEvento) {
+    const auto achado = FControles.find(AObjeto);
+    TControleFormulario* controle = achado == FControles.end() ? nullptr : achado->second;
+    switch (AEvento->type()) {
+        case QEvent::ShortcutOverride:
+        case QEvent::KeyRelease:
+            FTeclaTratada = nullptr;
+            break;
+        case QEvent::KeyPress:
+            return TratarTeclaQt(*AEvento);
+        case QEvent::FocusIn:
+            if (controle) FFormulario.AceitarControleAtivo(controle);
+            break;
+        case QEvent::FocusOut: {
+            // A window or a menu that comes to the front takes nothing away from the form's own control.
+            const Qt::FocusReason motivo = static_cast<QFocusEvent*>(AEvento)->reason();
+            const bool sai = motivo != Qt::ActiveWindowFocusReason && motivo != Qt::PopupFocusReason;
+            if (!controle || !sai || controle->GetTipo() != tcCaixaEdicao) break;
+            FSaidas.push_back(static_cast<TCaixaEdicao*>(controle));
+            QMetaObject::invokeMethod(
+                this, [this] { AvisarSaidas(); }, Qt::QueuedConnection);
+            break;
+        }
+        default:
+            break;
+    }
+    return QDialog::eventFilter(AObjeto, AEvento);
+}
+
+bool TJanelaQt::TratarTeclaQt(const QEvent& AEvento) {
+    if (FTeclaTratada == &AEvento) return false;
+    FTeclaTratada = &AEvento;
+    TTecla tecla = DeEventoQt(static_cast<const QKeyEvent&>(AEvento));
+    bool tratada = true;  // also when a handler raised
+    if (tecla.Codigo == 0) return false;
+    Avisar([&] { tratada = FFormulario.TratarTecla(tecla); });
+    return tratada;
+}
+
+}  // namespace OryUtils

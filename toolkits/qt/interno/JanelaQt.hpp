@@ -1,0 +1,63 @@
+#pragma once
+
+#include "oryutils/forms/Formulario.hpp"
+
+#include <QDialog>
+#include <QEventLoop>
+
+#include <functional>
+#include <unordered_map>
+#include <vector>
+
+namespace OryUtils {
+
+class TGuardaQt;
+
+/// The native window of a shown form.
+class TJanelaQt final : public QDialog, public TJanela {
+public:
+    explicit TJanelaQt(TFormulario& AFormulario);
+    ~TJanelaQt() override;
+
+    /// Shows the window and runs it until the form has a modal result, AGuarda an exception, or the application quits.
+    void Executar(TGuardaQt& AGuarda);
+    /// Leaves the innermost loop of this window.
+    void Acordar();
+
+    void Mudou(TControleFormulario& AControle, TMudanca AMudanca) override;
+    void MudouFormulario(TMudanca AMudanca) override;
+    void ResultadoMudou() override;
+
+protected:
+    void closeEvent(QCloseEvent* AEvento) override;
+    void resizeEvent(QResizeEvent* AEvento) override;
+    void keyPressEvent(QKeyEvent* AEvento) override;
+    bool eventFilter(QObject* AObjeto, QEvent* AEvento) override;
+
+private:
+    QWidget* Buscar(const TControleFormulario& AControle) const;
+    void Realizar(TControleFormulario& AControle);
+    QWidget* Criar(TControleFormulario& AControle);
+    void Vigiar(QWidget& AWidget, TControleFormulario& AControle);
+    void Aplicar(TControleFormulario& AControle, QWidget& AWidget);
+    void AplicarTexto(const TControleFormulario& AControle, QWidget& AWidget);
+    void AplicarTamanho();
+    void OrdenarTabulacao();
+    void Focar(const TControleFormulario& AControle);
+    void FocarInicial();
+    void GravarMemorandos();
+    /// Runs a handler of the form with the model up to date.
+    void Avisar(const std::function<void()>& AAcao);
+    bool AvisarSaidas();
+    bool TratarTeclaQt(const QEvent& AEvento);
+
+    TFormulario& FFormulario;
+    std::unordered_map<const TControleFormulario*, QWidget*> FWidgets;
+    std::unordered_map<const QObject*, TControleFormulario*> FControles;
+    // A key that a control leaves alone is offered to its parents as the same event: this tells it from a new one.
+    const QEvent* FTeclaTratada = nullptr;
+    QEventLoop* FLaco = nullptr;
+    std::vector<TCaixaEdicao*> FSaidas;
+};
+
+}  // namespace OryUtils
