@@ -1,0 +1,43 @@
+#include "oryutils/forms/win32/interno/DesabilitarJanelas.hpp"
+
+namespace OryUtils::Win32 {
+namespace {
+
+bool Responde(HWND AJanela) { return ::IsWindowVisible(AJanela) && ::IsWindowEnabled(AJanela); }
+
+}  // namespace
+
+TDesabilitarJanelas::TDesabilitarJanelas(HWND AExceto) : FExceto(AExceto) {
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND AJanela, LPARAM AAlvo) -> BOOL {
+            auto& alvo = *reinterpret_cast<TDesabilitarJanelas*>(AAlvo);
+            if (AJanela != alvo.FExceto && Responde(AJanela)) {
+                ::EnableWindow(AJanela, FALSE);
+                alvo.FJanelas.push_back(AJanela);
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(this));
+}
+
+TDesabilitarJanelas::~TDesabilitarJanelas() {
+    for (HWND janela : FJanelas)
+        if (::IsWindow(janela)) ::EnableWindow(janela, TRUE);
+}
+
+HWND BuscarDona() {
+    if (HWND ativa = ::GetActiveWindow()) return ativa;
+    HWND dona = nullptr;
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND AJanela, LPARAM ADona) -> BOOL {
+            if (!Responde(AJanela)) return TRUE;
+            *reinterpret_cast<HWND*>(ADona) = AJanela;
+            return FALSE;
+        },
+        reinterpret_cast<LPARAM>(&dona));
+    return dona;
+}
+
+}  // namespace OryUtils::Win32

@@ -1,0 +1,47 @@
+#include "oryutils/forms/win32/interno/LacoDeMensagens.hpp"
+
+#include "oryutils/forms/win32/interno/JanelaWin32.hpp"
+
+#include <algorithm>
+
+namespace OryUtils::Win32 {
+
+void TLacoDeMensagens::Despachar(MSG& AMensagem) {
+    const auto alvo = std::find_if(Janelas.rbegin(), Janelas.rend(), [&](const TJanelaWin32* AJanela) {
+        const HWND janela = AJanela->GetHandle();
+        return janela && (AMensagem.hwnd == janela || ::IsChild(janela, AMensagem.hwnd));
+    });
+    const bool gasta = alvo != Janelas.rend() &&
+                       ((*alvo)->TratarTecla(AMensagem) || ::IsDialogMessageW((*alvo)->GetHandle(), &AMensagem));
+    if (!gasta) {
+        ::TranslateMessage(&AMensagem);
+        ::DispatchMessageW(&AMensagem);
+    }
+    if (!Janelas.empty()) Janelas.back()->AcompanharFoco();
+}
+
+void TLacoDeMensagens::Bombear() {
+    std::exception_ptr excecao;
+    {
+        const TNaPilha<std::exception_ptr*> destino(Destinos, &excecao);
+        MSG mensagem;
+        while (!excecao && ::PeekMessageW(&mensagem, nullptr, 0, 0, PM_REMOVE)) {
+            if (mensagem.message == WM_QUIT) {
+                // It ends the loops below this one, not only this turn.
+                ::PostQuitMessage(static_cast<int>(mensagem.wParam));
+                break;
+            }
+            Despachar(mensagem);
+        }
+    }
+    if (excecao) std::rethrow_exception(excecao);
+}
+
+HINSTANCE BuscarModulo() noexcept {
+    HMODULE modulo = nullptr;
+    ::GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                         reinterpret_cast<LPCWSTR>(&BuscarModulo), &modulo);
+    return modulo;
+}
+
+}  // namespace OryUtils::Win32

@@ -1,0 +1,130 @@
+#include "oryutils/forms/win32/ToolkitWin32.hpp"
+
+#include "oryutils/forms/win32/interno/JanelaWin32.hpp"
+#include "oryutils/forms/win32/interno/LacoDeMensagens.hpp"
+#include "oryutils/forms/win32/interno/Seletores.hpp"
+#include "oryutils/forms/win32/interno/Temporizadores.hpp"
+#include "oryutils/forms/win32/interno/TextoNativo.hpp"
+
+#include <algorithm>
+#include <commctrl.h>
+#include <utility>
+
+namespace OryUtils {
+namespace {
+
+const DWORD GThreadDeCarga = ::GetCurrentThreadId();
+
+// Numbers of the system's cursors.
+constexpr WORD CCursorSeta = 32512;
+constexpr WORD CCursorAmpulheta = 32514;
+
+// Other programs keep the clipboard for an instant at a time.
+constexpr int CTentativasAreaDeTransferencia = 10;
+constexpr DWORD CEsperaAreaDeTransferencia = 10;
+
+bool AbrirAreaDeTransferencia(HWND AJanela) {
+    for (int i = 0; i < CTentativasAreaDeTransferencia; ++i) {
+        if (::OpenClipboard(AJanela)) return true;
+        ::Sleep(CEsperaAreaDeTransferencia);
+    }
+    return false;
+}
+
+}  // namespace
+
+struct TToolkitWin32::TPartes {
+    Win32::TFonteDialogo Fonte;
+    Win32::TLacoDeMensagens Laco;
+    Win32::TTemporizadores Temporizadores{Laco};
+};
+
+TToolkitWin32::TToolkitWin32(unsigned long AThread) : FThread(AThread ? AThread : ::GetCurrentThreadId()) {
+    INITCOMMONCONTROLSEX classes{sizeof classes, ICC_STANDARD_CLASSES};
+    ::InitCommonControlsEx(&classes);
+    FPartes = std::make_unique<TPartes>();
+}
+
+TToolkitWin32::~TToolkitWin32() = default;
+
+bool TToolkitWin32::HaAreaDeTrabalho() {
+    USEROBJECTFLAGS sinais{};
+    if (::GetUserObjectInformationW(::GetProcessWindowStation(), UOI_FLAGS, &sinais, sizeof sinais, nullptr) &&
+        !(sinais.dwFlags & WSF_VISIBLE))
+        return false;
+    // A visible station may still have no desktop for this process: a hidden window tells.
+    const HWND janela =
+        ::CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, Win32::BuscarModulo(), nullptr);
+    if (!janela) return false;
+    ::DestroyWindow(janela);
+    return true;
+}
+
+unsigned long TToolkitWin32::GetThreadDeCarga() noexcept { return GThreadDeCarga; }
+
+bool TToolkitWin32::EhThreadDaInterface() const { return ::GetCurrentThreadId() == FThread; }
+
+int TToolkitWin32::ExecutarModal(TFormulario& AFormulario) {
+    Win32::TJanelaWin32 janela(AFormulario, FPartes->Laco, FPartes->Fonte);
+    return janela.Executar();
+}
+
+void TToolkitWin32::ProcessarMensagens() { FPartes->Laco.Bombear(); }
+
+TTamanho TToolkitWin32::MedirTexto(std::u16string_view ATexto, int ALarguraMaxima) const {
+    return FPartes->Fonte.Medir(ATexto, ALarguraMaxima);
+}
+
+int TToolkitWin32::GetTamanhoFonte() const { return FPartes->Fonte.GetPontos(); }
+
+int TToolkitWin32::GetPixelsPorPolegada() const { return FPartes->Fonte.GetPixelsPorPolegada(); }
+
+TRetangulo TToolkitWin32::GetAreaDeTrabalho() const {
+    RECT area{};
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+    return {static_cast<int>(area.left), static_cast<int>(area.top), static_cast<int>(area.right - area.left),
+            static_cast<int>(area.bottom - area.top)};
+}
+
+std::uintptr_t TToolkitWin32::LigarTemporizador(int AMilissegundos, std::function<void()> AAcao) {
+    return FPartes->Temporizadores.Ligar(AMilissegundos, std::move(AAcao));
+}
+
+void TToolkitWin32::DesligarTemporizador(std::uintptr_t ATemporizador) {
+    FPartes->Temporizadores.Desligar(ATemporizador);
+}
+
+std::optional<std::u16string> TToolkitWin32::EscolherArquivo(std::u16string_view APastaInicial,
+                                                             const std::vector<TFiltroArquivo>& AFiltros) {
+    return Win32::EscolherArquivo(APastaInicial, AFiltros);
+}
+
+std::optional<std::u16string> TToolkitWin32::EscolherPasta(std::u16string_view ATitulo,
+                                                           std::u16string_view APastaInicial) {
+    return Win32::EscolherPasta(ATitulo, APastaInicial);
+}
+
+void TToolkitWin32::SetCursor(TCursorTela ACursor) {
+    const HCURSOR ampulheta = ::LoadCursorW(nullptr, MAKEINTRESOURCEW(CCursorAmpulheta));
+    FPartes->Laco.Cursor = ACursor == ctAmpulheta ? ampulheta : nullptr;
+    ::SetCursor(ACursor == ctAmpulheta ? ampulheta : ::LoadCursorW(nullptr, MAKEINTRESOURCEW(CCursorSeta)));
+}
+
+bool TToolkitWin32::EstahPressionada(std::uint16_t ATecla) const { return (::GetAsyncKeyState(ATecla) & 0x8000) != 0; }
+
+void TToolkitWin32::Bipar() { ::MessageBeep(MB_OK); }
+
+void TToolkitWin32::CopiarParaAreaDeTransferencia(std::u16string_view ATexto) {
+    const std::u16string texto = Win32::ParaNativo(ATexto);
+    if (!AbrirAreaDeTransferencia(FPartes->Temporizadores.GetJanela())) return;
+    ::EmptyClipboard();
+    if (HGLOBAL memoria = ::GlobalAlloc(GMEM_MOVEABLE, (texto.size() + 1) * sizeof(char16_t))) {
+        std::copy_n(texto.c_str(), texto.size() + 1, static_cast<char16_t*>(::GlobalLock(memoria)));
+        ::GlobalUnlock(memoria);
+        // From here on the memory is the clipboard's, unless it was refused.
+        if (!::SetClipboardData(CF_UNICODETEXT, memoria)) ::GlobalFree(memoria);
+    }
+    ::CloseClipboard();
+}
+
+}  // namespace OryUtils

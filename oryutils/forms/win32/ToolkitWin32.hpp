@@ -1,0 +1,53 @@
+#pragma once
+
+#include "oryutils/OryExport.hpp"
+#include "oryutils/forms/Toolkit.hpp"
+
+#include <memory>
+
+namespace OryUtils {
+
+/// Forms as windows of class "TOryFormulario" with the system's own controls, font and icons. Sizes of the model are
+/// pixels of the screen.
+///
+/// While a form runs, the other windows of the thread take no input. An exception of an event handler ends the
+/// form and is raised by its ExecutarModal; EAbort ends only the handler. An exception of a timer's action goes to the
+/// innermost loop of this toolkit, or is shown to the user when only the host's own loop is running.
+class ORY_API TToolkitWin32 final : public TToolkit {
+public:
+    /// AThread  the system's number of the thread that shows forms; 0 is the calling thread
+    explicit TToolkitWin32(unsigned long AThread = 0);
+    ~TToolkitWin32() override;
+
+    /// Whether this process can show windows: false in a service or a batch without a desktop.
+    static bool HaAreaDeTrabalho();
+    /// The thread that loaded the library: the program's main thread, as a rule.
+    static unsigned long GetThreadDeCarga() noexcept;
+
+    const char* GetNome() const noexcept override { return "win32"; }
+    bool EhThreadDaInterface() const override;
+    int ExecutarModal(TFormulario& AFormulario) override;
+    void ProcessarMensagens() override;
+    TTamanho MedirTexto(std::u16string_view ATexto, int ALarguraMaxima) const override;
+    int GetTamanhoFonte() const override;
+    int GetPixelsPorPolegada() const override;
+    TRetangulo GetAreaDeTrabalho() const override;
+    std::uintptr_t LigarTemporizador(int AMilissegundos, std::function<void()> AAcao) override;
+    void DesligarTemporizador(std::uintptr_t ATemporizador) override;
+    std::optional<std::u16string> EscolherArquivo(std::u16string_view APastaInicial,
+                                                  const std::vector<TFiltroArquivo>& AFiltros) override;
+    std::optional<std::u16string> EscolherPasta(std::u16string_view ATitulo,
+                                                std::u16string_view APastaInicial) override;
+    void SetCursor(TCursorTela ACursor) override;
+    bool EstahPressionada(std::uint16_t ATecla) const override;
+    void Bipar() override;
+    /// Copies nothing when another program keeps the clipboard open.
+    void CopiarParaAreaDeTransferencia(std::u16string_view ATexto) override;
+
+private:
+    struct TPartes;
+    unsigned long FThread;
+    std::unique_ptr<TPartes> FPartes;
+};
+
+}  // namespace OryUtils

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "oryutils/forms/Controles.hpp"
+#include "oryutils/forms/win32/interno/FonteDialogo.hpp"
+#include "oryutils/platform/windows/Windows.hpp"
+
+#include <vector>
+
+namespace OryUtils::Win32 {
+
+/// The native side of one control of the model: one window, and for a group one more for each option.
+class TControleNativo {
+public:
+    TControleNativo(TControleFormulario& AModelo, HWND AFormulario, const TFonteDialogo& AFonte, int AId,
+                    bool AIniciaGrupo);
+
+    TControleFormulario& GetModelo() const noexcept { return *FModelo; }
+    HWND GetHandle() const noexcept { return FJanela; }
+    /// Where the focus goes: the window itself, or the chosen option of a group.
+    HWND GetAlvoDoFoco() const noexcept;
+    bool Possui(HWND AJanela) const noexcept;
+    /// The windows in tab order.
+    std::vector<HWND> GetJanelas() const;
+
+    /// Brings the native side up to date with the model.
+    void Atualizar(unsigned AMudancas);
+    /// Reads what the user did into the model.
+    void Ler();
+    /// The user changed the text; a memo is read only when somebody asks, since its text may be long.
+    void MarcarTextoMudado() noexcept { FTextoMudou = true; }
+    /// A push button drawn as the one that Enter presses.
+    void DesenharComoPadrao(bool APadrao);
+
+private:
+    HWND Criar(const wchar_t* AClasse, DWORD AEstilo, DWORD AEstiloEstendido, int AId) const;
+    void CriarOpcoes();
+    void PosicionarOpcoes();
+    void AtualizarSelecao();
+
+    TControleFormulario* FModelo;
+    HWND FFormulario;
+    const TFonteDialogo* FFonte;
+    HWND FJanela = nullptr;
+    std::vector<HWND> FOpcoes;
+    bool FTextoMudou = false;
+};
+
+}  // namespace OryUtils::Win32

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "oryutils/forms/Controles.hpp"
+#include "oryutils/platform/windows/Windows.hpp"
+
+#include <string_view>
+
+namespace OryUtils::Win32 {
+
+/// The font in which the system shows messages, and measures of text in it.
+class TFonteDialogo {
+public:
+    TFonteDialogo();
+    ~TFonteDialogo();
+    TFonteDialogo(const TFonteDialogo&) = delete;
+    TFonteDialogo& operator=(const TFonteDialogo&) = delete;
+
+    HFONT GetHandle() const noexcept { return FFonte; }
+    int GetPixelsPorPolegada() const noexcept { return FPixelsPorPolegada; }
+    int GetPontos() const noexcept { return FPontos; }
+    int GetAlturaLinha() const noexcept { return FAlturaLinha; }
+    /// ALarguraMaxima above 0 wraps at words, and inside words longer than it.
+    TTamanho Medir(std::u16string_view ATexto, int ALarguraMaxima) const;
+
+private:
+    HFONT FFonte = nullptr;
+    int FPixelsPorPolegada = 96;
+    int FPontos = 8;
+    int FAlturaLinha = 13;
+};
+
+}  // namespace OryUtils::Win32

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "oryutils/platform/windows/Windows.hpp"
+
+#include <exception>
+#include <vector>
+
+namespace OryUtils::Win32 {
+
+class TJanelaWin32;
+
+/// The message loop that all shown forms share.
+class TLacoDeMensagens {
+public:
+    /// One message: to the form that it belongs to, with the keyboard of dialogs, or to any other window.
+    void Despachar(MSG& AMensagem);
+    /// All messages that wait. Raises what a timer's action raised meanwhile.
+    void Bombear();
+
+    /// The forms shown, innermost last.
+    std::vector<TJanelaWin32*> Janelas;
+    /// Where each running loop keeps what an action outside of its form raised, innermost last.
+    std::vector<std::exception_ptr*> Destinos;
+    /// Cursor of all forms; null for each window's own.
+    HCURSOR Cursor = nullptr;
+};
+
+/// Puts a value on a stack while it lives.
+template <typename T>
+class TNaPilha {
+public:
+    TNaPilha(std::vector<T>& APilha, T AValor) : FPilha(APilha) { FPilha.push_back(AValor); }
+    ~TNaPilha() { FPilha.pop_back(); }
+    TNaPilha(const TNaPilha&) = delete;
+    TNaPilha& operator=(const TNaPilha&) = delete;
+
+private:
+    std::vector<T>& FPilha;
+};
+
+/// The module that this code is part of: owner of its window classes.
+HINSTANCE BuscarModulo() noexcept;
+
+}  // namespace OryUtils::Win32
