@@ -1,6 +1,7 @@
 #include "oryutils/dates/OryUtilsDatas.hpp"
 
 #include "oryutils/dates/interno/DatasInterno.hpp"
+#include "oryutils/dates/interno/FormatosFixos.hpp"
 #include "oryutils/runtime/Caixa.hpp"
 #include "oryutils/runtime/DataXml.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
@@ -45,21 +46,9 @@ TDateTime BuscarFimDoPeriodo(TDateTime AData, int AMesesDoPeriodo) {
 
 std::u16string PorEntreAspas(std::u16string_view ATexto) {
     std::u16string resultado = u"'";
+    resultado.reserve(ATexto.size() + 2);
     for (const char16_t c : ATexto) resultado.append(c == u'\'' ? 2 : 1, c);
     return resultado += u'\'';
-}
-
-std::u16string FormatarPeloTipo(TTipoFormatoData ATipo, TDateTime AData) {
-    switch (ATipo) {
-        case fdData:
-            return FormatarDataHora(u"MM/DD/YYYY", AData);
-        case fdDataHora:
-            return FormatarDataHora(u"DD/MM/YYYY HH:MM:SS", AData);
-        case fdHora:
-            return FormatarDataHora(u"HH:MM", BuscarParteHora(AData));
-        default:
-            return {};
-    }
 }
 
 // First letter in upper case, the rest in lower case.
@@ -126,9 +115,11 @@ std::u16string TOryUtilsDatas::BuscarDataFormatada(TDateTime AData, bool AAdicio
 
 std::u16string TOryUtilsDatas::BuscarDataFormatada(TDateTime AData, TTipoFormatoData ATipoFormatacao,
                                                    std::u16string_view AMascara, bool AAdicionarAspas) {
-    std::u16string texto =
-        Aparar(AMascara).empty() ? FormatarPeloTipo(ATipoFormatacao, AData) : FormatarDataHora(AMascara, AData);
-    return AAdicionarAspas ? PorEntreAspas(texto) : texto;
+    std::u16string texto = Aparar(AMascara).empty()
+                               ? DatasInterno::FormatarPeloTipo(ATipoFormatacao, AData, FormatSettings())
+                               : FormatarDataHora(AMascara, AData);
+    if (AAdicionarAspas) return PorEntreAspas(texto);
+    return texto;
 }
 
 int TOryUtilsDatas::CalcularDiferencaEntreDatas(TDateTime ADataInicial, TDateTime ADataFim) {

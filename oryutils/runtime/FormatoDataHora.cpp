@@ -2,10 +2,12 @@
 
 #include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/interno/Calendario.hpp"
+#include "oryutils/runtime/interno/Digitos.hpp"
 
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <iterator>
 #include <utility>
 
 namespace OryUtils {
@@ -19,33 +21,44 @@ constexpr char16_t ParaMinuscula(char16_t c) {
 class TSaida {
 public:
     void Juntar(char16_t ACaractere) {
-        if (FUso == FBuffer.size()) Descarregar();
-        FBuffer[FUso++] = ACaractere;
+        GarantirEspaco(1);
+        *FFim++ = ACaractere;
     }
     void Juntar(std::u16string_view ATexto) {
         for (const char16_t c : ATexto) Juntar(c);
     }
-    // ANumero with at least ADigitos digits; neither is above 9999 and 4.
+    // ANumero, 0 to 9999, with at least ADigitos digits, 1 to 4.
     void JuntarNumero(int ANumero, int ADigitos) {
-        if (ANumero >= 1000 || ADigitos > 3) Juntar(static_cast<char16_t>(u'0' + ANumero / 1000));
-        if (ANumero >= 100 || ADigitos > 2) Juntar(static_cast<char16_t>(u'0' + ANumero / 100 % 10));
-        if (ANumero >= 10 || ADigitos > 1) Juntar(static_cast<char16_t>(u'0' + ANumero / 10 % 10));
-        Juntar(static_cast<char16_t>(u'0' + ANumero % 10));
+        GarantirEspaco(4);
+        if (ADigitos == 2 && ANumero < 100) {
+            FFim = Digitos::EscreverDois(FFim, ANumero);
+            return;
+        }
+        if (ADigitos == 4 || ANumero >= 1000) {
+            FFim = Digitos::EscreverQuatro(FFim, ANumero);
+            return;
+        }
+        if (ADigitos == 3 || ANumero >= 100) *FFim++ = static_cast<char16_t>(u'0' + ANumero / 100);
+        if (ADigitos >= 2 || ANumero >= 10) *FFim++ = static_cast<char16_t>(u'0' + ANumero / 10 % 10);
+        *FFim++ = static_cast<char16_t>(u'0' + ANumero % 10);
     }
     std::u16string Entregar() {
-        if (FTexto.empty()) return {FBuffer.data(), FUso};
+        if (FTexto.empty()) return {FBuffer, FFim};
         Descarregar();
         return std::move(FTexto);
     }
 
 private:
+    void GarantirEspaco(std::ptrdiff_t ACaracteres) {
+        if (std::end(FBuffer) - FFim < ACaracteres) Descarregar();
+    }
     void Descarregar() {
-        FTexto.append(FBuffer.data(), FUso);
-        FUso = 0;
+        FTexto.append(FBuffer, FFim);
+        FFim = FBuffer;
     }
 
-    std::array<char16_t, 64> FBuffer;
-    std::size_t FUso = 0;
+    char16_t FBuffer[64];
+    char16_t* FFim = FBuffer;
     std::u16string FTexto{};
 };
 
@@ -64,7 +77,7 @@ std::pair<std::u16string_view, std::size_t> LerLiteral(std::u16string_view APadr
 }
 
 bool UsaDozeHoras(std::u16string_view APadrao) {
-    if (APadrao.find_first_of(u"aA") == std::u16string_view::npos) return false;
+    if (std::ranges::none_of(APadrao, [](char16_t c) { return c == u'a' || c == u'A'; })) return false;
     for (std::size_t i = 0; i < APadrao.size(); ++i) {
         if (APadrao[i] == u'\'' || APadrao[i] == u'"')
             i = LerLiteral(APadrao, i).second - 1;
