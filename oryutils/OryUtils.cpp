@@ -3,6 +3,7 @@
 #include "oryutils/dates/OryUtilsDatas.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
+#include "oryutils/text/UnOryUtilsMatematica.hpp"
 #include "oryutils/ui/OryUtilsControls.hpp"
 #include "oryutils/ui/UnOryUtilsDialogs.hpp"
 
@@ -24,8 +25,13 @@ constexpr TUnidade UnidadeDe() {
 
 // In starting order; they stop in the opposite one.
 constexpr std::array CUnidades{
-    UnidadeDe<GOryUtilsStrings>(),  UnidadeDe<GOryUtilsDatas>(),   UnidadeDe<GOryUtilsValidacoes>(),
-    UnidadeDe<GOryUtilsControls>(), UnidadeDe<GOryUtilsDialogs>(), TUnidade{IniciarInterface, FinalizarInterface},
+    UnidadeDe<GOryUtilsStrings>(),
+    UnidadeDe<GOryUtilsMatematica>(),
+    UnidadeDe<GOryUtilsDatas>(),
+    UnidadeDe<GOryUtilsValidacoes>(),
+    UnidadeDe<GOryUtilsControls>(),
+    UnidadeDe<GOryUtilsDialogs>(),
+    TUnidade{IniciarInterface, FinalizarInterface},
 };
 
 constinit std::mutex GTrava;

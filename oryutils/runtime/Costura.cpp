@@ -21,7 +21,8 @@ TCosturaInterface BuscarCosturaPadrao() noexcept {
     return {.Alerta = [](std::u16string_view AMensagem) { Escrever("Aviso", AMensagem); },
             .Erro = [](std::u16string_view AMensagem) { Escrever("Erro", AMensagem); },
             .ProcessarMensagens = [] {},
-            .AtribuirFoco = AtribuirFocoDireto};
+            .AtribuirFoco = AtribuirFocoDireto,
+            .BuscarPixelsPorPolegada = [] { return 96; }};
 }
 
 TCosturaInterface& CosturaInterface() noexcept {

@@ -16,6 +16,8 @@ struct TCosturaInterface {
     void (*ProcessarMensagens)();
     /// Gives AControle the focus when it can take it.
     void (*AtribuirFoco)(TWinControl* AControle);
+    /// Of the screen; 96 before the user interface starts.
+    int (*BuscarPixelsPorPolegada)();
 };
 
 /// The seam in use. Change it only while no other thread calls the library.

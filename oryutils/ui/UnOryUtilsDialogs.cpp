@@ -171,7 +171,8 @@ void IniciarInterface() {
         .Alerta = [](std::u16string_view AMensagem) { GOryUtilsDialogs->Alerta(AMensagem); },
         .Erro = [](std::u16string_view AMensagem) { GOryUtilsDialogs->Erro(AMensagem); },
         .ProcessarMensagens = [] { BuscarToolkit().ProcessarMensagens(); },
-        .AtribuirFoco = [](TWinControl* AControle) { GOryUtilsControls->AtribuirFocoControle(AControle); }};
+        .AtribuirFoco = [](TWinControl* AControle) { GOryUtilsControls->AtribuirFocoControle(AControle); },
+        .BuscarPixelsPorPolegada = [] { return BuscarToolkit().GetPixelsPorPolegada(); }};
 }
 
 void FinalizarInterface() { CosturaInterface() = BuscarCosturaPadrao(); }
