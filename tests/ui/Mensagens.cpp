@@ -1,0 +1,381 @@
+#include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/ui/OryUtilsDialogs.hpp"
+
+#include "ToolkitRoteirizado.hpp"
+
+namespace OryUtils {
+namespace {
+
+constexpr std::uint16_t CEnter = 13;
+constexpr std::uint16_t CEsc = 27;
+
+TEST_F(TesteDialogos, CadaTipoDeBotao) {
+    struct TCaso {
+        TMsgDlgBtn Tipo;
+        const char16_t* Caption;
+        const char16_t* Nome;
+        int Resultado;
+        const char* Porque;
+    };
+    constexpr TCaso CCasos[] = {
+        {mbYes, u"&Sim", u"Yes", 6, ""},
+        {mbNo, u"&Não", u"No", 7, ""},
+        {mbOK, u"O&K", u"OK", 1, ""},
+        {mbCancel, u"&Cancelar", u"Cancel", 2, ""},
+        {mbAbort, u"A&bortar", u"Abort", 3, ""},
+        {mbRetry, u"&Retry", u"Retry", 4, "stays in English"},
+        {mbIgnore, u"&Ignorar", u"Ignore", 5, ""},
+        {mbAll, u"To&dos", u"All", 8, ""},
+        {mbNoToAll, u"Nã&o p/ Todos", u"NoToAll", 9, ""},
+        {mbYesToAll, u"Si&m p/ Todos", u"YesToAll", 10, ""},
+        {mbHelp, u"&Ajuda", u"Help", 2, "help closes nothing: the window's button does"},
+        {mbClose, u"&Fechar", u"Close", 11, ""},
+    };
+    for (const TCaso& caso : CCasos) {
+        EXPECT_EQ(OryMsg::Textos().BuscarCaption(caso.Tipo), caso.Caption);
+        Toolkit.Roteiro.push_back([&](TFormulario& AFormulario) {
+            ASSERT_EQ(AFormulario.GetBotoes().size(), 1U);
+            EXPECT_EQ(AFormulario.GetBotoes()[0]->GetNome(), caso.Nome);
+            BuscarBotao(AFormulario, caso.Caption).Clicar();
+        });
+        // Another kind second in the list changes nothing: the single button keeps its own result.
+        EXPECT_EQ(Dialogos.ConfirmacaoCustomizada(u"?", mtCustom, {caso.Tipo, caso.Tipo}, 0, u"T",
+                                                  {CCaptionsBotao[caso.Tipo]}),
+                  caso.Resultado)
+            << ParaUtf8(caso.Caption) << " " << caso.Porque;
+    }
+}
+
+TEST_F(TesteDialogos, AvisosDasDuasGeracoes) {
+    struct TCaso {
+        std::function<int(std::u16string_view)> Mostrar;
+        const char16_t* Titulo;
+        int Icone;
+    };
+    const TCaso casos[] = {
+        {[&](auto m) { return Dialogos.Informacao(m); }, u"Informação", 32516},
+        {[&](auto m) { return Dialogos.Alerta(m); }, u"Aviso", 32515},
+        {[&](auto m) { return Dialogos.Erro(m); }, u"Erro", 32513},
+        {[](auto m) { return OryMsg::Information(m); }, u"Informação", 32516},
+        {[](auto m) { return OryMsg::Warning(m); }, u"Aviso", 32515},
+        {[](auto m) { return OryMsg::Error(m); }, u"Erro", 32513},
+    };
+    for (const TCaso& caso : casos) {
+        Toolkit.Roteiro.push_back([&](TFormulario& AFormulario) {
+            EXPECT_EQ(AFormulario.GetTitulo(), caso.Titulo);
+            EXPECT_EQ(AFormulario.Posicao, pfCentroDaTela);
+            EXPECT_EQ(BuscarTexto(AFormulario, u"Message"), u"R&D: CNPJ inválido. Verifique.");
+            const auto* icone = dynamic_cast<TIcone*>(AFormulario.BuscarControle(u"Image"));
+            ASSERT_TRUE(icone);
+            EXPECT_EQ(icone->GetIdIcone(), caso.Icone);
+            EXPECT_TRUE(Teclar(AFormulario, CEnter)) << "O&K has the focus";
+        });
+        EXPECT_EQ(caso.Mostrar(u"R&D: CNPJ inválido. Verifique."), mrOk);
+    }
+    EXPECT_EQ(CCaptionsDialogo[mtWarning], u"Atenção") << "differs from the title of Alerta on purpose";
+}
+
+TEST_F(TesteDialogos, TitulosDasConfirmacoes) {
+    struct TCaso {
+        const char16_t *Dado, *Nova, *Antiga;
+        const char* Porque;
+    };
+    constexpr TCaso CCasos[] = {
+        {u"", u"Confirmação", u"Confirmação", "empty"},
+        {u" \t ", u"Confirmação", u" \t ", "blank: only the newer generation trims"},
+        {u" Clientes ", u" Clientes ", u" Clientes ", "given titles stay as they are"},
+    };
+    for (const TCaso& caso : CCasos) {
+        Dialogos.Confirmacao(u"?", btYes, caso.Dado);
+        EXPECT_EQ(Toolkit.Titulos.back(), caso.Nova) << caso.Porque;
+        OryMsg::Confirmation(u"?", btYes, caso.Dado);
+        EXPECT_EQ(Toolkit.Titulos.back(), caso.Antiga) << caso.Porque;
+    }
+    OryMsg::ConfirmationType(u"?", btNo);
+    EXPECT_EQ(Toolkit.Titulos.back(), u"Confirmação");
+}
+
+TEST_F(TesteDialogos, TeclasDaConfirmacao) {
+    struct TCaso {
+        TButtonType Padrao;
+        std::uint16_t Tecla;
+        int Resultado;
+    };
+    constexpr TCaso CCasos[] = {
+        {btYes, CEnter, mrYes},  {btNo, CEnter, mrNo}, {btNone, CEnter, mrYes},
+        {btYes, CEsc, mrCancel}, {btNo, 0, mrCancel},
+    };
+    for (const TCaso& caso : CCasos) {
+        for (const bool antiga : {false, true}) {
+            Toolkit.Roteiro.push_back([&](TFormulario& AFormulario) {
+                if (caso.Tecla) Teclar(AFormulario, caso.Tecla);
+                // The same key with Shift is not a command.
+                else
+                    EXPECT_FALSE(Teclar(AFormulario, CEnter, false, true));
+            });
+            if (antiga)
+                EXPECT_EQ(OryMsg::Confirmation(u"Gravar?", caso.Padrao, u""), caso.Resultado == mrYes);
+            else
+                EXPECT_EQ(Dialogos.ConfirmacaoRetornoModal(u"Gravar?", caso.Padrao, u""), caso.Resultado);
+        }
+    }
+}
+
+// The k-th button in kind order gets the k-th caption and the result of the k-th kind of the list.
+TEST_F(TesteDialogos, CaptionsEResultadosSeguemAsListas) {
+    struct TCaso {
+        std::vector<TMsgDlgBtn> Botoes;
+        std::vector<std::u16string> Captions;
+        int Padrao;
+        std::vector<std::u16string> Nomes, Textos;
+        std::vector<int> Resultados;
+        std::size_t Foco;
+        int ComEsc;
+        const char* Porque;
+    };
+    const TCaso casos[] = {
+        {{mbYes, mbNo}, {u"Vai", u"Fica"}, mrNo, {u"Yes", u"No"}, {u"Vai", u"Fica"}, {6, 7}, 1, 2, "kind order"},
+        {{mbCancel, mbYes},
+         {u"Volta", u"Vai"},
+         mrYes,
+         {u"Yes", u"Cancel"},
+         {u"Volta", u"Vai"},
+         {2, 6},
+         1,
+         2,
+         "list order differs: Esc follows the result, not the kind"},
+        {{mbNo, mbOK, mbYes},
+         {u"N"},
+         mrNone,
+         {u"Yes", u"No", u"OK"},
+         {u"N", u"O&K", u"&Sim"},
+         {7, 1, 6},
+         1,
+         2,
+         "missing captions: usual ones of what the button answers; OK is the default"},
+        {{mbYes, mbYes, mbNo},
+         {u"A", u"B", u"C"},
+         mrYes,
+         {u"Yes", u"No"},
+         {u"A", u"B"},
+         {6, 6},
+         1,
+         2,
+         "a repeated kind: the set is smaller than the lists"},
+        {{mbRetry, mbIgnore},
+         {u"R", u"I", u"sobra"},
+         mrAbort,
+         {u"Retry", u"Ignore"},
+         {u"R", u"I"},
+         {4, 5},
+         0,
+         2,
+         "default that no button has; a caption too many"},
+        {{mbClose, mbHelp},
+         {u"F", u"A"},
+         mrNone,
+         {u"Help", u"Close"},
+         {u"F", u"A"},
+         {11, 0},
+         1,
+         2,
+         "0 is the result of help"},
+        {{mbNo}, {u"Só"}, mrYes, {u"No"}, {u"Só"}, {7}, 0, 2, "single button"},
+        {{static_cast<TMsgDlgBtn>(99), mbYes}, {u"X"}, mrNone, {u"Yes"}, {u"X"}, {6}, 0, 2, "unknown ordinal"},
+    };
+    for (const TCaso& caso : casos) {
+        const auto formulario =
+            OryMsg::GetConfirmationCustomForm(u"?", mtConfirmation, caso.Botoes, caso.Padrao, u"T", caso.Captions);
+        std::vector<std::u16string> nomes, textos;
+        std::vector<int> resultados;
+        for (const TBotao* botao : formulario->GetBotoes()) {
+            nomes.push_back(botao->GetNome());
+            textos.push_back(botao->GetTexto());
+            resultados.push_back(botao->GetModalResult());
+        }
+        EXPECT_EQ(nomes, caso.Nomes) << caso.Porque;
+        EXPECT_EQ(textos, caso.Textos) << caso.Porque;
+        EXPECT_EQ(resultados, caso.Resultados) << caso.Porque;
+        EXPECT_EQ(formulario->GetControleAtivo(), formulario->GetBotoes()[caso.Foco]) << caso.Porque;
+        EXPECT_TRUE(formulario->GetBotoes()[caso.Foco]->GetPadrao()) << caso.Porque;
+        Toolkit.Roteiro.push_back([](TFormulario& AFormulario) { Teclar(AFormulario, CEsc); });
+        EXPECT_EQ(formulario->ExecutarModal(), caso.ComEsc) << caso.Porque;
+    }
+}
+
+TEST_F(TesteDialogos, HospedeiroAcrescentaControles) {
+    TOryUtilsDialogsFormCustomizadoIOP parametros;
+    parametros.Botoes = {mbOK, mbCancel};
+    parametros.CaptionBotoes = {u"Gravar", u"Voltar"};
+    const auto formulario = Dialogos.BuscarFormularioConfirmacaoCustomizado(parametros);
+    auto& edicao = formulario->Adicionar<TCaixaEdicao>();
+    formulario->SetControleAtivo(&edicao);
+    Toolkit.Roteiro.push_back([&](TFormulario& AFormulario) {
+        edicao.AceitarTexto(u"digitado");
+        Teclar(AFormulario, CEnter);  // from the edit box: the default button
+    });
+    EXPECT_EQ(formulario->ExecutarModal(), mrOk);
+    EXPECT_EQ(edicao.GetTexto(), u"digitado");
+    EXPECT_EQ(Dialogos.GetFormularioAtual(), formulario.get()) << "until the host frees it";
+}
+
+TEST_F(TesteDialogos, TextosTrocadosPeloHospedeiro) {
+    struct TRestauro {
+        ~TRestauro() { TextosDialogos().Restaurar(); }
+    } restauro;
+    TextosDialogos().Substituir(tdSim, u"&Yes, of course, please");
+    TextosDialogos().Substituir(tdAviso, u"Warning");
+    TextosDialogos().Substituir(static_cast<TTextoDialogo>(77), u"ignored");
+    Toolkit.Roteiro.push_back(
+        [](TFormulario& AFormulario) { BuscarBotao(AFormulario, u"&Yes, of course, please").Clicar(); });
+    EXPECT_TRUE(Dialogos.Confirmacao(u"?", btNo));
+    Dialogos.Alerta(u"!");
+    EXPECT_EQ(Toolkit.Titulos.back(), u"Warning");
+    OryMsg::Warning(u"!");
+    EXPECT_EQ(Toolkit.Titulos.back(), u"Aviso") << "each generation has its own texts";
+    PreencherLargurasBotao();
+    EXPECT_EQ(CLarguraBotao[mbYes], 134);  // 23 characters at 8 points: 133.8
+    TextosDialogos().Restaurar();
+    PreencherLargurasBotao();
+    EXPECT_EQ(CLarguraBotao[mbYes], 75);
+    EXPECT_EQ(CCaptionsBotao[mbYes], u"&Sim");
+}
+
+TEST_F(TesteDialogos, ParametrosObrigatorios) {
+    struct TCaso {
+        std::vector<TMsgDlgBtn> Botoes;
+        std::vector<std::u16string> Captions;
+        const char* Mensagem;
+    };
+    const TCaso casos[] = {
+        {{}, {u"a"}, "TOryUtilsDialogsFormCustomizadoIOP.Botoes: preenchimento obrigatório."},
+        {{}, {}, "TOryUtilsDialogsFormCustomizadoIOP.Botoes: preenchimento obrigatório."},
+        {{mbOK}, {}, "TOryUtilsDialogsFormCustomizadoIOP.CaptionBotoes: preenchimento obrigatório."},
+    };
+    const auto colher = [](auto AAcao) -> std::string {
+        try {
+            AAcao();
+        } catch (const Exception& erro) {
+            return erro.what();
+        }
+        return "nothing raised";
+    };
+    for (const TCaso& caso : casos) {
+        TOryUtilsDialogsFormCustomizadoComOpcoesIOP opcoes;
+        opcoes.Botoes = caso.Botoes;
+        opcoes.CaptionBotoes = caso.Captions;
+        TOryUtilsDialogsFormCustomizadoComDetalhesIOP detalhes;
+        detalhes.Assign(opcoes);
+        EXPECT_EQ(colher([&] { opcoes.ValidarPropriedades(); }), caso.Mensagem);
+        EXPECT_EQ(colher([&] { Dialogos.ConfirmacaoCustomizadaComOpcoes(opcoes); }), caso.Mensagem);
+        EXPECT_EQ(colher([&] { Dialogos.ConfirmacaoCustomizadaComDetalhes(detalhes); }), caso.Mensagem);
+        EXPECT_EQ(colher([&] { OryMsg::ConfirmationCustom(u"", mtError, caso.Botoes, 0, u"", caso.Captions); }),
+                  caso.Mensagem);
+    }
+    EXPECT_TRUE(Toolkit.Titulos.empty());
+    EXPECT_EQ(Dialogos.GetFormularioAtual(), nullptr);
+}
+
+TEST_F(TesteDialogos, OutraThreadRecebeErro) {
+    Toolkit.DaInterface = false;
+    std::u16string valor;
+    bool marcada = false;
+    const std::function<void()> operacoes[] = {
+        [&] { Dialogos.Alerta(u"a"); },
+        [&] { Dialogos.Confirmacao(u"a", btYes); },
+        [&] { Dialogos.InformacaoDetalhada({}); },
+        [&] { Dialogos.InputQuery(u"a", u"b", valor); },
+        [&] { Dialogos.BuscarArquivoSelecionado(u""); },
+        [&] { Dialogos.BuscarPastaSelecionada(u"", u""); },
+        [&] { OryMsg::Error(u"a"); },
+        [&] { OryMsg::ConfirmacaoComCaixaChecagem(u"", mtError, {mbOK}, 0, u"", {u""}, u"", pccAcima, marcada); },
+        [&] {
+            const TAcumuloNotificacoes acumulo(Dialogos.GetCentralNotificacoes());
+            Dialogos.Informacao(u"a");
+        },
+    };
+    for (const auto& operacao : operacoes) {
+        try {
+            operacao();
+            ADD_FAILURE() << "nothing raised";
+        } catch (const Exception& erro) {
+            EXPECT_EQ(erro.GetMensagem(), u"Formulários só podem ser mostrados pela thread da interface do usuário.");
+        }
+    }
+    EXPECT_TRUE(Dialogos.GetCentralNotificacoes().GetMensagens().empty());
+}
+
+TEST_F(TesteDialogos, ObjetosDeParametrosCopiamTudo) {
+    TOryUtilsDialogsFormCustomizadoComOpcoesIOP origem;
+    origem.Titulo = u"t";
+    origem.BotaoPadrao = mrNo;
+    origem.TipoDialogo = mtError;
+    origem.Mensagem = u"m";
+    origem.Botoes = {mbNo, mbYes, mbNo};
+    origem.CaptionBotoes = {u"a", u"b"};
+    origem.FecharMensagemAutomaticamente = true;
+    origem.TempoFinalizacaoAutomatica = 1500;
+    origem.OpcaoPadrao = 1;
+    origem.OpcoesMensagem = {u"x", u"y"};
+    TOryUtilsDialogsFormCustomizadoComOpcoesIOP copia;
+    copia.Assign(origem);
+    EXPECT_EQ(copia, origem);
+
+    TOryUtilsDialogsFormCustomizadoComDetalhesIOP detalhes;
+    detalhes.MensagemDetalhe = u"fica";
+    detalhes.Assign(origem);  // from the common base: its own properties stay
+    EXPECT_EQ(detalhes.MensagemDetalhe, u"fica");
+    EXPECT_EQ(static_cast<TOryUtilsDialogsFormCustomizadoBaseIOP&>(detalhes), origem);
+    EXPECT_EQ(detalhes.GetListaDeBotoes(), (TMsgDlgButtons{mbYes, mbNo}));
+    const auto padrao = Dialogos.BuscarConfiguracaoPadraoMensagem(u"m");
+    EXPECT_EQ(padrao->Botoes, std::vector{mbOK});
+    EXPECT_EQ(padrao->CaptionBotoes, std::vector<std::u16string>{u"O&K"});
+    EXPECT_EQ(padrao->BotaoPadrao, 0);
+}
+
+TEST_F(TesteDialogos, Seletores) {
+    EXPECT_EQ(Dialogos.BuscarArquivoSelecionado(u"C:\\"), u"") << "cancelled";
+    Toolkit.Escolha = u"C:\\lote.txt";
+    EXPECT_EQ(Dialogos.BuscarArquivoSelecionado(u"", {u"Textos", u"Planilhas", u"sobra"}, {u"*.txt;*.csv", u"*.xls"}),
+              u"C:\\lote.txt");
+    EXPECT_EQ(GetArquivoSelecionado(u""), u"C:\\lote.txt");
+    GetArquivoSelecionado(u"", u"Imagens|*.png|Tudo", u"*");
+    EXPECT_EQ(OryMsg::BrowseDialog(u"t"), u"C:\\lote.txt");
+    std::vector<std::u16string> vistos;
+    for (const auto& filtros : Toolkit.Filtros) {
+        std::u16string texto;
+        for (const auto& filtro : filtros) texto += filtro.Descricao + u"=" + filtro.Mascara + u" ";
+        vistos.push_back(texto);
+    }
+    EXPECT_EQ(vistos, (std::vector<std::u16string>{u"Todos=*.* ", u"Textos=*.txt;*.csv Planilhas=*.xls ", u"Todos=*.* ",
+                                                   u"Imagens=*.png Tudo=* "}));
+}
+
+TEST_F(TesteDialogos, EntradaDeTexto) {
+    const auto digitar = [&](std::uint16_t ATecla) {
+        Toolkit.Roteiro.push_back([ATecla](TFormulario& AFormulario) {
+            auto* edicao = dynamic_cast<TCaixaEdicao*>(AFormulario.GetControleAtivo());
+            ASSERT_TRUE(edicao);
+            EXPECT_TRUE(edicao->GetSelecionarTudo());
+            EXPECT_EQ(edicao->GetTexto(), u"antes");
+            EXPECT_EQ(BuscarTexto(AFormulario, u"Message"), u"Nome:");
+            edicao->AceitarTexto(u"depois");
+            Teclar(AFormulario, ATecla);
+        });
+    };
+    std::u16string valor = u"antes";
+    digitar(CEsc);
+    EXPECT_FALSE(Dialogos.InputQuery(u"T", u"Nome:", valor));
+    EXPECT_EQ(valor, u"antes");
+    digitar(CEsc);
+    EXPECT_EQ(OryMsg::InputBox(u"T", u"Nome:", valor), u"antes");
+    digitar(CEnter);
+    EXPECT_EQ(Dialogos.InputBox(u"T", u"Nome:", valor), u"depois");
+    digitar(CEnter);
+    EXPECT_TRUE(OryMsg::InputQuery(u"T", u"Nome:", valor));
+    EXPECT_EQ(valor, u"depois");
+}
+
+}  // namespace
+}  // namespace OryUtils
