@@ -3,6 +3,7 @@
 #include "oryutils/platform/FusoHorario.hpp"
 #include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
+#include "oryutils/runtime/NumeroTexto.hpp"
 #include "oryutils/runtime/interno/Calendario.hpp"
 #include "oryutils/runtime/interno/ErroDeData.hpp"
 
@@ -148,12 +149,11 @@ TDateTime LerXml(std::u16string_view ATexto, TLocal ALocal) {
 }  // namespace
 
 std::u16string DataHoraParaXml(TDateTime AData, int ADeslocamentoMinutos) {
-    const std::u16string deslocamento = EscreverDeslocamento(ADeslocamentoMinutos);
     if (ADeslocamentoMinutos < -CMaiorDeslocamento || ADeslocamentoMinutos > CMaiorDeslocamento)
-        ErroDeData::DeslocamentoInvalido(deslocamento);
+        ErroDeData::DeslocamentoInvalido(InteiroParaTexto(ADeslocamentoMinutos));
     if (DecodificarData(AData).Ano == 0) ErroDeData::ForaDoIntervalo();
     // Only marks of the Schema: the separators of the formats play no part.
-    return FormatarDataHora(u"yyyy-mm-dd'T'hh':'nn':'ss.zzz", AData) + deslocamento;
+    return FormatarDataHora(u"yyyy-mm-dd'T'hh':'nn':'ss.zzz", AData) + EscreverDeslocamento(ADeslocamentoMinutos);
 }
 
 std::u16string DataHoraParaXml(TDateTime AData) {
