@@ -4,6 +4,7 @@
 
 #include "chamar/Chamadas.hpp"
 #include "conferir/Conferir.hpp"
+#include "mensagem/Mensagem.hpp"
 
 #include <CLI/CLI.hpp>
 
@@ -128,12 +129,16 @@ void Traduzir(CLI::App& AAplicativo) {
     formatador->column_width(28);
     AAplicativo.formatter(formatador);
     AAplicativo.option_defaults()->group("Opções");
+}
+
+void PorAjuda(CLI::App& AAplicativo) {
     AAplicativo.set_help_flag("-h,--ajuda,--help", "mostra esta ajuda")->group("Opções");
 }
 
 CLI::App* NovoComando(CLI::App& AAplicativo, const std::string& ANome, const std::string& ADescricao) {
     CLI::App* comando = AAplicativo.add_subcommand(ANome, ADescricao);
     comando->group("Comandos");
+    PorAjuda(*comando);
     return comando;
 }
 
@@ -156,14 +161,18 @@ int ExecutarLinhaDeComando(std::span<const std::string> AArgumentos, TAmbiente& 
     TOpcoesLidas opcoes;
     CLI::App aplicativo("Confere e formata números de cadastro brasileiros e chama as operações da OryUtils.", "ory");
     Traduzir(aplicativo);
+    PorAjuda(aplicativo);
     bool versao = false;
     aplicativo.add_flag("--versao,--version", versao, "mostra a versão");
     CLI::App* conferir = NovoComando(aplicativo, "conferir", "confere os números de um arquivo CSV");
     CLI::App* chamar = NovoComando(aplicativo, "chamar", "chama uma operação da biblioteca");
     CLI::App* operacoes = NovoComando(aplicativo, "operacoes", "lista o que chamar pode chamar");
+    CLI::App* mensagem = NovoComando(aplicativo, "mensagem", "mostra uma mensagem e responde o que foi escolhido");
+    TPedidoDeMensagem pedidoDeMensagem;
     DescreverConferir(*conferir, opcoes);
     DescreverChamar(*chamar, opcoes);
     operacoes->add_flag("--json", opcoes.JsonDeOperacoes, "lista em JSON");
+    DescreverMensagem(*mensagem, pedidoDeMensagem);
     aplicativo.require_subcommand(0, 1);
 
     std::vector<std::string> invertidos(AArgumentos.rbegin(), AArgumentos.rend());
@@ -180,6 +189,7 @@ int ExecutarLinhaDeComando(std::span<const std::string> AArgumentos, TAmbiente& 
         return stTudoCerto;
     }
     if (conferir->parsed()) return Conferir(LerPedido(opcoes), AAmbiente);
+    if (mensagem->parsed()) return MostrarMensagem(pedidoDeMensagem, AAmbiente);
     if (operacoes->parsed()) {
         ListarOperacoes(AAmbiente.Saida, opcoes.JsonDeOperacoes);
         return stTudoCerto;

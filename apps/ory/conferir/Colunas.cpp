@@ -1,6 +1,7 @@
 #include "conferir/Colunas.hpp"
 
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
+#include "oryutils/registry_numbers/interno/DigitosCpfCnpj.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/Utf.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
@@ -113,36 +114,51 @@ bool ValidouIe(std::string_view ACampo, std::string_view AUf) {
     return TOryUtilsValidacoes::ValidouIE(TTextoDeCampo(LimparIe(ACampo)).Get(), uf.Get());
 }
 
-// Rules that raise for a text which is no number are asked only about digits and their punctuation: what they would
-// raise for is invalid, and an exception for each line of a bad file would cost a hundred times the check.
-bool PossuiSomenteDigitosEPontuacao(std::string_view ACampo) {
+// Rules that raise for a text which is no number are not asked about characters that no number has: the answer would be
+// an exception, and one for each line of a bad file costs a hundred times the check.
+bool PodeSerNumero(std::string_view ACampo) {
     return std::all_of(ACampo.begin(), ACampo.end(), [](char c) {
-        return (c >= '0' && c <= '9') || c == '.' || c == ',' || c == '_' || c == '/' || c == '-';
+        return (c >= '0' && c <= '9') || std::string_view(".,_/-+eE \t").find(c) != std::string_view::npos;
     });
 }
 
+/// The rule of ValidouCnpjAlfanumerico over bytes. The two usual forms of a numeric one are checked where they stand.
+bool ValidouCnpj(std::string_view ACampo) {
+    namespace Digitos = OryUtils::DigitosCpfCnpj;
+    if (ACampo.size() == Digitos::CCnpjFormatado.size()) {
+        const bool pontuado = ACampo[2] == '.' && ACampo[6] == '.' && ACampo[10] == '/' && ACampo[15] == '-';
+        const auto motivo = Digitos::ConferirDesenho<Digitos::CDesenhoCnpjFormatado>(ACampo.data());
+        if (pontuado && motivo != OryUtils::mrCaractere) return motivo == OryUtils::mrNenhum;
+    } else if (ACampo.size() == Digitos::CCnpjLimpo.size()) {
+        const auto motivo = Digitos::ConferirDesenho<Digitos::CDesenhoCnpjLimpo>(ACampo.data());
+        if (motivo != OryUtils::mrCaractere) return motivo == OryUtils::mrNenhum;
+    }
+    return Digitos::ConferirCnpjAlfanumerico(ACampo) == OryUtils::mrNenhum;
+}
+
+/// The rule of ValidouCnpjCpf over bytes.
+bool ValidouCpf(std::string_view ACampo) { return OryUtils::DigitosCpfCnpj::ConferirCpf(ACampo) == OryUtils::mrNenhum; }
+
 bool Validou(TTipoColuna ATipo, std::string_view ACampo, std::string_view AUf) {
     switch (ATipo) {
+        case tcCnpj:
+            return ValidouCnpj(ACampo);
+        case tcCpf:
+            return ValidouCpf(ACampo);
+        case tcDocumento:
+            return BuscarInscricaoDoDocumento(ACampo) == OryTypes::tiCPF ? ValidouCpf(ACampo) : ValidouCnpj(ACampo);
         case tcIe:
             return ValidouIe(ACampo, AUf);
         case tcCei:
         case tcCno:
         case tcMunicipio:
-            if (!PossuiSomenteDigitosEPontuacao(ACampo)) return false;
+            if (!PodeSerNumero(ACampo)) return false;
             break;
         default:
             break;
     }
     const TTextoDeCampo texto(ACampo);
     switch (ATipo) {
-        case tcCnpj:
-            return TOryUtilsValidacoes::ValidouCnpjAlfanumerico(texto.Get());
-        case tcCpf:
-            return TOryUtilsValidacoes::ValidouCnpjCpf(OryTypes::tiCPF, texto.Get());
-        case tcDocumento:
-            return BuscarInscricaoDoDocumento(ACampo) == OryTypes::tiCPF
-                       ? TOryUtilsValidacoes::ValidouCnpjCpf(OryTypes::tiCPF, texto.Get())
-                       : TOryUtilsValidacoes::ValidouCnpjAlfanumerico(texto.Get());
         case tcPis:
             return TOryUtilsValidacoes::ValidouPIS(texto.Get());
         case tcCei:

@@ -28,7 +28,10 @@ std::string Mostrar(std::string_view AValor, TCodificacao ACodificacao, std::siz
             (c >= 0x200E && c <= 0x200F) || (c >= 0x2028 && c <= 0x202E) || (c >= 0x2066 && c <= 0x2069);
         if (c < 0x20 || (c >= 0x7F && c < 0xA0) || direcao) c = u'·';
     }
-    if (texto.size() > AMaior) texto.replace(AMaior - 1, std::u16string::npos, u"…");
+    if (texto.size() > AMaior) {
+        texto.resize(AMaior);
+        texto.back() = u'…';
+    }
     return OryUtils::ParaUtf8(texto);
 }
 
@@ -83,8 +86,12 @@ void EscreverDesiguais(std::string& ASaida, const TResumo& AResumo) {
 }  // namespace
 
 std::string EscreverQuantidade(std::uint64_t AValor) {
-    std::string texto = std::to_string(AValor);
-    for (std::size_t i = texto.size(); i > 3;) texto.insert(i -= 3, ".");
+    const std::string digitos = std::to_string(AValor);
+    std::string texto;
+    for (std::size_t i = 0; i < digitos.size(); ++i) {
+        if (i && (digitos.size() - i) % 3 == 0) texto += '.';
+        texto += digitos[i];
+    }
     return texto;
 }
 
