@@ -38,19 +38,21 @@ std::u16string FormatarPeloTipo(TTipoFormatoData ATipo, TDateTime AData, const T
 
     char16_t texto[24];
     char16_t* fim = texto;
+    if (ATipo == fdHora) {
+        fim = EscreverHoraMinuto(fim, Calendario::DeMilis(valor->Mili), doisPontos);
+        return {texto, fim};
+    }
     const TPartesData data = Calendario::DeDias(static_cast<int>(valor->Dia));
-    const TPartesHora hora = Calendario::DeMilis(valor->Mili);
     if (ATipo == fdData) {
         fim = EscreverData(fim, data.Mes, data.Dia, data.Ano, barra);
-    } else if (ATipo == fdHora) {
-        fim = EscreverHoraMinuto(fim, hora, doisPontos);
-    } else {
-        fim = EscreverData(fim, data.Dia, data.Mes, data.Ano, barra);
-        *fim++ = u' ';
-        fim = EscreverHoraMinuto(fim, hora, doisPontos);
-        *fim++ = doisPontos;
-        fim = EscreverDois(fim, hora.Segundo);
+        return {texto, fim};
     }
+    const TPartesHora hora = Calendario::DeMilis(valor->Mili);
+    fim = EscreverData(fim, data.Dia, data.Mes, data.Ano, barra);
+    *fim++ = u' ';
+    fim = EscreverHoraMinuto(fim, hora, doisPontos);
+    *fim++ = doisPontos;
+    fim = EscreverDois(fim, hora.Segundo);
     return {texto, fim};
 }
 

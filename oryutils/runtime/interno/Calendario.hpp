@@ -34,19 +34,20 @@ constexpr int ParaDias(int AAno, int AMes, int ADia) {
     return ano * 365 + ano / 4 - ano / 100 + ano / 400 + diaDoAno - CDiasDeMarcoZero;
 }
 
-// ADias between CPrimeiroDia and CUltimoDia.
+// ADias between CPrimeiroDia and CUltimoDia. Divisions by the lengths of 4 years and of a month are multiplications by
+// scaled reciprocals, exact over the days of a century and of a year.
 constexpr TPartesData DeDias(int ADias) {
     constexpr std::uint32_t CDiasDe400Anos = 146097;
-    const auto desdeMarcoZero = static_cast<std::uint32_t>(ADias + CDiasDeMarcoZero);
-    const std::uint32_t seculos4 = desdeMarcoZero / CDiasDe400Anos;
-    const std::uint32_t dia = desdeMarcoZero % CDiasDe400Anos;
-    const std::uint32_t ano = (dia - dia / 1460 + dia / 36524 - dia / 146096) / 365;
-    const std::uint32_t diaDoAno = dia - (365 * ano + ano / 4 - ano / 100);
-    const std::uint32_t mesDesdeMarco = (5 * diaDoAno + 2) / 153;
-    const std::uint32_t diaDoMes = diaDoAno - (153 * mesDesdeMarco + 2) / 5 + 1;
-    const std::uint32_t mes = mesDesdeMarco < 10 ? mesDesdeMarco + 3 : mesDesdeMarco - 9;
-    return {static_cast<int>(seculos4 * 400 + ano + (mes <= 2 ? 1 : 0)), static_cast<int>(mes),
-            static_cast<int>(diaDoMes)};
+    constexpr std::uint64_t CReciprocoDe4Anos = 2939745;  // 2^32 / 1461, rounded up
+    const std::uint32_t quartos = 4 * static_cast<std::uint32_t>(ADias + CDiasDeMarcoZero) + 3;
+    const std::uint32_t seculo = quartos / CDiasDe400Anos;
+    const std::uint64_t produto = CReciprocoDe4Anos * (quartos % CDiasDe400Anos | 3);
+    const auto anoDoSeculo = static_cast<std::uint32_t>(produto >> 32);
+    const auto diaDoAno = static_cast<std::uint32_t>((produto & 0xFFFFFFFF) / CReciprocoDe4Anos / 4);
+    const std::uint32_t meses = 2141 * diaDoAno + 197913;  // 2^16 * 5 / 153 a day, March as month 3
+    const bool anoSeguinte = diaDoAno >= 306;              // January and February
+    return {static_cast<int>(seculo * 100 + anoDoSeculo + (anoSeguinte ? 1 : 0)),
+            static_cast<int>((meses >> 16) - (anoSeguinte ? 12 : 0)), static_cast<int>((meses & 0xFFFF) / 2141 + 1)};
 }
 
 static_assert(ParaDias(1899, 12, 30) == 0 && ParaDias(1970, 1, 1) == 25569);
