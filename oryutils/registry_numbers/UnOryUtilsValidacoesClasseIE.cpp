@@ -77,9 +77,11 @@ const TUnidade* BuscarUnidade(std::u16string_view AUF) noexcept {
 void TOryUtilsValidacoesIE::SetUF(std::u16string_view AUF) noexcept { Guardar(FUF, AUF); }
 
 void TOryUtilsValidacoesIE::SetIE(std::u16string_view AIE) noexcept {
-    const bool sem_outros = std::ranges::all_of(AIE, [](char16_t c) { return EhDigito(c) || Maiuscula(c) == u'P'; });
-    FIsenta = !sem_outros && TemIsent(AIE);
-    Guardar(FIE, sem_outros || FIsenta ? AIE : std::u16string_view{});
+    Guardar(FIE, AIE);
+    const auto cabe = [](char16_t c) { return EhDigito(c) || Maiuscula(c) == u'P'; };
+    const bool so_digitos = std::ranges::all_of(AIE, cabe);
+    FIsenta = !so_digitos && TemIsent(AIE);
+    if (!so_digitos && !FIsenta) FIE.Tamanho = 0;
 }
 
 void TOryUtilsValidacoesIE::Validar() noexcept {
@@ -88,7 +90,7 @@ void TOryUtilsValidacoesIE::Validar() noexcept {
         FMotivo = mrVazio;
     else if (FIsenta)
         FMotivo = mrNenhum;
-    else if (ie.find_first_not_of(u'0') == ie.npos)
+    else if (std::ranges::all_of(ie, [](char16_t c) { return c == u'0'; }))
         FMotivo = mrRepetido;
     else if (ie.size() > CMaiorTamanho)
         FMotivo = mrTamanho;

@@ -75,21 +75,41 @@ constexpr TDesenho Desenhar(std::string_view AForma, const std::array<int, N>& A
     return desenho;
 }
 
+/// Sums of the two check digits, lane by lane of the blocks: small enough for 16 bits.
+struct TSomas {
+    std::array<std::int16_t, TDesenho::CBloco> Soma1{}, Soma2{};
+    std::array<std::uint16_t, TDesenho::CBloco> Diferenca{};  // 0 while digits stand exactly where they must
+};
+
+template <const TDesenho& ADesenho, std::size_t ABloco, typename C>
+void SomarBloco(const C* ATexto, TSomas& ASomas) noexcept {
+    const C* bloco = ATexto + ADesenho.Inicio[ABloco];
+    for (std::size_t i = 0; i < TDesenho::CBloco; ++i) {
+        const std::uint16_t valor = ValorDe(bloco[i]);
+        const auto digito = static_cast<std::uint16_t>(valor <= 9 ? 0xFFFF : 0);
+        ASomas.Diferenca[i] = static_cast<std::uint16_t>(ASomas.Diferenca[i] | (digito ^ ADesenho.EhDigito[ABloco][i]));
+        const auto numero = static_cast<std::int16_t>(valor);
+        ASomas.Soma1[i] = static_cast<std::int16_t>(ASomas.Soma1[i] + numero * ADesenho.Pesos1[ABloco][i]);
+        ASomas.Soma2[i] = static_cast<std::int16_t>(ASomas.Soma2[i] + numero * ADesenho.Pesos2[ABloco][i]);
+    }
+}
+
 /// The reason when ATexto, of the length of ADesenho, has its digits where ADesenho has them; mrCaractere otherwise.
 template <const TDesenho& ADesenho, typename C>
 TMotivoRecusa ConferirDesenho(const C* ATexto) noexcept {
+    TSomas somas;
+    SomarBloco<ADesenho, 0>(ATexto, somas);
+    SomarBloco<ADesenho, 1>(ATexto, somas);
+    if constexpr (ADesenho.Blocos > 2) SomarBloco<ADesenho, 2>(ATexto, somas);
+    static_assert(ADesenho.Blocos == 2 || ADesenho.Blocos == 3);
+
     int soma1 = 0;
     int soma2 = 0;
     std::uint16_t diferenca = 0;
-    for (std::size_t b = 0; b < ADesenho.Blocos; ++b) {
-        const C* bloco = ATexto + ADesenho.Inicio[b];
-        for (std::size_t i = 0; i < TDesenho::CBloco; ++i) {
-            const std::uint16_t valor = ValorDe(bloco[i]);
-            const auto digito = static_cast<std::uint16_t>(valor <= 9 ? 0xFFFF : 0);
-            diferenca = static_cast<std::uint16_t>(diferenca | (digito ^ ADesenho.EhDigito[b][i]));
-            soma1 += static_cast<std::int16_t>(valor) * ADesenho.Pesos1[b][i];
-            soma2 += static_cast<std::int16_t>(valor) * ADesenho.Pesos2[b][i];
-        }
+    for (std::size_t i = 0; i < TDesenho::CBloco; ++i) {
+        soma1 += somas.Soma1[i];
+        soma2 += somas.Soma2[i];
+        diferenca = static_cast<std::uint16_t>(diferenca | somas.Diferenca[i]);
     }
     if (diferenca) return mrCaractere;
     const bool certos = (CalcularDigito(static_cast<unsigned>(soma1)) == ValorDe(ATexto[ADesenho.Digito1])) &

@@ -1,22 +1,21 @@
 #include "oryutils/registry_numbers/interno/RegrasIE.hpp"
 
 #include <algorithm>
-#include <functional>
 
 namespace OryUtils::RegrasIE {
 namespace {
 
-using TDigitos = std::array<std::int16_t, CMaiorTamanho>;
+using TDigitos = std::array<std::int16_t, CLargura>;
 
 int Somar(const TDigitos& ADigitos, const TDigitos& APesos) noexcept {
     int soma = 0;
-    for (std::size_t i = 0; i < CMaiorTamanho; ++i) soma += ADigitos[i] * APesos[i];
+    for (std::size_t i = 0; i < CLargura; ++i) soma += ADigitos[i] * APesos[i];
     return soma;
 }
 
 int SomarAlgarismosDosProdutos(const TDigitos& ADigitos, const TDigitos& APesos) noexcept {
     int soma = 0;
-    for (std::size_t i = 0; i < CMaiorTamanho; ++i) {
+    for (std::size_t i = 0; i < CLargura; ++i) {
         const int produto = ADigitos[i] * APesos[i];
         soma += produto / 10 + produto % 10;
     }
@@ -102,9 +101,10 @@ TMotivoRecusa ConferirFormato(const TFormatoIE& AFormato, std::u16string_view AI
         digitos[i] = static_cast<std::int16_t>(digito);
     }
     if (!TemInicioAceito(AFormato, AIE)) return mrPrefixo;
-    for (const TDigitoIE& digito : {std::cref(AFormato.Digito1), std::cref(AFormato.Digito2)})
-        if (digito.Regra != rdNenhum && digitos[digito.Lugar - 1] != CalcularDigito(digito, digitos)) return mrDigito;
-    return mrNenhum;
+    const auto certo = [&](const TDigitoIE& ADigito) {
+        return ADigito.Regra == rdNenhum || digitos[ADigito.Lugar - 1] == CalcularDigito(ADigito, digitos);
+    };
+    return certo(AFormato.Digito1) && certo(AFormato.Digito2) ? mrNenhum : mrDigito;
 }
 
 }  // namespace

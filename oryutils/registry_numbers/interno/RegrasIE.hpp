@@ -12,6 +12,8 @@
 namespace OryUtils::RegrasIE {
 
 inline constexpr std::size_t CMaiorTamanho = 14;
+/// Weights and digits fill up with zeros to a width that suits vector operations.
+inline constexpr std::size_t CLargura = 16;
 
 /// How a weighted sum s becomes a check digit; r is s mod 11.
 enum TRegraDigito : int {
@@ -29,7 +31,7 @@ enum TRegraDigito : int {
 
 struct TDigitoIE {
     std::size_t Lugar = 0;  // 1 = leftmost
-    std::array<std::int16_t, CMaiorTamanho> Pesos{};
+    std::array<std::int16_t, CLargura> Pesos{};
     TRegraDigito Regra = rdNenhum;
 };
 
@@ -41,7 +43,7 @@ struct TFormatoIE {
 
 // Weights are written from the leftmost digit; a 0 skips a digit that takes no part.
 // clang-format off
-inline constexpr std::array<std::int16_t, CMaiorTamanho> CDe9A2{9,8,7,6,5,4,3,2};
+inline constexpr std::array<std::int16_t, CLargura> CDe9A2{9,8,7,6,5,4,3,2};
 
 inline constexpr std::array CFormatosAC{
     TFormatoIE{13, {"01"}, {12, {4,3,2,9,8,7,6,5,4,3,2}, rdPadrao}, {13, {5,4,3,2,9,8,7,6,5,4,3,2}, rdPadrao}},
