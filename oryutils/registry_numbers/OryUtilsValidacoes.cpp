@@ -98,11 +98,7 @@ bool TOryUtilsValidacoes::ValidouCodigoMunicipioOficial(std::u16string_view ACod
 }
 
 bool TOryUtilsValidacoes::ValidouIE(std::u16string_view AIE, std::u16string_view AUF) noexcept {
-    TOryUtilsValidacoesIE ie;
-    ie.SetUF(AUF);
-    ie.SetIE(AIE);
-    ie.Validar();
-    return ie.GetValido();
+    return TOryUtilsValidacoesIE::Validou(AIE, AUF);
 }
 
 bool TOryUtilsValidacoes::ValidouDocumento(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ANumero,

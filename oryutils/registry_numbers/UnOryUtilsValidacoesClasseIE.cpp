@@ -30,28 +30,30 @@ bool TemIsent(std::u16string_view ATexto) noexcept {
            ATexto.end();
 }
 
+bool SoTemZeros(std::u16string_view AIE) noexcept {
+    return std::ranges::all_of(AIE, [](char16_t c) { return c == u'0'; });
+}
+
+/// The formats of a unit, or the operation where formats are not all.
 struct TUnidade {
     std::u16string_view Sigla;
-    void (TOryUtilsValidacoesIE::*Validar)() noexcept;
+    std::span<const TFormatoIE> Formatos;
+    void (TOryUtilsValidacoesIE::*Validar)() noexcept = nullptr;
 };
 
 // clang-format off
 constexpr std::array CUnidades{
-    TUnidade{u"EX", &TOryUtilsValidacoesIE::Validar_Exportacao},
-    TUnidade{u"AC", &TOryUtilsValidacoesIE::Validar_AC}, TUnidade{u"AL", &TOryUtilsValidacoesIE::Validar_AL},
-    TUnidade{u"AM", &TOryUtilsValidacoesIE::Validar_AM}, TUnidade{u"AP", &TOryUtilsValidacoesIE::Validar_AP},
-    TUnidade{u"BA", &TOryUtilsValidacoesIE::Validar_BA}, TUnidade{u"CE", &TOryUtilsValidacoesIE::Validar_CE},
-    TUnidade{u"DF", &TOryUtilsValidacoesIE::Validar_DF}, TUnidade{u"ES", &TOryUtilsValidacoesIE::Validar_ES},
-    TUnidade{u"GO", &TOryUtilsValidacoesIE::Validar_GO}, TUnidade{u"MA", &TOryUtilsValidacoesIE::Validar_MA},
-    TUnidade{u"MG", &TOryUtilsValidacoesIE::Validar_MG}, TUnidade{u"MS", &TOryUtilsValidacoesIE::Validar_MS},
-    TUnidade{u"MT", &TOryUtilsValidacoesIE::Validar_MT}, TUnidade{u"PA", &TOryUtilsValidacoesIE::Validar_PA},
-    TUnidade{u"PB", &TOryUtilsValidacoesIE::Validar_PB}, TUnidade{u"PE", &TOryUtilsValidacoesIE::Validar_PE},
-    TUnidade{u"PR", &TOryUtilsValidacoesIE::Validar_PR}, TUnidade{u"PI", &TOryUtilsValidacoesIE::Validar_PI},
-    TUnidade{u"RJ", &TOryUtilsValidacoesIE::Validar_RJ}, TUnidade{u"RN", &TOryUtilsValidacoesIE::Validar_RN},
-    TUnidade{u"RO", &TOryUtilsValidacoesIE::Validar_RO}, TUnidade{u"RR", &TOryUtilsValidacoesIE::Validar_RR},
-    TUnidade{u"RS", &TOryUtilsValidacoesIE::Validar_RS}, TUnidade{u"SC", &TOryUtilsValidacoesIE::Validar_SC},
-    TUnidade{u"SP", &TOryUtilsValidacoesIE::Validar_SP}, TUnidade{u"SE", &TOryUtilsValidacoesIE::Validar_SE},
-    TUnidade{u"TO", &TOryUtilsValidacoesIE::Validar_TO}};
+    TUnidade{u"EX", {}, &TOryUtilsValidacoesIE::Validar_Exportacao}, TUnidade{u"AC", CFormatosAC},
+    TUnidade{u"AL", CFormatosAL}, TUnidade{u"AM", CFormatosAM}, TUnidade{u"AP", CFormatosAP},
+    TUnidade{u"BA", {}, &TOryUtilsValidacoesIE::Validar_BA}, TUnidade{u"CE", CFormatosCE},
+    TUnidade{u"DF", CFormatosDF}, TUnidade{u"ES", CFormatosES}, TUnidade{u"GO", CFormatosGO},
+    TUnidade{u"MA", CFormatosMA}, TUnidade{u"MG", CFormatosMG}, TUnidade{u"MS", CFormatosMS},
+    TUnidade{u"MT", {}, &TOryUtilsValidacoesIE::Validar_MT}, TUnidade{u"PA", CFormatosPA},
+    TUnidade{u"PB", CFormatosPB}, TUnidade{u"PE", CFormatosPE}, TUnidade{u"PR", CFormatosPR},
+    TUnidade{u"PI", CFormatosPI}, TUnidade{u"RJ", CFormatosRJ}, TUnidade{u"RN", CFormatosRN},
+    TUnidade{u"RO", CFormatosRO}, TUnidade{u"RR", CFormatosRR}, TUnidade{u"RS", CFormatosRS},
+    TUnidade{u"SC", CFormatosSC}, TUnidade{u"SP", {}, &TOryUtilsValidacoesIE::Validar_SP},
+    TUnidade{u"SE", CFormatosSE}, TUnidade{u"TO", CFormatosTO}};
 // clang-format on
 
 constexpr std::size_t PosicaoDaSigla(std::u16string_view ASigla) noexcept {
@@ -77,11 +79,16 @@ const TUnidade* BuscarUnidade(std::u16string_view AUF) noexcept {
 void TOryUtilsValidacoesIE::SetUF(std::u16string_view AUF) noexcept { Guardar(FUF, AUF); }
 
 void TOryUtilsValidacoesIE::SetIE(std::u16string_view AIE) noexcept {
-    Guardar(FIE, AIE);
-    const auto cabe = [](char16_t c) { return EhDigito(c) || Maiuscula(c) == u'P'; };
-    const bool so_digitos = std::ranges::all_of(AIE, cabe);
-    FIsenta = !so_digitos && TemIsent(AIE);
-    if (!so_digitos && !FIsenta) FIE.Tamanho = 0;
+    const auto eh_estranho = [](char16_t c) { return !EhDigito(c) && c != u'P' && c != u'p'; };
+    FIE.Tamanho = std::min(AIE.size(), FIE.Texto.size());
+    bool estranho = false;
+    for (std::size_t i = 0; i < FIE.Tamanho; ++i) {
+        FIE.Texto[i] = Maiuscula(AIE[i]);
+        estranho |= eh_estranho(AIE[i]);
+    }
+    if (AIE.size() > FIE.Tamanho) estranho |= std::ranges::any_of(AIE.substr(FIE.Tamanho), eh_estranho);
+    FIsenta = estranho && TemIsent(AIE);
+    if (estranho && !FIsenta) FIE.Tamanho = 0;
 }
 
 void TOryUtilsValidacoesIE::Validar() noexcept {
@@ -90,14 +97,34 @@ void TOryUtilsValidacoesIE::Validar() noexcept {
         FMotivo = mrVazio;
     else if (FIsenta)
         FMotivo = mrNenhum;
-    else if (std::ranges::all_of(ie, [](char16_t c) { return c == u'0'; }))
+    else if (SoTemZeros(ie))
         FMotivo = mrRepetido;
     else if (ie.size() > CMaiorTamanho)
         FMotivo = mrTamanho;
-    else if (const TUnidade* unidade = BuscarUnidade(GetUF()))
+    else if (const TUnidade* unidade = BuscarUnidade(GetUF()); !unidade)
+        FMotivo = mrUf;
+    else if (unidade->Validar)
         (this->*unidade->Validar)();
     else
-        FMotivo = mrUf;
+        FMotivo = Conferir(unidade->Formatos, ie);
+}
+
+bool TOryUtilsValidacoesIE::Validou(std::u16string_view AIE, std::u16string_view AUF) noexcept {
+    // Bare digits of a unit with plain formats are read where they stand.
+    if (AUF.size() == 2) {
+        const char16_t sigla[] = {Maiuscula(AUF[0]), Maiuscula(AUF[1])};
+        const TUnidade* unidade = BuscarUnidade({sigla, 2});
+        if (unidade && !unidade->Validar) {
+            const TMotivoRecusa motivo = Conferir(unidade->Formatos, AIE);
+            if (motivo == mrDigito || motivo == mrPrefixo) return false;
+            if (motivo == mrNenhum) return !SoTemZeros(AIE);
+        }
+    }
+    TOryUtilsValidacoesIE ie;
+    ie.SetUF(AUF);
+    ie.SetIE(AIE);
+    ie.Validar();
+    return ie.GetValido();
 }
 
 std::u16string_view TOryUtilsValidacoesIE::FormatarBase(std::u16string_view AModelo) noexcept {

@@ -44,6 +44,9 @@ public:
     /// 15 or more characters, otherwise as the rule of the UF says.
     void Validar() noexcept;
 
+    /// What SetUF, SetIE, Validar and GetValido answer, in one go.
+    static bool Validou(std::u16string_view AIE, std::u16string_view AUF) noexcept;
+
     /// Converts ATexto (the kept IE when not given) to a number, 0 when it is not one, and writes it with at least as
     /// many digits as AModelo has zeros, at most 20. The result becomes the working base and stays until the next call.
     /// Example:  FormatarBase(u"00000", u"42")  ->  "00042"

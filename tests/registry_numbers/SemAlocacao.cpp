@@ -10,13 +10,14 @@ namespace {
 long GAlocacoes = 0;
 }
 
-void* operator new(std::size_t ATamanho) {
+// Not inlined: the optimizer would see "new" freed by "free".
+[[gnu::noinline]] void* operator new(std::size_t ATamanho) {
     ++GAlocacoes;
     if (void* memoria = std::malloc(ATamanho)) return memoria;
     throw std::bad_alloc();
 }
-void operator delete(void* AMemoria) noexcept { std::free(AMemoria); }
-void operator delete(void* AMemoria, std::size_t) noexcept { std::free(AMemoria); }
+[[gnu::noinline]] void operator delete(void* AMemoria) noexcept { std::free(AMemoria); }
+[[gnu::noinline]] void operator delete(void* AMemoria, std::size_t) noexcept { std::free(AMemoria); }
 
 namespace OryUtils {
 namespace {

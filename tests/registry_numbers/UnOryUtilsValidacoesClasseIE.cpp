@@ -92,6 +92,12 @@ TEST(IE, IgualALeituraLenta) {
                 }
                 const bool esperado = IELenta::Validou(ie, unidade.UF);
                 validas += esperado;
+                TOryUtilsValidacoesIE passo_a_passo;
+                passo_a_passo.SetUF(unidade.UF);
+                passo_a_passo.SetIE(ie);
+                passo_a_passo.Validar();
+                ASSERT_EQ(passo_a_passo.GetValido(), esperado)
+                    << ParaUtf8(unidade.UF) << " " << ParaUtf8(ie) << " seed " << semente;
                 ASSERT_EQ(ValidouIE(ie, unidade.UF), esperado)
                     << ParaUtf8(unidade.UF) << " " << ParaUtf8(ie) << " seed " << semente;
             }

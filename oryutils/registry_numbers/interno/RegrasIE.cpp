@@ -1,6 +1,7 @@
 #include "oryutils/registry_numbers/interno/RegrasIE.hpp"
 
 #include <algorithm>
+#include <cstring>
 
 namespace OryUtils::RegrasIE {
 namespace {
@@ -51,60 +52,63 @@ bool BahiaUsaModulo11(int APrimeiroDigito) noexcept {
     return APrimeiroDigito == 6 || APrimeiroDigito == 7 || APrimeiroDigito == 9;
 }
 
+/// The check digit of each remainder of 11, for the rules that need no more.
+constexpr std::array<std::array<std::uint8_t, 11>, rdUltimo + 1> CDigitoDoResto = [] {
+    std::array<std::array<std::uint8_t, 11>, rdUltimo + 1> digitos{};
+    for (int resto = 0; resto < 11; ++resto) {
+        const auto coluna = static_cast<std::size_t>(resto);
+        digitos[rdPadrao][coluna] = static_cast<std::uint8_t>(CalcularDigitoPadrao(resto));
+        digitos[rdVezesDez][coluna] = static_cast<std::uint8_t>(resto * 10 % 11 % 10);
+        digitos[rdOnze][coluna] = static_cast<std::uint8_t>((11 - resto) % 10);
+        digitos[rdUltimo][coluna] = static_cast<std::uint8_t>(resto % 10);
+    }
+    return digitos;
+}();
+
 int CalcularDigito(const TDigitoIE& ADigito, const TDigitos& ADigitos) noexcept {
     const int soma = Somar(ADigitos, ADigito.Pesos);
+    if (ADigito.Regra <= rdUltimo) return CDigitoDoResto[ADigito.Regra][static_cast<unsigned>(soma) % 11];
     switch (ADigito.Regra) {
-        case rdPadrao:
-            return CalcularDigitoPadrao(soma % 11);
-        case rdVezesDez:
-            return soma * 10 % 11 % 10;
-        case rdOnze:
-            return (11 - soma % 11) % 10;
         case rdGoias:
             return CalcularDigitoGoias(soma % 11, ADigitos);
         case rdNove:
             return soma % 9;
-        case rdUltimo:
-            return soma % 11 % 10;
         case rdBahia:
             return BahiaUsaModulo11(ADigitos[0]) ? CalcularDigitoPadrao(soma % 11) : (10 - soma % 10) % 10;
         case rdAmapa:
             return CalcularDigitoAmapa(soma, ADigitos);
-        case rdAlgarismos:
-            return (10 - SomarAlgarismosDosProdutos(ADigitos, ADigito.Pesos) % 10) % 10;
-        case rdNenhum:
-            break;
+        default:
+            return (10 - SomarAlgarismosDosProdutos(ADigitos, ADigito.Pesos) % 10) % 10;  // rdAlgarismos
     }
-    return ADigitos[ADigito.Lugar - 1];
 }
 
-bool ComecaComo(std::u16string_view AIE, std::string_view AInicio) noexcept {
-    for (std::size_t i = 0; i < AInicio.size(); ++i)
-        if (AInicio[i] != '?' && AIE[i] != static_cast<char16_t>(AInicio[i])) return false;
-    return true;
-}
-
-bool TemInicioAceito(const TFormatoIE& AFormato, std::u16string_view AIE) noexcept {
-    if (AFormato.Inicios[0].empty()) return true;
-    for (const std::string_view inicio : AFormato.Inicios) {
-        if (inicio.empty()) return false;
-        if (ComecaComo(AIE, inicio)) return true;
-    }
-    return false;
+bool TemInicioAceito(const TFormatoIE& AFormato, const TDigitos& ADigitos) noexcept {
+    std::uint64_t inicio = 0;
+    for (std::size_t i = 0; i < 4; ++i) inicio |= static_cast<std::uint64_t>(ADigitos[i]) << (16 * i);
+    bool aceito = false;
+    for (const TInicioIE& alternativa : AFormato.Inicios) aceito |= (inicio & alternativa.Mascara) == alternativa.Valor;
+    return aceito;
 }
 
 TMotivoRecusa ConferirFormato(const TFormatoIE& AFormato, std::u16string_view AIE) noexcept {
-    TDigitos digitos{};
-    for (std::size_t i = 0; i < AIE.size(); ++i) {
-        const auto digito = static_cast<unsigned>(AIE[i] - u'0');
-        if (digito > 9) return mrCaractere;
+    constexpr std::size_t CBloco = 8;  // no format is shorter
+    std::array<char16_t, CLargura> texto;
+    texto.fill(u'0');
+    // Two blocks of fixed size, the second one over the end of the first.
+    std::memcpy(texto.data(), AIE.data(), CBloco * sizeof(char16_t));
+    std::memcpy(texto.data() + AIE.size() - CBloco, AIE.data() + AIE.size() - CBloco, CBloco * sizeof(char16_t));
+    TDigitos digitos;
+    std::uint16_t estranhos = 0;
+    for (std::size_t i = 0; i < CLargura; ++i) {
+        const auto digito = static_cast<std::uint16_t>(texto[i] - u'0');
+        estranhos = static_cast<std::uint16_t>(estranhos | (digito > 9 ? 1 : 0));
         digitos[i] = static_cast<std::int16_t>(digito);
     }
-    if (!TemInicioAceito(AFormato, AIE)) return mrPrefixo;
-    const auto certo = [&](const TDigitoIE& ADigito) {
-        return ADigito.Regra == rdNenhum || digitos[ADigito.Lugar - 1] == CalcularDigito(ADigito, digitos);
-    };
-    return certo(AFormato.Digito1) && certo(AFormato.Digito2) ? mrNenhum : mrDigito;
+    if (estranhos) return mrCaractere;
+    if (!TemInicioAceito(AFormato, digitos)) return mrPrefixo;
+    const bool certos = (digitos[AFormato.Digito1.Lugar - 1] == CalcularDigito(AFormato.Digito1, digitos)) &
+                        (digitos[AFormato.Digito2.Lugar - 1] == CalcularDigito(AFormato.Digito2, digitos));
+    return certos ? mrNenhum : mrDigito;
 }
 
 }  // namespace
