@@ -1,0 +1,214 @@
+#include "mensagem/Mensagem.hpp"
+
+#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/ui/UnOryUtilsDialogs.hpp"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <limits>
+#include <string_view>
+
+namespace Ory {
+namespace {
+
+using namespace OryUtils;
+
+struct TNomeDeTipo {
+    std::string_view Nome;
+    TMsgDlgType Tipo;
+};
+constexpr std::array CTipos{
+    TNomeDeTipo{"informacao", mtInformation},   TNomeDeTipo{"aviso", mtWarning}, TNomeDeTipo{"erro", mtError},
+    TNomeDeTipo{"confirmacao", mtConfirmation}, TNomeDeTipo{"nenhum", mtCustom},
+};
+
+struct TNomeDeBotao {
+    std::string_view Nome;
+    TMsgDlgBtn Tipo;
+    TStatusMensagem Status;
+};
+// Help closes nothing, so a script has no use for it.
+constexpr std::array CBotoes{
+    TNomeDeBotao{"sim", mbYes, smSim},
+    TNomeDeBotao{"nao", mbNo, smNao},
+    TNomeDeBotao{"ok", mbOK, smSim},
+    TNomeDeBotao{"cancelar", mbCancel, smCancelada},
+    TNomeDeBotao{"abortar", mbAbort, smNao},
+    TNomeDeBotao{"repetir", mbRetry, smSim},
+    TNomeDeBotao{"ignorar", mbIgnore, smSim},
+    TNomeDeBotao{"todos", mbAll, smSim},
+    TNomeDeBotao{"nao-todos", mbNoToAll, smNao},
+    TNomeDeBotao{"sim-todos", mbYesToAll, smSim},
+    TNomeDeBotao{"fechar", mbClose, smSim},
+};
+
+template <typename TTabela>
+const auto& BuscarPorNome(const TTabela& ATabela, std::string_view ANome, std::string_view AOpcao) {
+    const auto achado = std::find_if(ATabela.begin(), ATabela.end(), [&](const auto& l) { return l.Nome == ANome; });
+    if (achado == ATabela.end())
+        throw EFalha(std::string(AOpcao) + " não conhece " + std::string(ANome) + "; veja ory mensagem --ajuda");
+    return *achado;
+}
+
+template <typename TTabela>
+std::string ListarNomes(const TTabela& ATabela) {
+    std::string nomes;
+    for (const auto& linha : ATabela) nomes += (nomes.empty() ? "" : ", ") + std::string(linha.Nome);
+    return nomes;
+}
+
+int BuscarResultado(TMsgDlgBtn ATipo) { return CModalResults[static_cast<std::size_t>(ATipo)]; }
+
+std::u16string JuntarLinhas(const std::vector<std::string>& ALinhas) {
+    std::u16string texto;
+    for (const std::string& linha : ALinhas) texto += (&linha == &ALinhas.front() ? u"" : u"\r\n") + DeUtf8(linha);
+    return texto;
+}
+
+void LerBotoes(const TPedidoDeMensagem& APedido, TOryUtilsDialogsFormCustomizadoBaseIOP& AParametros) {
+    std::vector<std::string> pedidos = APedido.Botoes;
+    if (pedidos.empty())
+        pedidos = AParametros.TipoDialogo == mtConfirmation ? std::vector<std::string>{"sim", "nao"}
+                                                            : std::vector<std::string>{"ok"};
+    for (const std::string& pedido : pedidos) {
+        const std::size_t igual = pedido.find('=');
+        const TMsgDlgBtn tipo = BuscarPorNome(CBotoes, pedido.substr(0, igual), "--botao").Tipo;
+        if (std::count(AParametros.Botoes.begin(), AParametros.Botoes.end(), tipo) > 0)
+            throw EFalha("--botao repete " + pedido.substr(0, igual));
+        AParametros.Botoes.push_back(tipo);
+        AParametros.CaptionBotoes.push_back(igual == std::string::npos ? CCaptionsBotao[tipo]
+                                                                       : DeUtf8(pedido.substr(igual + 1)));
+    }
+    if (APedido.Padrao.empty()) return;
+    const TMsgDlgBtn padrao = BuscarPorNome(CBotoes, APedido.Padrao, "--padrao").Tipo;
+    if (std::count(AParametros.Botoes.begin(), AParametros.Botoes.end(), padrao) == 0)
+        throw EFalha("--padrao não é um dos botões: " + APedido.Padrao);
+    AParametros.BotaoPadrao = BuscarResultado(padrao);
+}
+
+TOryUtilsDialogsFormCustomizadoBaseIOP LerParametros(const TPedidoDeMensagem& APedido) {
+    TOryUtilsDialogsFormCustomizadoBaseIOP parametros;
+    const auto tipo = APedido.Tipo.empty() ? mtInformation : BuscarPorNome(CTipos, APedido.Tipo, "--tipo").Tipo;
+    parametros.TipoDialogo = tipo;
+    parametros.Titulo = tipo == mtWarning ? TextosDialogos().Buscar(tdAviso) : CCaptionsDialogo[tipo];
+    if (!APedido.Titulo.empty()) parametros.Titulo = DeUtf8(APedido.Titulo);
+    parametros.Mensagem = JuntarLinhas(APedido.Linhas);
+    LerBotoes(APedido, parametros);
+    if (APedido.FecharEm > std::numeric_limits<std::int32_t>::max() / 1000)
+        throw EFalha("--fechar-em vai até 2147483 segundos");
+    parametros.FecharMensagemAutomaticamente = APedido.FecharEm > 0;
+    parametros.TempoFinalizacaoAutomatica = static_cast<std::int32_t>(APedido.FecharEm) * 1000;
+    return parametros;
+}
+
+void ConferirCombinacao(const TPedidoDeMensagem& APedido) {
+    const int variantes =
+        !APedido.Opcoes.empty() + !APedido.Caixa.empty() + !APedido.Detalhe.empty() + (APedido.Perguntar ? 1 : 0);
+    if (variantes > 1) throw EFalha("só um de --opcao, --caixa, --detalhe e --valor por mensagem");
+    if (APedido.Perguntar && (!APedido.Botoes.empty() || !APedido.Tipo.empty() || APedido.FecharEm > 0))
+        throw EFalha("--valor não combina com --botao, --tipo nem --fechar-em");
+    const int opcoes = static_cast<int>(APedido.Opcoes.size());
+    if (!APedido.Opcoes.empty() && (APedido.OpcaoPadrao < 0 || APedido.OpcaoPadrao > opcoes))
+        throw EFalha("--opcao-padrao vai de 0 a " + std::to_string(opcoes));
+}
+
+void EscreverLinha(TAmbiente& AAmbiente, std::u16string_view ATexto) {
+    AAmbiente.Saida.Escrever(ParaUtf8(ATexto) + "\n");
+}
+
+int Perguntar(const TPedidoDeMensagem& APedido, TAmbiente& AAmbiente) {
+    std::u16string valor = DeUtf8(APedido.Valor);
+    if (!GOryUtilsDialogs->InputQuery(DeUtf8(APedido.Titulo), JuntarLinhas(APedido.Linhas), valor)) return smCancelada;
+    EscreverLinha(AAmbiente, valor);
+    return smSim;
+}
+
+}  // namespace
+
+void DescreverMensagem(CLI::App& AComando, TPedidoDeMensagem& APedido) {
+    AComando.add_option("TEXTO", APedido.Linhas, "texto da mensagem; cada argumento é uma linha");
+    AComando.add_option("--titulo", APedido.Titulo, "título da janela (padrão: o do tipo)");
+    AComando.add_option("--tipo", APedido.Tipo, "ícone e título: " + ListarNomes(CTipos) + " (padrão: informacao)");
+    AComando
+        .add_option("--botao", APedido.Botoes,
+                    "nome ou nome=texto; repita para cada botão. Nomes:\n" + ListarNomes(CBotoes) +
+                        "\n(padrão: sim e nao na confirmacao, ok nos outros tipos)")
+        ->allow_extra_args(false);
+    AComando.add_option("--padrao", APedido.Padrao, "nome do botão que recebe o foco");
+    AComando.add_option("--opcao", APedido.Opcoes, "uma opção a escolher; repita para cada uma")
+        ->allow_extra_args(false);
+    AComando.add_option("--opcao-padrao", APedido.OpcaoPadrao,
+                        "opção já escolhida, a partir de 1; 0 nenhuma (padrão: 1)");
+    AComando.add_option("--caixa", APedido.Caixa, "texto de uma caixa de checagem");
+    AComando.add_flag("--caixa-abaixo", APedido.CaixaAbaixo, "caixa abaixo dos botões");
+    AComando.add_option("--detalhe", APedido.Detalhe, "texto que o botão Mostrar Detalhes abre");
+    AComando.add_option("--fechar-em", APedido.FecharEm, "segundos até fechar sem resposta");
+    AComando
+        .add_option("--valor", APedido.Valor, "em vez de botões pergunta um texto, com este já escrito (pode ser \"\")")
+        ->each([&APedido](const std::string&) { APedido.Perguntar = true; });
+    AComando.footer(
+        "Na saída: uma linha com o texto do botão escolhido, sem \"&\" (vazia se a janela foi fechada\n"
+        "e não há botão cancelar), e com --opcao mais uma com a opção (vazia se nenhuma), com --caixa mais uma com 1 "
+        "ou 0.\n"
+        "Com --valor: uma linha com o texto digitado, e nada se foi cancelado.\n\n"
+        "Saída do programa: 0 sim, ok, repetir, ignorar, todos, sim-todos ou fechar; 1 nao, abortar ou nao-todos;\n"
+        "3 cancelar, janela fechada ou tempo esgotado; 2 chamada errada.\n\n"
+        "Exemplos:\n"
+        "  ory mensagem --tipo confirmacao \"Apagar os arquivos antigos?\" --padrao nao && apagar.sh\n"
+        "  ory mensagem \"Que filial?\" --opcao Matriz --opcao \"Filial 2\" --botao ok --botao cancelar\n"
+        "  ory mensagem \"Número do lote:\" --valor \"\"");
+}
+
+int MostrarMensagem(const TPedidoDeMensagem& APedido, TAmbiente& AAmbiente) {
+    ConferirCombinacao(APedido);
+    if (APedido.Perguntar) return Perguntar(APedido, AAmbiente);
+
+    const auto base = LerParametros(APedido);
+    int resultado = mrNone;
+    std::vector<std::u16string> respostas;
+    if (!APedido.Opcoes.empty()) {
+        TOryUtilsDialogsFormCustomizadoComOpcoesIOP parametros;
+        parametros.Assign(base);
+        for (const std::string& opcao : APedido.Opcoes) parametros.OpcoesMensagem.push_back(DeUtf8(opcao));
+        parametros.OpcaoPadrao = APedido.OpcaoPadrao - 1;
+        const auto retorno = GOryUtilsDialogs->ConfirmacaoCustomizadaComOpcoes(parametros);
+        resultado = retorno->RetornoMensagem;
+        const auto indice = static_cast<std::size_t>(retorno->IndiceOpcao);
+        respostas.push_back(indice < parametros.OpcoesMensagem.size() ? RemoverAtalho(parametros.OpcoesMensagem[indice])
+                                                                      : u"");
+    } else if (!APedido.Caixa.empty()) {
+        TOryUtilsDialogsFormCustomizadoCaixaChecagemIOP parametros;
+        parametros.Assign(base);
+        parametros.TextoCaixaChecagem = DeUtf8(APedido.Caixa);
+        parametros.PosicaoCaixaChecagem = APedido.CaixaAbaixo ? pccAbaixo : pccAcima;
+        const auto retorno = GOryUtilsDialogs->ConfirmacaoCustomizadaComCaixaChecagem(parametros);
+        resultado = retorno->RetornoMensagem;
+        respostas.push_back(retorno->CaixaChecagem ? u"1" : u"0");
+    } else {
+        TOryUtilsDialogsFormCustomizadoComDetalhesIOP parametros;
+        parametros.Assign(base);
+        parametros.MensagemDetalhe = DeUtf8(APedido.Detalhe);
+        resultado = APedido.Detalhe.empty()
+                        ? GOryUtilsDialogs->BuscarFormularioConfirmacaoCustomizado(base)->ExecutarModal()
+                        : GOryUtilsDialogs->ConfirmacaoCustomizadaComDetalhes(parametros);
+    }
+
+    const auto escolhido = std::find_if(base.Botoes.begin(), base.Botoes.end(),
+                                        [&](TMsgDlgBtn b) { return BuscarResultado(b) == resultado; });
+    TStatusMensagem status = smCancelada;
+    std::u16string caption;
+    if (escolhido != base.Botoes.end()) {
+        caption = RemoverAtalho(base.CaptionBotoes[static_cast<std::size_t>(escolhido - base.Botoes.begin())]);
+        status =
+            std::find_if(CBotoes.begin(), CBotoes.end(), [&](const auto& b) { return b.Tipo == *escolhido; })->Status;
+    }
+    // A cancel button and the window's close button give the same result: both print the button's caption.
+    EscreverLinha(AAmbiente, caption);
+    for (const auto& resposta : respostas) EscreverLinha(AAmbiente, resposta);
+    return status;
+}
+
+}  // namespace Ory

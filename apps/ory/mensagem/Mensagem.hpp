@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Ambiente.hpp"
+
+#include <string>
+#include <vector>
+
+namespace CLI {
+class App;
+}
+
+namespace Ory {
+
+/// A dialog asked for on the command line, as it was written there (UTF-8).
+struct TPedidoDeMensagem {
+    std::vector<std::string> Linhas{};
+    std::string Tipo{};
+    std::string Titulo{};
+    std::vector<std::string> Botoes{};  // name or name=caption
+    std::string Padrao{};               // name of a button
+    std::vector<std::string> Opcoes{};
+    int OpcaoPadrao = 1;  // from 1; 0 none
+    std::string Caixa{};
+    bool CaixaAbaixo = false;
+    std::string Detalhe{};
+    unsigned FecharEm = 0;  // seconds; 0 never
+    bool Perguntar = false;
+    std::string Valor{};
+};
+
+/// Exit statuses of `ory mensagem` beside stFalha, by what the user answered.
+enum TStatusMensagem : int { smSim = 0, smNao = 1, smCancelada = 3 };
+
+/// The options and the help of the sub-command.
+void DescreverMensagem(CLI::App& AComando, TPedidoDeMensagem& APedido);
+
+/// Shows the dialog by the toolkit in use (without a display it is asked on the terminal), writes the answer on
+/// AAmbiente.Saida and gives the exit status. Raises EFalha for options that make no dialog.
+int MostrarMensagem(const TPedidoDeMensagem& APedido, TAmbiente& AAmbiente);
+
+}  // namespace Ory
