@@ -1,0 +1,234 @@
+#include "oryutils/text/interno/FormulaAvaliador.hpp"
+
+#include "oryutils/runtime/Caixa.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
+
+#include <algorithm>
+#include <array>
+
+namespace OryUtils::Interno {
+namespace {
+
+constexpr std::size_t CNenhum = std::u16string_view::npos;
+
+enum TClasse : std::uint8_t { clOutro, clComum, clMinuscula, clIgnorado, clAbre, clFecha, clSeparador };
+
+/// What the first step does with each of the ASCII characters.
+constexpr auto CClasses = [] {
+    std::array<TClasse, 128> classes{};
+    for (std::size_t c = 0; c < classes.size(); ++c) classes[c] = c >= 'a' && c <= 'z' ? clMinuscula : clComum;
+    classes[' '] = classes['.'] = clIgnorado;
+    classes['('] = clAbre;
+    classes[')'] = clFecha;
+    classes[';'] = clSeparador;
+    return classes;
+}();
+
+/// A formula may grow by this much for each of its characters when its variables are resolved, and no value is as long.
+/// Values that name variables again, as "1E20" does, would make it grow for ever.
+constexpr std::size_t CCrescimento = 64;
+constexpr std::size_t CCrescimentoMinimo = 64 * 1024;
+
+}  // namespace
+
+Extended TAvaliador::Calcular(std::u16string_view AFormula, std::u16string* AResolvida) {
+    return CalcularSemFuncoes(ResolverFuncoes(AFormula), AResolvida);
+}
+
+Extended TAvaliador::CalcularSemFuncoes(std::u16string_view AFormula, std::u16string* AResolvida) {
+    AFormula = ResolverVariaveis(AFormula);
+    if (AResolvida) AResolvida->assign(AFormula);
+    return CalcularExpressao(ResolverParenteses(ResolverDuploSinalNegativo(AFormula)));
+}
+
+std::u16string_view TAvaliador::ResolverFuncoes(std::u16string_view AFormula) {
+    FChamadas.Limpar();
+    FAbertas.clear();
+    FSemFuncoes.resize(AFormula.size());
+    char16_t* escrita = FSemFuncoes.data();
+    const auto ajustar_tamanho = [&] { FSemFuncoes.resize(static_cast<std::size_t>(escrita - FSemFuncoes.data())); };
+    const char16_t* const fim = AFormula.data() + AFormula.size();
+    const auto retomar = [&](const char16_t* AResto) {
+        const std::size_t escritos = FSemFuncoes.size();
+        FSemFuncoes.resize(escritos + static_cast<std::size_t>(fim - AResto));
+        escrita = FSemFuncoes.data() + escritos;
+    };
+    for (const char16_t* p = AFormula.data(); p != fim; ++p) {
+        const char16_t c = *p;
+        switch (c < CClasses.size() ? CClasses[c] : clOutro) {
+            case clComum:
+                *escrita++ = c;
+                break;
+            case clMinuscula:
+                *escrita++ = static_cast<char16_t>(c - 32);
+                break;
+            case clIgnorado:
+                break;
+            case clOutro:
+                *escrita++ = MaiusculaDe(c);
+                break;
+            case clSeparador:
+                if (!FAbertas.empty() && FAbertas.back().Separador == CNenhum)
+                    FAbertas.back().Separador = static_cast<std::size_t>(escrita - FSemFuncoes.data());
+                *escrita++ = c;
+                break;
+            case clAbre:
+                if (escrita != FSemFuncoes.data() && EhLetra(escrita[-1])) {
+                    if (const auto funcao = BuscarFuncaoNoFim({FSemFuncoes.data(), escrita})) {
+                        escrita -= CNomesFuncoes[*funcao].size();
+                        ajustar_tamanho();
+                        AbrirFuncao(*funcao);
+                        retomar(p + 1);
+                        break;
+                    }
+                }
+                if (!FAbertas.empty()) ++FAbertas.back().Parenteses;
+                *escrita++ = c;
+                break;
+            case clFecha:
+                if (FAbertas.empty() || FAbertas.back().Parenteses-- > 0) {
+                    *escrita++ = c;
+                    break;
+                }
+                ajustar_tamanho();
+                FecharFuncao();
+                retomar(p + 1);
+                break;
+        }
+    }
+    ajustar_tamanho();
+    while (!FAbertas.empty()) FecharFuncao();
+    if (FChamadas.TemErro()) FChamadas.LancarPrimeiroErro();
+    return FSemFuncoes;
+}
+
+void TAvaliador::AbrirFuncao(TFuncCalc AFuncao) {
+    if (!FAbertas.empty() && FAbertas.back().Separador == CNenhum && AFuncao >= FAbertas.back().Funcao)
+        FAbertas.back().FuncaoAntesDoSeparador = true;
+    FAbertas.push_back({.Funcao = AFuncao, .Chamada = FChamadas.Abrir(AFuncao), .Inicio = FSemFuncoes.size()});
+}
+
+/// The innermost open function ends where the text under construction ends: its number takes the place of its argument.
+void TAvaliador::FecharFuncao() {
+    const TAberta aberta = FAbertas.back();
+    FAbertas.pop_back();
+    FChamadas.Fechar(aberta.Chamada);
+    const std::u16string_view argumento = std::u16string_view(FSemFuncoes).substr(aberta.Inicio);
+    bool erro = aberta.Erro;
+    bool antes_dos_argumentos = true;
+    Extended valor = 0;
+    try {
+        if (TemDoisArgumentos(aberta.Funcao)) {
+            if (aberta.Separador == CNenhum || aberta.FuncaoAntesDoSeparador)
+                throw Exception(u"São necessários dois argumentos para calcular a função.");
+            const std::size_t separador = aberta.Separador - aberta.Inicio;
+            const bool calcular = !aberta.ErroAntesDoSeparador;
+            const Extended um = calcular ? CalcularSemFuncoes(argumento.substr(0, separador), nullptr) : 0;
+            antes_dos_argumentos = false;
+            if (!erro)
+                valor = CalcularFuncao(aberta.Funcao, um, CalcularSemFuncoes(argumento.substr(separador + 1), nullptr));
+        } else if (!erro) {
+            antes_dos_argumentos = false;
+            valor = CalcularFuncao(aberta.Funcao, CalcularSemFuncoes(argumento, nullptr), 0);
+        }
+    } catch (const Exception&) {
+        FChamadas.RegistrarErro(aberta.Chamada, antes_dos_argumentos, std::current_exception());
+        erro = true;
+    }
+
+    FSemFuncoes.resize(aberta.Inicio);
+    if (erro) {
+        if (FAbertas.empty()) return;
+        FAbertas.back().Erro = true;
+        if (FAbertas.back().Separador == CNenhum) FAbertas.back().ErroAntesDoSeparador = true;
+        return;
+    }
+    std::array<char16_t, CTamanhoMaximoExtended> texto;
+    FSemFuncoes += EscreverExtended(valor, texto, FRegras.SeparadorDecimal);
+    // A call that is resolved after this one finds the number in its argument and disregards a point there too.
+    if (FRegras.SeparadorDecimal == u'.' && !FAbertas.empty() && FAbertas.back().Funcao > aberta.Funcao)
+        FSemFuncoes.erase(
+            std::remove(FSemFuncoes.begin() + static_cast<std::ptrdiff_t>(aberta.Inicio), FSemFuncoes.end(), u'.'),
+            FSemFuncoes.end());
+}
+
+std::u16string_view TAvaliador::ResolverVariaveis(std::u16string_view AFormula) {
+    const auto eh_variavel = [this](char16_t c) { return FRegras.EhVariavel(c); };
+    auto p = std::find_if(AFormula.begin(), AFormula.end(), eh_variavel);
+    if (p == AFormula.end()) return AFormula;
+
+    FSemVariaveis.clear();
+    auto copiado = AFormula.begin();
+    while (p != AFormula.end()) {
+        FSemVariaveis.append(copiado, p);
+        const auto fim_do_nome = std::find_if(p, AFormula.end(), [&](char16_t c) {
+            return !eh_variavel(c) && !EhDigito(c) && c != FRegras.SeparadorDecimal;
+        });
+        SubstituirVariavel({p, fim_do_nome}, AFormula.size());
+        copiado = fim_do_nome;
+        p = std::find_if(fim_do_nome, AFormula.end(), eh_variavel);
+    }
+    FSemVariaveis.append(copiado, AFormula.end());
+    return FSemVariaveis;
+}
+
+/// Appends what stands for the variable. The scan goes on at the start of the value, so that the "E" of an exponent is
+/// a name again; what follows that name waits in FRestos.
+void TAvaliador::SubstituirVariavel(std::u16string_view ANome, std::size_t ATamanhoDaFormula) {
+    FRestos.clear();
+    while (true) {
+        const std::u16string_view texto = Variaveis.BuscarTexto(ANome);
+        const std::size_t e = texto.find(u'E');
+        FSemVariaveis += texto.substr(0, e);
+        if (e == CNenhum) break;
+        if (FSemVariaveis.size() > ATamanhoDaFormula * CCrescimento + CCrescimentoMinimo)
+            throw Exception(u"Variáveis da fórmula sem fim.");
+        const std::size_t fim_do_nome = std::min(texto.find(u'-', e), texto.size());
+        FRestos.push_back(texto.substr(fim_do_nome));
+        ANome = texto.substr(e, fim_do_nome - e);
+    }
+    for (; !FRestos.empty(); FRestos.pop_back()) FSemVariaveis += FRestos.back();
+}
+
+std::u16string_view TAvaliador::ResolverDuploSinalNegativo(std::u16string_view AFormula) {
+    const std::u16string_view duplo = TOryUtilsFormulas::GetDuploSinalNegativo();
+    std::size_t posicao = AFormula.find(duplo);
+    if (posicao == CNenhum) return AFormula;
+    FSemDuplos.clear();
+    std::size_t copiado = 0;
+    for (; posicao != CNenhum; posicao = AFormula.find(duplo, copiado)) {
+        FSemDuplos.append(AFormula, copiado, posicao - copiado);
+        FSemDuplos += u'+';
+        copiado = posicao + duplo.size();
+    }
+    FSemDuplos.append(AFormula, copiado);
+    return FSemDuplos;
+}
+
+std::u16string_view TAvaliador::ResolverParenteses(std::u16string_view AFormula) {
+    const std::size_t primeiro = AFormula.find(u'(');
+    if (primeiro == CNenhum) return AFormula;
+    FSemParenteses.assign(AFormula, 0, primeiro);
+    FParenteses.clear();
+    for (const char16_t c : AFormula.substr(primeiro)) {
+        if (c == u'(')
+            FParenteses.push_back(FSemParenteses.size());
+        else if (c == u')' && !FParenteses.empty())
+            FecharParentese();
+        else
+            FSemParenteses += c;
+    }
+    while (!FParenteses.empty()) FecharParentese();
+    return FSemParenteses;
+}
+
+void TAvaliador::FecharParentese() {
+    const std::size_t inicio = FParenteses.back();
+    FParenteses.pop_back();
+    const Extended valor = CalcularExpressao(std::u16string_view(FSemParenteses).substr(inicio));
+    std::array<char16_t, CTamanhoMaximoExtended> texto;
+    FSemParenteses.resize(inicio);
+    FSemParenteses += EscreverExtended(valor, texto, FRegras.SeparadorDecimal);
+}
+
+}  // namespace OryUtils::Interno

@@ -1,0 +1,160 @@
+#include "oryutils/text/interno/FormulaExpressao.hpp"
+
+#include "oryutils/runtime/interno/QuinzeDigitos.hpp"
+#include "oryutils/text/OryUtilsFormulas.hpp"
+
+#include <array>
+#include <cmath>
+
+namespace OryUtils::Interno {
+namespace {
+
+/// From here up a number is written without an exponent that has a sign.
+constexpr Extended CMenorSemExpoenteNegativo = 1e-4L;
+constexpr int CDigitosEm64Bits = 19;
+
+Extended Resultado(char16_t AOperador, Extended AUm, Extended AOutro) noexcept {
+    switch (AOperador) {
+        case u'*':
+            return TOryUtilsFormulas::GetMultiplicacao(AUm, AOutro);
+        case u'/':
+            return TOryUtilsFormulas::GetDivisao(AUm, AOutro);
+        case u'+':
+            return TOryUtilsFormulas::GetSoma(AUm, AOutro);
+        default:
+            return TOryUtilsFormulas::GetSubtracao(AUm, AOutro);
+    }
+}
+
+}  // namespace
+
+/// Reads the operand that starts at AInicio, behind AOperador, and answers where it ends.
+const char16_t* TExpressao::LerOperando(const char16_t* AInicio, const char16_t* AFim, char16_t AOperador) {
+    const char16_t* p = AInicio;
+    // At the start and behind any other operator a "-" is the sign of the number.
+    const bool negativo = p != AFim && *p == u'-' && AOperador != u'-';
+    p += negativo;
+    const char16_t* const inicio_dos_digitos = p;
+    std::uint64_t digitos = 0;
+    for (; p != AFim && EhDigito(*p); ++p) digitos = digitos * 10 + static_cast<unsigned>(*p - u'0');
+    std::ptrdiff_t quantos = p - inicio_dos_digitos;
+    std::ptrdiff_t decimais = 0;
+    if (p != AFim && *p == FRegras.SeparadorDecimal) {
+        const char16_t* const inicio_dos_decimais = ++p;
+        for (; p != AFim && EhDigito(*p); ++p) digitos = digitos * 10 + static_cast<unsigned>(*p - u'0');
+        decimais = p - inicio_dos_decimais;
+        quantos += decimais;
+    }
+    TParcela& parcela = FParcelas.emplace_back();
+    parcela.Operador = AOperador;
+    if ((p == AFim || EhSinalDeOperacao(*p)) && quantos <= CDigitosEm64Bits &&
+        (quantos > 0 || p == inicio_dos_digitos)) {
+        parcela.Valor = static_cast<Extended>(digitos);
+        if (decimais > 0) parcela.Valor = MultiplicarPorPotenciaDe10(parcela.Valor, -static_cast<int>(decimais));
+        if (negativo) parcela.Valor = -parcela.Valor;
+        return p;
+    }
+    while (p != AFim && !EhSinalDeOperacao(*p)) ++p;
+    parcela.Texto = {AInicio, p};
+    const auto lido =
+        TentarTextoParaExtended(parcela.Texto, TFormatSettings{.DecimalSeparator = FRegras.SeparadorDecimal});
+    parcela.EhNumero = lido.has_value();
+    parcela.Valor = lido.value_or(0);
+    return p;
+}
+
+/// Appends a result as the operators find it in the text, behind AOperador.
+void TExpressao::Repor(char16_t AOperador, Extended AValor) {
+    const Extended magnitude = std::abs(AValor);
+    if (!(magnitude >= CMenorSemExpoenteNegativo) || !std::isfinite(AValor)) {
+        if (AValor == 0) {
+            FParcelas.push_back({.Operador = AOperador});
+            return;
+        }
+        std::array<char16_t, CTamanhoMaximoExtended> texto;
+        ReporTexto(AOperador, EscreverExtended(AValor, texto, FRegras.SeparadorDecimal));
+        return;
+    }
+    if (AValor < 0 && AOperador == u'-') {
+        // "5-" and "-3" meet: two operators with nothing between them.
+        FParcelas.push_back({.Operador = u'-'});
+        FParcelas.push_back({.Valor = magnitude, .Operador = u'-'});
+        return;
+    }
+    FParcelas.push_back({.Valor = AValor, .Operador = AOperador});
+}
+
+/// A result that reads as no number, or whose exponent has a sign that the operators take for a subtraction.
+void TExpressao::ReporTexto(char16_t AOperador, std::u16string_view ATexto) {
+    if (ATexto.front() == u'-' && AOperador == u'-') {
+        FParcelas.push_back({.Operador = u'-'});
+        ATexto.remove_prefix(1);
+    }
+    const std::u16string& guardado = FTextos.emplace_back(ATexto);
+    const std::u16string_view texto = guardado;
+    const std::size_t menos = texto.find(u'-', 1);
+    FParcelas.push_back({.Texto = texto.substr(0, menos), .Operador = AOperador, .EhNumero = false});
+    if (menos != std::u16string_view::npos) LerOperando(texto.data() + menos + 1, texto.data() + texto.size(), u'-');
+}
+
+void TExpressao::Operar(const TParcela& AEsquerda, const TParcela& ADireita) {
+    for (const TParcela* parcela : {&AEsquerda, &ADireita})
+        if (!parcela->EhNumero)
+            TextoParaExtended(parcela->Texto, TFormatSettings{.DecimalSeparator = FRegras.SeparadorDecimal});
+    const char16_t operador = AEsquerda.Operador;
+    const Extended exato = Resultado(ADireita.Operador, AEsquerda.Valor, ADireita.Valor);
+    const Extended valor = FRegras.Ajuste == maNenhum ? exato : FRegras.Ajustar(exato);
+    const Extended magnitude = std::abs(valor);
+    const bool inteiro = magnitude < CPrimeiroDe16Digitos && ArredondarAoInteiro(magnitude) == magnitude;
+    Repor(operador, inteiro ? valor : ArredondarPara15Digitos(valor));
+}
+
+/// Resolves every AOperador, from the left to the right.
+void TExpressao::Passar(char16_t AOperador) {
+    FAnteriores.swap(FParcelas);
+    FParcelas.clear();
+    for (const TParcela& parcela : FAnteriores) {
+        if (parcela.Operador != AOperador) {
+            FParcelas.push_back(parcela);
+            continue;
+        }
+        // Only a result with an exponent leaves a subtraction behind in the last pass, with no number before it.
+        if (AOperador == u'-' && FParcelas.size() > 1) Operar(FParcelas[0], FParcelas[1]);
+        const TParcela esquerda = FParcelas.back();
+        FParcelas.pop_back();
+        Operar(esquerda, parcela);
+    }
+}
+
+Extended TExpressao::Calcular(std::u16string_view ATexto, const TRegrasFormula& ARegras) {
+    FRegras = ARegras;
+    FParcelas.clear();
+    if (!FTextos.empty()) FTextos.clear();
+    const char16_t* p = ATexto.data();
+    const char16_t* const fim = p + ATexto.size();
+    bool tem_divisao = false;
+    bool tem_soma = false;
+    for (char16_t operador = 0;;) {
+        p = LerOperando(p, fim, operador);
+        if (operador == u'*') {
+            const TParcela direita = FParcelas.back();
+            FParcelas.pop_back();
+            const TParcela esquerda = FParcelas.back();
+            FParcelas.pop_back();
+            Operar(esquerda, direita);
+        }
+        if (p == fim) break;
+        operador = *p++;
+        tem_divisao |= operador == u'/';
+        tem_soma |= operador == u'+';
+    }
+    if (tem_divisao) Passar(u'/');
+    if (tem_soma) Passar(u'+');
+    while (FParcelas.size() > 1) Passar(u'-');
+    const TParcela& ultima = FParcelas.front();
+    if (!ultima.EhNumero)
+        return TextoParaExtended(ultima.Texto, TFormatSettings{.DecimalSeparator = FRegras.SeparadorDecimal});
+    return ultima.Valor;
+}
+
+}  // namespace OryUtils::Interno

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "oryutils/text/interno/FormulaRegras.hpp"
+
+#include <deque>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace OryUtils::Interno {
+
+/// Evaluates texts without parentheses: operands and the operators between them, one kind of operator at a time.
+class TExpressao {
+public:
+    /// Raises EConvertError for an operand that is no number, at its turn.
+    Extended Calcular(std::u16string_view ATexto, const TRegrasFormula& ARegras);
+
+private:
+    /// An operand with the operator before it. An operand that is no number keeps its text until its turn comes.
+    struct TParcela {
+        Extended Valor = 0;
+        std::u16string_view Texto{};
+        char16_t Operador = 0;
+        bool EhNumero = true;
+    };
+
+    const char16_t* LerOperando(const char16_t* AInicio, const char16_t* AFim, char16_t AOperador);
+    void Operar(const TParcela& AEsquerda, const TParcela& ADireita);
+    void Repor(char16_t AOperador, Extended AValor);
+    void ReporTexto(char16_t AOperador, std::u16string_view ATexto);
+    void Passar(char16_t AOperador);
+
+    TRegrasFormula FRegras;
+    std::vector<TParcela> FParcelas;
+    std::vector<TParcela> FAnteriores;
+    std::deque<std::u16string> FTextos;  // of results that are no numbers to the operators
+};
+
+}  // namespace OryUtils::Interno
