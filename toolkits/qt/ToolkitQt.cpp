@@ -15,7 +15,7 @@
 #include <QScreen>
 
 #include <algorithm>
-#include <limits>
+#include <cmath>
 #include <type_traits>
 #include <utility>
 
@@ -86,11 +86,12 @@ void TToolkitQt::ProcessarMensagens() {
 TTamanho TToolkitQt::MedirTexto(std::u16string_view ATexto, int ALarguraMaxima) const {
     Exigir();
     if (ATexto.empty()) return {};
-    const QRect espaco(0, 0, ALarguraMaxima > 0 ? ALarguraMaxima : QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    const QRectF espaco(0, 0, ALarguraMaxima > 0 ? ALarguraMaxima : QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     const int quebra = ALarguraMaxima > 0 ? Qt::TextWordWrap : 0;
-    const QRect medida =
-        QFontMetrics(QApplication::font()).boundingRect(espaco, Qt::AlignLeft | Qt::AlignTop | quebra, ParaQt(ATexto));
-    return {medida.width(), medida.height()};
+    const QRectF medida =
+        QFontMetricsF(QApplication::font()).boundingRect(espaco, Qt::AlignLeft | Qt::AlignTop | quebra, ParaQt(ATexto));
+    // Letters have fractions of a pixel: in a label of the width cut to whole ones the last word would wrap.
+    return {static_cast<int>(std::ceil(medida.width())) + 1, static_cast<int>(std::ceil(medida.height()))};
 }
 
 int TToolkitQt::GetTamanhoFonte() const {

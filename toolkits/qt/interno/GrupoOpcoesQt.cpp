@@ -3,6 +3,7 @@
 #include "toolkits/qt/interno/TextoQt.hpp"
 
 #include <QStyle>
+#include <QStyleOptionButton>
 #include <QTextLayout>
 
 #include <algorithm>
@@ -27,6 +28,13 @@ QString QuebrarEmLinhas(const QString& ATexto, const QFont& AFonte, int ALargura
     }
     disposicao.endLayout();
     return linhas.join(QLatin1Char('\n'));
+}
+
+// Width that the style leaves for the text beside the mark.
+int BuscarEspacoDoTexto(const QRadioButton& ABotao) {
+    QStyleOptionButton opcao;
+    opcao.initFrom(&ABotao);
+    return ABotao.style()->subElementRect(QStyle::SE_RadioButtonContents, &opcao, &ABotao).width() - 4;
 }
 
 }  // namespace
@@ -86,17 +94,15 @@ void TGrupoOpcoesQt::Arrumar() {
     const int topo = title().isEmpty() ? CMargem / 2 : metricas.height() + CMargem / 2;
     const int largura = width() - 2 * CMargem;
     const int altura = std::max(0, height() - topo - CMargem / 2) / static_cast<int>(FBotoes.size());
-    const int marca = style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth) +
-                      style()->pixelMetric(QStyle::PM_RadioButtonLabelSpacing) + 2;
     const int linhas = FQuebraLinha ? std::max(1, altura / metricas.lineSpacing()) : 1;
     for (std::size_t i = 0; i < FBotoes.size(); ++i) {
         FBotoes[i]->setGeometry(CMargem, topo + static_cast<int>(i) * altura, largura, altura);
+        const int espaco = BuscarEspacoDoTexto(*FBotoes[i]);
         const QString& texto = FTextos[i];
         QString cabe = texto;
-        if (metricas.size(Qt::TextShowMnemonic, texto).width() > largura - marca) {
-            cabe = QuebrarEmLinhas(texto, font(), largura - marca, linhas);
-            if (cabe.isEmpty())
-                cabe = metricas.elidedText(texto, Qt::ElideRight, largura - marca, Qt::TextShowMnemonic);
+        if (metricas.size(Qt::TextShowMnemonic, texto).width() > espaco) {
+            cabe = QuebrarEmLinhas(texto, font(), espaco, linhas);
+            if (cabe.isEmpty()) cabe = metricas.elidedText(texto, Qt::ElideRight, espaco, Qt::TextShowMnemonic);
         }
         FBotoes[i]->setText(cabe);
         FBotoes[i]->setToolTip(cabe.endsWith(QChar(0x2026)) ? texto.toHtmlEscaped() : QString());

@@ -1,0 +1,208 @@
+#include "oryutils/runtime/Excecoes.hpp"
+
+#include "qt/Roteiro.hpp"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <future>
+#include <malloc.h>
+#include <random>
+#include <thread>
+
+namespace OryUtils {
+namespace {
+
+TEST_F(TTesteQt, TemporizadorFechaEDesligaASiMesmo) {
+    TFormularioCompleto f;
+    TToolkit& toolkit = BuscarToolkit();
+    int vezes = 0;
+    std::uintptr_t numero = 0;
+    numero = toolkit.LigarTemporizador(1, [&, guardado = std::string(64, 'x')] {
+        if (++vezes < 3) return;
+        toolkit.DesligarTemporizador(numero);
+        EXPECT_EQ(guardado.size(), 64u) << "the action outlives its timer";
+        f.Fechar();
+    });
+    EXPECT_NE(numero, 0u);
+    EXPECT_EQ(f.ExecutarModal(), mrCancel);
+    EXPECT_EQ(vezes, 3);
+    toolkit.ProcessarMensagens();
+    EXPECT_EQ(vezes, 3);
+}
+
+TEST_F(TTesteQt, ModaisAninhadosVoltamAoDeFora) {
+    TFormularioCompleto fora;
+    TFormularioCompleto dentro;
+    int interno = 0;
+    TOuvinte<TObjeto*> abrir{[&](TObjeto*) {
+        interno = Responder(dentro, [&] {
+            EXPECT_THROW(fora.ExecutarModal(), Exception) << "it is shown already";
+            BuscarFilho<QPushButton>(1)->click();
+        });
+    }};
+    fora.Sim.OnClick = abrir.GetEvento();
+    fora.Sim.SetModalResult(mrNone);
+    EXPECT_EQ(Responder(fora,
+                        [&] {
+                            QDialog* janela = BuscarDialogo();
+                            BuscarFilho<QPushButton>(0)->click();
+                            EXPECT_EQ(BuscarDialogo(), janela) << "the outer one runs on";
+                            EXPECT_TRUE(QTest::qWaitForWindowActive(janela));
+                            BuscarFilho<QPushButton>(2)->click();
+                        }),
+              mrCancel);
+    EXPECT_EQ(interno, mrNo);
+}
+
+struct TCasoErro {
+    const char* Porque;
+    void (*Montar)(TFormularioCompleto&, TEvento<TObjeto*>, TEvento<TObjeto*, TTecla&>);
+    void (*Passos)();
+};
+const TCasoErro CErros[] = {
+    {"a button", [](auto& f, auto e, auto) { f.Sim.OnClick = e; }, [] { BuscarFilho<QPushButton>(0)->click(); }},
+    {"the show event", [](auto& f, auto e, auto) { f.OnShow = e; }, nullptr},
+    {"a key", [](auto& f, auto, auto t) { f.OnKeyDown = t; }, [] { QTest::keyClick(BuscarDialogo(), Qt::Key_A); }},
+    {"a typed letter", [](auto& f, auto e, auto) { f.Edicao.OnMudar = e; },
+     [] { QTest::keyClick(BuscarFilho<QLineEdit>(), Qt::Key_A); }},
+    {"the focus that leaves", [](auto& f, auto e, auto) { f.Edicao.OnSair = e; },
+     [] { BuscarFilho<QPushButton>(1)->setFocus(); }},
+};
+
+TEST_F(TTesteQt, ExcecaoDeManipuladorSaiDeExecutarModal) {
+    for (const TCasoErro& c : CErros) {
+        TFormularioCompleto f;
+        TOuvinte<TObjeto*> evento{[](TObjeto*) { throw EConvertError(u"não é número"); }};
+        TOuvinte<TObjeto*, TTecla&> tecla{[](TObjeto*, TTecla&) { throw EConvertError(u"não é número"); }};
+        c.Montar(f, evento.GetEvento(), tecla.GetEvento());
+        if (c.Passos) QuandoMostrar(c.Passos);
+        EXPECT_THROW(f.ExecutarModal(), EConvertError) << c.Porque;
+        EXPECT_EQ(f.GetJanela(), nullptr) << c.Porque;
+        EXPECT_EQ(BuscarDialogo(), nullptr) << c.Porque;
+    }
+}
+
+TEST_F(TTesteQt, ExcecaoDoInternoChegaAoManipuladorDoExterno) {
+    TFormularioCompleto fora;
+    TFormularioCompleto dentro;
+    TOuvinte<TObjeto*> falhar{[](TObjeto*) { throw std::string("qualquer tipo"); }};
+    bool pegou = false;
+    TOuvinte<TObjeto*> abrir{[&](TObjeto*) {
+        try {
+            dentro.ExecutarModal();
+        } catch (const std::string&) {
+            pegou = true;
+        }
+    }};
+    dentro.OnShow = falhar.GetEvento();
+    fora.Nao.OnClick = abrir.GetEvento();
+    EXPECT_EQ(Responder(fora, [] { BuscarFilho<QPushButton>(1)->click(); }), mrNo);
+    EXPECT_TRUE(pegou);
+}
+
+TEST_F(TTesteQt, AbortEhSilenciosoEmTodaParte) {
+    TFormularioCompleto f;
+    TOuvinte<TObjeto*> abortar{[](TObjeto*) { Abort(); }};
+    f.OnShow = abortar.GetEvento();
+    f.Sim.OnClick = abortar.GetEvento();
+    EXPECT_EQ(Responder(f,
+                        [&] {
+                            QTest::keyClick(BuscarDialogo(), Qt::Key_Return);
+                            EXPECT_EQ(f.GetModalResult(), mrNone) << "the aborted button closes nothing";
+                            BuscarFilho<QPushButton>(1)->click();
+                        }),
+              mrNo);
+}
+
+TEST_F(TTesteQt, TemporizadorQueFalhaSaiPorProcessarMensagens) {
+    TToolkit& toolkit = BuscarToolkit();
+    bool disparou = false;
+    const auto numero = toolkit.LigarTemporizador(1, [&] {
+        disparou = true;
+        throw EConvertError(u"x");
+    });
+    EXPECT_THROW(while (!disparou) toolkit.ProcessarMensagens(), EConvertError);
+    toolkit.DesligarTemporizador(numero);
+}
+
+TEST_F(TTesteQt, FimDaAplicacaoCancelaTodosOsNiveis) {
+    TFormularioCompleto fora;
+    TFormularioCompleto dentro;
+    int interno = 0;
+    TOuvinte<TObjeto*> abrir{[&](TObjeto*) { interno = Responder(dentro, [] { QCoreApplication::exit(1); }); }};
+    fora.Sim.OnClick = abrir.GetEvento();
+    fora.Sim.SetModalResult(mrNone);
+    int externo = 0;
+    QTimer::singleShot(0, qApp, [&] { externo = Responder(fora, [] { BuscarFilho<QPushButton>(0)->click(); }); });
+    EXPECT_EQ(QCoreApplication::exec(), 1);
+    EXPECT_EQ(interno, mrCancel);
+    EXPECT_EQ(externo, mrCancel);
+}
+
+TEST_F(TTesteQt, OutraThreadRecebeErroDocumentado) {
+    TToolkit& toolkit = BuscarToolkit();
+    EXPECT_TRUE(toolkit.EhThreadDaInterface());
+    std::thread([&] {
+        EXPECT_FALSE(toolkit.EhThreadDaInterface());
+        TFormulario f;
+        EXPECT_THROW(f.ExecutarModal(), Exception);
+        EXPECT_THROW(toolkit.ExecutarModal(f), Exception);
+        EXPECT_THROW(toolkit.MedirTexto(u"a", 0), Exception);
+        EXPECT_THROW(toolkit.LigarTemporizador(1, [] {}), Exception);
+        EXPECT_THROW(toolkit.EscolherPasta(u"", u""), Exception);
+        EXPECT_NO_THROW(toolkit.ProcessarMensagens());
+    }).join();
+}
+
+TEST_F(TTesteQt, MilFormulariosNadaDeixam) {
+    const auto abrir = [](int AVezes) {
+        for (int i = 0; i < AVezes; ++i) {
+            TFormularioCompleto f;
+            TOuvinte<TObjeto*> fechar{[&](TObjeto*) { f.SetModalResult(mrOk); }};
+            f.OnShow = fechar.GetEvento();
+            ASSERT_EQ(f.ExecutarModal(), mrOk);
+        }
+        QCoreApplication::processEvents();
+    };
+    abrir(100);
+    const qsizetype widgets = QApplication::allWidgets().size();
+    const auto janelas = QGuiApplication::allWindows().size();
+    const auto ocupado = ::mallinfo2().uordblks;
+    abrir(1000);
+    EXPECT_EQ(QApplication::allWidgets().size(), widgets);
+    EXPECT_EQ(QGuiApplication::allWindows().size(), janelas);
+    // One form takes tens of kilobytes; a thousand lost ones would be far above this.
+    EXPECT_LT(::mallinfo2().uordblks, ocupado + 2'000'000);
+}
+
+TEST_F(TTesteQt, MedidaDeTextoBastaAoRotulo) {
+    TToolkit& toolkit = BuscarToolkit();
+    EXPECT_EQ(toolkit.MedirTexto(u"", 100), TTamanho{});
+    const int linha = toolkit.MedirTexto(u"Mg", 0).Altura;
+    EXPECT_GT(toolkit.MedirTexto(u"a\r\nb", 0).Altura, linha) << "line breaks count";
+    EXPECT_EQ(toolkit.MedirTexto(u"a\r\nb", 0), toolkit.MedirTexto(u"a\nb", 0));
+
+    const unsigned semente = std::random_device{}();
+    std::mt19937 sorteio(semente);
+    const char16_t letras[] = u"aeimrst ÁçãWg., -\n&";
+    for (int caso = 0; caso < 300; ++caso) {
+        std::u16string texto;
+        for (auto n = sorteio() % 200; n > 0; --n) texto += letras[sorteio() % (std::size(letras) - 1)];
+        const int maxima = caso % 3 == 0 ? 0 : 60 + static_cast<int>(sorteio() % 300);
+        const TTamanho medida = toolkit.MedirTexto(texto, maxima);
+        QLabel rotulo;
+        rotulo.setTextFormat(Qt::PlainText);
+        rotulo.setWordWrap(maxima > 0);
+        rotulo.setText(QString::fromStdU16String(texto));
+        if (texto.empty()) continue;
+        if (maxima > 0)
+            EXPECT_LE(rotulo.heightForWidth(medida.Largura), medida.Altura) << "seed " << semente << " case " << caso;
+        else
+            EXPECT_LE(rotulo.sizeHint().width(), medida.Largura + 1) << "seed " << semente << " case " << caso;
+    }
+}
+
+}  // namespace
+}  // namespace OryUtils

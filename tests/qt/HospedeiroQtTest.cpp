@@ -1,0 +1,137 @@
+#include "oryutils/OryUtils.hpp"
+#include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
+
+#include "qt/Roteiro.hpp"
+#include "toolkits/qt/ControleQt.hpp"
+
+#include <QClipboard>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QVBoxLayout>
+
+namespace OryUtils {
+namespace {
+
+struct TJanelaHospedeira : QWidget {
+    QLineEdit* Cnpj = new QLineEdit;
+    QLineEdit* Nome = new QLineEdit;
+    TJanelaHospedeira() {
+        auto* coluna = new QVBoxLayout(this);
+        coluna->addWidget(Cnpj);
+        coluna->addWidget(Nome);
+        show();
+        activateWindow();  // a bare X server has no window manager to do it
+        EXPECT_TRUE(QTest::qWaitForWindowActive(this));
+    }
+};
+
+TEST_F(TTesteQt, ControleDoHospedeiro) {
+    TJanelaHospedeira janela;
+    const TControleQt um(janela.Cnpj);
+    const TControleQt mesmo(janela.Cnpj);
+    const TControleQt outro(janela.Nome);
+    EXPECT_TRUE(EhMesmoControle(&um, &mesmo));
+    EXPECT_FALSE(EhMesmoControle(&um, &outro));
+
+    EXPECT_TRUE(um.PodeReceberFoco());
+    janela.Cnpj->setEnabled(false);
+    EXPECT_FALSE(um.PodeReceberFoco());
+    janela.Cnpj->setEnabled(true);
+    janela.Cnpj->hide();
+    EXPECT_FALSE(um.PodeReceberFoco());
+    janela.Cnpj->show();
+    janela.setEnabled(false);
+    EXPECT_FALSE(um.PodeReceberFoco()) << "the parent is disabled";
+    janela.setEnabled(true);
+    EXPECT_FALSE(TControleQt(new QLabel(&janela)).PodeReceberFoco()) << "a label takes no focus";
+
+    auto* passageiro = new QLineEdit(&janela);
+    TControleQt orfao(passageiro);
+    delete passageiro;
+    EXPECT_FALSE(orfao.PodeReceberFoco());
+    EXPECT_FALSE(EhMesmoControle(&orfao, &um));
+    orfao.ReceberFoco();
+}
+
+TEST_F(TTesteQt, ValidacaoDevolveOFocoMostraOAvisoEAborta) {
+    TJanelaHospedeira janela;
+    janela.Nome->setFocus();
+    TControleQt controle(janela.Cnpj);
+    QString mostrado;
+    QuandoMostrar([&] {
+        EXPECT_EQ(BuscarDialogo()->windowTitle(), "Aviso");
+        for (const QLabel* rotulo : BuscarDialogo()->findChildren<QLabel*>()) mostrado += rotulo->text();
+        EXPECT_EQ(BuscarDialogo()->windowHandle()->transientParent(), janela.windowHandle());
+        EXPECT_EQ(QApplication::activeWindow(), BuscarDialogo());
+        QTest::keyClick(BuscarDialogo(), Qt::Key_Return);
+    });
+    EXPECT_THROW(ValidarDocumento(nullptr, &controle, u"11222333000182", OryTypes::tiCNPJ), EAbort);
+    EXPECT_EQ(mostrado, "CNPJ inválido. Verifique.");
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&janela));
+    EXPECT_EQ(QApplication::focusWidget(), janela.Cnpj);
+
+    TControleQt outro(janela.Nome);
+    EXPECT_FALSE(ValidarDocumento(&outro, &controle, u"1", OryTypes::tiCNPJ)) << "another control's exit shows nothing";
+}
+
+TEST_F(TTesteQt, HospedeiroQueFechaSuaJanelaDuranteODialogo) {
+    auto janela = std::make_unique<TJanelaHospedeira>();
+    TFormularioCompleto f;
+    EXPECT_EQ(Responder(f,
+                        [&] {
+                            janela.reset();
+                            BuscarFilho<QPushButton>(1)->click();
+                        }),
+              mrNo);
+}
+
+TEST_F(TTesteQt, EscolhaDeArquivoEPasta) {
+    QTemporaryDir pasta;
+    for (const char* nome : {"notas.txt", "LEIAME"}) {
+        QFile arquivo(pasta.filePath(nome));
+        ASSERT_TRUE(arquivo.open(QIODevice::WriteOnly));
+    }
+    TToolkit& toolkit = BuscarToolkit();
+    const std::u16string inicial = pasta.path().toStdU16String();
+    const auto com = [](std::function<void(QFileDialog&)> AAcao) {
+        QuandoMostrar([acao = std::move(AAcao)] { acao(*qobject_cast<QFileDialog*>(BuscarDialogo())); });
+    };
+
+    com([&](QFileDialog& ADialogo) {
+        EXPECT_EQ(ADialogo.nameFilters(), (QStringList{"Textos (*.txt *.csv)", "Todos (*)"}));
+        EXPECT_EQ(ADialogo.directory().canonicalPath(), QDir(pasta.path()).canonicalPath());
+        ADialogo.selectNameFilter("Todos (*)");
+        QTest::keyClicks(ADialogo.findChild<QLineEdit*>(), "LEIAME");
+        QTest::keyClick(ADialogo.findChild<QLineEdit*>(), Qt::Key_Return);
+    });
+    EXPECT_EQ(toolkit.EscolherArquivo(inicial, {{u"Textos", u"*.txt;*.csv"}, {u"Todos", u"*.*"}}),
+              pasta.filePath("LEIAME").toStdU16String());
+
+    com([](QFileDialog& ADialogo) { ADialogo.reject(); });
+    EXPECT_EQ(toolkit.EscolherArquivo(inicial, {}), std::nullopt);
+
+    com([](QFileDialog& ADialogo) {
+        EXPECT_EQ(ADialogo.windowTitle(), "Onde gravar");
+        QMetaObject::invokeMethod(&ADialogo, "accept");
+    });
+    EXPECT_EQ(toolkit.EscolherPasta(u"Onde gravar", inicial), inicial);
+}
+
+TEST_F(TTesteQt, CursorEAreaDeTransferencia) {
+    TToolkit& toolkit = BuscarToolkit();
+    toolkit.SetCursor(ctAmpulheta);
+    toolkit.SetCursor(ctAmpulheta);
+    ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
+    toolkit.SetCursor(ctNormal);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr) << "twice the hourglass is one hourglass";
+    toolkit.CopiarParaAreaDeTransferencia(u"linha\r\noutra");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "linha\noutra");
+    EXPECT_FALSE(toolkit.EstahPressionada(16));
+}
+
+}  // namespace
+}  // namespace OryUtils
