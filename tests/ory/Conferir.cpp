@@ -1,0 +1,274 @@
+#include "oryutils/platform/Arquivos.hpp"
+
+#include "Apoio.hpp"
+#include "conferir/Conferencia.hpp"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+namespace {
+
+using nlohmann::json;
+
+const std::string CExemplos = std::string(ORY_PASTA_DO_PROJETO) + "/examples/";
+constexpr std::string_view CMarca = "\xEF\xBB\xBF";
+
+json Resumir(std::string_view ATexto, std::vector<std::string> AOpcoes = {}) {
+    std::vector<std::string> argumentos{"conferir", "-", "--json"};
+    argumentos.insert(argumentos.end(), AOpcoes.begin(), AOpcoes.end());
+    const TRodada rodada = Rodar(argumentos, ATexto);
+    EXPECT_EQ(rodada.Erro, "");
+    return json::parse(rodada.Saida);
+}
+
+TEST(Conferir, ArquivosReais) {
+    struct TArquivo {
+        const char *Nome, *Coluna;
+        int Validos;
+    };
+    for (const TArquivo& arquivo :
+         {TArquivo{"bancos.csv", "cnpj", 511}, TArquivo{"municipios.csv", "codigo_municipio", 5571}}) {
+        const TRodada rodada = Rodar({"conferir", CExemplos + arquivo.Nome, "--json"});
+        ASSERT_EQ(rodada.Status, 0) << rodada.Erro;
+        const json resumo = json::parse(rodada.Saida);
+        ASSERT_EQ(resumo["colunas"].size(), 1u);
+        EXPECT_EQ(resumo["colunas"][0]["nome"], arquivo.Coluna);
+        EXPECT_EQ(resumo["colunas"][0]["validos"], arquivo.Validos);
+    }
+}
+
+TEST(Conferir, ExemploDeClientes) {
+    const TRodada rodada = Rodar({"conferir", CExemplos + "clientes.csv", "--json", "--mostrar", "100"});
+    ASSERT_EQ(rodada.Status, 1) << rodada.Erro;
+    // The column "esperado" of the example names the columns that its line has wrong.
+    std::ifstream arquivo(CExemplos + "clientes.csv", std::ios::binary);
+    const std::string texto{std::istreambuf_iterator<char>(arquivo), {}};
+    const json resumo = json::parse(rodada.Saida);
+    std::size_t numero = 0;
+    std::size_t conferidas = 0;
+    for (std::size_t inicio = 0; inicio < texto.size(); ++numero) {
+        const std::size_t fim = texto.find('\n', inicio);
+        const std::string linha = texto.substr(inicio, fim - inicio);
+        inicio = fim + 1;
+        if (numero == 0) continue;
+        const std::string esperado = " " + linha.substr(linha.rfind(';') + 1) + " ";
+        for (const json& coluna : resumo["colunas"]) {
+            bool invalida = false;
+            for (const json& primeiro : coluna["primeiros"]) invalida |= primeiro["linha"] == numero + 1;
+            const std::string nome = coluna["nome"];
+            EXPECT_EQ(invalida, esperado.find(" " + nome + " ") != std::string::npos) << nome << ": " << linha;
+            ++conferidas;
+        }
+    }
+    EXPECT_EQ(resumo["colunas"].size(), 9u);
+    EXPECT_GE(conferidas, 9u * 40);
+}
+
+struct TCampo {
+    std::string_view Tipo, Valor, Uf;
+    Ory::TVeredito Esperado;
+    const char* Porque;
+};
+
+TEST(Conferir, CadaTipoDeColuna) {
+    constexpr TCampo CCampos[] = {
+        {"cnpj", "11222333000181", "", Ory::veValido, "bare"},
+        {"cnpj", "11.222.333/0001-81", "", Ory::veValido, "formatted"},
+        {"cnpj", " 11.222.333/0001-81\r", "", Ory::veValido, "blanks around"},
+        {"cnpj", "12.abc.345/01DE-35", "", Ory::veValido, "letters in either case"},
+        {"cnpj", "11x222.333/0001-81", "", Ory::veInvalido, "a letter where a point stands"},
+        {"cnpj", "11.222.333/0001-82", "", Ory::veInvalido, "wrong digit"},
+        {"cnpj", "11.222.333/0001-8\xE7", "", Ory::veInvalido, "a byte of Windows-1252"},
+        {"cnpj", "  ", "", Ory::veVazio, "blank"},
+        {"cpf", "529.982.247-25", "", Ory::veValido, "formatted"},
+        {"cpf", "52998224724", "", Ory::veInvalido, "wrong digit"},
+        {"documento", "529.982.247-25", "", Ory::veValido, "a CPF by its length"},
+        {"documento", "11222333000181", "", Ory::veValido, "a CNPJ by its length"},
+        {"documento", "12ABC34501DE35", "", Ory::veValido, "an alphanumeric CNPJ"},
+        {"documento", "123", "", Ory::veInvalido, "neither"},
+        {"ie", "2243658792", "RS", Ory::veValido, "bare"},
+        {"ie", "224/3658792", " rs", Ory::veValido, "as people write it"},
+        {"ie", "2243658792", "SP", Ory::veInvalido, "another unit"},
+        {"ie", "Isento", "XX", Ory::veValido, "exempt"},
+        {"pis", "12345678919", "", Ory::veValido, "bare"},
+        {"pis", "12345678910", "", Ory::veInvalido, "wrong digit"},
+        {"cei", "000000000000", "", Ory::veValido, "the rule lets zeros pass"},
+        {"cei", "abcdefghijkl", "", Ory::veInvalido, "the rule raises"},
+        {"cei", "1-2+3E4.5,6_789012", "", Ory::veInvalido, "the rule raises for punctuation too"},
+        {"cno", "00.000.00000/00", "", Ory::veValido, "formatted"},
+        {"cnh", "0", "", Ory::veValido, "the rule lets it pass"},
+        {"cnh", "x", "", Ory::veInvalido, "not a number"},
+        {"municipio", "3550308", "", Ory::veValido, "by the rule"},
+        {"municipio", "2201919", "", Ory::veValido, "official, against the rule"},
+        {"municipio", "São Paulo", "", Ory::veInvalido, "a name"},
+    };
+    for (const TCampo& c : CCampos)
+        EXPECT_EQ(Ory::Conferir(*Ory::BuscarTipo(c.Tipo), c.Valor, c.Uf), c.Esperado) << c.Tipo << ": " << c.Porque;
+}
+
+TEST(Conferir, ReconheceAsColunasPeloCabecalho) {
+    const json resumo = Resumir(
+        "CNPJ;Cpf;Documento;Inscrição Estadual;UF;PIS;c.e.i.;CNO;CNH;Código Município;nome\n"
+        "11222333000181;;529.982.247-25;ISENTO;SP;;;;;3550308;Ana\n");
+    std::string tipos;
+    for (const json& coluna : resumo["colunas"]) tipos += coluna["tipo"].get<std::string>() + " ";
+    EXPECT_EQ(tipos, "cnpj cpf documento ie pis cei cno cnh municipio ");
+    EXPECT_TRUE(resumo["valido"]);
+    const json latina = Resumir("inscri\xE7\xE3o estadual;uf\nISENTA;RJ\n");
+    EXPECT_EQ(latina["colunas"][0]["nome"], "inscrição estadual");
+    EXPECT_EQ(latina["codificacao"], "windows-1252");
+}
+
+TEST(Conferir, ContaEMostraOsPrimeiros) {
+    std::string texto = "cnpj;nome\r\n";
+    for (int i = 0; i < 7; ++i) texto += "123;\"a\r\nb\"\r\n";
+    texto += ";c\r\n\r\n11222333000181;Jo\xE3o\r\n11222333000181\r\n1;2;3\r\n";
+    const json resumo = Resumir(texto, {"--mostrar", "2"});
+    const json& coluna = resumo["colunas"][0];
+    EXPECT_EQ(coluna["invalidos"], 8);
+    EXPECT_EQ(coluna["validos"], 2);
+    EXPECT_EQ(coluna["vazios"], 1);
+    EXPECT_EQ(coluna["primeiros"], json::parse(R"([{"linha":2,"valor":"123"},{"linha":4,"valor":"123"}])"));
+    EXPECT_EQ(resumo["linhas_em_branco"], 1);
+    EXPECT_EQ(resumo["desiguais"], json::parse(R"({"total":2,"esperados":2,"primeiros":[{"linha":19,"campos":1},
+                                                   {"linha":20,"campos":3}]})"));
+    EXPECT_EQ(resumo["codificacao"], "windows-1252");
+}
+
+TEST(Conferir, ResumoParaPessoasNaoLevaControlesAoTerminal) {
+    const TRodada rodada = Rodar({"conferir"}, "cnpj\n\x1b[31m1\n");
+    EXPECT_EQ(rodada.Status, 1);
+    EXPECT_NE(rodada.Saida.find("linha 2  ·[31m1\n"), std::string::npos) << rodada.Saida;
+    EXPECT_EQ(rodada.Saida.find('\x1b'), std::string::npos);
+}
+
+struct TFalhaEsperada {
+    std::vector<std::string> Argumentos;
+    std::string Entrada;
+    const char* Trecho;  // of the sentence
+};
+
+TEST(Conferir, FalhasTerminamComUmaFraseEStatus2) {
+    const std::string aspas = "cnpj;nome\n1;a\n2;\"" + std::string(20'000'000, 'x');
+    const TFalhaEsperada casos[] = {
+        {{"conferir", "nao/existe.csv"}, "", "o arquivo não existe"},
+        {{"conferir", ORY_PASTA_DO_PROJETO}, "", "é uma pasta"},
+        {{"conferir"}, "", "o arquivo está vazio"},
+        {{"conferir"}, "nome;idade\na;1\n", "nenhuma coluna para conferir entre: nome, idade"},
+        {{"conferir", "--coluna", "x=cnpj"}, "nome;idade\n", "não há coluna \"x\""},
+        {{"conferir", "--coluna", "nome=xx"}, "nome\n", "tipo desconhecido: xx"},
+        {{"conferir", "--coluna", "nome"}, "nome\n", "espera nome=tipo"},
+        {{"conferir"}, "ie\n1\n", "não de UF"},
+        {{"conferir"}, "cnpj;nome\n1;a\n2;\"b\n\n", "linha 3: aspas abertas"},
+        {{"conferir"}, aspas, "linha 3: registro maior que o limite de 16 MiB"},
+        {{"conferir"},
+         std::string("\xFF\xFE"
+                     "c\0n\0",
+                     6),
+         "UTF-16"},
+        {{"conferir", "--vereditos", "ie"}, "1\n", "--uf"},
+        {{"conferir", "--codificacao", "ebcdic"}, "cnpj\n", "utf-8 ou windows-1252"},
+        {{"conferir", "--nada"}, "", "argumento desconhecido: --nada"},
+        {{"conferir", "--saida"}, "", "falta o valor de --saida"},
+        {{"conferir", "--saida", "nao/existe/x.csv"}, "cnpj\n", "não foi possível criar"},
+    };
+    for (const TFalhaEsperada& caso : casos) {
+        const TRodada rodada = Rodar(caso.Argumentos, caso.Entrada);
+        EXPECT_EQ(rodada.Status, 2) << caso.Trecho;
+        EXPECT_NE(rodada.Erro.find(caso.Trecho), std::string::npos) << rodada.Erro;
+        EXPECT_EQ(std::count(rodada.Erro.begin(), rodada.Erro.end(), '\n'), 1) << rodada.Erro;
+        EXPECT_EQ(rodada.Saida, "") << caso.Trecho;
+    }
+}
+
+struct TReescrita {
+    std::string Entrada, Esperado;
+    const char* Porque;
+};
+
+TEST(Conferir, ReescreveComVereditoENumeroFormatado) {
+    const TReescrita casos[] = {
+        {"cnpj;nome\n11222333000181;a\n1;b\n;c\n",
+         "cnpj;nome;cnpj_veredito;cnpj_formatado\n11222333000181;a;valido;11.222.333/0001-81\n1;b;invalido;\n"
+         ";c;vazio;\n",
+         "the three verdicts"},
+        {std::string(CMarca) + "cpf\r\n\"52998224725\"\r\n",
+         std::string(CMarca) + "cpf;cpf_veredito;cpf_formatado\r\n\"52998224725\";valido;529.982.247-25\r\n",
+         "mark, CR LF and quotes stay"},
+        {"cpf,nome,uf\n52998224725", "cpf,nome,uf,cpf_veredito,cpf_formatado\n52998224725,,,valido,529.982.247-25",
+         "a short record is completed; no line end is invented"},
+        {"\"c;e;i\";x\xE9\n00.000.00000/00;1\n",
+         "\"c;e;i\";x\xE9;\"c;e;i_veredito\";\"c;e;i_formatado\"\n00.000.00000/00;1;valido;00.000.00000/00\n",
+         "a header that needs quotes; bytes of Windows-1252 stay"},
+        {"ie;uf\n224/3658792;RS\nisento;RS\n",
+         "ie;uf;ie_veredito;ie_formatado\n224/3658792;RS;valido;2243658792\nisento;RS;valido;ISENTO\n", "IE bare"},
+    };
+    for (const TReescrita& caso : casos) {
+        Ory::TEntradaDeTexto entrada(caso.Entrada, 5);
+        Ory::TSaidaDeTexto saida;
+        Ory::ConferirCsv(entrada, &saida, {.Limites = {.Bloco = 8}});
+        EXPECT_EQ(saida.Texto, caso.Esperado) << caso.Porque;
+    }
+}
+
+TEST(Conferir, MuitosBlocosEmVariasTarefasDaoOMesmoQueUmSo) {
+    std::string texto = "nome;cnpj\n";
+    for (int i = 0; i < 3000; ++i)
+        texto += (i % 7 ? "a" : "\"a\n\"\"b\"") + std::string(i % 3 ? ";11222333000181\n" : ";1122233300018\n");
+    const auto conferir = [&](unsigned ATarefas, std::size_t ABloco) {
+        Ory::TEntradaDeTexto entrada(texto);
+        Ory::TSaidaDeTexto saida;
+        const Ory::TResumo resumo =
+            Ory::ConferirCsv(entrada, &saida, {.Mostrar = 1000, .Tarefas = ATarefas, .Limites = {.Bloco = ABloco}});
+        for (const Ory::TInfrator& infrator : resumo.Colunas[0].Primeiros)
+            saida.Texto += std::to_string(infrator.Linha) + " " + infrator.Valor + "\n";
+        return saida.Texto + std::to_string(resumo.Colunas[0].Validos);
+    };
+    const std::string esperado = conferir(0, 1 << 20);
+    for (const std::size_t bloco : {1, 13, 100, 5000}) EXPECT_TRUE(conferir(3, bloco) == esperado) << bloco;
+}
+
+TEST(Conferir, VereditosSaemUmPorLinha) {
+    const TRodada rodada = Rodar({"conferir", "--vereditos", "cnpj"}, "11222333000181\r\n1\n\n11.222.333/0001-81");
+    EXPECT_EQ(rodada.Saida, "1\n0\n0\n1\n");
+    EXPECT_EQ(rodada.Status, 1);
+    EXPECT_EQ(Rodar({"conferir", "--vereditos", "ie", "--uf", "RS"}, "2243658792\n").Status, 0);
+    EXPECT_EQ(Rodar({"conferir", "--vereditos", "cpf"}, "").Saida, "");
+}
+
+TEST(Conferir, SaidaTrocaOArquivoSoNoFim) {
+    const std::string nome = testing::TempDir() + "/ory_conferir.csv";
+    const auto gravar = [&](std::string_view ATexto) { std::ofstream(nome, std::ios::binary) << ATexto; };
+    const auto ler = [&] {
+        std::ifstream arquivo(nome, std::ios::binary);
+        return std::string{std::istreambuf_iterator<char>(arquivo), {}};
+    };
+    gravar("cpf\n52998224725\n");
+    EXPECT_EQ(Rodar({"conferir", nome, "--saida", nome}).Status, 0);
+    EXPECT_EQ(ler(), "cpf;cpf_veredito;cpf_formatado\n52998224725;valido;529.982.247-25\n");
+    gravar("cpf\n\"52998224725\n");
+    EXPECT_EQ(Rodar({"conferir", nome, "--saida", nome}).Status, 2);
+    EXPECT_EQ(ler(), "cpf\n\"52998224725\n");
+    EXPECT_FALSE(std::filesystem::exists(nome + ".parte"));
+    EXPECT_EQ(OryUtils::Plataforma::ExcluirArquivo(nome), OryUtils::Plataforma::efNenhum);
+}
+
+struct TSaidaCheia final : Ory::TSaida {
+    void Escrever(std::string_view) override { throw Ory::EFalha("o disco está cheio"); }
+};
+
+TEST(Conferir, FalhaAoGravarParaAsTarefas) {
+    std::string texto = "cnpj\n";
+    for (int i = 0; i < 1000; ++i) texto += "11222333000181\n";
+    Ory::TEntradaDeTexto entrada(texto);
+    TSaidaCheia saida;
+    EXPECT_THROW(Ory::EscreverVereditos(entrada, saida, Ory::tcCnpj, {.Tarefas = 2, .Limites = {.Bloco = 64}}),
+                 Ory::EFalha);
+}
+
+}  // namespace

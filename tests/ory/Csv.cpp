@@ -1,0 +1,121 @@
+#include "conferir/Csv.hpp"
+
+#include "conferir/Blocos.hpp"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+namespace {
+
+using TRegistros = std::vector<std::vector<std::string>>;
+
+TRegistros LerTudo(std::string_view ATexto, char ADelimitador, std::size_t ABloco, std::size_t APedaco) {
+    Ory::TEntradaDeTexto entrada(ATexto, APedaco);
+    Ory::TLeitorDeBlocos blocos(entrada, {.Bloco = ABloco, .Registro = 1 << 20});
+    blocos.EspiarInicio();
+    Ory::TCortadorDeRegistros cortador(ADelimitador);
+    TRegistros registros;
+    std::string bloco;
+    while (blocos.Ler(bloco, cortador) == Ory::TLeitorDeBlocos::leBloco) {
+        Ory::TLeitorDeRegistros leitor(bloco, ADelimitador, 1000);
+        while (leitor.Proximo()) registros.emplace_back(leitor.GetCampos().begin(), leitor.GetCampos().end());
+    }
+    return registros;
+}
+
+/// The same language, a character at a time over the whole text.
+TRegistros LerDevagar(const std::string& ATexto, char ADelimitador) {
+    TRegistros registros;
+    std::size_t i = 0;
+    while (i < ATexto.size()) {
+        std::vector<std::string> campos;
+        bool fim = false;
+        while (!fim) {
+            std::string campo;
+            if (i < ATexto.size() && ATexto[i] == '"') {
+                for (++i; i < ATexto.size(); ++i) {
+                    if (ATexto[i] != '"')
+                        campo += ATexto[i];
+                    else if (i + 1 < ATexto.size() && ATexto[i + 1] == '"')
+                        campo += ATexto[i++];
+                    else
+                        break;
+                }
+                ++i;
+            }
+            std::string solto;
+            for (; i < ATexto.size() && ATexto[i] != ADelimitador && ATexto[i] != '\n'; ++i) solto += ATexto[i];
+            fim = i >= ATexto.size() || ATexto[i] == '\n';
+            if (fim && i < ATexto.size() && solto.ends_with('\r')) solto.pop_back();
+            ++i;
+            campos.push_back(campo + solto);
+        }
+        registros.push_back(campos);
+    }
+    return registros;
+}
+
+struct TCaso {
+    std::string_view Texto;
+    TRegistros Esperado;
+    const char* Porque;
+};
+
+TEST(Csv, LeOQueEscrevemPorAi) {
+    using namespace std::string_literals;
+    using namespace std::string_view_literals;
+    const TCaso casos[] = {
+        {"a;b\n1;2\n", {{"a", "b"}, {"1", "2"}}, "LF"},
+        {"a;b\r\n1;2\r\n", {{"a", "b"}, {"1", "2"}}, "CR LF"},
+        {"a;b\n1;2", {{"a", "b"}, {"1", "2"}}, "no line end at the end"},
+        {"a\r;b\n", {{"a\r", "b"}}, "a CR alone is data"},
+        {"\"a;b\";c\n", {{"a;b", "c"}}, "delimiter inside quotes"},
+        {"\"a\nb\";c\nd;e\n", {{"a\nb", "c"}, {"d", "e"}}, "line break inside quotes"},
+        {"\"a\"\"b\";\"\"\r\n", {{"a\"b", ""}}, "doubled quote, empty quoted field"},
+        {"5\" x;y\"z\n", {{"5\" x", "y\"z"}}, "a quote inside an unquoted field is data"},
+        {"\"a\"b;c\n", {{"ab", "c"}}, "text behind the closing quote"},
+        {"a;;\n;\n", {{"a", "", ""}, {"", ""}}, "empty fields"},
+        {"\n\na\n", {{""}, {""}, {"a"}}, "blank lines"},
+        {"a;\0b\n"sv, {{"a", "\0b"s}}, "NUL is data"},
+        {"\xEF\xBB\xBF"
+         "a;b\n",
+         {{"a", "b"}},
+         "mark of UTF-8"},
+        {"\"a\";\"b\"", {{"a", "b"}}, "quoted and no line end"},
+        {"", {}, "nothing"},
+    };
+    for (const TCaso& caso : casos) {
+        EXPECT_EQ(LerTudo(caso.Texto, ';', 1 << 20, 1 << 20), caso.Esperado) << caso.Porque;
+        EXPECT_EQ(LerTudo(caso.Texto, ';', 4, 3), caso.Esperado) << caso.Porque << ", in small blocks";
+    }
+}
+
+TEST(Csv, BlocosDeQualquerTamanhoDaoOsMesmosRegistros) {
+    const unsigned semente = std::random_device()();
+    SCOPED_TRACE("semente " + std::to_string(semente));
+    std::mt19937 sorteio(semente);
+    constexpr std::string_view CAlfabeto = "ab;\"\"\r\n\n;;x";
+    for (int rodada = 0; rodada < 300; ++rodada) {
+        std::string texto;
+        for (auto n = sorteio() % 40; n > 0; --n) texto += CAlfabeto[sorteio() % CAlfabeto.size()];
+        texto += "\"\n;";  // closes most of the quotes left open
+        TRegistros esperado = LerDevagar(texto, ';');
+        Ory::TCortadorDeRegistros cortador(';');
+        cortador.Cortar(texto);
+        if (cortador.EstahEntreAspas()) continue;
+        for (std::size_t bloco = 1; bloco <= texto.size() + 1; ++bloco)
+            ASSERT_EQ(LerTudo(texto, ';', bloco, 1 + bloco % 3), esperado) << testing::PrintToString(texto) << bloco;
+    }
+}
+
+TEST(Csv, ReconheceODelimitador) {
+    EXPECT_EQ(Ory::DetectarDelimitador("nome,cnpj\n1;2;3;4"), ',');
+    EXPECT_EQ(Ory::DetectarDelimitador("nome;cnpj\n"), ';');
+    EXPECT_EQ(Ory::DetectarDelimitador("\"a,b,c\";d\n"), ';');
+    EXPECT_EQ(Ory::DetectarDelimitador("cnpj\n"), ';');
+}
+
+}  // namespace
