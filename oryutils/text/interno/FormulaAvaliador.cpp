@@ -44,15 +44,10 @@ Extended TAvaliador::CalcularSemFuncoes(std::u16string_view AFormula, std::u16st
 std::u16string_view TAvaliador::ResolverFuncoes(std::u16string_view AFormula) {
     FChamadas.Limpar();
     FAbertas.clear();
-    FSemFuncoes.resize(AFormula.size());
-    char16_t* escrita = FSemFuncoes.data();
-    const auto ajustar_tamanho = [&] { FSemFuncoes.resize(static_cast<std::size_t>(escrita - FSemFuncoes.data())); };
+    FEscritos = 0;
     const char16_t* const fim = AFormula.data() + AFormula.size();
-    const auto retomar = [&](const char16_t* AResto) {
-        const std::size_t escritos = FSemFuncoes.size();
-        FSemFuncoes.resize(escritos + static_cast<std::size_t>(fim - AResto));
-        escrita = FSemFuncoes.data() + escritos;
-    };
+    char16_t* escrita = ReservarSemFuncoes(AFormula.size());
+    const auto anotar_escritos = [&] { FEscritos = static_cast<std::size_t>(escrita - FSemFuncoes.data()); };
     for (const char16_t* p = AFormula.data(); p != fim; ++p) {
         const char16_t c = *p;
         switch (c < CClasses.size() ? CClasses[c] : clOutro) {
@@ -68,44 +63,51 @@ std::u16string_view TAvaliador::ResolverFuncoes(std::u16string_view AFormula) {
                 *escrita++ = MaiusculaDe(c);
                 break;
             case clSeparador:
-                if (!FAbertas.empty() && FAbertas.back().Separador == CNenhum)
-                    FAbertas.back().Separador = static_cast<std::size_t>(escrita - FSemFuncoes.data());
+                anotar_escritos();
+                if (!FAbertas.empty() && FAbertas.back().Separador == CNenhum) FAbertas.back().Separador = FEscritos;
                 *escrita++ = c;
                 break;
-            case clAbre:
-                if (escrita != FSemFuncoes.data() && EhLetra(escrita[-1])) {
-                    if (const auto funcao = BuscarFuncaoNoFim({FSemFuncoes.data(), escrita})) {
-                        escrita -= CNomesFuncoes[*funcao].size();
-                        ajustar_tamanho();
-                        AbrirFuncao(*funcao);
-                        retomar(p + 1);
-                        break;
-                    }
+            case clAbre: {
+                anotar_escritos();
+                const std::size_t inicio = FAbertas.empty() ? 0 : FAbertas.back().Inicio;
+                if (const auto funcao = BuscarFuncaoNoFim({FSemFuncoes.data() + inicio, escrita})) {
+                    escrita -= CNomesFuncoes[*funcao].size();
+                    anotar_escritos();
+                    AbrirFuncao(*funcao);
+                    break;
                 }
                 if (!FAbertas.empty()) ++FAbertas.back().Parenteses;
                 *escrita++ = c;
                 break;
+            }
             case clFecha:
-                if (FAbertas.empty() || FAbertas.back().Parenteses-- > 0) {
+                if (FAbertas.empty() || FAbertas.back().Parenteses > 0) {
+                    if (!FAbertas.empty()) --FAbertas.back().Parenteses;
                     *escrita++ = c;
                     break;
                 }
-                ajustar_tamanho();
+                anotar_escritos();
                 FecharFuncao();
-                retomar(p + 1);
+                escrita = ReservarSemFuncoes(static_cast<std::size_t>(fim - p));
                 break;
         }
     }
-    ajustar_tamanho();
+    anotar_escritos();
     while (!FAbertas.empty()) FecharFuncao();
     if (FChamadas.TemErro()) FChamadas.LancarPrimeiroErro();
-    return FSemFuncoes;
+    return {FSemFuncoes.data(), FEscritos};
+}
+
+/// Room for so many characters more; answers where they go.
+char16_t* TAvaliador::ReservarSemFuncoes(std::size_t AQuantidade) {
+    if (FSemFuncoes.size() < FEscritos + AQuantidade) FSemFuncoes.resize(FEscritos + AQuantidade);
+    return FSemFuncoes.data() + FEscritos;
 }
 
 void TAvaliador::AbrirFuncao(TFuncCalc AFuncao) {
     if (!FAbertas.empty() && FAbertas.back().Separador == CNenhum && AFuncao >= FAbertas.back().Funcao)
         FAbertas.back().FuncaoAntesDoSeparador = true;
-    FAbertas.push_back({.Funcao = AFuncao, .Chamada = FChamadas.Abrir(AFuncao), .Inicio = FSemFuncoes.size()});
+    FAbertas.push_back({.Funcao = AFuncao, .Chamada = FChamadas.Abrir(AFuncao), .Inicio = FEscritos});
 }
 
 /// The innermost open function ends where the text under construction ends: its number takes the place of its argument.
@@ -113,10 +115,10 @@ void TAvaliador::FecharFuncao() {
     const TAberta aberta = FAbertas.back();
     FAbertas.pop_back();
     FChamadas.Fechar(aberta.Chamada);
-    const std::u16string_view argumento = std::u16string_view(FSemFuncoes).substr(aberta.Inicio);
+    const std::u16string_view argumento(FSemFuncoes.data() + aberta.Inicio, FEscritos - aberta.Inicio);
     bool erro = aberta.Erro;
     bool antes_dos_argumentos = true;
-    Extended valor = 0;
+    Extended valor = 0;  // stands for the call after an error too, so that its neighbours do not meet
     try {
         if (TemDoisArgumentos(aberta.Funcao)) {
             if (aberta.Separador == CNenhum || aberta.FuncaoAntesDoSeparador)
@@ -135,21 +137,20 @@ void TAvaliador::FecharFuncao() {
         FChamadas.RegistrarErro(aberta.Chamada, antes_dos_argumentos, std::current_exception());
         erro = true;
     }
-
-    FSemFuncoes.resize(aberta.Inicio);
-    if (erro) {
-        if (FAbertas.empty()) return;
+    if (erro && !FAbertas.empty()) {
         FAbertas.back().Erro = true;
         if (FAbertas.back().Separador == CNenhum) FAbertas.back().ErroAntesDoSeparador = true;
-        return;
     }
-    std::array<char16_t, CTamanhoMaximoExtended> texto;
-    FSemFuncoes += EscreverExtended(valor, texto, FRegras.SeparadorDecimal);
+
+    FEscritos = aberta.Inicio;
+    std::array<char16_t, CTamanhoMaximoExtended> espaco;
+    const std::u16string_view texto = EscreverExtended(valor, espaco, FRegras.SeparadorDecimal);
+    char16_t* const escrita = ReservarSemFuncoes(texto.size());
     // A call that is resolved after this one finds the number in its argument and disregards a point there too.
-    if (FRegras.SeparadorDecimal == u'.' && !FAbertas.empty() && FAbertas.back().Funcao > aberta.Funcao)
-        FSemFuncoes.erase(
-            std::remove(FSemFuncoes.begin() + static_cast<std::ptrdiff_t>(aberta.Inicio), FSemFuncoes.end(), u'.'),
-            FSemFuncoes.end());
+    const bool sem_ponto = !FAbertas.empty() && FAbertas.back().Funcao > aberta.Funcao;
+    FEscritos = static_cast<std::size_t>(
+        std::copy_if(texto.begin(), texto.end(), escrita, [&](char16_t c) { return !sem_ponto || c != u'.'; }) -
+        FSemFuncoes.data());
 }
 
 std::u16string_view TAvaliador::ResolverVariaveis(std::u16string_view AFormula) {

@@ -46,6 +46,7 @@ private:
         std::size_t Parenteses = 0;
     };
 
+    char16_t* ReservarSemFuncoes(std::size_t AQuantidade);
     void AbrirFuncao(TFuncCalc AFuncao);
     void FecharFuncao();
     Extended CalcularSemFuncoes(std::u16string_view AFormula, std::u16string* AResolvida);
@@ -58,7 +59,8 @@ private:
     std::vector<TAberta> FAbertas;
     std::vector<std::size_t> FParenteses;
     std::vector<std::u16string_view> FRestos;
-    std::u16string FSemFuncoes;
+    std::u16string FSemFuncoes;  // working room; the text is the first FEscritos
+    std::size_t FEscritos = 0;
     std::u16string FSemVariaveis;
     std::u16string FSemDuplos;
     std::u16string FSemParenteses;
