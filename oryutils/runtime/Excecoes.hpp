@@ -45,6 +45,27 @@ public:
     const char* GetNomeDaClasse() const noexcept override { return "EInvalidCast"; }
 };
 
+/// A position outside a list.
+class ORY_API EListError : public Exception {
+public:
+    using Exception::Exception;
+    const char* GetNomeDaClasse() const noexcept override { return "EListError"; }
+};
+
+/// What a value of a kind known only at run time refuses.
+class ORY_API EVariantError : public Exception {
+public:
+    using Exception::Exception;
+    const char* GetNomeDaClasse() const noexcept override { return "EVariantError"; }
+};
+
+/// Such a value does not turn into the kind wanted.
+class ORY_API EVariantTypeCastError : public EVariantError {
+public:
+    using EVariantError::EVariantError;
+    const char* GetNomeDaClasse() const noexcept override { return "EVariantTypeCastError"; }
+};
+
 /// Raises EAbort.
 [[noreturn]] ORY_API void Abort();
 
