@@ -58,7 +58,8 @@ TJson DeLinhaDeComando(const TParametro& AParametro, const std::string& ATexto) 
 }  // namespace
 
 std::span<const std::span<const TOperacao>> BuscarOperacoes() noexcept {
-    static const std::array tabelas{BuscarOperacoesDeTexto(), BuscarOperacoesDeRegistros(), BuscarOperacoesDeDatas()};
+    static const std::array tabelas{BuscarOperacoesDeTexto(), BuscarOperacoesDeRegistros(), BuscarOperacoesDeDatas(),
+                                    BuscarOperacoesDeSql()};
     return tabelas;
 }
 

@@ -180,7 +180,11 @@ TListaDeTextos LerLista(const TJson& AValor, std::string_view ATipo) {
     return resultado;
 }
 
-Variant LerVariante(const TJson& AValor) {
+namespace {
+
+std::vector<Variant> LerItens(const TJson& AValor, int ANivel);
+
+Variant LerVariante(const TJson& AValor, int ANivel) {
     switch (AValor.type()) {
         case TJson::value_t::null:
             return OryUtils::TNulo{};
@@ -197,10 +201,24 @@ Variant LerVariante(const TJson& AValor) {
             return AValor.get<Extended>();
         case TJson::value_t::string:
             return LerTexto(AValor);
+        case TJson::value_t::array:
+            return LerItens(AValor, ANivel + 1);
         default:
-            RecusarArgumento("lógico, número, texto ou nulo", AValor);
+            RecusarArgumento("lógico, número, texto, nulo ou lista", AValor);
     }
 }
+
+std::vector<Variant> LerItens(const TJson& AValor, int ANivel) {
+    if (ANivel > OryUtils::TVetorDeVariantes::CMaiorNivel) throw EArgumento("lista com níveis demais");
+    std::vector<Variant> itens;
+    itens.reserve(AValor.size());
+    for (const TJson& item : AValor) itens.push_back(LerVariante(item, ANivel));
+    return itens;
+}
+
+}  // namespace
+
+Variant LerVariante(const TJson& AValor) { return LerVariante(AValor, 0); }
 
 void EscreverJson(std::string& ASaida, bool AValor) { ASaida += AValor ? "true" : "false"; }
 
@@ -274,6 +292,17 @@ struct TEscritorDeVariante {
         const std::string_view escrito(texto, static_cast<std::size_t>(fim - texto));
         Saida += escrito;
         if (escrito.find_first_of(".e") == std::string_view::npos) Saida += ".0";
+    }
+    void operator()(OryUtils::TMoeda AValor) const {
+        EscreverJson(Saida, static_cast<Extended>(AValor.DezMilesimos) / 10000);
+    }
+    void operator()(const OryUtils::TVetorDeVariantes& AValor) const {
+        Saida += '[';
+        for (const Variant& item : AValor.GetItens()) {
+            if (&item != &AValor.GetItens().front()) Saida += ',';
+            EscreverJson(Saida, item);
+        }
+        Saida += ']';
     }
     template <typename T>
     void operator()(const T& AValor) const {

@@ -28,8 +28,9 @@ struct TOperacao {
 std::span<const TOperacao> BuscarOperacoesDeTexto() noexcept;
 std::span<const TOperacao> BuscarOperacoesDeRegistros() noexcept;
 std::span<const TOperacao> BuscarOperacoesDeDatas() noexcept;
+std::span<const TOperacao> BuscarOperacoesDeSql() noexcept;
 
-/// The three tables.
+/// The tables of all rooms.
 std::span<const std::span<const TOperacao>> BuscarOperacoes() noexcept;
 /// None when no operation has that name.
 const TOperacao* BuscarOperacao(std::string_view ANome) noexcept;

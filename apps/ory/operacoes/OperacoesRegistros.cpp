@@ -32,6 +32,15 @@ int BuscarSomaModulo11(const std::vector<int>& APesos, std::u16string_view ABase
     return CIE().BuscarSomaModulo11(APesos, ABase);
 }
 
+OryTypes::TResultStatus ValidarLista(const TListaDeTextos& AEnderecos) {
+    OryTypes::TResultStatus status;
+    C::ValidouListaEmail(AEnderecos, status);
+    return status;
+}
+
+/// Of the two forms of a check the one without a control.
+using TRegraDeTexto = bool(std::u16string_view);
+
 // clang-format off
 constexpr auto COperacoes = Ordenar(std::array{
     Operacao<C::ValidouCnpjCpf>("ValidouCnpjCpf"),
@@ -46,6 +55,14 @@ constexpr auto COperacoes = Ordenar(std::array{
     Operacao<C::ValidouCodigoMunicipio>("ValidouCodigoMunicipio"),
     Operacao<C::ValidouCodigoMunicipioOficial>("ValidouCodigoMunicipioOficial"),
     Operacao<C::ValidouIE>("ValidouIE"),
+    Operacao<C::ValidouCRC>("ValidouCRC"),
+    Operacao<C::ValidouEmail>("ValidouEmail"),
+    Operacao<ValidarLista>("ValidouListaEmail"),
+    Operacao<Sobrecarga<TRegraDeTexto>(C::ValidouEnderecoIP)>("ValidouEnderecoIP"),
+    Operacao<Sobrecarga<TRegraDeTexto>(C::ValidouData)>("ValidouData"),
+    Operacao<Sobrecarga<TRegraDeTexto>(C::ValidouHora)>("ValidouHora"),
+    Operacao<Sobrecarga<TRegraDeTexto>(C::ValidouDataHora)>("ValidouDataHora"),
+    Operacao<C::ValidouCaractereControle>("ValidouCaractereControle"),
     Operacao<EncadearResultados>("ValidouMetodosRetorno"),
     Operacao<C::Iif>("Iif"),
 

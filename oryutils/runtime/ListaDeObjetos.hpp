@@ -1,0 +1,28 @@
+#pragma once
+
+#include "oryutils/OryExport.hpp"
+#include "oryutils/runtime/Objeto.hpp"
+
+#include <memory>
+#include <vector>
+
+namespace OryUtils {
+
+/// A list that owns its objects: it frees them when it is cleared and when it goes.
+class ORY_API TListaDeObjetos : public TObjeto {
+public:
+    TListaDeObjetos() = default;
+    TListaDeObjetos(const TListaDeObjetos&) = delete;
+    TListaDeObjetos& operator=(const TListaDeObjetos&) = delete;
+
+    int GetCount() const noexcept { return static_cast<int>(FItens.size()); }
+    virtual void Clear() { FItens.clear(); }
+
+protected:
+    /// Raises EListError when AIndice is not 0 up to the count less one.
+    std::size_t ConferirIndice(int AIndice) const;
+
+    std::vector<std::unique_ptr<TObjeto>> FItens{};
+};
+
+}  // namespace OryUtils

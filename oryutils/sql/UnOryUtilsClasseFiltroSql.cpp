@@ -1,0 +1,199 @@
+#include "oryutils/sql/UnOryUtilsClasseFiltroSql.hpp"
+
+#include "oryutils/runtime/Caixa.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/sql/interno/CondicaoSql.hpp"
+
+#include <algorithm>
+
+namespace OryUtils {
+namespace {
+
+constexpr std::u16string_view BuscarPalavra(TOperadorFiltro AOperador) {
+    return AOperador == ofAnd ? u" AND " : u" OR ";
+}
+
+/// The tables that are wanted, found case ignored in time that hardly grows with their number.
+class TTabelas {
+public:
+    explicit TTabelas(const std::vector<std::u16string>& ATabelas) {
+        FNomes.reserve(ATabelas.size());
+        for (const std::u16string& tabela : ATabelas) FNomes.push_back(MinusculaDe(tabela));
+        std::sort(FNomes.begin(), FNomes.end());
+    }
+    bool Quer(std::u16string_view ATabela) const {
+        if (FNomes.empty()) return true;
+        const auto achado =
+            std::lower_bound(FNomes.begin(), FNomes.end(), ATabela, [](const std::u16string& A, std::u16string_view B) {
+                return std::lexicographical_compare(A.begin(), A.end(), B.begin(), B.end(), [](char16_t C, char16_t D) {
+                    return MinusculaDe(C) < MinusculaDe(D);
+                });
+            });
+        return achado != FNomes.end() && IguaisIgnorandoCaixa(*achado, ATabela);
+    }
+
+private:
+    std::vector<std::u16string> FNomes{};
+};
+
+/// A group whose children are being written.
+struct TGrupo {
+    const TOryUtilsFiltroSql* No;
+    std::size_t Antes;   // length of the text before the group and the word that joins it
+    std::size_t Inicio;  // length where its first condition starts
+    int Proximo = 0;
+};
+
+/// Appends the text of the tree to ASaida; nothing when no condition is left.
+void AnexarArvore(std::u16string& ASaida, const TOryUtilsFiltroSql& ARaiz, const TTabelas& ATabelas) {
+    constexpr std::u16string_view CAbre = u"( ";
+    constexpr std::u16string_view CFecha = u" )";
+    std::vector<TGrupo> abertos;
+    const auto escrever = [&](const TOryUtilsFiltroSql& ANo, std::u16string_view AJuncao) {
+        const std::size_t antes = ASaida.size();
+        if (ANo.GetCount() > 0) {
+            (ASaida += AJuncao) += CAbre;
+            abertos.push_back({&ANo, antes, ASaida.size()});
+        } else if (Interno::EstahCompleta(ANo) && ATabelas.Quer(ANo.GetTabela())) {
+            ASaida += AJuncao;
+            Interno::AnexarCondicao(ASaida, ANo);
+        }
+    };
+    escrever(ARaiz, u"");
+    while (!abertos.empty()) {
+        TGrupo& grupo = abertos.back();
+        const bool vazio = ASaida.size() == grupo.Inicio;
+        if (grupo.Proximo < grupo.No->GetCount()) {
+            const TOryUtilsFiltroSql& filho = grupo.No->GetItem(grupo.Proximo++);
+            escrever(filho, vazio ? u"" : BuscarPalavra(grupo.No->GetOperador()));
+            continue;
+        }
+        if (vazio)
+            ASaida.resize(grupo.Antes);
+        else
+            ASaida += CFecha;
+        abertos.pop_back();
+    }
+}
+
+std::u16string MontarSQL(const TOryUtilsFiltroSql& ARaiz, const std::vector<std::u16string>& ATabelas,
+                         std::u16string_view APalavra) {
+    std::u16string saida(APalavra);
+    AnexarArvore(saida, ARaiz, TTabelas(ATabelas));
+    if (saida.size() == APalavra.size()) saida.clear();
+    return saida;
+}
+
+}  // namespace
+
+TOryUtilsFiltroSql::TOryUtilsFiltroSql(TOperadorFiltro AOperador) : FOperador(AOperador) {}
+
+TOryUtilsFiltroSql::~TOryUtilsFiltroSql() { TOryUtilsFiltroSql::Clear(); }
+
+TOryUtilsFiltroSql& TOryUtilsFiltroSql::Add(TOperadorFiltro AOperador) {
+    auto novo = std::make_unique<TOryUtilsFiltroSql>(AOperador);
+    TOryUtilsFiltroSql& filho = *novo;
+    FItens.push_back(std::move(novo));
+    FTabela.clear();
+    FCampo.clear();
+    FCondicao = cfNenhum;
+    FValor = Variant();
+    return filho;
+}
+
+TOryUtilsFiltroSql& TOryUtilsFiltroSql::GetItem(int AIndice) const {
+    // Only Add and SetItem fill the list.
+    return static_cast<TOryUtilsFiltroSql&>(*FItens[ConferirIndice(AIndice)]);
+}
+
+void TOryUtilsFiltroSql::SetItem(int AIndice, std::unique_ptr<TOryUtilsFiltroSql> AValor) {
+    std::unique_ptr<TObjeto>& lugar = FItens[ConferirIndice(AIndice)];
+    if (!AValor) throw EListError(u"O item da lista não pode ser nulo.");
+    lugar = std::move(AValor);
+}
+
+void TOryUtilsFiltroSql::Clear() {
+    // Without recursion and without memory of its own: while the children of a node are freed, the node waits in the
+    // place of the first of them and keeps the list that was being freed before.
+    auto lista = std::exchange(FItens, {});
+    while (!lista.empty()) {
+        std::unique_ptr<TObjeto> objeto = std::move(lista.back());
+        lista.pop_back();
+        while (static_cast<TOryUtilsFiltroSql&>(*objeto).GetCount() > 0) {
+            std::swap(lista, static_cast<TOryUtilsFiltroSql&>(*objeto).FItens);
+            std::swap(lista.front(), objeto);
+        }
+    }
+}
+
+void TOryUtilsFiltroSql::CopiarCondicao(const TOryUtilsFiltroSql& ADe) {
+    FCampo = ADe.FCampo;
+    FCondicao = ADe.FCondicao;
+    FOperador = ADe.FOperador;
+    FOwner = ADe.FOwner;
+    FQuoteStr = ADe.FQuoteStr;
+    FTabela = ADe.FTabela;
+    FUsarUpperCase = ADe.GetUsarUpperCase();
+    FValor = ADe.FValor;
+}
+
+void TOryUtilsFiltroSql::Assign(const TListaDeObjetos& ASource) {
+    const auto* origem = dynamic_cast<const TOryUtilsFiltroSql*>(&ASource);
+    if (!origem) return;
+
+    // ASource may be below this node: the present children live until everything is copied.
+    TOryUtilsFiltroSql antigos(FOperador);
+    antigos.FItens = std::exchange(FItens, {});
+    struct TPasso {
+        const TOryUtilsFiltroSql* No;
+        int Proximo = 0;
+    };
+    std::vector<TPasso> caminho{{origem}};
+    Clear();
+    while (!caminho.empty()) {
+        TPasso& passo = caminho.back();
+        if (passo.Proximo == passo.No->GetCount()) {
+            caminho.pop_back();
+            continue;
+        }
+        const TOryUtilsFiltroSql& item = passo.No->GetItem(passo.Proximo++);
+        if (item.GetCount() == 0) {
+            Add(item.GetOperador()).CopiarCondicao(item);
+            continue;
+        }
+        Clear();
+        if (&item != this) caminho.push_back({&item});
+    }
+}
+
+bool TOryUtilsFiltroSql::GetUsarUpperCase() const noexcept {
+    return FUsarUpperCase && FCondicao != cfIsNull && FCondicao != cfIsNotNull;
+}
+
+std::u16string TOryUtilsFiltroSql::BuscarCondicaoStr() const {
+    return std::u16string(Interno::BuscarPalavra(FCondicao));
+}
+
+std::u16string TOryUtilsFiltroSql::BuscarOperadorStr() const { return std::u16string(BuscarPalavra(FOperador)); }
+
+std::u16string TOryUtilsFiltroSql::BuscarSQL(const std::vector<std::u16string>& ATabelas) const {
+    return MontarSQL(*this, ATabelas, u"");
+}
+std::u16string TOryUtilsFiltroSql::BuscarSQL() const { return BuscarSQL({}); }
+
+std::u16string TOryUtilsFiltroSql::BuscarSQLAnd(const std::vector<std::u16string>& ATabelas) const {
+    return MontarSQL(*this, ATabelas, u" AND ");
+}
+std::u16string TOryUtilsFiltroSql::BuscarSQLAnd() const { return BuscarSQLAnd({}); }
+
+std::u16string TOryUtilsFiltroSql::BuscarSQLOr(const std::vector<std::u16string>& ATabelas) const {
+    return MontarSQL(*this, ATabelas, u" OR ");
+}
+std::u16string TOryUtilsFiltroSql::BuscarSQLOr() const { return BuscarSQLOr({}); }
+
+std::u16string TOryUtilsFiltroSql::BuscarSQLWhere(const std::vector<std::u16string>& ATabelas) const {
+    return MontarSQL(*this, ATabelas, u" WHERE ");
+}
+std::u16string TOryUtilsFiltroSql::BuscarSQLWhere() const { return BuscarSQLWhere({}); }
+
+}  // namespace OryUtils
