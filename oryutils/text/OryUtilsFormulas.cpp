@@ -82,10 +82,16 @@ std::vector<std::u16string> TOryUtilsFormulas::RetirarEspacosEmBranco(const std:
     return linhas;
 }
 
-void TOryUtilsFormulas::ResolverFuncoes(std::u16string& AFormula) { AFormula = Preparar().ResolverFuncoes(AFormula); }
+void TOryUtilsFormulas::ResolverFuncoes(std::u16string& AFormula) {
+    const std::u16string_view resolvida = Preparar().ResolverFuncoes(AFormula);
+    FAvaliador->LancarErro();
+    AFormula = resolvida;
+}
 
 void TOryUtilsFormulas::ResolverVariaveis(std::u16string& AFormula) {
-    AFormula = Preparar().ResolverVariaveis(AFormula);
+    const std::u16string_view resolvida = Preparar().ResolverVariaveis(AFormula);
+    FAvaliador->LancarErro();
+    AFormula = resolvida;
 }
 
 void TOryUtilsFormulas::ResolverDuploSinalNegativo(std::u16string& AFormula) {
@@ -93,11 +99,15 @@ void TOryUtilsFormulas::ResolverDuploSinalNegativo(std::u16string& AFormula) {
 }
 
 void TOryUtilsFormulas::ResolverParenteses(std::u16string& AFormula) {
-    AFormula = Preparar().ResolverParenteses(AFormula);
+    const std::u16string_view resolvida = Preparar().ResolverParenteses(AFormula);
+    FAvaliador->LancarErro();
+    AFormula = resolvida;
 }
 
 Extended TOryUtilsFormulas::CalcularExpressao(std::u16string_view ATexto) {
-    return Preparar().CalcularExpressao(ATexto);
+    const Extended valor = Preparar().CalcularExpressao(ATexto);
+    FAvaliador->LancarErro();
+    return valor;
 }
 
 bool TOryUtilsFormulas::EhVariavel(char16_t ACaractere) { return BuscarRegras(maNenhum, 0).EhVariavel(ACaractere); }

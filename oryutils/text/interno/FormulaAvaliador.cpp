@@ -1,10 +1,10 @@
 #include "oryutils/text/interno/FormulaAvaliador.hpp"
 
 #include "oryutils/runtime/Caixa.hpp"
-#include "oryutils/runtime/Excecoes.hpp"
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace OryUtils::Interno {
 namespace {
@@ -32,13 +32,19 @@ constexpr std::size_t CCrescimentoMinimo = 64 * 1024;
 }  // namespace
 
 Extended TAvaliador::Calcular(std::u16string_view AFormula, std::u16string* AResolvida) {
-    return CalcularSemFuncoes(ResolverFuncoes(AFormula), AResolvida);
+    const std::u16string_view sem_funcoes = ResolverFuncoes(AFormula);
+    LancarErro();
+    const Extended valor = CalcularSemFuncoes(sem_funcoes, AResolvida);
+    LancarErro();
+    return valor;
 }
 
 Extended TAvaliador::CalcularSemFuncoes(std::u16string_view AFormula, std::u16string* AResolvida) {
     AFormula = ResolverVariaveis(AFormula);
+    if (FErro.Motivo != meNenhum) return 0;
     if (AResolvida) AResolvida->assign(AFormula);
-    return CalcularExpressao(ResolverParenteses(ResolverDuploSinalNegativo(AFormula)));
+    AFormula = ResolverParenteses(ResolverDuploSinalNegativo(AFormula));
+    return FErro.Motivo == meNenhum ? CalcularExpressao(AFormula) : 0;
 }
 
 std::u16string_view TAvaliador::ResolverFuncoes(std::u16string_view AFormula) {
@@ -94,7 +100,7 @@ std::u16string_view TAvaliador::ResolverFuncoes(std::u16string_view AFormula) {
     }
     anotar_escritos();
     while (!FAbertas.empty()) FecharFuncao();
-    if (FChamadas.TemErro()) FChamadas.LancarPrimeiroErro();
+    if (FChamadas.TemErro()) FErro = FChamadas.BuscarPrimeiroErro();
     return {FSemFuncoes.data(), FEscritos};
 }
 
@@ -116,26 +122,26 @@ void TAvaliador::FecharFuncao() {
     FAbertas.pop_back();
     FChamadas.Fechar(aberta.Chamada);
     const std::u16string_view argumento(FSemFuncoes.data() + aberta.Inicio, FEscritos - aberta.Inicio);
-    bool erro = aberta.Erro;
-    bool antes_dos_argumentos = true;
     Extended valor = 0;  // stands for the call after an error too, so that its neighbours do not meet
-    try {
-        if (TemDoisArgumentos(aberta.Funcao)) {
-            if (aberta.Separador == CNenhum || aberta.FuncaoAntesDoSeparador)
-                throw Exception(u"São necessários dois argumentos para calcular a função.");
-            const std::size_t separador = aberta.Separador - aberta.Inicio;
-            const bool calcular = !aberta.ErroAntesDoSeparador;
-            const Extended um = calcular ? CalcularSemFuncoes(argumento.substr(0, separador), nullptr) : 0;
-            antes_dos_argumentos = false;
-            if (!erro)
-                valor = CalcularFuncao(aberta.Funcao, um, CalcularSemFuncoes(argumento.substr(separador + 1), nullptr));
-        } else if (!erro) {
-            antes_dos_argumentos = false;
-            valor = CalcularFuncao(aberta.Funcao, CalcularSemFuncoes(argumento, nullptr), 0);
-        }
-    } catch (const Exception&) {
-        FChamadas.RegistrarErro(aberta.Chamada, antes_dos_argumentos, std::current_exception());
-        erro = true;
+    bool antes_dos_argumentos = false;
+    const auto sem_erro = [this] { return FErro.Motivo == meNenhum; };
+    if (TemDoisArgumentos(aberta.Funcao)) {
+        const std::size_t separador = aberta.Separador - aberta.Inicio;
+        Extended um = 0;
+        if (aberta.Separador == CNenhum || aberta.FuncaoAntesDoSeparador)
+            FErro.Motivo = meDoisArgumentos;
+        else if (!aberta.ErroAntesDoSeparador)
+            um = CalcularSemFuncoes(argumento.substr(0, separador), nullptr);
+        antes_dos_argumentos = !sem_erro();
+        if (sem_erro() && !aberta.Erro)
+            valor = CalcularFuncao(aberta.Funcao, um, CalcularSemFuncoes(argumento.substr(separador + 1), nullptr));
+    } else if (!aberta.Erro) {
+        valor = CalcularFuncao(aberta.Funcao, CalcularSemFuncoes(argumento, nullptr), 0);
+    }
+    const bool erro = aberta.Erro || !sem_erro();
+    if (!sem_erro()) {
+        FChamadas.RegistrarErro(aberta.Chamada, antes_dos_argumentos, std::exchange(FErro, {}));
+        valor = 0;
     }
     if (erro && !FAbertas.empty()) {
         FAbertas.back().Erro = true;
@@ -165,7 +171,7 @@ std::u16string_view TAvaliador::ResolverVariaveis(std::u16string_view AFormula) 
         const auto fim_do_nome = std::find_if(p, AFormula.end(), [&](char16_t c) {
             return !eh_variavel(c) && !EhDigito(c) && c != FRegras.SeparadorDecimal;
         });
-        SubstituirVariavel({p, fim_do_nome}, AFormula.size());
+        if (!SubstituirVariavel({p, fim_do_nome}, AFormula.size())) return {};
         copiado = fim_do_nome;
         p = std::find_if(fim_do_nome, AFormula.end(), eh_variavel);
     }
@@ -173,22 +179,26 @@ std::u16string_view TAvaliador::ResolverVariaveis(std::u16string_view AFormula) 
     return FSemVariaveis;
 }
 
-/// Appends what stands for the variable. The scan goes on at the start of the value, so that the "E" of an exponent is
-/// a name again; what follows that name waits in FRestos.
-void TAvaliador::SubstituirVariavel(std::u16string_view ANome, std::size_t ATamanhoDaFormula) {
+/// Appends what stands for the variable; false with the error set when nothing does. The scan goes on at the start of
+/// the value, so that the "E" of an exponent is a name again; what follows that name waits in FRestos.
+bool TAvaliador::SubstituirVariavel(std::u16string_view ANome, std::size_t ATamanhoDaFormula) {
     FRestos.clear();
     while (true) {
-        const std::u16string_view texto = Variaveis.BuscarTexto(ANome);
+        const std::u16string_view texto = Variaveis.BuscarTexto(ANome, FErro);
+        if (FErro.Motivo != meNenhum) return false;
         const std::size_t e = texto.find(u'E');
         FSemVariaveis += texto.substr(0, e);
         if (e == CNenhum) break;
-        if (FSemVariaveis.size() > ATamanhoDaFormula * CCrescimento + CCrescimentoMinimo)
-            throw Exception(u"Variáveis da fórmula sem fim.");
+        if (FSemVariaveis.size() > ATamanhoDaFormula * CCrescimento + CCrescimentoMinimo) {
+            FErro.Motivo = meSemFim;
+            return false;
+        }
         const std::size_t fim_do_nome = std::min(texto.find(u'-', e), texto.size());
         FRestos.push_back(texto.substr(fim_do_nome));
         ANome = texto.substr(e, fim_do_nome - e);
     }
     for (; !FRestos.empty(); FRestos.pop_back()) FSemVariaveis += FRestos.back();
+    return true;
 }
 
 std::u16string_view TAvaliador::ResolverDuploSinalNegativo(std::u16string_view AFormula) {
@@ -214,22 +224,25 @@ std::u16string_view TAvaliador::ResolverParenteses(std::u16string_view AFormula)
     for (const char16_t c : AFormula.substr(primeiro)) {
         if (c == u'(')
             FParenteses.push_back(FSemParenteses.size());
-        else if (c == u')' && !FParenteses.empty())
-            FecharParentese();
-        else
+        else if (c == u')' && !FParenteses.empty()) {
+            if (!FecharParentese()) return {};
+        } else
             FSemParenteses += c;
     }
-    while (!FParenteses.empty()) FecharParentese();
+    while (!FParenteses.empty())
+        if (!FecharParentese()) return {};
     return FSemParenteses;
 }
 
-void TAvaliador::FecharParentese() {
+bool TAvaliador::FecharParentese() {
     const std::size_t inicio = FParenteses.back();
     FParenteses.pop_back();
     const Extended valor = CalcularExpressao(std::u16string_view(FSemParenteses).substr(inicio));
+    if (FErro.Motivo != meNenhum) return false;
     std::array<char16_t, CTamanhoMaximoExtended> texto;
     FSemParenteses.resize(inicio);
     FSemParenteses += EscreverExtended(valor, texto, FRegras.SeparadorDecimal);
+    return true;
 }
 
 }  // namespace OryUtils::Interno

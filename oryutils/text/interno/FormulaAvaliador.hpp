@@ -16,7 +16,9 @@ class TAvaliador {
 public:
     TVariaveis Variaveis;
 
+    /// What holds for the steps that follow; forgets the error of those before.
     void SetRegras(const TRegrasFormula& ARegras) noexcept {
+        FErro.Motivo = meNenhum;
         FRegras = ARegras;
         Variaveis.SetRegras(ARegras);
     }
@@ -25,13 +27,18 @@ public:
     /// AResolvida, when given, takes the text in which functions and variables are numbers.
     Extended Calcular(std::u16string_view AFormula, std::u16string* AResolvida);
 
-    // Each answers its text when it finds nothing to do, otherwise a working text that holds until the next step of the
-    // same kind.
+    // Each asks for no error before it, sets the one it meets, and answers its text when it finds nothing to do,
+    // otherwise a working text that holds until the next step of the same kind.
     std::u16string_view ResolverFuncoes(std::u16string_view AFormula);
     std::u16string_view ResolverVariaveis(std::u16string_view AFormula);
     std::u16string_view ResolverDuploSinalNegativo(std::u16string_view AFormula);
     std::u16string_view ResolverParenteses(std::u16string_view AFormula);
-    Extended CalcularExpressao(std::u16string_view ATexto) { return FExpressao.Calcular(ATexto, FRegras); }
+    Extended CalcularExpressao(std::u16string_view ATexto) { return FExpressao.Calcular(ATexto, FRegras, FErro); }
+
+    /// Raises the error of the last step, when it met one.
+    void LancarErro() const {
+        if (FErro.Motivo != meNenhum) FErro.Lancar();
+    }
 
 private:
     /// A function call whose ")" has not come yet. Positions are those of the text under construction.
@@ -50,10 +57,11 @@ private:
     void AbrirFuncao(TFuncCalc AFuncao);
     void FecharFuncao();
     Extended CalcularSemFuncoes(std::u16string_view AFormula, std::u16string* AResolvida);
-    void SubstituirVariavel(std::u16string_view ANome, std::size_t ATamanhoDaFormula);
-    void FecharParentese();
+    bool SubstituirVariavel(std::u16string_view ANome, std::size_t ATamanhoDaFormula);
+    bool FecharParentese();
 
     TRegrasFormula FRegras;
+    TErroFormula FErro;
     TExpressao FExpressao;
     TChamadas FChamadas;
     std::vector<TAberta> FAbertas;

@@ -56,8 +56,7 @@ const char16_t* TExpressao::LerOperando(const char16_t* AInicio, const char16_t*
     }
     while (p != AFim && !EhSinalDeOperacao(*p)) ++p;
     parcela.Texto = {AInicio, p};
-    const auto lido =
-        TentarTextoParaExtended(parcela.Texto, TFormatSettings{.DecimalSeparator = FRegras.SeparadorDecimal});
+    const auto lido = TentarTextoParaExtended(parcela.Texto);
     parcela.EhNumero = lido.has_value();
     parcela.Valor = lido.value_or(0);
     return p;
@@ -97,20 +96,26 @@ void TExpressao::ReporTexto(char16_t AOperador, std::u16string_view ATexto) {
     if (menos != std::u16string_view::npos) LerOperando(texto.data() + menos + 1, texto.data() + texto.size(), u'-');
 }
 
-void TExpressao::Operar(const TParcela& AEsquerda, const TParcela& ADireita) {
-    for (const TParcela* parcela : {&AEsquerda, &ADireita})
-        if (!parcela->EhNumero)
-            TextoParaExtended(parcela->Texto, TFormatSettings{.DecimalSeparator = FRegras.SeparadorDecimal});
+/// False: AParcela is no number, and now is its turn.
+bool TExpressao::Recusar(const TParcela& AParcela) {
+    *FErro = {meNumero, std::u16string(AParcela.Texto)};
+    return false;
+}
+
+bool TExpressao::Operar(const TParcela& AEsquerda, const TParcela& ADireita) {
+    if (!AEsquerda.EhNumero) return Recusar(AEsquerda);
+    if (!ADireita.EhNumero) return Recusar(ADireita);
     const char16_t operador = AEsquerda.Operador;
     const Extended exato = Resultado(ADireita.Operador, AEsquerda.Valor, ADireita.Valor);
     const Extended valor = FRegras.Ajuste == maNenhum ? exato : FRegras.Ajustar(exato);
     const Extended magnitude = std::abs(valor);
     const bool inteiro = magnitude < CPrimeiroDe16Digitos && ArredondarAoInteiro(magnitude) == magnitude;
     Repor(operador, inteiro ? valor : ArredondarPara15Digitos(valor));
+    return true;
 }
 
 /// Resolves every AOperador, from the left to the right.
-void TExpressao::Passar(char16_t AOperador) {
+bool TExpressao::Passar(char16_t AOperador) {
     FAnteriores.swap(FParcelas);
     FParcelas.clear();
     for (const TParcela& parcela : FAnteriores) {
@@ -119,15 +124,17 @@ void TExpressao::Passar(char16_t AOperador) {
             continue;
         }
         // Only a result with an exponent leaves a subtraction behind in the last pass, with no number before it.
-        if (AOperador == u'-' && FParcelas.size() > 1) Operar(FParcelas[0], FParcelas[1]);
+        if (AOperador == u'-' && FParcelas.size() > 1) return Recusar(FParcelas.front());
         const TParcela esquerda = FParcelas.back();
         FParcelas.pop_back();
-        Operar(esquerda, parcela);
+        if (!Operar(esquerda, parcela)) return false;
     }
+    return true;
 }
 
-Extended TExpressao::Calcular(std::u16string_view ATexto, const TRegrasFormula& ARegras) {
+Extended TExpressao::Calcular(std::u16string_view ATexto, const TRegrasFormula& ARegras, TErroFormula& AErro) {
     FRegras = ARegras;
+    FErro = &AErro;
     FParcelas.clear();
     if (!FTextos.empty()) FTextos.clear();
     const char16_t* p = ATexto.data();
@@ -141,20 +148,19 @@ Extended TExpressao::Calcular(std::u16string_view ATexto, const TRegrasFormula& 
             FParcelas.pop_back();
             const TParcela esquerda = FParcelas.back();
             FParcelas.pop_back();
-            Operar(esquerda, direita);
+            if (!Operar(esquerda, direita)) return 0;
         }
         if (p == fim) break;
         operador = *p++;
         tem_divisao |= operador == u'/';
         tem_soma |= operador == u'+';
     }
-    if (tem_divisao) Passar(u'/');
-    if (tem_soma) Passar(u'+');
-    while (FParcelas.size() > 1) Passar(u'-');
-    const TParcela& ultima = FParcelas.front();
-    if (!ultima.EhNumero)
-        return TextoParaExtended(ultima.Texto, TFormatSettings{.DecimalSeparator = FRegras.SeparadorDecimal});
-    return ultima.Valor;
+    if (tem_divisao && !Passar(u'/')) return 0;
+    if (tem_soma && !Passar(u'+')) return 0;
+    while (FParcelas.size() > 1)
+        if (!Passar(u'-')) return 0;
+    if (!FParcelas.front().EhNumero) Recusar(FParcelas.front());
+    return FParcelas.front().Valor;
 }
 
 }  // namespace OryUtils::Interno

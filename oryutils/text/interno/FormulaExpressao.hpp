@@ -1,5 +1,6 @@
 #pragma once
 
+#include "oryutils/text/interno/FormulaErro.hpp"
 #include "oryutils/text/interno/FormulaRegras.hpp"
 
 #include <deque>
@@ -12,8 +13,8 @@ namespace OryUtils::Interno {
 /// Evaluates texts without parentheses: operands and the operators between them, one kind of operator at a time.
 class TExpressao {
 public:
-    /// Raises EConvertError for an operand that is no number, at its turn.
-    Extended Calcular(std::u16string_view ATexto, const TRegrasFormula& ARegras);
+    /// 0 with AErro set when an operand is no number: the first one to have its turn.
+    Extended Calcular(std::u16string_view ATexto, const TRegrasFormula& ARegras, TErroFormula& AErro);
 
 private:
     /// An operand with the operator before it. An operand that is no number keeps its text until its turn comes.
@@ -25,12 +26,14 @@ private:
     };
 
     const char16_t* LerOperando(const char16_t* AInicio, const char16_t* AFim, char16_t AOperador);
-    void Operar(const TParcela& AEsquerda, const TParcela& ADireita);
+    bool Operar(const TParcela& AEsquerda, const TParcela& ADireita);
+    bool Recusar(const TParcela& AParcela);
     void Repor(char16_t AOperador, Extended AValor);
     void ReporTexto(char16_t AOperador, std::u16string_view ATexto);
-    void Passar(char16_t AOperador);
+    bool Passar(char16_t AOperador);
 
     TRegrasFormula FRegras;
+    TErroFormula* FErro = nullptr;
     std::vector<TParcela> FParcelas;
     std::vector<TParcela> FAnteriores;
     std::deque<std::u16string> FTextos;  // of results that are no numbers to the operators

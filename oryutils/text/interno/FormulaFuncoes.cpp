@@ -57,7 +57,7 @@ std::vector<std::size_t> TChamadas::BuscarDonas() const {
     return donas;
 }
 
-void TChamadas::LancarPrimeiroErro() const {
+const TErroFormula& TChamadas::BuscarPrimeiroErro() const {
     const std::vector<std::size_t> donas = BuscarDonas();
     // The calls that each one evaluates stand together, in the order in which it does.
     std::vector<std::size_t> ordem(FChamadas.size());
@@ -85,15 +85,15 @@ void TChamadas::LancarPrimeiroErro() const {
         const std::size_t lugar = chamada == CNenhuma ? 0 : chamada + 1;
         if (visitas.back().Proxima < inicio[lugar + 1]) {
             const std::size_t filha = ordem[visitas.back().Proxima++];
-            if (antes[filha]) std::rethrow_exception(antes[filha]->Erro);
+            if (antes[filha]) return antes[filha]->Erro;
             visitas.push_back({filha, inicio[filha + 1]});
             continue;
         }
         if (chamada == CNenhuma) break;
-        if (depois[chamada]) std::rethrow_exception(depois[chamada]->Erro);
+        if (depois[chamada]) return depois[chamada]->Erro;
         visitas.pop_back();
     }
-    std::rethrow_exception(FErros.front().Erro);
+    return FErros.front().Erro;
 }
 
 }  // namespace OryUtils::Interno

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "oryutils/text/OryUtilsFormulas.hpp"
+#include "oryutils/text/interno/FormulaErro.hpp"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <exception>
 #include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace OryUtils::Interno {
@@ -45,11 +46,11 @@ public:
     }
     void Fechar(std::size_t AChamada) noexcept { FChamadas[AChamada].Fim = FChamadas.size(); }
     /// AAntesDosArgumentos: the error comes before the functions inside the call that are still to be resolved.
-    void RegistrarErro(std::size_t AChamada, bool AAntesDosArgumentos, std::exception_ptr AErro) {
+    void RegistrarErro(std::size_t AChamada, bool AAntesDosArgumentos, TErroFormula AErro) {
         FErros.push_back({AChamada, AAntesDosArgumentos, std::move(AErro)});
     }
     bool TemErro() const noexcept { return !FErros.empty(); }
-    [[noreturn]] void LancarPrimeiroErro() const;
+    const TErroFormula& BuscarPrimeiroErro() const;
 
 private:
     struct TChamada {
@@ -59,7 +60,7 @@ private:
     struct TErro {
         std::size_t Chamada;
         bool AntesDosArgumentos;
-        std::exception_ptr Erro;
+        TErroFormula Erro;
     };
     std::vector<std::size_t> BuscarDonas() const;
 

@@ -1,7 +1,6 @@
 #include "oryutils/text/interno/FormulaVariaveis.hpp"
 
 #include "oryutils/runtime/Caixa.hpp"
-#include "oryutils/runtime/Excecoes.hpp"
 
 #include <algorithm>
 
@@ -58,14 +57,22 @@ void TVariaveis::Limpar() {
     FIndice.clear();
 }
 
-std::u16string_view TVariaveis::BuscarTexto(std::u16string_view ANome) {
+std::u16string_view TVariaveis::BuscarTexto(std::u16string_view ANome, TErroFormula& AErro) {
     const auto achada = FIndice.find(ANome);
-    if (achada == FIndice.end()) throw Exception(u"Variável '" + std::u16string(ANome) + u"' não existe.");
+    if (achada == FIndice.end()) {
+        AErro = {meVariavel, std::u16string(ANome)};
+        return {};
+    }
     TEntrada& entrada = achada->second;
     if (entrada.Geracao != FGeracao) {
-        const std::u16string& linha = FLinhas[entrada.Linha];
-        const Extended valor = TextoParaExtended(std::u16string_view(linha).substr(linha.find(u'=') + 1));
-        const auto texto = EscreverExtended(FRegras.Ajustar(valor), entrada.Texto, FRegras.SeparadorDecimal);
+        std::u16string_view linha = FLinhas[entrada.Linha];
+        linha.remove_prefix(linha.find(u'=') + 1);
+        const auto valor = TentarTextoParaExtended(linha);
+        if (!valor) {
+            AErro = {meNumero, std::u16string(linha)};
+            return {};
+        }
+        const auto texto = EscreverExtended(FRegras.Ajustar(*valor), entrada.Texto, FRegras.SeparadorDecimal);
         if (texto.data() != entrada.Texto.data()) std::copy(texto.begin(), texto.end(), entrada.Texto.begin());
         entrada.Tamanho = static_cast<std::uint8_t>(texto.size());
         entrada.Geracao = FGeracao;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "oryutils/text/interno/FormulaErro.hpp"
 #include "oryutils/text/interno/FormulaRegras.hpp"
 
 #include <array>
@@ -26,9 +27,9 @@ public:
         FRegras = ARegras;
         ++FGeracao;
     }
-    /// The text of the value, adjusted. Raises Exception when there is no such variable and EConvertError when its
-    /// value is no number. Holds until the variables or the rules change.
-    std::u16string_view BuscarTexto(std::u16string_view ANome);
+    /// The text of the value, adjusted; holds until the variables or the rules change. Empty, with AErro set, when
+    /// there is no such variable or its value is no number.
+    std::u16string_view BuscarTexto(std::u16string_view ANome, TErroFormula& AErro);
 
 private:
     struct TDispersao {
