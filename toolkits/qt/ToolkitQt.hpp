@@ -14,8 +14,9 @@ namespace OryUtils {
 /// Forms as Qt 6 Widgets.
 ///
 /// Works beside the host's QApplication, whose thread then owns the user interface. Where there is none, the first
-/// operation that needs one creates it, and the thread that first asked owns the interface; that QApplication goes at
-/// the end of the process. A host with only a QCoreApplication cannot show forms: every operation raises Exception.
+/// operation that needs one creates it, and the thread that first asked owns the interface; that QApplication is never
+/// destroyed, the system takes it back with the process. A host with only a QCoreApplication cannot show forms: every
+/// operation raises Exception.
 ///
 /// A pixel of the form model is a device-independent pixel of Qt: with high-DPI scaling a form grows with the screen,
 /// and measures, screen size and pixels per inch are told in the same unit.

@@ -1,32 +1,144 @@
 #include "oryutils/forms/console/ToolkitConsole.hpp"
 
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/forms/console/DialogoConsole.hpp"
+#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
 
-#include <cstdio>
+#include <algorithm>
+#include <filesystem>
 
 namespace OryUtils {
+namespace {
+
+constexpr TTamanho CCelula{6, 13};
+
+}  // namespace
 
 int TToolkitConsole::ExecutarModal(TFormulario& AFormulario) {
-    const TControleFormulario* mensagem = AFormulario.BuscarControle(u"Message");
-    std::fprintf(stderr, "%s: %s\n", ParaUtf8(AFormulario.GetTitulo()).c_str(),
-                 mensagem ? ParaUtf8(mensagem->GetTexto()).c_str() : "");
-    return mrCancel;
+    return TDialogoConsole(AFormulario, FConversa,
+                           [this] {
+                               DispararTemporizadores();
+                               return BuscarEspera();
+                           })
+        .Executar();
 }
 
-TTamanho TToolkitConsole::MedirTexto(std::u16string_view ATexto, int) const {
-    return {static_cast<int>(ATexto.size()) * 6, 13};
+// Words are moved to the next line whole; one longer than a line stays alone on its own.
+TTamanho TToolkitConsole::MedirTexto(std::u16string_view ATexto, int ALarguraMaxima) const {
+    if (ATexto.empty()) return {};
+    const int colunas = ALarguraMaxima > 0 ? std::max(1, ALarguraMaxima / CCelula.Largura) : 0;
+    int linhas = 1;
+    int coluna = 0;
+    int maior = 0;
+    int palavra = 0;
+    for (std::size_t i = 0; i < ATexto.size(); ++i) {
+        const char16_t c = ATexto[i];
+        if (c == u'\r' && i + 1 < ATexto.size() && ATexto[i + 1] == u'\n') continue;
+        if (c == u'\r' || c == u'\n') {
+            ++linhas;
+            coluna = palavra = 0;
+            continue;
+        }
+        palavra = c == u' ' ? 0 : palavra + 1;
+        ++coluna;
+        if (colunas > 0 && palavra > 0 && coluna > colunas && coluna > palavra) {
+            ++linhas;
+            coluna = palavra;
+        }
+        if (palavra > 0) maior = std::max(maior, coluna);
+    }
+    return {maior * CCelula.Largura, linhas * CCelula.Altura};
 }
 
-std::uintptr_t TToolkitConsole::LigarTemporizador(int, std::function<void()>) { return 1; }
-void TToolkitConsole::DesligarTemporizador(std::uintptr_t) {}
-
-std::optional<std::u16string> TToolkitConsole::EscolherArquivo(std::u16string_view,
-                                                               const std::vector<TFiltroArquivo>&) {
-    return std::nullopt;
+std::uintptr_t TToolkitConsole::LigarTemporizador(int AMilissegundos, std::function<void()> AAcao) {
+    const std::chrono::milliseconds intervalo(std::max(1, AMilissegundos));
+    const auto proximo = FConversa.GetInstante() + intervalo;
+    const std::lock_guard trava(FTrava);
+    FTemporizadores.push_back(
+        {++FUltimoTemporizador, std::this_thread::get_id(), intervalo, proximo, std::move(AAcao)});
+    return FUltimoTemporizador;
 }
 
-std::optional<std::u16string> TToolkitConsole::EscolherPasta(std::u16string_view, std::u16string_view) {
-    return std::nullopt;
+void TToolkitConsole::DesligarTemporizador(std::uintptr_t ATemporizador) {
+    const std::lock_guard trava(FTrava);
+    std::erase_if(FTemporizadores, [&](const TTemporizador& t) { return t.Numero == ATemporizador; });
+}
+
+// Each timer of this thread that is due, once. An action may switch timers on and off, so the list is read afresh.
+void TToolkitConsole::DispararTemporizadores() {
+    const auto agora = FConversa.GetInstante();
+    while (true) {
+        std::function<void()> acao;
+        {
+            const std::lock_guard trava(FTrava);
+            const auto vencido = std::find_if(FTemporizadores.begin(), FTemporizadores.end(), [&](const auto& t) {
+                return t.Thread == std::this_thread::get_id() && t.Proximo <= agora;
+            });
+            if (vencido == FTemporizadores.end()) return;
+            vencido->Proximo = agora + vencido->Intervalo;
+            acao = vencido->Acao;
+        }
+        try {
+            acao();
+        } catch (const EAbort&) {
+            // Silent by its meaning.
+        }
+    }
+}
+
+// Until the next timer of this thread.
+std::optional<std::chrono::milliseconds> TToolkitConsole::BuscarEspera() {
+    const auto agora = FConversa.GetInstante();
+    std::optional<std::chrono::milliseconds> espera;
+    const std::lock_guard trava(FTrava);
+    for (const TTemporizador& t : FTemporizadores) {
+        if (t.Thread != std::this_thread::get_id()) continue;
+        const auto resta = std::max(std::chrono::milliseconds(0), t.Proximo - agora);
+        if (!espera || resta < *espera) espera = resta;
+    }
+    return espera;
+}
+
+std::optional<std::u16string> TToolkitConsole::EscolherCaminho(std::u16string_view APergunta,
+                                                               std::u16string_view APastaInicial, bool APasta) {
+    namespace fs = std::filesystem;
+    if (!FConversa.PodeConversar()) return std::nullopt;
+    while (true) {
+        FConversa.Escrever(std::u16string(APergunta) + u" (vazio cancela): ");
+        std::u16string linha;
+        auto lida = Plataforma::llTempo;
+        while (lida == Plataforma::llTempo) {
+            DispararTemporizadores();
+            lida = FConversa.LerLinha(BuscarEspera(), linha);
+        }
+        const std::u16string caminho(Aparar(linha));
+        if (lida == Plataforma::llFim || caminho.empty()) return std::nullopt;
+        std::error_code erro;
+        const fs::path completo = fs::absolute(fs::path(std::u16string(APastaInicial)) / fs::path(caminho), erro);
+        if (!erro && (APasta ? fs::is_directory(completo, erro) : fs::is_regular_file(completo, erro)))
+            return completo.lexically_normal().u16string();
+        FConversa.Escrever(APasta ? u"Pasta não encontrada.\n" : u"Arquivo não encontrado.\n");
+    }
+}
+
+std::optional<std::u16string> TToolkitConsole::EscolherArquivo(std::u16string_view APastaInicial,
+                                                               const std::vector<TFiltroArquivo>& AFiltros) {
+    std::u16string pergunta = u"Arquivo";
+    for (const TFiltroArquivo& filtro : AFiltros) pergunta += u", " + filtro.Descricao + u" " + filtro.Mascara;
+    return EscolherCaminho(pergunta, APastaInicial, false);
+}
+
+std::optional<std::u16string> TToolkitConsole::EscolherPasta(std::u16string_view ATitulo,
+                                                             std::u16string_view APastaInicial) {
+    return EscolherCaminho(ATitulo.empty() ? u"Pasta" : ATitulo, APastaInicial, true);
+}
+
+void TToolkitConsole::Bipar() {
+    if (FConversa.PodeConversar()) FConversa.Escrever(u"\a");
+}
+
+void TToolkitConsole::CopiarParaAreaDeTransferencia(std::u16string_view) {
+    throw Exception(u"O console não possui área de transferência.");
 }
 
 }  // namespace OryUtils

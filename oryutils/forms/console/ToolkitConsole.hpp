@@ -1,30 +1,69 @@
 #pragma once
 
 #include "oryutils/forms/Toolkit.hpp"
+#include "oryutils/forms/console/Conversa.hpp"
+
+#include <chrono>
+#include <mutex>
+#include <optional>
+#include <thread>
+#include <vector>
 
 namespace OryUtils {
 
-/// For batches and remote shells: a message is a line on stderr, "Aviso: CNPJ inválido. Verifique.".
+/// Forms as text, for batches and remote shells: a message is "Aviso: CNPJ inválido. Verifique." on stderr.
+///
+/// A form whose only question is one button (information, warning, error) is printed and answered at once. Any other
+/// one asks when stdin and stderr are terminals: options by their number, check boxes by "s" or "n", edits by a line,
+/// the buttons by caption or by the letter marked in it; an empty line keeps what stands, or presses the button that
+/// has the focus. What is not understood is asked again; end of input cancels. Without a terminal the answer is
+/// mrCancel.
+///
+/// Every thread may show forms. Timers tick while a question waits and in ProcessarMensagens, for the thread that set
+/// them. There is no clipboard: copying raises Exception.
 class ORY_API TToolkitConsole final : public TToolkit {
 public:
+    explicit TToolkitConsole(TConversa& AConversa = BuscarConversaDoSistema()) : FConversa(AConversa) {}
+
     const char* GetNome() const noexcept override { return "console"; }
     bool EhThreadDaInterface() const override { return true; }
     int ExecutarModal(TFormulario& AFormulario) override;
-    void ProcessarMensagens() override {}
+    void ProcessarMensagens() override { DispararTemporizadores(); }
+    /// In cells of a fixed font, 6 by 13.
     TTamanho MedirTexto(std::u16string_view ATexto, int ALarguraMaxima) const override;
     int GetTamanhoFonte() const override { return 8; }
     int GetPixelsPorPolegada() const override { return 96; }
     TRetangulo GetAreaDeTrabalho() const override { return {0, 0, 1024, 768}; }
     std::uintptr_t LigarTemporizador(int AMilissegundos, std::function<void()> AAcao) override;
     void DesligarTemporizador(std::uintptr_t ATemporizador) override;
+    /// Asks for a path on the terminal; a relative one starts at the initial folder. An empty line cancels.
     std::optional<std::u16string> EscolherArquivo(std::u16string_view APastaInicial,
                                                   const std::vector<TFiltroArquivo>& AFiltros) override;
     std::optional<std::u16string> EscolherPasta(std::u16string_view ATitulo,
                                                 std::u16string_view APastaInicial) override;
     void SetCursor(TCursorTela) override {}
     bool EstahPressionada(std::uint16_t) const override { return false; }
-    void Bipar() override {}
-    void CopiarParaAreaDeTransferencia(std::u16string_view) override {}
+    void Bipar() override;
+    void CopiarParaAreaDeTransferencia(std::u16string_view ATexto) override;
+
+private:
+    struct TTemporizador {
+        std::uintptr_t Numero;
+        std::thread::id Thread;
+        std::chrono::milliseconds Intervalo;
+        std::chrono::milliseconds Proximo;
+        std::function<void()> Acao;
+    };
+
+    void DispararTemporizadores();
+    std::optional<std::chrono::milliseconds> BuscarEspera();
+    std::optional<std::u16string> EscolherCaminho(std::u16string_view APergunta, std::u16string_view APastaInicial,
+                                                  bool APasta);
+
+    TConversa& FConversa;
+    std::mutex FTrava;
+    std::vector<TTemporizador> FTemporizadores;
+    std::uintptr_t FUltimoTemporizador = 0;
 };
 
 }  // namespace OryUtils

@@ -11,23 +11,10 @@
 
 #include <atomic>
 #include <clocale>
-#include <cstdlib>
 #include <string>
 
 namespace OryUtils {
 namespace {
-
-QApplication* GPropria = nullptr;
-bool GEncerrada = false;
-
-// Runs while the process ends, before the globals of Qt go. An exit called by another thread, or from inside a dialog,
-// finds the application in use: then it is left to the system.
-void EncerrarAplicacao() {
-    if (!GPropria || GPropria != QCoreApplication::instance()) return;
-    if (GPropria->thread() != QThread::currentThread() || GPropria->thread()->loopLevel() > 0) return;
-    GEncerrada = true;
-    delete std::exchange(GPropria, nullptr);
-}
 
 // The name that window managers show for the program.
 std::string BuscarNomeDoPrograma() {
@@ -35,6 +22,8 @@ std::string BuscarNomeDoPrograma() {
     return programa.isEmpty() ? "oryutils" : QFileInfo(programa).fileName().toStdString();
 }
 
+// The application stays until the system takes the process back: by the time a program ends, globals of Qt that it
+// needs for going may have gone before it.
 void CriarAplicacao() {
     // QApplication keeps references to both for as long as it lives.
     static std::string nome = BuscarNomeDoPrograma();
@@ -44,14 +33,13 @@ void CriarAplicacao() {
     // Qt switches the whole process to the user's locale. A program that only shows a message must go on reading and
     // writing its numbers as before; the character set may stay, input methods need it.
     const std::string anterior = std::setlocale(LC_ALL, nullptr);
-    GPropria = new QApplication(quantidade, argumentos);
+    auto* aplicacao = new QApplication(quantidade, argumentos);
     const std::string caracteres = std::setlocale(LC_CTYPE, nullptr);
     std::setlocale(LC_ALL, anterior.c_str());
     std::setlocale(LC_CTYPE, caracteres.c_str());
 
-    GPropria->setQuitOnLastWindowClosed(false);
-    QCoreApplication::installTranslator(new TTradutorQt(GPropria));
-    std::atexit(EncerrarAplicacao);
+    aplicacao->setQuitOnLastWindowClosed(false);
+    QCoreApplication::installTranslator(new TTradutorQt(aplicacao));
 }
 
 bool Carrega(const char* APlugin) {
@@ -62,10 +50,7 @@ bool Carrega(const char* APlugin) {
 }  // namespace
 
 QApplication& ExigirAplicacao() {
-    if (!QCoreApplication::instance()) {
-        if (GEncerrada) throw Exception(u"A interface do usuário já foi encerrada.");
-        CriarAplicacao();
-    }
+    if (!QCoreApplication::instance()) CriarAplicacao();
     auto* aplicacao = qobject_cast<QApplication*>(QCoreApplication::instance());
     if (!aplicacao) throw Exception(u"A aplicação não possui interface gráfica (QApplication).");
     return *aplicacao;
@@ -73,7 +58,6 @@ QApplication& ExigirAplicacao() {
 
 bool PodeCriarAplicacao() {
     if (const QCoreApplication* atual = QCoreApplication::instance()) return qobject_cast<const QApplication*>(atual);
-    if (GEncerrada) return false;
     // A platform named by the user, or plug-ins kept elsewhere, are the user's word.
     for (const char* variavel : {"QT_QPA_PLATFORM", "QT_QPA_PLATFORM_PLUGIN_PATH", "QT_PLUGIN_PATH"})
         if (!qEnvironmentVariableIsEmpty(variavel)) return true;

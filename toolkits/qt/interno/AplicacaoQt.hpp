@@ -5,7 +5,7 @@
 namespace OryUtils {
 
 /// The process's QApplication: the host's, else one of the toolkit's own, created now. Raises Exception when the host
-/// has an application object without a graphical interface, and after the toolkit's own one has gone.
+/// has an application object without a graphical interface.
 QApplication& ExigirAplicacao();
 
 /// True when ExigirAplicacao would succeed: with Qt, an application object that finds no usable platform plug-in ends

@@ -1,0 +1,27 @@
+#include "oryutils/forms/console/Conversa.hpp"
+
+namespace OryUtils {
+namespace {
+
+class TConversaDoSistema final : public TConversa {
+public:
+    bool PodeConversar() override { return Plataforma::PodeConversar(); }
+    void Escrever(std::u16string_view ATexto) override { Plataforma::EscreverNoErroPadrao(ATexto); }
+    Plataforma::TLeituraDeLinha LerLinha(std::optional<std::chrono::milliseconds> ALimite,
+                                         std::u16string& ALinha) override {
+        return Plataforma::LerLinhaDoTerminal(ALimite, ALinha);
+    }
+    std::chrono::milliseconds GetInstante() override {
+        return std::chrono::duration_cast<std::chrono::milliseconds>(
+            std::chrono::steady_clock::now().time_since_epoch());
+    }
+};
+
+}  // namespace
+
+TConversa& BuscarConversaDoSistema() {
+    static TConversaDoSistema conversa;
+    return conversa;
+}
+
+}  // namespace OryUtils

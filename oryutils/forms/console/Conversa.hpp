@@ -1,0 +1,29 @@
+#pragma once
+
+#include "oryutils/OryExport.hpp"
+#include "oryutils/platform/Console.hpp"
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace OryUtils {
+
+/// The terminal as the console toolkit sees it, with its clock. Tests put a written dialogue in its place.
+class TConversa {
+public:
+    virtual ~TConversa() = default;
+    virtual bool PodeConversar() = 0;
+    virtual void Escrever(std::u16string_view ATexto) = 0;
+    /// As Plataforma::LerLinhaDoTerminal.
+    virtual Plataforma::TLeituraDeLinha LerLinha(std::optional<std::chrono::milliseconds> ALimite,
+                                                 std::u16string& ALinha) = 0;
+    /// Time of a clock that never goes back.
+    virtual std::chrono::milliseconds GetInstante() = 0;
+};
+
+/// stdin, stderr and the clock of this process.
+ORY_API TConversa& BuscarConversaDoSistema();
+
+}  // namespace OryUtils

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "oryutils/forms/Formulario.hpp"
+#include "oryutils/forms/console/Conversa.hpp"
+
+#include <functional>
+
+namespace OryUtils {
+
+/// One form as a conversation, from its first line to its modal result.
+class TDialogoConsole final : private TJanela {
+public:
+    /// Lets the timers tick and tells how long to wait for the next one.
+    using TEspera = std::function<std::optional<std::chrono::milliseconds>()>;
+
+    TDialogoConsole(TFormulario& AFormulario, TConversa& AConversa, TEspera AEspera);
+    ~TDialogoConsole() override;
+
+    int Executar();
+
+private:
+    void Mudou(TControleFormulario& AControle, TMudanca AMudanca) override;
+    void MudouFormulario(TMudanca) override {}
+    void ResultadoMudou() override {}
+
+    void Imprimir();
+    void ImprimirControle(const TControleFormulario& AControle);
+    void PerguntarControles();
+    void PerguntarOpcao(TGrupoOpcoes& AGrupo);
+    void PerguntarChecagem(TCaixaChecagem& ACaixa);
+    void PerguntarTexto(TCaixaEdicao& ACaixa);
+    void PerguntarBotao(const std::vector<TBotao*>& ABotoes);
+    /// A line of the user; none when the form has meanwhile been closed. End of input closes it.
+    std::optional<std::u16string> Ler(std::u16string_view APergunta);
+
+    TFormulario& FFormulario;
+    TConversa& FConversa;
+    TEspera FEspera;
+    std::vector<const TControleFormulario*> FReaparecidos;
+};
+
+}  // namespace OryUtils

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "oryutils/OryExport.hpp"
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace OryUtils::Plataforma {
+
+/// True when stdin and stderr are terminals: somebody reads the question and can answer.
+ORY_API bool PodeConversar();
+
+/// Writes to stderr: to a console of Windows as UTF-16, to anything else as UTF-8. Errors are ignored.
+ORY_API void EscreverNoErroPadrao(std::u16string_view ATexto);
+
+enum TLeituraDeLinha : int { llLinha, llFim, llTempo };
+
+/// Waits for a line typed on stdin's terminal, at most ALimite (none: without end).
+/// ALinha  out: the line without its end, for llLinha only
+/// Result: llLinha; llFim when the input has ended; llTempo when the limit passed first. On Windows the limit counts
+/// until the first key: a line once begun is waited for.
+ORY_API TLeituraDeLinha LerLinhaDoTerminal(std::optional<std::chrono::milliseconds> ALimite, std::u16string& ALinha);
+
+}  // namespace OryUtils::Plataforma

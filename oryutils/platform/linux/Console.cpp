@@ -1,0 +1,45 @@
+#include "oryutils/platform/Console.hpp"
+
+#include "oryutils/platform/Fluxo.hpp"
+#include "oryutils/platform/Utf.hpp"
+
+#include <climits>
+
+#include <algorithm>
+#include <cerrno>
+#include <poll.h>
+#include <unistd.h>
+
+namespace OryUtils::Plataforma {
+
+bool PodeConversar() { return TFluxo::EntradaPadrao().EhTerminal() && TFluxo::ErroPadrao().EhTerminal(); }
+
+void EscreverNoErroPadrao(std::u16string_view ATexto) { TFluxo::ErroPadrao().Escrever(ParaUtf8(ATexto)); }
+
+TLeituraDeLinha LerLinhaDoTerminal(std::optional<std::chrono::milliseconds> ALimite, std::u16string& ALinha) {
+    using TRelogio = std::chrono::steady_clock;
+    const auto fim = ALimite ? TRelogio::now() + *ALimite : TRelogio::time_point::max();
+    std::string bytes;
+    while (true) {
+        // A terminal hands out whole lines, so waiting for the first byte waits for the line.
+        int espera = -1;
+        if (ALimite && bytes.empty()) {
+            const auto resta = std::chrono::ceil<std::chrono::milliseconds>(fim - TRelogio::now()).count();
+            espera = static_cast<int>(std::clamp<decltype(resta)>(resta, 0, INT_MAX));
+        }
+        pollfd entrada{.fd = STDIN_FILENO, .events = POLLIN, .revents = 0};
+        const int pronta = ::poll(&entrada, 1, espera);
+        if (pronta == 0) return llTempo;
+        if (pronta < 0 && errno == EINTR) continue;
+        char byte = 0;  // one by one: what follows the line belongs to whoever reads next
+        const ssize_t lidos = ::read(STDIN_FILENO, &byte, 1);
+        if (lidos < 0 && errno == EINTR) continue;
+        if (lidos <= 0 && bytes.empty()) return llFim;
+        if (lidos <= 0 || byte == '\n') break;
+        bytes += byte;
+    }
+    ALinha = DeUtf8(bytes);
+    return llLinha;
+}
+
+}  // namespace OryUtils::Plataforma
