@@ -34,7 +34,8 @@ constexpr std::array CUnidades{
     TUnidade{IniciarInterface, FinalizarInterface},
 };
 
-constinit std::mutex GTrava;
+// Not constinit: the mutex of mingw-w64 has no constant initializer.
+std::mutex GTrava;
 constinit int GInicios = 0;
 
 }  // namespace

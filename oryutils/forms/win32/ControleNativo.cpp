@@ -88,7 +88,10 @@ std::vector<HWND> TControleNativo::GetJanelas() const {
 void TControleNativo::Atualizar(unsigned AMudancas) {
     if (AMudancas & mdTexto) {
         const std::u16string_view texto = FModelo->GetTexto();
-        EscreverTexto(FJanela, FModelo->GetTipo() == tcRotulo ? texto.substr(0, CMaiorRotulo) : texto);
+        if (FModelo->GetTipo() == tcMemorando)
+            ::SetWindowTextW(FJanela, Plataforma::ParaWide(ParaMemorando(texto)));
+        else
+            EscreverTexto(FJanela, FModelo->GetTipo() == tcRotulo ? texto.substr(0, CMaiorRotulo) : texto);
         FTextoMudou = false;
     }
     if (AMudancas & mdItens && FModelo->GetTipo() == tcGrupoOpcoes) CriarOpcoes();

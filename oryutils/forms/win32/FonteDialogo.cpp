@@ -8,7 +8,7 @@ namespace OryUtils::Win32 {
 namespace {
 
 // A wrapped paragraph is measured in pieces: the system's cost grows with the square of what it gets at once.
-constexpr std::size_t CMaiorTrecho = 4096;
+constexpr std::size_t CMaiorTrecho = 2048;
 
 /// The screen, with AFonte chosen.
 class TTela {

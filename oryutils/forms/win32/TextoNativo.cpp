@@ -3,6 +3,12 @@
 #include <algorithm>
 
 namespace OryUtils::Win32 {
+namespace {
+
+constexpr std::u16string_view CQuebraSuave = u"\r\r\n";
+constexpr std::size_t CMaiorParagrafo = 1024;
+
+}  // namespace
 
 std::u16string ParaNativo(std::u16string_view ATexto) {
     std::u16string nativo;
@@ -19,10 +25,40 @@ std::u16string ParaNativo(std::u16string_view ATexto) {
     return nativo;
 }
 
+std::u16string ParaMemorando(std::u16string_view ATexto) {
+    const std::u16string nativo = ParaNativo(ATexto);
+    std::u16string memorando;
+    memorando.reserve(nativo.size() + nativo.size() / CMaiorParagrafo * CQuebraSuave.size());
+    std::u16string_view resto = nativo;
+    while (!resto.empty()) {
+        const std::size_t quebra = resto.find(u"\r\n");
+        const std::size_t fim = quebra == resto.npos ? resto.size() : quebra + 2;
+        std::u16string_view paragrafo = resto.substr(0, fim);
+        resto.remove_prefix(fim);
+        while (paragrafo.size() > CMaiorParagrafo) {
+            const std::size_t branco = paragrafo.rfind(u' ', CMaiorParagrafo - 1);
+            const std::size_t trecho = branco == paragrafo.npos ? CMaiorParagrafo : branco + 1;
+            memorando += paragrafo.substr(0, trecho);
+            paragrafo.remove_prefix(trecho);
+            // A line break takes no soft one before it.
+            if (paragrafo != u"\r\n") memorando += CQuebraSuave;
+        }
+        memorando += paragrafo;
+    }
+    return memorando;
+}
+
 std::u16string DeNativo(std::u16string_view ATexto, std::u16string_view AModelo) {
-    std::u16string texto(ATexto);
     const bool soLf = AModelo.find(u'\n') != AModelo.npos && AModelo.find(u'\r') == AModelo.npos;
-    if (soLf) std::erase(texto, u'\r');
+    std::u16string texto;
+    texto.reserve(ATexto.size());
+    for (std::size_t i = 0; i < ATexto.size(); ++i) {
+        if (ATexto.substr(i, CQuebraSuave.size()) == CQuebraSuave) {
+            i += CQuebraSuave.size() - 1;
+        } else if (!soLf || ATexto[i] != u'\r') {
+            texto += ATexto[i];
+        }
+    }
     return texto;
 }
 
