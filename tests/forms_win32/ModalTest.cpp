@@ -1,0 +1,308 @@
+// Modal runs: other windows, nesting, exceptions, timers, what is left behind.
+#include "oryutils/forms/win32/ControleWin32.hpp"
+#include "oryutils/forms/win32/interno/Seletores.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
+
+#include "Auxiliares.hpp"
+
+#include <thread>
+
+namespace OryUtils {
+namespace {
+
+/// A window of the host, with two boxes.
+class THospede {
+public:
+    THospede()
+        : Janela(::CreateWindowExW(0, L"STATIC", L"Hospedeiro", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200,
+                                   nullptr, nullptr, nullptr, nullptr)),
+          CaixaA(Criar(10)),
+          CaixaB(Criar(50)) {
+        ::SetActiveWindow(Janela);
+    }
+    ~THospede() { ::DestroyWindow(Janela); }
+    THospede(const THospede&) = delete;
+    THospede& operator=(const THospede&) = delete;
+
+    HWND Janela, CaixaA, CaixaB;
+
+private:
+    HWND Criar(int ATopo) const {
+        return ::CreateWindowExW(0, L"EDIT", L"", WS_CHILD | WS_VISIBLE, 10, ATopo, 100, 22, Janela, nullptr, nullptr,
+                                 nullptr);
+    }
+};
+
+TEST_F(FormsWin32, AsOutrasJanelasEsperamEOFocoVolta) {
+    const THospede hospede, desabilitada;
+    ::EnableWindow(desabilitada.Janela, FALSE);
+    ::SetActiveWindow(hospede.Janela);
+    ::SetFocus(hospede.CaixaB);
+    TFormulario fora, dentro;
+    fora.SetTitulo(u"Fora");
+    dentro.SetTitulo(u"Dentro");
+    PorBotao(fora, u"OK", mrOk);
+    PorBotao(dentro, u"OK", mrYes);
+    const int resultado = Executar(fora, {[&] {
+                                       const HWND janela = Janela(fora);
+                                       EXPECT_EQ(::GetWindow(janela, GW_OWNER), hospede.Janela);
+                                       EXPECT_FALSE(::IsWindowEnabled(hospede.Janela));
+                                       const HWND foco = ::GetFocus();
+                                       EXPECT_EQ(Executar(dentro, {[&] {
+                                                              EXPECT_EQ(::GetWindow(Janela(dentro), GW_OWNER), janela);
+                                                              EXPECT_FALSE(::IsWindowEnabled(janela));
+                                                              Clicar(Filhos(Janela(dentro))[0]);
+                                                          }}),
+                                                 mrYes);
+                                       EXPECT_TRUE(::IsWindowEnabled(janela));
+                                       EXPECT_FALSE(::IsWindowEnabled(hospede.Janela)) << "the outer form still runs";
+                                       EXPECT_EQ(::GetFocus(), foco);
+                                       Clicar(Filhos(janela)[0]);
+                                   }});
+    EXPECT_EQ(resultado, mrOk);
+    EXPECT_TRUE(::IsWindowEnabled(hospede.Janela));
+    EXPECT_FALSE(::IsWindowEnabled(desabilitada.Janela)) << "what was disabled before stays so";
+    EXPECT_EQ(::GetFocus(), hospede.CaixaB);
+    EXPECT_EQ(::FindWindowW(L"TOryFormulario", nullptr), nullptr);
+}
+
+TEST_F(FormsWin32, OAdaptadorEhOControleNativo) {
+    const THospede hospede;
+    TControleWin32 a(hospede.CaixaA), outroA(hospede.CaixaA), b(hospede.CaixaB), nulo(nullptr);
+    EXPECT_TRUE(EhMesmoControle(&a, &outroA));
+    EXPECT_FALSE(EhMesmoControle(&a, &b));
+    EXPECT_FALSE(nulo.PodeReceberFoco());
+    for (TControleWin32* controle : {&a, &b}) {
+        ASSERT_TRUE(controle->PodeReceberFoco());
+        controle->ReceberFoco();
+        EXPECT_EQ(::GetFocus(), controle->GetHandle());
+    }
+    struct TCaso {
+        HWND Janela;
+        bool Oculta;
+        const char* Porque;
+    };
+    for (const TCaso& c : {TCaso{hospede.CaixaA, false, "disabled"},
+                           {hospede.CaixaA, true, "hidden"},
+                           {hospede.Janela, false, "parent disabled"},
+                           {hospede.Janela, true, "parent hidden"}}) {
+        c.Oculta ? ::ShowWindow(c.Janela, SW_HIDE) : ::EnableWindow(c.Janela, FALSE);
+        EXPECT_FALSE(a.PodeReceberFoco()) << c.Porque;
+        c.Oculta ? ::ShowWindow(c.Janela, SW_SHOW) : ::EnableWindow(c.Janela, TRUE);
+        EXPECT_TRUE(a.PodeReceberFoco()) << c.Porque;
+    }
+    ::DestroyWindow(hospede.CaixaB);
+    EXPECT_FALSE(b.PodeReceberFoco());
+}
+
+enum TOnde { onShow, onClick, onSair, onMudar, onTemporizador, onTecla };
+
+class TLancador : public TObjeto {
+public:
+    void AoTeclar(TObjeto*, TTecla&) { throw Exception(u"tecla"); }
+};
+
+TEST_F(FormsWin32, ExcecoesSaemDepoisDoLaco) {
+    for (const TOnde onde : {onShow, onClick, onSair, onMudar, onTemporizador, onTecla}) {
+        TFormulario formulario;
+        formulario.SetTitulo(u"Exceção");
+        auto& caixa = Por<TCaixaEdicao>(formulario, u"", {0, 0, 100, 22});
+        auto& botao = PorBotao(formulario, u"&Botão", mrNone);
+        TAcao lancar([] { throw Exception(u"erro do tratador"); });
+        TLancador lancador;
+        std::function<void()> gesto = [] {};
+        switch (onde) {
+            case onShow:
+                formulario.OnShow = lancar.Evento();
+                break;
+            case onClick:
+                botao.OnClick = lancar.Evento(), gesto = [] { AltTecla('B'); };
+                break;
+            case onSair:
+                caixa.OnSair = lancar.Evento(), gesto = [] { Tecla(VK_TAB); };
+                break;
+            case onMudar:
+                caixa.OnMudar = lancar.Evento(), gesto = [] { Escrever(L"x"); };
+                break;
+            case onTemporizador:
+                gesto = [&] { lancar.Rodar(nullptr); };
+                break;
+            case onTecla:
+                formulario.OnKeyDown = TEvento<TObjeto*, TTecla&>::De<&TLancador::AoTeclar>(lancador);
+                gesto = [] { Tecla('X'); };
+                break;
+        }
+        EXPECT_THROW(Executar(formulario, {gesto}), Exception) << onde;
+        EXPECT_EQ(formulario.GetJanela(), nullptr);
+        EXPECT_EQ(::FindWindowW(L"TOryFormulario", nullptr), nullptr) << "no window is left behind";
+    }
+}
+
+TEST_F(FormsWin32, AExcecaoDeDentroPassaPeloDeForaQueAPodeTratar) {
+    TFormulario fora;
+    fora.SetTitulo(u"Fora");
+    auto& botao = PorBotao(fora, u"&Abrir", mrOk);
+    bool tratada = false;
+    TAcao abrir([&] {
+        TFormulario dentro;
+        dentro.SetTitulo(u"Dentro");
+        TAcao lancar([] { throw EConvertError(u"de dentro"); });
+        dentro.OnShow = lancar.Evento();
+        try {
+            dentro.ExecutarModal();
+        } catch (const EConvertError&) {
+            tratada = true;
+        }
+    });
+    botao.OnClick = abrir.Evento();
+    EXPECT_EQ(Executar(fora, {[] { AltTecla('A'); }}), mrOk);
+    EXPECT_TRUE(tratada);
+}
+
+TEST_F(FormsWin32, EAbortNaoFechaOFormulario) {
+    TFormulario formulario;
+    formulario.SetTitulo(u"Abortar");
+    auto& botao = PorBotao(formulario, u"&Salvar", mrOk);
+    int cliques = 0;
+    TAcao clicar([&] {
+        if (++cliques == 1) Abort();
+    });
+    botao.OnClick = clicar.Evento();
+    EXPECT_EQ(Executar(formulario, {[] { AltTecla('S'); }, [] { AltTecla('S'); }}), mrOk);
+    EXPECT_EQ(cliques, 2) << "the first click did not reach the modal result";
+}
+
+TEST_F(FormsWin32, TemporizadorFechaSozinho) {
+    TFormulario formulario;
+    formulario.SetTitulo(u"Automático");
+    PorBotao(formulario, u"OK", mrOk);
+    int tiques = 0;
+    std::uintptr_t temporizador = 0;
+    temporizador = FToolkit.LigarTemporizador(15, [&] {
+        ++tiques;
+        // Switched off from inside its own action, as an auto-closing message does.
+        FToolkit.DesligarTemporizador(temporizador);
+        formulario.Fechar();
+    });
+    EXPECT_NE(temporizador, 0u);
+    EXPECT_EQ(formulario.ExecutarModal(), mrCancel);
+    FToolkit.DesligarTemporizador(temporizador);
+    EXPECT_EQ(tiques, 1);
+}
+
+TEST_F(FormsWin32, ProcessarMensagensEntregaOQueEspera) {
+    const THospede hospede;
+    ::PostMessageW(hospede.CaixaA, WM_CHAR, L'z', 1);
+    FToolkit.ProcessarMensagens();
+    EXPECT_EQ(Texto(hospede.CaixaA), u"z");
+    ::PostQuitMessage(7);
+    FToolkit.ProcessarMensagens();
+    MSG mensagem{};
+    ASSERT_TRUE(::PeekMessageW(&mensagem, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) << "left for the host's own loop";
+    EXPECT_EQ(mensagem.wParam, 7u);
+}
+
+TEST_F(FormsWin32, OFimDoProgramaEncerraTodosOsLacos) {
+    TFormulario fora, dentro;
+    fora.SetTitulo(u"Fora");
+    dentro.SetTitulo(u"Dentro");
+    int resultadoDentro = -1;
+    EXPECT_EQ(Executar(fora, {[&] { resultadoDentro = Executar(dentro, {[] { ::PostQuitMessage(3); }}); }}), mrCancel);
+    EXPECT_EQ(resultadoDentro, mrCancel);
+    MSG mensagem{};
+    ASSERT_TRUE(::PeekMessageW(&mensagem, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(mensagem.wParam, 3u);
+}
+
+TEST_F(FormsWin32, ADonaDestruidaLevaOFormularioJunto) {
+    auto hospede = std::make_unique<THospede>();
+    TFormulario formulario;
+    formulario.SetTitulo(u"Órfão");
+    auto& caixa = Por<TCaixaEdicao>(formulario, u"", {0, 0, 100, 22});
+    EXPECT_EQ(Executar(formulario, {[] { Escrever(L"lido"); }, [&] { hospede.reset(); }}), mrCancel);
+    EXPECT_EQ(caixa.GetTexto(), u"lido");
+}
+
+TEST_F(FormsWin32, SoAThreadDaInterfaceMostra) {
+    TFormulario formulario;
+    bool propria = true;
+    bool recusou = false;
+    std::thread([&] {
+        propria = FToolkit.EhThreadDaInterface();
+        try {
+            formulario.ExecutarModal();
+        } catch (const Exception&) {
+            recusou = true;
+        }
+    }).join();
+    EXPECT_TRUE(FToolkit.EhThreadDaInterface());
+    EXPECT_FALSE(propria);
+    EXPECT_TRUE(recusou);
+    EXPECT_EQ(TToolkitWin32::GetThreadDeCarga(), ::GetCurrentThreadId()) << "the tests run on the main thread";
+}
+
+/// Windows of this thread, with all their children: counted too, since some systems do not count the handles.
+int ContarJanelas() {
+    int total = 0;
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND AJanela, LPARAM ATotal) -> BOOL {
+            ++*reinterpret_cast<int*>(ATotal);
+            ::EnumChildWindows(
+                AJanela,
+                [](HWND, LPARAM AOutroTotal) -> BOOL {
+                    ++*reinterpret_cast<int*>(AOutroTotal);
+                    return TRUE;
+                },
+                ATotal);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&total));
+    return total;
+}
+
+/// The number of the next graphic handle: a system that reuses the freed ones hands out low numbers for ever.
+DWORD ProximoObjetoGrafico() {
+    const HGDIOBJ objeto = ::CreateSolidBrush(RGB(1, 2, 3));
+    ::DeleteObject(objeto);
+    return LOWORD(reinterpret_cast<std::uintptr_t>(objeto));
+}
+
+TEST_F(FormsWin32, MilFormulariosNaoDeixamNada) {
+    const auto mostrar = [&] {
+        TFormulario formulario;
+        formulario.SetTitulo(u"Mil");
+        Por<TIcone>(formulario, u"", {0, 0, 32, 32}).SetIdIcone(32514);
+        Por<TRotulo>(formulario, u"Mensagem", {40, 0, 100, 13});
+        auto& grupo = Por<TGrupoOpcoes>(formulario, u"Opções: ", {0, 40, 100, 60});
+        grupo.AdicionarItem(u"uma");
+        PorBotao(formulario, u"OK", mrOk);
+        TAcao fechar([&] { formulario.Fechar(); });
+        formulario.OnShow = fechar.Evento();
+        formulario.ExecutarModal();
+    };
+    const auto medir = [] {
+        return std::vector<DWORD>{::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS),
+                                  ::GetGuiResources(::GetCurrentProcess(), GR_USEROBJECTS),
+                                  static_cast<DWORD>(ContarJanelas())};
+    };
+    mostrar();
+    const auto antes = medir();
+    const DWORD graficoAntes = ProximoObjetoGrafico();
+    DWORD processoAntes = 0, processoDepois = 0;
+    ::GetProcessHandleCount(::GetCurrentProcess(), &processoAntes);
+    for (int i = 0; i < 1000; ++i) mostrar();
+    ::GetProcessHandleCount(::GetCurrentProcess(), &processoDepois);
+    EXPECT_EQ(medir(), antes);
+    EXPECT_NEAR(ProximoObjetoGrafico(), graficoAntes, 20);
+    EXPECT_LE(processoDepois, processoAntes + 5);
+}
+
+TEST_F(FormsWin32, FiltroDoSeletorDeArquivos) {
+    const std::vector<TFiltroArquivo> filtros{{u"Textos", u"*.txt;*.csv"}, {u"Todos", u"*.*"}};
+    EXPECT_EQ(Win32::MontarFiltro(filtros), std::u16string(u"Textos\0*.txt;*.csv\0Todos\0*.*\0\0", 30));
+    EXPECT_EQ(Win32::MontarFiltro({}), std::u16string(1, u'\0'));
+}
+
+}  // namespace
+}  // namespace OryUtils
