@@ -2,7 +2,9 @@
 
 #include "oryutils/OryExport.hpp"
 #include "oryutils/registry_numbers/UnOryUtilsValidacoesTypes.hpp"
+#include "oryutils/runtime/CamposTipos.hpp"
 #include "oryutils/runtime/Controle.hpp"
+#include "oryutils/runtime/DataHora.hpp"
 #include "oryutils/runtime/Instancia.hpp"
 #include "oryutils/runtime/Variante.hpp"
 #include "oryutils/types/OryTypesSistema.hpp"
@@ -15,12 +17,14 @@
 
 namespace OryUtils {
 
+using OryTypes::TResultStatus;
 using OryTypes::TTipoInscricao;
 
 /// Validations of Brazilian registry numbers and of form fields.
 ///
-/// Validou... answers and shows nothing (ValidouDocumento also reports). Validar... reports a failing value: it gives
-/// the focus to the control, shows the message as a warning and raises EAbort, so the caller's event handler ends.
+/// Validou... answers and shows nothing, except those that take a control, which also report. Validar... reports a
+/// failing value: it gives the focus to the control, shows the message as a warning and raises EAbort, so the caller's
+/// event handler ends.
 ///
 /// A check applies to a control when ValidouCampo says so; otherwise Validar... does nothing. Arguments of the family:
 ///   ASender    what fired the event: the control itself in its exit handler, or null (a save button checking the form)
@@ -98,6 +102,68 @@ public:
     static void ValidarCampoSomenteCaracteresEspeciais(const TObjeto* ASender, TWinControl* AControle,
                                                        std::u16string_view AValor, std::u16string_view AMensagem);
 
+    /// CRC of an accountant; see TOryUtilsValidacoesCRC. Never throws.
+    static bool ValidouCRC(std::u16string_view ACRC) noexcept;
+    /// E-mail address: one "@", a full stop not next to it, none of CCarateresEspeciais, and a domain that does not
+    /// begin with "com". An empty or blank address is valid; one with other blanks at its ends is not. Never throws.
+    /// Example:  ValidouEmail(u"a.b@cd.ef")  ->  true
+    static bool ValidouEmail(std::u16string_view AEndereco) noexcept;
+    /// AStatus tells, for people, which of the addresses fail ValidouEmail, in order. An empty list fails too.
+    static void ValidouListaEmail(const std::vector<std::u16string>& AEnderecos, TResultStatus& AStatus);
+    /// IPv4 address: four parts from 0 to 255; a part with a leading zero may be larger. Empty is valid. Never throws.
+    static bool ValidouEnderecoIP(std::u16string_view AEndereco) noexcept;
+    /// Date, time, or date and time as typed, under the process-wide formats: see TentarTextoParaData,
+    /// TentarTextoParaHora and TentarTextoParaDataHora. 00:00, 30/12/1899 and what lies before them fail like a text
+    /// that does not convert.
+    static bool ValidouData(std::u16string_view ATexto);
+    static bool ValidouHora(std::u16string_view ATexto);
+    static bool ValidouDataHora(std::u16string_view ATexto);
+    /// Whether ACaractere may be typed into a field of ATipo whose text is ATexto. Integers (ftSmallint, ftInteger,
+    /// ftLargeint) take digits and the backspace; decimals (ftFloat, ftCurrency, ftBCD, ftFMTBcd, ftExtended) also
+    /// "," and ".", each while ATexto has it at most AQuantidade times; other fields take anything. Never throws.
+    /// Example:  ValidouCaractereControle(u',', u"12,5", ftFloat, 0)  ->  false
+    static bool ValidouCaractereControle(char16_t ACaractere, std::u16string_view ATexto, TFieldType ATipo,
+                                         std::uint16_t AQuantidade) noexcept;
+
+    /// Reports when ValidouCRC is false.
+    static void ValidarCRC(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ACRC,
+                           std::u16string_view AMensagem);
+    /// Reports when ValidouEmail of the trimmed address is false.
+    static void ValidarEmail(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AEndereco,
+                             std::u16string_view AMensagem);
+    /// Reports when ValidouListaEmail fails for the parts of ATexto between ADelimitador (split as
+    /// ConverterTextoComDelimitadorParaStringList does). An empty AMensagem stands for the message of the status.
+    static void ValidarListaEmail(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ATexto,
+                                  std::u16string_view AMensagem, std::u16string_view ADelimitador);
+    /// As the forms without a control, and report a failing value when the check applies. Where it does not apply
+    /// nothing is converted and the result is true.
+    static bool ValidouData(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ATexto,
+                            std::u16string_view AMensagem);
+    static bool ValidouHora(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ATexto,
+                            std::u16string_view AMensagem);
+    static bool ValidouDataHora(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ATexto,
+                                std::u16string_view AMensagem);
+    static bool ValidouEnderecoIP(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AEndereco,
+                                  std::u16string_view AMensagem);
+    /// Reports a start after the end, when the end is a date above 0. A start that is no date is never reported.
+    static void ValidarDataInicioFim(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AInicio,
+                                     std::u16string_view AFim, std::u16string_view AMensagem);
+    static void ValidarDataInicioFim(const TObjeto* ASender, TWinControl* AControle, TDateTime AInicio, TDateTime AFim,
+                                     std::u16string_view AMensagem);
+    /// Reports a blank name, and a folder that does not exist (the trimmed name is looked up).
+    static void ValidarDiretorio(const TObjeto* ASender, TWinControl* AControle, std::u16string_view APasta,
+                                 std::u16string_view AMensagem);
+    /// Reports a trimmed name with a character that the system forbids in file names: on Windows < > : " / \ | ? * and
+    /// the codes below 32, on Linux the slash and code 0. An empty name is not reported.
+    static void ValidarCampoNomeArquivo(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ANome,
+                                        std::u16string_view AMensagem);
+    /// Reports a trimmed name that is no identifier: a letter or "_", then letters, digits or "_".
+    static void ValidarCampoNomeComponente(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ANome,
+                                           std::u16string_view AMensagem);
+    /// Reports when AFalhou. With neither sender nor control the check always applies.
+    static void ValidarConteudoVariavel(const TObjeto* ASender, TWinControl* AControle, bool AFalhou,
+                                        std::u16string_view AMensagem);
+
     /// Calls AMetodos in order until the first result of the kind named by ATipo; each one is let go after its call.
     /// The result is the last one produced: with tvrPrimeiroResultadoFalso true when all passed, with
     /// tvrPrimeiroResultadoVerdadeiro false when none did. False without methods. Raises Exception at an empty one.
@@ -109,7 +175,7 @@ public:
 
 extern ORY_API TInstanciaGlobal<TOryUtilsValidacoes> GOryUtilsValidacoes;
 
-// The free functions forward to the operation of TOryUtilsValidacoes with the same name, except the first three.
+// The free functions forward to the operation of TOryUtilsValidacoes with the same name, except the first five.
 
 /// ValidouCampo.
 ORY_API bool ValidarCampo(const TObjeto* ASender, const TWinControl* AControle);
@@ -117,6 +183,12 @@ ORY_API bool ValidarCampo(const TObjeto* ASender, std::span<TWinControl* const> 
 /// ValidouDocumento.
 ORY_API bool ValidarDocumento(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ANumero,
                               TTipoInscricao ATipo);
+/// ValidouData.
+ORY_API bool ValidarData(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ATexto,
+                         std::u16string_view AMensagem);
+/// ValidouEnderecoIP.
+ORY_API bool ValidarIPAddress(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AEndereco,
+                              std::u16string_view AMensagem);
 
 ORY_API bool ValidouCnpjCpf(TTipoInscricao ATipo, std::u16string_view ANumero) noexcept;
 ORY_API bool ValidouCnpjAlfanumerico(std::u16string_view ANumero) noexcept;
@@ -138,6 +210,21 @@ ORY_API void ValidarCampoSomenteNumeros(const TObjeto* ASender, TWinControl* ACo
                                         std::u16string_view AMensagem);
 ORY_API void ValidarCampoSomenteCaracteresEspeciais(const TObjeto* ASender, TWinControl* AControle,
                                                     std::u16string_view AValor, std::u16string_view AMensagem);
+ORY_API bool ValidouCRC(std::u16string_view ACRC) noexcept;
+ORY_API void ValidarCRC(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ACRC,
+                        std::u16string_view AMensagem);
+ORY_API bool ValidouCaractereControle(char16_t ACaractere, std::u16string_view ATexto, TFieldType ATipo,
+                                      std::uint16_t AQuantidade) noexcept;
+ORY_API bool ValidouDataHora(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ATexto,
+                             std::u16string_view AMensagem);
+ORY_API bool ValidouHora(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ATexto,
+                         std::u16string_view AMensagem);
+ORY_API void ValidarDiretorio(const TObjeto* ASender, TWinControl* AControle, std::u16string_view APasta,
+                              std::u16string_view AMensagem);
+ORY_API void ValidarDataInicioFim(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AInicio,
+                                  std::u16string_view AFim, std::u16string_view AMensagem);
+ORY_API void ValidarDataInicioFim(const TObjeto* ASender, TWinControl* AControle, TDateTime AInicio, TDateTime AFim,
+                                  std::u16string_view AMensagem);
 ORY_API Variant Iif(bool ACondicao, const Variant& AValorVerdadeiro, const Variant& AValorFalso);
 
 }  // namespace OryUtils

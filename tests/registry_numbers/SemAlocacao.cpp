@@ -48,6 +48,8 @@ TEST(SemAlocacao, NasRegras) {
     for (const std::u16string_view texto : textos) {
         validos += R::ValidouCnpjCpf(OryTypes::tiCPF, texto) + R::ValidouCnpjCpf(OryTypes::tiCNPJ, texto);
         validos += R::ValidouCnpjAlfanumerico(texto) + R::ValidouPIS(texto) + R::ValidouCNH(texto);
+        validos += R::ValidouCRC(texto) + R::ValidouEmail(texto) + R::ValidouEnderecoIP(texto);
+        validos += R::ValidouData(texto) + R::ValidouHora(texto) + R::ValidouDataHora(texto);
         if (texto.size() != 14) validos += R::ValidouCEI(texto);  // a letter in it would raise
         if (texto != u"1E3") validos += R::ValidouCodigoMunicipio(texto);
         for (const std::u16string_view uf : {u"AC", u"BA", u"MT", u"RS", u"SP", u"TO", u"XX"})

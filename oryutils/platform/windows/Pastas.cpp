@@ -1,0 +1,17 @@
+#include "oryutils/platform/Pastas.hpp"
+
+#include "oryutils/platform/windows/Windows.hpp"
+
+namespace OryUtils::Plataforma {
+
+bool ExistePasta(std::u16string_view APasta) {
+    if (APasta.find(u'\0') != APasta.npos) return false;
+    const DWORD atributos = ::GetFileAttributesW(ParaWide(std::u16string(APasta)));
+    return atributos != INVALID_FILE_ATTRIBUTES && (atributos & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+bool EhProibidoEmNomeDeArquivo(char16_t ACaractere) noexcept {
+    return ACaractere < u' ' || std::u16string_view(u"<>:\"/\\|?*").find(ACaractere) != std::u16string_view::npos;
+}
+
+}  // namespace OryUtils::Plataforma
