@@ -1,0 +1,157 @@
+// Formulas typed once (set and evaluate) against muParser, from "2+3*4" to 64 operators with 8 variables and nested
+// functions; and a sum of 1,000 operators against reading its numbers and rounding its partial sums. formulas.mjs
+// measures the same formulas.
+#include "oryutils/runtime/Formatos.hpp"
+#include "oryutils/text/OryUtilsFormulas.hpp"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdio>
+#include <cstdlib>
+#include <muParser.h>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace OryUtils;
+
+constexpr const char* CNomes[] = {"A", "B", "C", "D", "F", "G", "H", "K"};
+constexpr double CValores[] = {1.5, 2, 1200.75, 3.25, 7, 0.5, 12, 100};
+
+/// Each formula in two forms, so that every set is of another text. Written with "." and ",", as the rivals want them.
+struct TFormula {
+    const char* Nome;
+    std::array<std::string, 2> Textos;
+};
+
+TFormula MontarMedia() {
+    const std::string texto = "(A+B)*3-C/D+max(F,G*2)+";
+    return {"Media", {texto + "10", texto + "11"}};
+}
+
+/// 64 operators: eight pieces of eight.
+TFormula MontarGrande() {
+    std::string texto;
+    for (int i = 1; i <= 8; ++i) {
+        if (i > 1) texto += "+";
+        texto += "A*" + std::to_string(i) + "+(B-C/D)*2-max(F*3," + "sqrt(G+abs(H-20)))";
+    }
+    return {"Grande", {texto + "+K", texto + "+K*1"}};
+}
+
+const std::array<TFormula, 3> GFormulas{TFormula{"Pequena", {"2+3*4", "2+3*5"}}, MontarMedia(), MontarGrande()};
+
+std::u16string ParaBiblioteca(std::string ATexto) {
+    for (std::size_t p; (p = ATexto.find("sqrt(")) != std::string::npos;) ATexto.replace(p, 5, "SQR(");
+    std::u16string texto;
+    for (const char c : ATexto)
+        texto += c == ','               ? u';'
+                 : c == '.'             ? u','
+                 : c >= 'a' && c <= 'z' ? static_cast<char16_t>(c - 32)
+                                        : static_cast<char16_t>(c);
+    return texto;
+}
+
+void Biblioteca(benchmark::State& AEstado, const TFormula& ACaso) {
+    TOryUtilsFormulas formula;
+    for (std::size_t i = 0; i < std::size(CNomes); ++i)
+        formula.AdicionarVariavel(std::u16string(1, static_cast<char16_t>(*CNomes[i])), CValores[i]);
+    const std::array<std::u16string, 2> textos{ParaBiblioteca(ACaso.Textos[0]), ParaBiblioteca(ACaso.Textos[1])};
+    std::size_t i = 0;
+    for (auto _ : AEstado) {
+        formula.SetExpressao(textos[i ^= 1]);
+        benchmark::DoNotOptimize(formula.GetValor());
+    }
+    AEstado.SetItemsProcessed(AEstado.iterations());
+}
+
+void MuParser(benchmark::State& AEstado, const TFormula& ACaso) {
+    mu::Parser formula;
+    std::array<double, std::size(CNomes)> valores{};
+    for (std::size_t i = 0; i < valores.size(); ++i) {
+        valores[i] = CValores[i];
+        formula.DefineVar(CNomes[i], &valores[i]);
+    }
+    std::size_t i = 0;
+    for (auto _ : AEstado) {
+        formula.SetExpr(ACaso.Textos[i ^= 1]);
+        benchmark::DoNotOptimize(formula.Eval());
+    }
+    AEstado.SetItemsProcessed(AEstado.iterations());
+}
+
+// The sum.
+
+std::vector<std::string> MontarParcelas() {
+    std::vector<std::string> parcelas;
+    for (int i = 0; i <= 1000; ++i)
+        parcelas.push_back(std::to_string(i * 7919 % 10'000) + "." + std::to_string(10 + i * 37 % 90));
+    return parcelas;
+}
+const std::vector<std::string> GParcelas = MontarParcelas();
+
+void SomaBiblioteca(benchmark::State& AEstado) {
+    std::array<std::u16string, 2> textos;
+    for (const std::string& parcela : GParcelas)
+        textos[0] += ParaBiblioteca(parcela) + (&parcela == &GParcelas.back() ? u"" : u"+");
+    textos[1] = textos[0] + u"0";
+    TOryUtilsFormulas formula;
+    std::size_t i = 0;
+    for (auto _ : AEstado) {
+        formula.SetExpressao(textos[i ^= 1]);
+        benchmark::DoNotOptimize(formula.GetValor());
+    }
+    AEstado.SetItemsProcessed(AEstado.iterations());
+}
+
+void SomaFromChars(benchmark::State& AEstado) {
+    for (auto _ : AEstado)
+        for (const std::string& parcela : GParcelas) {
+            double valor = 0;
+            std::from_chars(parcela.data(), parcela.data() + parcela.size(), valor);
+            benchmark::DoNotOptimize(valor);
+        }
+    AEstado.SetItemsProcessed(AEstado.iterations());
+}
+
+std::vector<Extended> MontarSomas() {
+    std::vector<Extended> somas;
+    Extended soma = 0;
+    for (const std::string& parcela : GParcelas) somas.push_back(soma += std::stold(parcela));
+    return somas;
+}
+const std::vector<Extended> GSomas = MontarSomas();
+
+void SomaTextos(benchmark::State& AEstado) {
+    for (auto _ : AEstado)
+        for (const Extended soma : GSomas) {
+            std::array<char16_t, CTamanhoMaximoExtended> texto;
+            benchmark::DoNotOptimize(EscreverExtended(soma, texto, u','));
+        }
+    AEstado.SetItemsProcessed(AEstado.iterations());
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    DefinirFormatSettings(BuscarFormatosBrasileiros());
+    for (const TFormula& formula : GFormulas) {
+        const std::string nome = std::string("Formula") + formula.Nome;
+        benchmark::RegisterBenchmark((nome + "_Biblioteca").c_str(), Biblioteca, formula);
+        benchmark::RegisterBenchmark((nome + "_muParser").c_str(), MuParser, formula);
+        if (argc > 1 && std::string_view(argv[1]) == "--formulas") {
+            std::printf("%s\t%s\t%s\n", formula.Nome, formula.Textos[0].c_str(), formula.Textos[1].c_str());
+        }
+    }
+    if (argc > 1 && std::string_view(argv[1]) == "--formulas") return EXIT_SUCCESS;
+    benchmark::RegisterBenchmark("Soma1000_Biblioteca", SomaBiblioteca);
+    benchmark::RegisterBenchmark("Soma1000_from_chars", SomaFromChars);
+    benchmark::RegisterBenchmark("Soma1000_textos", SomaTextos);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return EXIT_SUCCESS;
+}
