@@ -110,9 +110,8 @@ void ConferirCombinacao(const TPedidoDeMensagem& APedido) {
     if (variantes > 1) throw EFalha("só um de --opcao, --caixa, --detalhe e --valor por mensagem");
     if (APedido.Perguntar && (!APedido.Botoes.empty() || !APedido.Tipo.empty() || APedido.FecharEm > 0))
         throw EFalha("--valor não combina com --botao, --tipo nem --fechar-em");
-    const int opcoes = static_cast<int>(APedido.Opcoes.size());
-    if (!APedido.Opcoes.empty() && (APedido.OpcaoPadrao < 0 || APedido.OpcaoPadrao > opcoes))
-        throw EFalha("--opcao-padrao vai de 0 a " + std::to_string(opcoes));
+    if (!APedido.Opcoes.empty() && APedido.OpcaoPadrao > APedido.Opcoes.size())
+        throw EFalha("--opcao-padrao vai de 0 a " + std::to_string(APedido.Opcoes.size()));
 }
 
 void EscreverLinha(TAmbiente& AAmbiente, std::u16string_view ATexto) {
@@ -173,7 +172,7 @@ int MostrarMensagem(const TPedidoDeMensagem& APedido, TAmbiente& AAmbiente) {
         TOryUtilsDialogsFormCustomizadoComOpcoesIOP parametros;
         parametros.Assign(base);
         for (const std::string& opcao : APedido.Opcoes) parametros.OpcoesMensagem.push_back(DeUtf8(opcao));
-        parametros.OpcaoPadrao = APedido.OpcaoPadrao - 1;
+        parametros.OpcaoPadrao = static_cast<int>(APedido.OpcaoPadrao) - 1;
         const auto retorno = GOryUtilsDialogs->ConfirmacaoCustomizadaComOpcoes(parametros);
         resultado = retorno->RetornoMensagem;
         const auto indice = static_cast<std::size_t>(retorno->IndiceOpcao);

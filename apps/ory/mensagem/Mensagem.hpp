@@ -19,7 +19,7 @@ struct TPedidoDeMensagem {
     std::vector<std::string> Botoes{};  // name or name=caption
     std::string Padrao{};               // name of a button
     std::vector<std::string> Opcoes{};
-    int OpcaoPadrao = 1;  // from 1; 0 none
+    unsigned OpcaoPadrao = 1;  // from 1; 0 none
     std::string Caixa{};
     bool CaixaAbaixo = false;
     std::string Detalhe{};
