@@ -116,6 +116,8 @@ void TJanelaWin32::Mostrar() {
         // Not ShowWindow: its first call in a process obeys how the process was started, which may be hidden.
         ::SetWindowPos(FJanela, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
         ::SetActiveWindow(FJanela);
+        // The only window of a program comes to the front; where the system forbids it, its task-bar button calls.
+        if (!::GetWindow(FJanela, GW_OWNER)) ::SetForegroundWindow(FJanela);
         Focar(BuscarNativo(FFormulario.GetControleAtivo()));
     }
     AcompanharFoco();
