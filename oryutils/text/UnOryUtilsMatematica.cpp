@@ -6,6 +6,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace OryUtils {
 
@@ -98,7 +99,7 @@ Extended TOryUtilsMatematica::Arredondar(Extended AValor, TMetodoArredondamento 
 std::u16string TOryUtilsMatematica::BuscarValorPorExtenso(Extended AValor) {
     TConverterPorExtenso conversor;
     conversor.SetValor(AValor);
-    return conversor.GetTexto();
+    return conversor.FTexto ? std::move(*conversor.FTexto) : conversor.BuscarValorPorExtenso();
 }
 
 Extended TOryUtilsMatematica::ConverterCentimetrosParaPolegadas(Extended AValor) {

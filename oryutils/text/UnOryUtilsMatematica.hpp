@@ -21,6 +21,8 @@ enum TMetodoArredondamento : std::uint8_t {
     maParaBaixo     // towards zero
 };
 
+class TOryUtilsMatematica;
+
 /// An amount of money in Portuguese words, upper case, as printed on cheques, receipts and contracts:
 ///
 ///     TConverterPorExtenso extenso;
@@ -56,6 +58,8 @@ protected:
     std::u16string FMoedaNoPlural = u"REAIS";
 
 private:
+    friend class TOryUtilsMatematica;
+
     Extended FValor = 0;
     // None until the first look at a new converter: a constructor could not call the wording of a descendant.
     mutable std::optional<std::u16string> FTexto;

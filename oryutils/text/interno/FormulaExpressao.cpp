@@ -62,25 +62,28 @@ const char16_t* TExpressao::LerOperando(const char16_t* AInicio, const char16_t*
     return p;
 }
 
-/// Appends a result as the operators find it in the text, behind AOperador.
-void TExpressao::Repor(char16_t AOperador, Extended AValor) {
+/// Whether a result behind AOperador is one operand to the operators. "5-" and "-3" meet as two subtractions.
+bool TExpressao::EhUmNumeroSo(char16_t AOperador, Extended AValor) noexcept {
     const Extended magnitude = std::abs(AValor);
-    if (!(magnitude >= CMenorSemExpoenteNegativo) || !std::isfinite(AValor)) {
-        if (AValor == 0) {
-            FParcelas.push_back({.Operador = AOperador});
-            return;
-        }
-        std::array<char16_t, CTamanhoMaximoExtended> texto;
-        ReporTexto(AOperador, EscreverExtended(AValor, texto, FRegras.SeparadorDecimal));
+    if (AValor < 0 && AOperador == u'-') return false;
+    return AValor == 0 || (magnitude >= CMenorSemExpoenteNegativo && std::isfinite(AValor));
+}
+
+/// Puts a result in the place of the last operand, as the operators find it in the text.
+void TExpressao::ReporNoFim(Extended AValor) {
+    const char16_t operador = FParcelas.back().Operador;
+    if (EhUmNumeroSo(operador, AValor)) {
+        FParcelas.back().Valor = AValor;
         return;
     }
-    if (AValor < 0 && AOperador == u'-') {
-        // "5-" and "-3" meet: two operators with nothing between them.
+    FParcelas.pop_back();
+    if (EhUmNumeroSo(0, AValor)) {
         FParcelas.push_back({.Operador = u'-'});
-        FParcelas.push_back({.Valor = magnitude, .Operador = u'-'});
+        FParcelas.push_back({.Valor = -AValor, .Operador = u'-'});
         return;
     }
-    FParcelas.push_back({.Valor = AValor, .Operador = AOperador});
+    std::array<char16_t, CTamanhoMaximoExtended> texto;
+    ReporTexto(operador, EscreverExtended(AValor, texto, FRegras.SeparadorDecimal));
 }
 
 /// A result that reads as no number, or whose exponent has a sign that the operators take for a subtraction.
@@ -102,22 +105,40 @@ bool TExpressao::Recusar(const TParcela& AParcela) {
     return false;
 }
 
-bool TExpressao::Operar(const TParcela& AEsquerda, const TParcela& ADireita) {
-    if (!AEsquerda.EhNumero) return Recusar(AEsquerda);
-    if (!ADireita.EhNumero) return Recusar(ADireita);
-    const char16_t operador = AEsquerda.Operador;
+/// The number that stands for the operation of ADireita, as its text reads back.
+Extended TExpressao::Operar(const TParcela& AEsquerda, const TParcela& ADireita) const {
     const Extended exato = Resultado(ADireita.Operador, AEsquerda.Valor, ADireita.Valor);
     const Extended valor = FRegras.Ajuste == maNenhum ? exato : FRegras.Ajustar(exato);
     const Extended magnitude = std::abs(valor);
     const bool inteiro = magnitude < CPrimeiroDe16Digitos && ArredondarAoInteiro(magnitude) == magnitude;
-    Repor(operador, inteiro ? valor : ArredondarPara15Digitos(valor));
-    return true;
+    if (!inteiro) return ArredondarPara15Digitos(valor);
+    return magnitude == 0 ? 0 : valor;
 }
 
 /// Resolves every AOperador, from the left to the right.
 bool TExpressao::Passar(char16_t AOperador) {
-    FAnteriores.swap(FParcelas);
-    FParcelas.clear();
+    std::size_t ultima = 0;
+    for (std::size_t i = 1; i < FParcelas.size(); ++i) {
+        if (FParcelas[i].Operador != AOperador) {
+            if (++ultima != i) FParcelas[ultima] = FParcelas[i];
+            continue;
+        }
+        TParcela& esquerda = FParcelas[ultima];
+        if (!esquerda.EhNumero) return Recusar(esquerda);
+        if (!FParcelas[i].EhNumero) return Recusar(FParcelas[i]);
+        const Extended valor = Operar(esquerda, FParcelas[i]);
+        if (!EhUmNumeroSo(esquerda.Operador, valor)) return PassarComTextos(AOperador, ultima, i, valor);
+        esquerda.Valor = valor;
+    }
+    FParcelas.erase(FParcelas.begin() + static_cast<std::ptrdiff_t>(ultima) + 1, FParcelas.end());
+    return true;
+}
+
+/// The rest of a pass, from operand APosicao on, whose AValor does not fit the place of one operand.
+bool TExpressao::PassarComTextos(char16_t AOperador, std::size_t AUltima, std::size_t APosicao, Extended AValor) {
+    FAnteriores.assign(FParcelas.begin() + static_cast<std::ptrdiff_t>(APosicao) + 1, FParcelas.end());
+    FParcelas.erase(FParcelas.begin() + static_cast<std::ptrdiff_t>(AUltima) + 1, FParcelas.end());
+    ReporNoFim(AValor);
     for (const TParcela& parcela : FAnteriores) {
         if (parcela.Operador != AOperador) {
             FParcelas.push_back(parcela);
@@ -125,9 +146,9 @@ bool TExpressao::Passar(char16_t AOperador) {
         }
         // Only a result with an exponent leaves a subtraction behind in the last pass, with no number before it.
         if (AOperador == u'-' && FParcelas.size() > 1) return Recusar(FParcelas.front());
-        const TParcela esquerda = FParcelas.back();
-        FParcelas.pop_back();
-        if (!Operar(esquerda, parcela)) return false;
+        if (!FParcelas.back().EhNumero) return Recusar(FParcelas.back());
+        if (!parcela.EhNumero) return Recusar(parcela);
+        ReporNoFim(Operar(FParcelas.back(), parcela));
     }
     return true;
 }
@@ -144,11 +165,15 @@ Extended TExpressao::Calcular(std::u16string_view ATexto, const TRegrasFormula& 
     for (char16_t operador = 0;;) {
         p = LerOperando(p, fim, operador);
         if (operador == u'*') {
-            const TParcela direita = FParcelas.back();
+            const TParcela& direita = FParcelas.back();
+            const TParcela& esquerda = *(&direita - 1);
+            if (!esquerda.EhNumero || !direita.EhNumero) {
+                Recusar(esquerda.EhNumero ? direita : esquerda);
+                return 0;
+            }
+            const Extended valor = Operar(esquerda, direita);
             FParcelas.pop_back();
-            const TParcela esquerda = FParcelas.back();
-            FParcelas.pop_back();
-            if (!Operar(esquerda, direita)) return 0;
+            ReporNoFim(valor);
         }
         if (p == fim) break;
         operador = *p++;

@@ -26,11 +26,13 @@ private:
     };
 
     const char16_t* LerOperando(const char16_t* AInicio, const char16_t* AFim, char16_t AOperador);
-    bool Operar(const TParcela& AEsquerda, const TParcela& ADireita);
+    Extended Operar(const TParcela& AEsquerda, const TParcela& ADireita) const;
     bool Recusar(const TParcela& AParcela);
-    void Repor(char16_t AOperador, Extended AValor);
+    static bool EhUmNumeroSo(char16_t AOperador, Extended AValor) noexcept;
+    void ReporNoFim(Extended AValor);
     void ReporTexto(char16_t AOperador, std::u16string_view ATexto);
     bool Passar(char16_t AOperador);
+    bool PassarComTextos(char16_t AOperador, std::size_t AUltima, std::size_t APosicao, Extended AValor);
 
     TRegrasFormula FRegras;
     TErroFormula* FErro = nullptr;
