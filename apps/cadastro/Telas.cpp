@@ -1,4 +1,5 @@
 // Shows one dialog with sample texts, for the pictures of the documentation: telas NAME. Without a name, lists them.
+#include "oryutils/runtime/Formatos.hpp"
 #include "oryutils/ui/UnOryUtilsDialogs.hpp"
 
 #include <cstdio>
@@ -67,6 +68,8 @@ const TTela CTelas[] = {
 }  // namespace
 
 int main(int AQuantidade, char** AArgumentos) {
+    // The pictures are the same whatever the machine's locale.
+    DefinirFormatSettings(BuscarFormatosBrasileiros());
     for (const TTela& tela : CTelas) {
         if (AQuantidade < 2) {
             std::puts(tela.Nome);
