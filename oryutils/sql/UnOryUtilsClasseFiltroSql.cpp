@@ -113,14 +113,17 @@ void TOryUtilsFiltroSql::SetItem(int AIndice, std::unique_ptr<TOryUtilsFiltroSql
 }
 
 void TOryUtilsFiltroSql::Clear() {
-    // Without recursion and without memory of its own: while the children of a node are freed, the node waits in the
-    // place of the first of them and keeps the list that was being freed before.
+    // Without recursion and without memory of its own: a node waits in the place of its first child while its children
+    // are freed, and keeps the rest of the list that was being freed before. It is then the last one to be taken.
     auto lista = std::exchange(FItens, {});
     while (!lista.empty()) {
         std::unique_ptr<TObjeto> objeto = std::move(lista.back());
         lista.pop_back();
-        while (static_cast<TOryUtilsFiltroSql&>(*objeto).GetCount() > 0) {
-            std::swap(lista, static_cast<TOryUtilsFiltroSql&>(*objeto).FItens);
+        while (true) {
+            auto& filhos = static_cast<TOryUtilsFiltroSql&>(*objeto).FItens;
+            const bool ultimo = lista.empty();
+            if (!filhos.empty()) std::swap(lista, filhos);
+            if (ultimo || filhos.empty()) break;
             std::swap(lista.front(), objeto);
         }
     }

@@ -1,0 +1,282 @@
+#include "oryutils/runtime/Caixa.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/runtime/Formatos.hpp"
+#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/sql/UnOryUtilsClasseFiltroSql.hpp"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace OryUtils {
+namespace {
+
+using TFiltro = TOryUtilsFiltroSql;
+using TLista = std::vector<Variant>;
+
+struct TFolha {
+    std::u16string_view Campo;
+    TCondicaoFiltro Condicao;
+    Variant Valor{};
+    bool Aspas = false;
+    bool Maiusculas = false;
+};
+
+void Preencher(TFiltro& ANo, const TFolha& AFolha, std::u16string_view ATabela = u"f") {
+    ANo.SetTabela(ATabela);
+    ANo.SetCampo(AFolha.Campo);
+    ANo.SetCondicao(AFolha.Condicao);
+    ANo.SetValor(AFolha.Valor);
+    ANo.SetQuoteStr(AFolha.Aspas);
+    ANo.SetUsarUpperCase(AFolha.Maiusculas);
+}
+
+std::string Montar(const TFolha& AFolha) {
+    TFiltro no(ofAnd);
+    Preencher(no, AFolha);
+    return ParaUtf8(no.BuscarSQL());
+}
+
+struct TCaso {
+    TFolha Folha;
+    const char* Esperado;
+    const char* Porque;
+};
+
+TEST(FiltroSql, Condicoes) {
+    const TFormatosTemporarios formatos(BuscarFormatosBrasileiros());
+    const TDateTime data = CodificarData(2024, 3, 5);
+    const TCaso CCasos[] = {
+        {{u"nome", cfIgual, u"Ana", true}, "( F.NOME = 'Ana' )", "quoted; names in capitals, the value as it is"},
+        {{u"nome", cfIgual, u"Ana", true, true}, "( UPPER(F.NOME) = UPPER('Ana') )", "both sides"},
+        {{u"nome", cfIgual, u"m.nome"}, "( F.NOME = m.nome )", "unquoted text is the program's own SQL"},
+        {{u"n", cfMaior, 5}, "( F.N > 5 )", ""},
+        {{u"n", cfMaiorIgual, -5}, "( F.N >= -5 )", ""},
+        {{u"n", cfMenor, 12.5}, "( F.N < 12,5 )", "the number is written as the process writes numbers"},
+        {{u"n", cfMenorIgual, TMoeda::De(0.1L)}, "( F.N <= 0,1 )", ""},
+        {{u"d", cfDiferente, data, true}, "( F.D <> '05/03/2024' )", "midnight: no time"},
+        {{u"d", cfIgual, TDateTime(data + 0.5), true}, "( F.D = '05/03/2024 12:00:00' )", ""},
+        {{u"b", cfIgual, true}, "( F.B = True )", ""},
+        {{u"n", cfIgual, TNulo{}, true}, "( F.N = '' )", "null is no text"},
+        {{u"n", cfIgual, {}}, "( F.N =  )", "nothing was given: incomplete SQL, as written"},
+        {{u"ação", cfIgual, 1}, "( F.AÇÃO = 1 )", "accents have capitals too"},
+        {{u"cod", cfIn, TLista{1, 2, 3}, true}, "( F.COD IN ('1','2','3' ) )", "no blanks between, one behind"},
+        {{u"cod", cfIn, TLista{1, u"x", TNulo{}}}, "( F.COD IN (1,x, ) )", "elements of any kind"},
+        {{u"cod", cfNotIn, u"a'b", true}, "( F.COD NOT IN ('a''b' ) )", "one value is a list of one"},
+        {{u"cod", cfIn, 7, false, true}, "( UPPER(F.COD) IN (7 ) )", "only the column is turned"},
+        {{u"x", cfIsNull, 9, true, true}, "( F.X IS NULL  )", "neither value nor UPPER"},
+        {{u"x", cfIsNotNull}, "( F.X IS NOT NULL  )", ""},
+        {{u"nome", cfIniciaCom, u"AB"}, "( F.NOME STARTING WITH 'AB' )", "quoted without QuoteStr"},
+        {{u"nome", cfIniciaCom, 12, false, true}, "( UPPER(F.NOME) STARTING WITH '12' )", "the value is never turned"},
+        {{u"nome", cfTerminaCom, u"''"}, "( F.NOME LIKE '%''''' )", ""},
+        {{u"nome", cfTerminaCom, {}}, "( F.NOME LIKE '%' )", "unassigned adds nothing"},
+        {{u"nome", cfContem, u"a'b"}, "( F.NOME LIKE '%a''b%' )", ""},
+        {{u"nome", cfContem, u"50%_"}, "( F.NOME LIKE '%50%_%' )", "wildcards stay wildcards"},
+        {{u"nome", cfContem, TNulo{}}, "( F.NOME LIKE '' )", "a sum with null is null"},
+        {{u"n", cfBetween, 5}, "( F.N BETWEEN 5 AND 5 )", "one value is both limits"},
+        {{u"n", cfBetween, TLista{u"a'", u"b"}, true}, "( F.N BETWEEN 'a''' AND 'b' )", ""},
+        {{u"n", cfNenhum, 1}, "", "no condition"},
+        {{u"", cfIgual, 1}, "", "no column"},
+        {{u"n", static_cast<TCondicaoFiltro>(99), 1}, "", "not a condition"},
+    };
+    for (const TCaso& c : CCasos) EXPECT_EQ(Montar(c.Folha), c.Esperado) << c.Porque;
+}
+
+TEST(FiltroSql, ListaLongaContaEmOitoBits) {
+    for (const std::size_t tamanho : {1U, 44U, 255U, 256U, 257U, 300U, 512U, 513U}) {
+        TLista itens;
+        for (std::size_t i = 0; i < tamanho; ++i) itens.emplace_back(static_cast<int>(i));
+        std::string esperado = "( F.C IN (0";
+        for (std::size_t i = 1; i < (tamanho - 1) % 256 + 1; ++i) esperado += ',' + std::to_string(i);
+        EXPECT_EQ(Montar({u"c", cfIn, itens}), esperado + " ) )") << tamanho;
+    }
+}
+
+TEST(FiltroSql, Recusas) {
+    constexpr const char* CIn = "Erro na geração do SQL com cláusula IN ou NOT IN.";
+    constexpr const char* CBetween = "Número de parâmetros incorreto para a pesquisa com BETWEEN.";
+    const TLista aninhada{1, TLista{2}};
+    const TCaso CCasos[] = {
+        {{u"c", cfIn, aninhada, true}, CIn, "an element is an array"},
+        {{u"c", cfNotIn, TLista{}}, CIn, "the last of no elements is number 255, which is missing"},
+        {{u"c", cfBetween, TLista{1, 2, 3}}, CBetween, ""},
+        {{u"c", cfBetween, TLista{1}}, CBetween, ""},
+        {{u"c", cfIgual, TLista{1}}, "Não foi possível converter a variante do tipo vetor para o tipo texto.", ""},
+        {{u"c", cfContem, 5},
+         "Não foi possível converter a variante do tipo texto para o tipo número.",
+         "a text and a number are added as numbers, and % is none"},
+        {{u"c", cfTerminaCom, TLista{}}, "Não foi possível converter a variante do tipo vetor para o tipo número.", ""},
+    };
+    for (const TCaso& c : CCasos) {
+        try {
+            ADD_FAILURE() << Montar(c.Folha);
+        } catch (const Exception& erro) {
+            EXPECT_STREQ(erro.what(), c.Esperado) << c.Porque;
+        }
+    }
+}
+
+TEST(FiltroSql, GruposETabelas) {
+    TFiltro raiz(ofAnd);
+    EXPECT_EQ(raiz.BuscarSQLWhere(), u"") << "no WHERE without a condition";
+    Preencher(raiz, {u"velho", cfIgual, 1});
+    raiz.SetOperador(ofOr);
+    Preencher(raiz.Add(ofAnd), {u"a", cfIgual, 1}, u"g");
+    EXPECT_TRUE(raiz.GetTabela().empty() && raiz.GetCampo().empty() && raiz.GetCondicao() == cfNenhum &&
+                raiz.GetValor() == Variant())
+        << "the first child makes a group of the node";
+    TFiltro& grupo = raiz.Add(ofAnd);
+    Preencher(grupo.Add(ofOr), {u"b", cfIgual, 2}, u"F");
+    Preencher(grupo.Add(ofOr), {u"c", cfIgual, 3}, u"g");
+    Preencher(grupo.Add(ofOr), {u"d", cfIgual, 4}, u"ção");
+    raiz.Add(ofAnd).Add(ofAnd);
+
+    EXPECT_EQ(raiz.BuscarSQLWhere(), u" WHERE ( ( G.A = 1 ) OR ( ( F.B = 2 ) AND ( G.C = 3 ) AND ( ÇÃO.D = 4 ) ) )");
+    EXPECT_EQ(raiz.BuscarSQLAnd({u"f"}), u" AND ( ( ( F.B = 2 ) ) )") << "no word in front of the first one left";
+    EXPECT_EQ(raiz.BuscarSQLOr({u"x", u"F", u"ÇÃO", u"a"}), u" OR ( ( ( F.B = 2 ) AND ( ÇÃO.D = 4 ) ) )");
+    EXPECT_EQ(raiz.BuscarSQL({u"fg", u""}), u"");
+    EXPECT_EQ(raiz.BuscarSQLOr({u"fg"}), u"");
+}
+
+// The text as its description tells it, in recursion and with copies.
+std::u16string MontarDevagar(const TFiltro& ANo, const std::vector<std::u16string>& ATabelas) {
+    if (ANo.GetCount() == 0) {
+        bool quer = ATabelas.empty();
+        for (const auto& tabela : ATabelas) quer |= MaiusculaDe(tabela) == MaiusculaDe(ANo.GetTabela());
+        return quer ? ANo.BuscarSQL() : u"";
+    }
+    std::u16string soma = MontarDevagar(ANo.GetItem(0), ATabelas);
+    for (int i = 1; i < ANo.GetCount(); ++i) {
+        const std::u16string texto = MontarDevagar(ANo.GetItem(i), ATabelas);
+        if (texto.empty()) continue;
+        if (!soma.empty()) soma += ANo.BuscarOperadorStr();
+        soma += texto;
+    }
+    return soma.empty() ? u"" : u"( " + soma + u" )";
+}
+
+// The copy as its description tells it: groups met on the way drop what was copied before.
+void AtribuirDevagar(TFiltro& ADestino, const TFiltro& AOrigem) {
+    ADestino.Clear();
+    for (int i = 0; i < AOrigem.GetCount(); ++i) {
+        const TFiltro& item = AOrigem.GetItem(i);
+        if (item.GetCount() > 0) {
+            AtribuirDevagar(ADestino, item);
+            continue;
+        }
+        TFiltro& copia = ADestino.Add(item.GetOperador());
+        Preencher(copia,
+                  {item.GetCampo(), item.GetCondicao(), item.GetValor(), item.GetQuoteStr(), item.GetUsarUpperCase()},
+                  item.GetTabela());
+        copia.SetOwner(item.GetOwner());
+    }
+}
+
+void Sortear(TFiltro& ANo, std::mt19937& AGerador, int ANivel) {
+    static constexpr std::u16string_view CTabelas[] = {u"f", u"G", u"h", u""};
+    if (ANivel == 0 || AGerador() % 3 == 0) {
+        Preencher(ANo,
+                  {u"x", static_cast<TCondicaoFiltro>(AGerador() % (cfDiferente + 1)), u"v'", AGerador() % 2 == 0,
+                   AGerador() % 2 == 0},
+                  CTabelas[AGerador() % 4]);
+        ANo.SetOwner(&ANo);
+        return;
+    }
+    for (auto filhos = AGerador() % 4; filhos > 0; --filhos)
+        Sortear(ANo.Add(AGerador() % 2 ? ofAnd : ofOr), AGerador, ANivel - 1);
+}
+
+TEST(FiltroSql, ArvoresAoAcaso) {
+    const auto semente = std::random_device{}();
+    SCOPED_TRACE("seed " + std::to_string(semente));
+    std::mt19937 gerador(semente);
+    for (int i = 0; i < 2000; ++i) {
+        TFiltro arvore(gerador() % 2 ? ofAnd : ofOr);
+        Sortear(arvore, gerador, static_cast<int>(gerador() % 6));
+        for (const std::vector<std::u16string>& tabelas :
+             {std::vector<std::u16string>{}, {u"F"}, {u"g", u"H"}, {u"nenhuma"}})
+            ASSERT_EQ(arvore.BuscarSQL(tabelas), MontarDevagar(arvore, tabelas));
+
+        TFiltro copia(ofAnd), esperada(ofAnd);
+        Preencher(copia.Add(ofAnd), {u"some", cfIgual, 1});
+        copia.Assign(arvore);
+        AtribuirDevagar(esperada, arvore);
+        ASSERT_EQ(copia.BuscarSQL(), esperada.BuscarSQL());
+        ASSERT_EQ(copia.GetCount(), esperada.GetCount());
+        for (int k = 0; k < copia.GetCount(); ++k) {
+            EXPECT_EQ(copia.GetItem(k).GetOwner(), esperada.GetItem(k).GetOwner());
+            EXPECT_EQ(copia.GetItem(k).GetCount(), 0);
+        }
+    }
+}
+
+TEST(FiltroSql, CopiaAchata) {
+    TFiltro origem(ofAnd);
+    const auto por = [](TFiltro& AGrupo, std::u16string_view ACampo) {
+        Preencher(AGrupo.Add(ofAnd), {ACampo, cfIsNull, {}, false, true});
+    };
+    TFiltro& primeiro = origem.Add(ofOr);
+    por(primeiro, u"a");
+    por(origem, u"c");
+    TFiltro& segundo = origem.Add(ofOr);
+    por(segundo, u"d");
+    por(segundo, u"e");
+    por(origem, u"f");
+    TFiltro copia(ofOr);
+    copia.Assign(origem);
+    EXPECT_EQ(copia.BuscarSQL(), u"( ( F.D IS NULL  ) OR ( F.E IS NULL  ) OR ( F.F IS NULL  ) )");
+    copia.GetItem(0).SetCondicao(cfIsNotNull);
+    copia.GetItem(0).SetCondicao(cfIgual);
+    EXPECT_FALSE(copia.GetItem(0).GetUsarUpperCase()) << "a null test answered false when it was copied";
+
+    struct TOutraLista : TListaDeObjetos {};
+    copia.Assign(TOutraLista());
+    EXPECT_EQ(copia.GetCount(), 3) << "a list of another kind is ignored";
+    origem.Assign(origem.GetItem(2));
+    EXPECT_EQ(origem.BuscarSQL(), u"( ( F.D IS NULL  ) AND ( F.E IS NULL  ) )") << "from its own child";
+    origem.GetItem(1).Assign(origem);
+    EXPECT_EQ(origem.GetItem(1).GetCount(), 0) << "from its own parent: with its first copy it became a group of it";
+    origem.Assign(origem);
+    EXPECT_EQ(origem.GetCount(), 0) << "from itself: cleared first";
+}
+
+TEST(FiltroSql, TrocaDeItens) {
+    TFiltro raiz(ofAnd);
+    Preencher(raiz.Add(ofAnd), {u"a", cfIgual, 1});
+    auto novo = std::make_unique<TFiltro>(ofAnd);
+    Preencher(*novo, {u"b", cfIgual, 2});
+    raiz.SetItem(0, std::move(novo));
+    EXPECT_EQ(raiz.BuscarSQL(), u"( ( F.B = 2 ) )");
+    EXPECT_THROW(raiz.SetItem(0, nullptr), EListError);
+    EXPECT_THROW(raiz.GetItem(1), EListError);
+    EXPECT_THROW(raiz.GetItem(-1), EListError);
+    raiz.Clear();
+    EXPECT_EQ(raiz.GetCount(), 0);
+}
+
+// Any recursion over the depth would exhaust the stack here.
+TEST(FiltroSql, ArvoresFundasELargas) {
+    constexpr int CProfundidade = 300'000;
+    constexpr int CFolhas = 100'000;
+    TFiltro funda(ofAnd);
+    TFiltro* no = &funda;
+    for (int i = 0; i < CProfundidade; ++i) {
+        no = &no->Add(ofOr);
+        if (i % 3 == 0) Preencher(no->Add(ofAnd), {u"a", cfIgual, 1}, i % 2 ? u"f" : u"g");
+    }
+    Preencher(no->Add(ofAnd), {u"z", cfIsNull});
+    const std::u16string texto = funda.BuscarSQL();
+    EXPECT_EQ(std::count(texto.begin(), texto.end(), u'('), std::count(texto.begin(), texto.end(), u')'));
+    EXPECT_TRUE(funda.BuscarSQL({u"x"}).empty());
+    TFiltro copia(ofAnd);
+    copia.Assign(funda);
+    EXPECT_EQ(copia.BuscarSQL(), u"( ( F.Z IS NULL  ) )") << "the deepest group was met last";
+    funda.Clear();
+
+    TFiltro larga(ofAnd);
+    for (int i = 0; i < CFolhas; ++i) Preencher(larga.Add(ofAnd), {u"a", cfIgual, 1});
+    EXPECT_EQ(larga.BuscarSQL().size(), 4 + CFolhas * std::size_t{11} + (CFolhas - 1) * std::size_t{5});
+}
+
+}  // namespace
+}  // namespace OryUtils
