@@ -31,22 +31,24 @@ TTamanho TToolkitConsole::MedirTexto(std::u16string_view ATexto, int ALarguraMax
     int coluna = 0;
     int maior = 0;
     int palavra = 0;
-    for (std::size_t i = 0; i < ATexto.size(); ++i) {
-        const char16_t c = ATexto[i];
-        if (c == u'\r' && i + 1 < ATexto.size() && ATexto[i + 1] == u'\n') continue;
-        if (c == u'\r' || c == u'\n') {
-            ++linhas;
-            coluna = palavra = 0;
+    for (const char16_t c : ATexto) {
+        if (c == u'\r') continue;
+        if (c == u'\n' || c == u' ') {  // only a finished word is sure of its line
+            maior = std::max(maior, palavra > 0 ? coluna : 0);
+            linhas += c == u'\n';
+            coluna = c == u'\n' ? 0 : coluna + 1;
+            palavra = 0;
             continue;
         }
-        palavra = c == u' ' ? 0 : palavra + 1;
+        ++palavra;
         ++coluna;
-        if (colunas > 0 && palavra > 0 && coluna > colunas && coluna > palavra) {
+        if (colunas > 0 && coluna > colunas && coluna > palavra) {
             ++linhas;
+            maior = std::max(maior, coluna - palavra - 1);
             coluna = palavra;
         }
-        if (palavra > 0) maior = std::max(maior, coluna);
     }
+    if (palavra > 0) maior = std::max(maior, coluna);
     return {maior * CCelula.Largura, linhas * CCelula.Altura};
 }
 

@@ -1,0 +1,140 @@
+#include "oryutils/forms/console/ToolkitConsole.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/runtime/Utf.hpp"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace OryUtils {
+namespace {
+
+// A user who types these lines. An empty optional is silence: the clock runs until the limit.
+struct TConversaEscrita final : TConversa {
+    bool Terminal = true;
+    std::vector<std::optional<std::u16string>> Linhas;
+    std::string Escrito;
+    std::chrono::milliseconds Instante{0};
+
+    bool PodeConversar() override { return Terminal; }
+    void Escrever(std::u16string_view ATexto) override { Escrito += ParaUtf8(ATexto); }
+    std::chrono::milliseconds GetInstante() override { return Instante; }
+    Plataforma::TLeituraDeLinha LerLinha(std::optional<std::chrono::milliseconds> ALimite,
+                                         std::u16string& ALinha) override {
+        if (Linhas.empty()) return Plataforma::llFim;
+        const auto linha = Linhas.front();
+        Linhas.erase(Linhas.begin());
+        if (!linha) {
+            Instante += ALimite.value_or(std::chrono::milliseconds(0));
+            return Plataforma::llTempo;
+        }
+        ALinha = *linha;
+        return Plataforma::llLinha;
+    }
+};
+
+struct TPergunta : TFormulario {
+    TRotulo& Mensagem = Adicionar<TRotulo>();
+    TBotao& Sim = Adicionar<TBotao>();
+    TBotao& Nao = Adicionar<TBotao>();
+    TPergunta() {
+        SetTitulo(u"Confirmação");
+        Mensagem.SetNome(u"Message");
+        Mensagem.SetTexto(u"Excluir?\r\nNão há volta.");
+        Sim.SetTexto(u"&Sim");
+        Sim.SetModalResult(mrYes);
+        Nao.SetTexto(u"&Não p/ Todos");
+        Nao.SetModalResult(mrNoToAll);
+        SetControleAtivo(&Nao);
+    }
+};
+
+using TLinhas = std::vector<std::optional<std::u16string>>;
+
+TEST(Console, RespostasDeUmaConfirmacao) {
+    const struct {
+        bool Terminal;
+        TLinhas Linhas;
+        int Esperado;
+        const char* Porque;
+    } casos[] = {
+        {true, {u"s"}, mrYes, "the letter"},
+        {true, {u" S "}, mrYes, "in either case, blanks aside"},
+        {true, {u"NÃO P/ TODOS"}, mrNoToAll, "the caption"},
+        {true, {u""}, mrNoToAll, "an empty line presses what has the focus"},
+        {true, {u"talvez", u"x", u"sim"}, mrYes, "asked until understood"},
+        {true, {u"talvez"}, mrCancel, "end of input"},
+        {false, {u"s"}, mrCancel, "nobody is there to answer"},
+    };
+    for (const auto& c : casos) {
+        TConversaEscrita conversa;
+        conversa.Terminal = c.Terminal;
+        conversa.Linhas = c.Linhas;
+        TPergunta f;
+        EXPECT_EQ(TToolkitConsole(conversa).ExecutarModal(f), c.Esperado) << c.Porque;
+        EXPECT_EQ(conversa.Escrito.find("Confirmação: Excluir?\nNão há volta.\n"), 0u) << conversa.Escrito;
+        EXPECT_EQ(conversa.Escrito.find("[S]im / [N]ão p/ Todos: ") != std::string::npos, c.Terminal);
+        EXPECT_EQ(f.GetJanela(), nullptr);
+    }
+}
+
+TEST(Console, MensagemDeUmBotaoNaoEspera) {
+    TConversaEscrita conversa;
+    TFormulario f;
+    f.SetTitulo(u"Aviso");
+    f.Adicionar<TRotulo>().SetTexto(u"CNPJ inválido. Verifique.");
+    f.Adicionar<TBotao>().SetModalResult(mrOk);
+    EXPECT_EQ(TToolkitConsole(conversa).ExecutarModal(f), mrOk);
+    EXPECT_EQ(conversa.Escrito, "Aviso: CNPJ inválido. Verifique.\n");
+}
+
+TEST(Console, OpcoesChecagemETexto) {
+    TConversaEscrita conversa;
+    TPergunta f;
+    auto& grupo = f.Adicionar<TGrupoOpcoes>();
+    grupo.AdicionarItem(u"Uma");
+    grupo.AdicionarItem(u"Outra");
+    auto& caixa = f.Adicionar<TCaixaChecagem>();
+    auto& edicao = f.Adicionar<TCaixaEdicao>();
+    conversa.Linhas = {u"3", u"2", u"sim", u"São Paulo", u"s"};
+    EXPECT_EQ(TToolkitConsole(conversa).ExecutarModal(f), mrYes);
+    EXPECT_EQ(grupo.GetIndice(), 1);
+    EXPECT_TRUE(caixa.GetMarcada());
+    EXPECT_EQ(edicao.GetTexto(), u"São Paulo");
+}
+
+TEST(Console, TemporizadorFechaAPerguntaQueNinguemResponde) {
+    TConversaEscrita conversa;
+    TToolkitConsole toolkit(conversa);
+    TPergunta f;
+    int vezes = 0;
+    std::uintptr_t numero = 0;
+    numero = toolkit.LigarTemporizador(100, [&] {
+        if (++vezes < 2) Abort();  // silent
+        toolkit.DesligarTemporizador(numero);
+        f.Fechar();
+    });
+    conversa.Linhas = {std::nullopt, std::nullopt, u"s"};
+    EXPECT_EQ(toolkit.ExecutarModal(f), mrCancel);
+    EXPECT_EQ(conversa.Instante, std::chrono::milliseconds(200));
+    toolkit.ProcessarMensagens();
+    EXPECT_EQ(vezes, 2);
+}
+
+TEST(Console, MedidaQuebraEmPalavras) {
+    const TToolkitConsole toolkit;
+    const struct {
+        const char16_t* Texto;
+        int Maxima;
+        TTamanho Esperado;
+    } casos[] = {{u"", 0, {0, 0}},
+                 {u"abc", 0, {18, 13}},
+                 {u"ab\r\nabcd", 0, {24, 26}},
+                 {u"abc def", 30, {18, 26}},
+                 {u"abcdefghij", 30, {60, 13}}};
+    for (const auto& c : casos) EXPECT_EQ(toolkit.MedirTexto(c.Texto, c.Maxima), c.Esperado) << ParaUtf8(c.Texto);
+}
+
+}  // namespace
+}  // namespace OryUtils
