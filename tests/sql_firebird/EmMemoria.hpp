@@ -1,0 +1,140 @@
+#pragma once
+
+#include "oryutils/runtime/Caixa.hpp"
+#include "oryutils/runtime/NumeroTexto.hpp"
+#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/sql/UnOryUtilsClasseFiltroSql.hpp"
+
+#include "pesquisa/Banco.hpp"
+
+#include <algorithm>
+
+// The same conditions as the database evaluates them, on rows that are already in memory.
+
+namespace OryUtils {
+
+struct TColunaEmMemoria {
+    std::u16string_view Nome;
+    bool Inteira = false;
+};
+
+/// Texts of different lengths compare as if blanks filled the shorter one, byte by byte in UTF-8.
+inline int CompararTextos(std::u16string_view AUm, std::u16string_view AOutro) {
+    std::string um = ParaUtf8(AUm), outro = ParaUtf8(AOutro);
+    const std::size_t tamanho = std::max(um.size(), outro.size());
+    um.resize(tamanho, ' ');
+    outro.resize(tamanho, ' ');
+    return um.compare(outro);
+}
+
+/// LIKE over whole characters: "%" is any text, "_" any one character.
+inline bool CasaComModelo(std::u16string_view ATexto, std::u16string_view AModelo) {
+    const auto caracteres = [](std::u16string_view A) {
+        std::u32string resultado;
+        for (std::size_t i = 0; i < A.size(); ++i) {
+            resultado += A[i];
+            if ((A[i] & 0xFC00) == 0xD800 && i + 1 < A.size()) resultado.back() = resultado.back() << 16 | A[++i];
+        }
+        return resultado;
+    };
+    const std::u32string texto = caracteres(ATexto), modelo = caracteres(AModelo);
+    std::vector<bool> casa(texto.size() + 1);  // whether the model so far matches the first i characters
+    casa[0] = true;
+    for (const char32_t m : modelo) {
+        if (m == U'%') {
+            for (std::size_t i = 1; i < casa.size(); ++i) casa[i] = casa[i] || casa[i - 1];
+            continue;
+        }
+        for (std::size_t i = casa.size() - 1; i > 0; --i) casa[i] = casa[i - 1] && (m == U'_' || m == texto[i - 1]);
+        casa[0] = false;
+    }
+    return casa.back();
+}
+
+inline bool AtendeFolha(const TOryUtilsFiltroSql& AFolha, const std::vector<TColunaEmMemoria>& AColunas,
+                        const Exemplos::TLinha& ALinha) {
+    const auto coluna = std::find_if(AColunas.begin(), AColunas.end(), [&](const TColunaEmMemoria& A) {
+        return IguaisIgnorandoCaixa(A.Nome, AFolha.GetCampo());
+    });
+    const Exemplos::TCelula& celula = ALinha.at(static_cast<std::size_t>(coluna - AColunas.begin()));
+    const TCondicaoFiltro condicao = AFolha.GetCondicao();
+    if (condicao == cfIsNull || condicao == cfIsNotNull) return celula.has_value() == (condicao == cfIsNotNull);
+    if (!celula) return false;  // unknown, which WHERE takes as no
+
+    const bool maiusculas = AFolha.GetUsarUpperCase();
+    const std::u16string texto = maiusculas ? MaiusculaDe(*celula) : *celula;
+    const auto comparar = [&](const Variant& AValor) {
+        const std::u16string valor = VarianteParaTexto(AValor);
+        if (!coluna->Inteira) return CompararTextos(texto, valor);
+        const auto diferenca = TextoParaInt64(texto) - TextoParaInt64(valor);
+        return (diferenca > 0) - (diferenca < 0);
+    };
+    const Variant& valor = AFolha.GetValor();
+    const auto comparar_escalar = [&] {
+        return comparar(maiusculas ? Variant(MaiusculaDe(VarianteParaTexto(valor))) : valor);
+    };
+    const std::vector<Variant> um{valor};
+    const auto& itens = valor.GetItens() ? *valor.GetItens() : um;
+    switch (condicao) {
+        case cfIgual:
+            return comparar_escalar() == 0;
+        case cfDiferente:
+            return comparar_escalar() != 0;
+        case cfMaior:
+            return comparar_escalar() > 0;
+        case cfMaiorIgual:
+            return comparar_escalar() >= 0;
+        case cfMenor:
+            return comparar_escalar() < 0;
+        case cfMenorIgual:
+            return comparar_escalar() <= 0;
+        case cfIn:
+        case cfNotIn:
+            return std::any_of(itens.begin(), itens.end(), [&](const Variant& A) { return comparar(A) == 0; }) ==
+                   (condicao == cfIn);
+        case cfBetween:
+            return comparar(itens.front()) >= 0 && comparar(itens.back()) <= 0;
+        case cfIniciaCom:
+            return texto.starts_with(VarianteParaTexto(valor));
+        case cfTerminaCom:
+            return CasaComModelo(texto, u"%" + *valor.GetTexto());
+        case cfContem:
+            return CasaComModelo(texto, u"%" + *valor.GetTexto() + u"%");
+        default:
+            return false;
+    }
+}
+
+/// None when the node says nothing about any row.
+inline std::optional<bool> Atende(const TOryUtilsFiltroSql& ANo, const std::vector<TColunaEmMemoria>& AColunas,
+                                  const Exemplos::TLinha& ALinha) {
+    if (ANo.GetCount() == 0) {
+        if (ANo.GetCampo().empty() || ANo.GetTabela().empty() || ANo.GetCondicao() == cfNenhum) return {};
+        return AtendeFolha(ANo, AColunas, ALinha);
+    }
+    std::optional<bool> resultado;
+    for (int i = 0; i < ANo.GetCount(); ++i) {
+        const auto filho = Atende(ANo.GetItem(i), AColunas, ALinha);
+        if (!filho) continue;
+        if (!resultado) resultado = ANo.GetOperador() == ofAnd;
+        resultado = ANo.GetOperador() == ofAnd ? *resultado && *filho : *resultado || *filho;
+    }
+    return resultado;
+}
+
+/// A table as it stands in memory and in the database.
+struct TTabelaDeTeste {
+    std::u16string Nome;
+    std::vector<TColunaEmMemoria> Colunas;
+    std::vector<Exemplos::TLinha> Linhas;
+
+    std::vector<Exemplos::TLinha> Filtrar(const TOryUtilsFiltroSql& AFiltro) const {
+        std::vector<Exemplos::TLinha> resultado;
+        for (const Exemplos::TLinha& linha : Linhas)
+            if (Atende(AFiltro, Colunas, linha).value_or(true)) resultado.push_back(linha);
+        std::sort(resultado.begin(), resultado.end());
+        return resultado;
+    }
+};
+
+}  // namespace OryUtils
