@@ -5,6 +5,7 @@
 #include "chamar/Chamadas.hpp"
 #include "conferir/Conferir.hpp"
 #include "mensagem/Mensagem.hpp"
+#include "numeros/Numeros.hpp"
 
 #include <CLI/CLI.hpp>
 
@@ -173,6 +174,12 @@ int ExecutarLinhaDeComando(std::span<const std::string> AArgumentos, TAmbiente& 
     DescreverChamar(*chamar, opcoes);
     operacoes->add_flag("--json", opcoes.JsonDeOperacoes, "lista em JSON");
     DescreverMensagem(*mensagem, pedidoDeMensagem);
+    CLI::App* formula = NovoComando(aplicativo, "formula", "calcula uma fórmula e mostra a expressão resolvida");
+    TPedidoDeFormula pedidoDeFormula;
+    DescreverFormula(*formula, pedidoDeFormula);
+    CLI::App* extenso = NovoComando(aplicativo, "extenso", "escreve valores por extenso");
+    TPedidoDeExtenso pedidoDeExtenso;
+    DescreverExtenso(*extenso, pedidoDeExtenso);
     aplicativo.require_subcommand(0, 1);
 
     std::vector<std::string> invertidos(AArgumentos.rbegin(), AArgumentos.rend());
@@ -189,6 +196,8 @@ int ExecutarLinhaDeComando(std::span<const std::string> AArgumentos, TAmbiente& 
         return stTudoCerto;
     }
     if (conferir->parsed()) return Conferir(LerPedido(opcoes), AAmbiente);
+    if (formula->parsed()) return MostrarFormula(pedidoDeFormula, AAmbiente);
+    if (extenso->parsed()) return MostrarExtenso(pedidoDeExtenso, AAmbiente);
     if (mensagem->parsed()) return MostrarMensagem(pedidoDeMensagem, AAmbiente);
     if (operacoes->parsed()) {
         ListarOperacoes(AAmbiente.Saida, opcoes.JsonDeOperacoes);

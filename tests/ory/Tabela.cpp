@@ -15,12 +15,14 @@ namespace {
 
 constexpr const char* CCabecalhos[] = {
     "text/OryUtilsStrings.hpp",
+    "text/UnOryUtilsMatematica.hpp",
     "dates/OryUtilsDatas.hpp",
     "registry_numbers/OryUtilsValidacoes.hpp",
     "registry_numbers/UnOryUtilsValidacoesClasseIE.hpp",
 };
 
 constexpr const char* CPrecisaDeControle = "works on a control of a form";
+constexpr const char* CPassoDoConversor = "a step on a converter; BuscarValorPorExtenso gives the words";
 constexpr const char* CPassoDoObjeto = "a step on an IE object; ValidouIE gives the verdict";
 
 // Public operations that programs cannot call, each with its reason.
@@ -49,13 +51,18 @@ const std::map<std::string, std::string> CForaDaTabela{
     {"SetUF", CPassoDoObjeto},
     {"SetIE", CPassoDoObjeto},
     {"GetIE", CPassoDoObjeto},
+    {"TratarGrupo", CPassoDoConversor},
+    {"GetValor", CPassoDoConversor},
+    {"SetValor", CPassoDoConversor},
+    {"GetTexto", CPassoDoConversor},
+    {"ConverterCentimetrosParaPixels", "asks the screen of a user interface"},
     {"GetUF", CPassoDoObjeto},
     {"GetValido", CPassoDoObjeto},
     {"Validar", CPassoDoObjeto},
 };
 
 // Entries that join several calls and so have a name of their own.
-const std::set<std::string> CCompostas{"Base64"};
+const std::set<std::string> CCompostas{"CalcularFormula", "Base64"};
 
 std::string LerCabecalho(const std::string& ANome) {
     std::ifstream arquivo(std::string(ORY_PASTA_DO_PROJETO) + "/oryutils/" + ANome, std::ios::binary);

@@ -59,7 +59,7 @@ TJson DeLinhaDeComando(const TParametro& AParametro, const std::string& ATexto) 
 
 std::span<const std::span<const TOperacao>> BuscarOperacoes() noexcept {
     static const std::array tabelas{BuscarOperacoesDeTexto(), BuscarOperacoesDeRegistros(), BuscarOperacoesDeDatas(),
-                                    BuscarOperacoesDeSql()};
+                                    BuscarOperacoesDeSql(), BuscarOperacoesDeNumeros()};
     return tabelas;
 }
 

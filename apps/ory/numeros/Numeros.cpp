@@ -1,0 +1,100 @@
+#include "numeros/Numeros.hpp"
+
+#include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/text/OryUtilsFormulas.hpp"
+#include "oryutils/text/UnOryUtilsMatematica.hpp"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <array>
+
+namespace Ory {
+namespace {
+
+/// "1.234,56" and "1234,56" as written here, "1234.56" as other programs write it.
+OryUtils::Extended LerValor(std::string_view ATexto) {
+    std::u16string texto = OryUtils::DeUtf8(ATexto);
+    if (texto.find(u',') != std::u16string::npos)
+        std::erase(texto, u'.');
+    else
+        std::replace(texto.begin(), texto.end(), u'.', u',');
+    return OryUtils::TextoParaExtended(texto, OryUtils::BuscarFormatosBrasileiros());
+}
+
+bool EscreverExtenso(std::string_view AValor, TAmbiente& AAmbiente) {
+    try {
+        AAmbiente.Saida.Escrever(
+            OryUtils::ParaUtf8(OryUtils::TOryUtilsMatematica::BuscarValorPorExtenso(LerValor(AValor))) + "\n");
+        return true;
+    } catch (const OryUtils::Exception& erro) {
+        AAmbiente.Saida.Escrever("\n");
+        AAmbiente.Erro.Escrever(std::string(erro.what()) + "\n");
+        return false;
+    }
+}
+
+}  // namespace
+
+void DescreverFormula(CLI::App& AComando, TPedidoDeFormula& APedido) {
+    AComando.add_option("EXPRESSAO", APedido.Expressao, "a fórmula: \"salario*0,11 + MAX(a;b)\"")->required();
+    AComando.add_option("NOME=VALOR", APedido.Variaveis, "as variáveis");
+    AComando.add_option("--ajuste", APedido.Ajuste, "ajuste de cada resultado: nenhum, matematico, truncamento");
+    AComando.add_option("--casas", APedido.Casas, "casas decimais do ajuste");
+}
+
+int MostrarFormula(const TPedidoDeFormula& APedido, TAmbiente& AAmbiente) {
+    constexpr std::array<std::string_view, 3> CAjustes{"nenhum", "matematico", "truncamento"};  // ordinals
+    const auto ajuste = std::find(CAjustes.begin(), CAjustes.end(), APedido.Ajuste);
+    if (ajuste == CAjustes.end()) throw EFalha("--ajuste é nenhum, matematico ou truncamento");
+    if (APedido.Casas > 255) throw EFalha("--casas vai até 255");
+    OryUtils::TOryUtilsFormulas formula;
+    formula.SetTipoAjusteValor(static_cast<OryUtils::TMetodoArredondamento>(ajuste - CAjustes.begin()));
+    formula.SetCasasDecimais(static_cast<std::uint8_t>(APedido.Casas));
+    try {
+        for (const std::string& variavel : APedido.Variaveis) {
+            const std::size_t igual = variavel.find('=');
+            if (igual == std::string::npos) throw EFalha("'" + variavel + "' não é NOME=VALOR");
+            formula.AdicionarVariavel(OryUtils::DeUtf8(std::string_view(variavel).substr(0, igual)),
+                                      LerValor(std::string_view(variavel).substr(igual + 1)));
+        }
+        const OryUtils::Extended valor = formula.Calcular(OryUtils::DeUtf8(APedido.Expressao));
+        AAmbiente.Saida.Escrever(OryUtils::ParaUtf8(formula.GetExpressaoResolvida()) + " = " +
+                                 OryUtils::ParaUtf8(OryUtils::ExtendedParaTexto(valor)) + "\n");
+    } catch (const OryUtils::Exception& erro) {
+        AAmbiente.Erro.Escrever(std::string(erro.what()) + "\n");
+        return stInvalido;
+    }
+    return stTudoCerto;
+}
+
+void DescreverExtenso(CLI::App& AComando, TPedidoDeExtenso& APedido) {
+    AComando.add_option("VALOR", APedido.Valores, "1234,56 ou 1234.56; sem nenhum, lê um valor por linha");
+}
+
+int MostrarExtenso(const TPedidoDeExtenso& APedido, TAmbiente& AAmbiente) {
+    bool tudo_certo = true;
+    for (const std::string& valor : APedido.Valores) tudo_certo &= EscreverExtenso(valor, AAmbiente);
+    if (!APedido.Valores.empty()) return tudo_certo ? stTudoCerto : stInvalido;
+
+    std::string linha;
+    const auto terminar_linha = [&] {
+        if (!linha.empty() && linha.back() == '\r') linha.pop_back();
+        tudo_certo &= EscreverExtenso(linha, AAmbiente);
+        linha.clear();
+    };
+    std::array<char, 65536> bloco;
+    while (const std::size_t lidos = AAmbiente.Entrada.Ler(bloco)) {
+        std::string_view resto(bloco.data(), lidos);
+        for (std::size_t fim; (fim = resto.find('\n')) != std::string_view::npos; resto.remove_prefix(fim + 1)) {
+            linha += resto.substr(0, fim);
+            terminar_linha();
+        }
+        linha += resto;
+    }
+    if (!linha.empty()) terminar_linha();
+    return tudo_certo ? stTudoCerto : stInvalido;
+}
+
+}  // namespace Ory
