@@ -35,7 +35,9 @@ constexpr std::array<TPalavra, cfDiferente + 1> CPalavras{{
 }};
 
 void AnexarMaiusculas(std::u16string& ASaida, std::u16string_view ATexto) {
-    for (const char16_t c : ATexto) ASaida += MaiusculaDe(c);
+    const std::size_t inicio = ASaida.size();
+    ASaida += ATexto;
+    for (std::size_t i = inicio; i < ASaida.size(); ++i) ASaida[i] = MaiusculaDe(ASaida[i]);
 }
 
 /// The inner part of a quoted text: the apostrophes from AInicio on are doubled, in place.
