@@ -59,6 +59,21 @@ bool TControleFormulario::PodeReceberFoco() const { return FVisivel && FHabilita
 
 void TControleFormulario::ReceberFoco() { FFormulario.SetControleAtivo(this); }
 
+void TRotulo::SetQuebraLinha(bool AQuebra) {
+    FQuebraLinha = AQuebra;
+    Avisar(mdEstado);
+}
+
+void TIcone::SetIdIcone(int AId) {
+    FIdIcone = AId;
+    Avisar(mdEstado);
+}
+
+void TBotao::SetPadrao(bool APadrao) {
+    FPadrao = APadrao;
+    Avisar(mdEstado);
+}
+
 void TBotao::Clicar() {
     if (!GetHabilitado()) return;
     OnClick(this);

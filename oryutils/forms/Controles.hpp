@@ -122,7 +122,7 @@ class ORY_API TRotulo final : public TControleFormulario {
 public:
     explicit TRotulo(TFormulario& AFormulario) : TControleFormulario(AFormulario, tcRotulo) {}
     bool GetQuebraLinha() const noexcept { return FQuebraLinha; }
-    void SetQuebraLinha(bool AQuebra) { FQuebraLinha = AQuebra; }
+    void SetQuebraLinha(bool AQuebra);
     bool PodeReceberFoco() const override { return false; }
 
 private:
@@ -134,7 +134,7 @@ class ORY_API TIcone final : public TControleFormulario {
 public:
     explicit TIcone(TFormulario& AFormulario) : TControleFormulario(AFormulario, tcIcone) {}
     int GetIdIcone() const noexcept { return FIdIcone; }
-    void SetIdIcone(int AId) { FIdIcone = AId; }
+    void SetIdIcone(int AId);
     bool PodeReceberFoco() const override { return false; }
 
 private:
@@ -149,7 +149,7 @@ public:
     void SetModalResult(int AResultado) { FModalResult = AResultado; }
     /// Pressed by Enter while no other button has the focus.
     bool GetPadrao() const noexcept { return FPadrao; }
-    void SetPadrao(bool APadrao) { FPadrao = APadrao; }
+    void SetPadrao(bool APadrao);
     /// Pressed by Esc.
     bool GetCancelar() const noexcept { return FCancelar; }
     void SetCancelar(bool ACancelar) { FCancelar = ACancelar; }
