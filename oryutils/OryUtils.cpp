@@ -2,6 +2,7 @@
 
 #include "oryutils/dates/OryUtilsDatas.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
+#include "oryutils/registry_numbers/UnOryUtilsFormatacoes.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
 #include "oryutils/text/UnOryUtilsMatematica.hpp"
 #include "oryutils/ui/OryUtilsControls.hpp"
@@ -29,6 +30,7 @@ constexpr std::array CUnidades{
     UnidadeDe<GOryUtilsMatematica>(),
     UnidadeDe<GOryUtilsDatas>(),
     UnidadeDe<GOryUtilsValidacoes>(),
+    UnidadeDe<GOryUtilsFormatacoes>(),
     UnidadeDe<GOryUtilsControls>(),
     UnidadeDe<GOryUtilsDialogs>(),
     TUnidade{IniciarInterface, FinalizarInterface},

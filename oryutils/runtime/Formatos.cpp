@@ -2,8 +2,12 @@
 
 #include "oryutils/platform/Localidade.hpp"
 
+#include <atomic>
+
 namespace OryUtils {
 namespace {
+
+constinit std::atomic_bool GConfigurando = false;
 
 TFormatSettings& FormatosDoProcesso() {
     static TFormatSettings formatos = Plataforma::BuscarFormatosDoSistema();
@@ -39,6 +43,10 @@ TFormatSettings CriarFormatosBrasileiros() {
 const TFormatSettings& FormatSettings() { return FormatosDoProcesso(); }
 
 void DefinirFormatSettings(const TFormatSettings& AFormatos) { FormatosDoProcesso() = AFormatos; }
+
+bool EstahConfigurandoFormatos() noexcept { return GConfigurando; }
+TFormatosEmConfiguracao::TFormatosEmConfiguracao() noexcept { GConfigurando = true; }
+TFormatosEmConfiguracao::~TFormatosEmConfiguracao() { GConfigurando = false; }
 
 const TFormatSettings& BuscarFormatosBrasileiros() {
     static const TFormatSettings formatos = CriarFormatosBrasileiros();

@@ -17,6 +17,19 @@ ORY_API void DefinirFormatSettings(const TFormatSettings& AFormatos);
 /// days as "Dom", "Domingo", "Segunda".
 ORY_API const TFormatSettings& BuscarFormatosBrasileiros();
 
+/// True while the process-wide formats are being set by TFormatosEmConfiguracao: a host that answers the system's
+/// notice of changed settings by reading the formats again leaves them alone then.
+ORY_API bool EstahConfigurandoFormatos() noexcept;
+
+/// Makes EstahConfigurandoFormatos true for the time of a scope.
+class ORY_API TFormatosEmConfiguracao {
+public:
+    TFormatosEmConfiguracao() noexcept;
+    ~TFormatosEmConfiguracao();
+    TFormatosEmConfiguracao(const TFormatosEmConfiguracao&) = delete;
+    TFormatosEmConfiguracao& operator=(const TFormatosEmConfiguracao&) = delete;
+};
+
 /// Process-wide formats for the time of a scope, then back (tests, commands).
 class TFormatosTemporarios {
 public:

@@ -233,15 +233,20 @@ Extended TextoParaExtended(std::u16string_view ATexto, const TFormatSettings& AF
     RecusarConversao(ATexto, u"de ponto flutuante");
 }
 
-TQuinzeDigitos SepararQuinzeDigitosLongo(Extended AValor) noexcept {
-    constexpr int CDigitos = 15;
-    constexpr std::uint64_t CPrimeiroLongo = 1'000'000'000'000'000;
+TDigitosDecimais SepararDigitos(Extended AValor, int AQuantidade) noexcept {
+    std::uint64_t primeiroLongo = 1;
+    for (int i = 0; i < AQuantidade; ++i) primeiroLongo *= 10;
     const TBinario binario = SepararBinario(AValor);
     // Digits before the comma less one, or one less than that: log10(2) is 0.30103.
     int ordem = static_cast<int>(std::floor((binario.Expoente + 63) * 0.30102999566398120));
-    std::uint64_t valor = EscalarArredondando(binario, CDigitos - 1 - ordem);
-    if (valor >= CPrimeiroLongo) valor = EscalarArredondando(binario, CDigitos - 1 - ++ordem);
-    return {static_cast<Extended>(valor), ordem};
+    std::uint64_t valor = EscalarArredondando(binario, AQuantidade - 1 - ordem);
+    if (valor >= primeiroLongo) valor = EscalarArredondando(binario, AQuantidade - 1 - ++ordem);
+    return {valor, ordem};
+}
+
+TQuinzeDigitos SepararQuinzeDigitosLongo(Extended AValor) noexcept {
+    const TDigitosDecimais decimal = SepararDigitos(AValor, 15);
+    return {static_cast<Extended>(decimal.Digitos), decimal.Ordem};
 }
 
 Extended ArredondarPara15Digitos(Extended AValor) noexcept {

@@ -1,9 +1,9 @@
 // GUIDs, Base64, keys, buffers and the masks of federal inscription numbers.
 #include "oryutils/platform/Aleatorio.hpp"
 #include "oryutils/platform/Teclado.hpp"
+#include "oryutils/runtime/Mascara.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
 #include "oryutils/text/interno/Base64.hpp"
-#include "oryutils/text/interno/MascaraExibicao.hpp"
 #include "oryutils/text/interno/Utf8Exato.hpp"
 
 #include <algorithm>
@@ -72,8 +72,16 @@ std::u16string TOryUtilsStrings::BuscarMascara(TTipoInscricao ATipo) {
 }
 
 std::u16string TOryUtilsStrings::FormatarInscricaoFederal(TTipoInscricao ATipo, std::u16string_view ANumero) {
+    // The masks escape their separators, so they are the same under all formats.
+    static const std::array<TMascara, CMascarasInscricao.size()> exibicoes = [] {
+        std::array<TMascara, CMascarasInscricao.size()> lista;
+        for (std::size_t i = 0; i < lista.size(); ++i)
+            lista[i] = TMascara(CMascarasInscricao[i].Exibicao, BuscarFormatosBrasileiros());
+        return lista;
+    }();
     const TMascarasInscricao* mascaras = BuscarMascaras(ATipo);
-    return mascaras ? Interno::FormatarComMascara(mascaras->Exibicao, ANumero) : std::u16string(ANumero);
+    if (!mascaras) return std::u16string(ANumero);
+    return exibicoes[static_cast<std::size_t>(mascaras - CMascarasInscricao.data())].Exibir(ANumero);
 }
 
 }  // namespace OryUtils

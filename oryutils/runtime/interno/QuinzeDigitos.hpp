@@ -23,6 +23,15 @@ constexpr Extended MultiplicarPorPotenciaDe10(Extended AValor, int APotencia) no
                          : AValor * CPotenciasDe10[static_cast<std::size_t>(APotencia)];
 }
 
+/// Digitos, a whole number, times 10 to (Ordem + 1 - the number of its digits).
+struct TDigitosDecimais {
+    std::uint64_t Digitos = 0;
+    int Ordem = 0;
+};
+
+/// Rounds AValor, positive and finite, to AQuantidade (1 to 18) significant digits: the exact value, halves up.
+ORY_API TDigitosDecimais SepararDigitos(Extended AValor, int AQuantidade) noexcept;
+
 /// A positive number as its text shows it: Digitos, a whole number of 15 digits, times 10 to (Ordem - 14).
 struct TQuinzeDigitos {
     Extended Digitos = 0;
