@@ -91,17 +91,14 @@ TMoeda TMoeda::De(Extended AValor) {
     return {static_cast<std::int64_t>(escalado)};
 }
 
-TVetorDeVariantes::TVetorDeVariantes(std::vector<Variant> AItens)
-    : FItens(std::make_shared<const std::vector<Variant>>(std::move(AItens))) {
-    for (const Variant& item : *FItens)
+TVetorDeVariantes::TVetorDeVariantes(std::vector<Variant> AItens) : FItens(std::move(AItens)) {
+    for (const Variant& item : FItens)
         if (const auto* vetor = std::get_if<TVetorDeVariantes>(&item.GetValor()))
             FNivel = std::max(FNivel, vetor->FNivel + 1);
     if (FNivel > CMaiorNivel) throw EVariantError(u"Vetor com níveis demais.");
 }
 
-bool TVetorDeVariantes::operator==(const TVetorDeVariantes& AOutro) const {
-    return FItens == AOutro.FItens || *FItens == *AOutro.FItens;
-}
+bool TVetorDeVariantes::operator==(const TVetorDeVariantes& AOutro) const { return FItens == AOutro.FItens; }
 
 void AnexarVariante(std::u16string& ADestino, const Variant& AValor) {
     std::visit(TEscritor{ADestino, AValor}, AValor.GetValor());

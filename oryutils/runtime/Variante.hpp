@@ -7,7 +7,6 @@
 #include <compare>
 #include <concepts>
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -34,7 +33,7 @@ struct TMoeda {
 
 class Variant;
 
-/// The elements of an array; they never change, so copies share them.
+/// The elements of an array.
 class TVetorDeVariantes {
 public:
     /// Arrays may hold arrays, so many levels deep.
@@ -43,13 +42,13 @@ public:
     /// Raises EVariantError beyond CMaiorNivel.
     ORY_API explicit TVetorDeVariantes(std::vector<Variant> AItens);
 
-    const std::vector<Variant>& GetItens() const noexcept { return *FItens; }
+    const std::vector<Variant>& GetItens() const noexcept { return FItens; }
     /// 1 for an array without arrays in it.
     int GetNivel() const noexcept { return FNivel; }
     ORY_API bool operator==(const TVetorDeVariantes& AOutro) const;
 
 private:
-    std::shared_ptr<const std::vector<Variant>> FItens;
+    std::vector<Variant> FItens;
     int FNivel = 1;
 };
 

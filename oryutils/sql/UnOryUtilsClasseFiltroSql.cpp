@@ -78,7 +78,11 @@ void AnexarArvore(std::u16string& ASaida, const TOryUtilsFiltroSql& ARaiz, const
 
 std::u16string MontarSQL(const TOryUtilsFiltroSql& ARaiz, const std::vector<std::u16string>& ATabelas,
                          std::u16string_view APalavra) {
-    std::u16string saida(APalavra);
+    constexpr std::size_t CCondicaoComum = 40;
+    std::u16string saida;
+    saida.reserve(APalavra.size() +
+                  (ATabelas.empty() ? static_cast<std::size_t>(ARaiz.GetCount()) * CCondicaoComum : 0));
+    saida = APalavra;
     AnexarArvore(saida, ARaiz, TTabelas(ATabelas));
     if (saida.size() == APalavra.size()) saida.clear();
     return saida;
@@ -113,6 +117,7 @@ void TOryUtilsFiltroSql::SetItem(int AIndice, std::unique_ptr<TOryUtilsFiltroSql
 }
 
 void TOryUtilsFiltroSql::Clear() {
+    if (FItens.empty()) return;
     // Without recursion and without memory of its own: a node waits in the place of its first child while its children
     // are freed, and keeps the rest of the list that was being freed before. It is then the last one to be taken.
     auto lista = std::exchange(FItens, {});

@@ -4,6 +4,7 @@
 #include "oryutils/runtime/Excecoes.hpp"
 
 #include <array>
+#include <initializer_list>
 
 namespace OryUtils::Interno {
 namespace {
@@ -34,10 +35,19 @@ constexpr std::array<TPalavra, cfDiferente + 1> CPalavras{{
     {u"<>", fvEscalar},
 }};
 
-void AnexarMaiusculas(std::u16string& ASaida, std::u16string_view ATexto) {
-    const std::size_t inicio = ASaida.size();
-    ASaida += ATexto;
-    for (std::size_t i = inicio; i < ASaida.size(); ++i) ASaida[i] = MaiusculaDe(ASaida[i]);
+/// Appends all the parts with one growth of the text.
+void AnexarPartes(std::u16string& ASaida, std::initializer_list<std::u16string_view> APartes) {
+    std::size_t posicao = ASaida.size();
+    std::size_t tamanho = posicao;
+    for (const std::u16string_view parte : APartes) tamanho += parte.size();
+    ASaida.resize(tamanho);
+    for (const std::u16string_view parte : APartes)
+        for (const char16_t c : parte) ASaida[posicao++] = c;
+}
+
+char16_t Maiuscula(char16_t ACaractere) {
+    if (ACaractere >= 0x80) return MaiusculaDe(ACaractere);
+    return static_cast<char16_t>(ACaractere - (ACaractere >= u'a' && ACaractere <= u'z' ? u'a' - u'A' : 0));
 }
 
 /// The inner part of a quoted text: the apostrophes from AInicio on are doubled, in place.
@@ -115,13 +125,12 @@ void AnexarCondicao(std::u16string& ASaida, const TOryUtilsFiltroSql& ACondicao)
     const bool entre_aspas = ACondicao.GetQuoteStr();
     const bool maiusculas = ACondicao.GetUsarUpperCase();
 
-    ASaida += maiusculas ? u"( UPPER(" : u"( ";
-    AnexarMaiusculas(ASaida, ACondicao.GetTabela());
-    ASaida += u'.';
-    AnexarMaiusculas(ASaida, ACondicao.GetCampo());
-    ASaida += maiusculas ? u") " : u" ";
-    ASaida += palavra.Texto;
-    ASaida += u' ';
+    const std::u16string_view abre = maiusculas ? u"( UPPER(" : u"( ";
+    const std::size_t inicio = ASaida.size() + abre.size();
+    const std::size_t fim = inicio + ACondicao.GetTabela().size() + 1 + ACondicao.GetCampo().size();
+    AnexarPartes(ASaida, {abre, ACondicao.GetTabela(), u".", ACondicao.GetCampo(), maiusculas ? u") " : u" ",
+                          palavra.Texto, u" "});
+    for (std::size_t i = inicio; i < fim; ++i) ASaida[i] = Maiuscula(ASaida[i]);
     switch (palavra.Forma) {
         case fvNenhum:
             break;
