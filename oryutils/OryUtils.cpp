@@ -26,14 +26,10 @@ constexpr TUnidade UnidadeDe() {
 
 // In starting order; they stop in the opposite one.
 constexpr std::array CUnidades{
-    UnidadeDe<GOryUtilsStrings>(),
-    UnidadeDe<GOryUtilsMatematica>(),
-    UnidadeDe<GOryUtilsDatas>(),
-    UnidadeDe<GOryUtilsValidacoes>(),
-    UnidadeDe<GOryUtilsFormatacoes>(),
-    UnidadeDe<GOryUtilsControls>(),
-    UnidadeDe<GOryUtilsDialogs>(),
-    TUnidade{IniciarInterface, FinalizarInterface},
+    UnidadeDe<GOryUtilsStrings>(),     UnidadeDe<GOryUtilsMatematica>(),
+    UnidadeDe<GOryUtilsDatas>(),       UnidadeDe<GOryUtilsValidacoes>(),
+    UnidadeDe<GOryUtilsFormatacoes>(), UnidadeDe<GOryUtilsControls>(),
+    UnidadeDe<GOryUtilsDialogs>(),     TUnidade{IniciarInterface, FinalizarInterface},
 };
 
 // Not constinit: the mutex of mingw-w64 has no constant initializer.
