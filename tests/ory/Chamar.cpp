@@ -91,7 +91,8 @@ TEST(Chamar, DizOQueEstahErrado) {
         {R"({"op":"BuscarBimestre","args":["2024-02-10T25:00"]})", "esperava data-hora"},
         {R"({"op":"BuscarBimestre","args":["2024-02-10T10:00:00.x"]})", "esperava data-hora"},
         {R"({"op":"BuscarBimestre","args":["10/02/2024"]})", "esperava data-hora"},
-        {R"({"op":"Iif","args":[true,[],1]})", "argumento 2: esperava lógico, número, texto ou nulo, veio lista"},
+        {R"({"op":"Iif","args":[true,{},1]})",
+         "argumento 2: esperava lógico, número, texto, nulo ou lista, veio objeto"},
         {R"({"op":"ConverterBase64ParaTexto","args":["*"]})", "\"classe\":\"EConvertError\""},
         {R"({"op":"Iif","args":[true,1e99999,1]})", "\"classe\":\"EProtocolo\""},
     };

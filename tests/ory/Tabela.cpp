@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cctype>
 #include <fstream>
-#include <iterator>
 #include <map>
-#include <regex>
 #include <set>
 #include <string>
+#include <string_view>
 
 // Holds the table of operations against the public operations that the headers declare, both ways.
 
@@ -19,10 +19,14 @@ constexpr const char* CCabecalhos[] = {
     "dates/OryUtilsDatas.hpp",
     "registry_numbers/OryUtilsValidacoes.hpp",
     "registry_numbers/UnOryUtilsValidacoesClasseIE.hpp",
+    "sql/UnOryUtilsClasseFiltroSql.hpp",
+    "sql/UnOryUtilsClasseManipulacaoSQL.hpp",
 };
 
 constexpr const char* CPrecisaDeControle = "works on a control of a form";
 constexpr const char* CPassoDoConversor = "a step on a converter; BuscarValorPorExtenso gives the words";
+constexpr const char* CPassoDoFiltro = "a step on a filter; MontarFiltroSql gives its text";
+constexpr const char* CPassoDoComando = "a step on a statement; SepararBlocosSQL gives both parts";
 constexpr const char* CPassoDoObjeto = "a step on an IE object; ValidouIE gives the verdict";
 
 // Public operations that programs cannot call, each with its reason.
@@ -59,25 +63,81 @@ const std::map<std::string, std::string> CForaDaTabela{
     {"GetUF", CPassoDoObjeto},
     {"GetValido", CPassoDoObjeto},
     {"Validar", CPassoDoObjeto},
+    {"Add", CPassoDoFiltro},
+    {"GetItem", CPassoDoFiltro},
+    {"SetItem", CPassoDoFiltro},
+    {"Clear", CPassoDoFiltro},
+    {"Assign", CPassoDoFiltro},
+    {"GetCampo", CPassoDoFiltro},
+    {"SetCampo", CPassoDoFiltro},
+    {"GetCondicao", CPassoDoFiltro},
+    {"SetCondicao", CPassoDoFiltro},
+    {"GetOperador", CPassoDoFiltro},
+    {"SetOperador", CPassoDoFiltro},
+    {"GetOwner", CPassoDoFiltro},
+    {"SetOwner", CPassoDoFiltro},
+    {"GetQuoteStr", CPassoDoFiltro},
+    {"SetQuoteStr", CPassoDoFiltro},
+    {"GetTabela", CPassoDoFiltro},
+    {"SetTabela", CPassoDoFiltro},
+    {"GetUsarUpperCase", CPassoDoFiltro},
+    {"SetUsarUpperCase", CPassoDoFiltro},
+    {"BuscarCondicaoStr", CPassoDoFiltro},
+    {"BuscarOperadorStr", CPassoDoFiltro},
+    {"BuscarSQL", CPassoDoFiltro},
+    {"BuscarSQLAnd", CPassoDoFiltro},
+    {"BuscarSQLOr", CPassoDoFiltro},
+    {"BuscarSQLWhere", CPassoDoFiltro},
+    {"SetScriptSQL", CPassoDoComando},
+    {"GetScriptSQL", CPassoDoComando},
+    {"GetSQLPrincipal", CPassoDoComando},
+    {"GetSQLAdicional", CPassoDoComando},
+    {"Limpar", CPassoDoComando},
 };
 
 // Entries that join several calls and so have a name of their own.
-const std::set<std::string> CCompostas{"CalcularFormula", "Base64"};
+const std::set<std::string> CCompostas{"CalcularFormula", "Base64", "MontarFiltroSql"};
 
+/// The header without its comments and without what a class keeps to itself.
 std::string LerCabecalho(const std::string& ANome) {
     std::ifstream arquivo(std::string(ORY_PASTA_DO_PROJETO) + "/oryutils/" + ANome, std::ios::binary);
-    const std::string texto{std::istreambuf_iterator<char>(arquivo), {}};
-    const std::string semComentarios = std::regex_replace(texto, std::regex("//[^\n]*"), "");
-    // What a class keeps to itself is not an operation.
-    return std::regex_replace(semComentarios, std::regex("private:[^]*?\n\\};"), "};");
+    std::string texto;
+    bool publico = true;
+    for (std::string linha; std::getline(arquivo, linha);) {
+        linha = linha.substr(0, linha.find("//"));
+        if (linha.starts_with("private:")) publico = false;
+        if (linha.starts_with("};")) publico = true;
+        if (publico) texto += linha + " ";
+    }
+    return texto;
 }
 
-/// The names that are declared as functions: "type Nome(...)" followed by ";", "noexcept", "const" or a body.
+bool EhDeNome(char ACaractere) {
+    return ACaractere == '_' || std::isalnum(static_cast<unsigned char>(ACaractere)) != 0;
+}
+
+/// True when ATexto goes on as a declaration does behind its arguments: ";" or a body, "const" and "noexcept" before
+/// it.
+bool EhFimDeDeclaracao(std::string_view ATexto) {
+    for (const std::string_view palavra : {" ", "const", " ", "noexcept", " "})
+        while (ATexto.starts_with(palavra)) ATexto.remove_prefix(palavra.size());
+    return ATexto.starts_with(';') || ATexto.starts_with('{');
+}
+
+/// The names that are declared as functions: a type, blanks, a name in capitals first, arguments, the end.
 std::set<std::string> BuscarOperacoesDeclaradas(const std::string& ATexto) {
-    static const std::regex declaracao(R"([\w>&*]\s+([A-Z]\w+)\(([^;{}]*)\)\s*(const\s*)?(noexcept\s*)?[;{])");
     std::set<std::string> nomes;
-    for (std::sregex_iterator i(ATexto.begin(), ATexto.end(), declaracao), fim; i != fim; ++i)
-        nomes.insert((*i)[1].str());
+    for (std::size_t abre = ATexto.find('('); abre != std::string::npos; abre = ATexto.find('(', abre + 1)) {
+        std::size_t inicio = abre;
+        while (inicio > 0 && EhDeNome(ATexto[inicio - 1])) --inicio;
+        const bool depoisDeTipo =
+            inicio > 1 && ATexto[inicio - 1] == ' ' && (EhDeNome(ATexto[inicio - 2]) || ATexto[inicio - 2] == '>');
+        const std::size_t fecha = ATexto.find(')', abre);
+        const bool nome = inicio < abre && std::isupper(static_cast<unsigned char>(ATexto[inicio])) != 0;
+        if (nome && depoisDeTipo && fecha != std::string::npos &&
+            EhFimDeDeclaracao(std::string_view(ATexto).substr(fecha + 1)))
+            nomes.insert(ATexto.substr(inicio, abre - inicio));
+    }
     return nomes;
 }
 
@@ -85,7 +145,7 @@ TEST(Tabela, TemAsOperacoesPublicasESoElas) {
     std::set<std::string> declaradas;
     for (const char* cabecalho : CCabecalhos) {
         const auto nomes = BuscarOperacoesDeclaradas(LerCabecalho(cabecalho));
-        EXPECT_GE(nomes.size(), 10u) << cabecalho;  // the scanner still understands the header
+        EXPECT_GE(nomes.size(), 8u) << cabecalho;  // the scanner still understands the header
         declaradas.insert(nomes.begin(), nomes.end());
     }
     std::set<std::string> chamaveis;
