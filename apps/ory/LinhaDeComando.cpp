@@ -149,7 +149,7 @@ std::string DescreverErroDeUso(const CLI::ParseError& AErro, const CLI::App& AAp
         for (const std::string& argumento : AAplicativo.remaining(true)) sobra += " " + argumento;
         return "argumento desconhecido:" + sobra;
     }
-    const std::string mensagem = AErro.what();
+    std::string mensagem = AErro.what();
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&AErro))
         return "falta o valor de " + mensagem.substr(0, mensagem.find(':'));
     if (dynamic_cast<const CLI::ConversionError*>(&AErro)) return "valor inválido: " + mensagem;

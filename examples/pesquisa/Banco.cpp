@@ -143,7 +143,7 @@ struct TColuna {
     }
     TCelula Ler() const {
         if (Nulo < 0) return {};
-        unsigned short tamanho;
+        unsigned short tamanho = 0;
         std::memcpy(&tamanho, Texto.data(), sizeof tamanho);
         return OryUtils::DeUtf8({Texto.data() + sizeof tamanho, tamanho});
     }

@@ -87,7 +87,7 @@ int MostrarExtenso(const TPedidoDeExtenso& APedido, TAmbiente& AAmbiente) {
     std::array<char, 65536> bloco;
     while (const std::size_t lidos = AAmbiente.Entrada.Ler(bloco)) {
         std::string_view resto(bloco.data(), lidos);
-        for (std::size_t fim; (fim = resto.find('\n')) != std::string_view::npos; resto.remove_prefix(fim + 1)) {
+        for (std::size_t fim = 0; (fim = resto.find('\n')) != std::string_view::npos; resto.remove_prefix(fim + 1)) {
             linha += resto.substr(0, fim);
             terminar_linha();
         }
