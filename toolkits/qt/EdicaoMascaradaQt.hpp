@@ -1,0 +1,40 @@
+#pragma once
+
+#include "oryutils/forms/EditorDeCampo.hpp"
+
+#include "toolkits/qt/OryQtExport.hpp"
+
+#include <QLineEdit>
+#include <QObject>
+#include <QPointer>
+
+namespace OryUtils {
+
+/// Binds a line edit of a Qt host to a field while it lives: typing, deleting, pasting and the arrow keys follow the
+/// field's edit mask or number. When the widget is gone the binding does nothing more. A read-only widget is left
+/// alone. Example:
+///   FormatarCPF(FCpf);
+///   TEdicaoMascaradaQt edicao(ui.cpf, FCpf);
+class ORY_QT_API TEdicaoMascaradaQt final : public QObject, public TEditorDeCampo {
+public:
+    /// Shows the field's value at once. Raises EConvertError for a broken mask.
+    TEdicaoMascaradaQt(QLineEdit* AWidget, TField& ACampo);
+    ~TEdicaoMascaradaQt() override;
+
+    QLineEdit* GetWidget() const noexcept { return FWidget.data(); }
+    /// What the widget holds now goes to the field, as when the focus leaves it.
+    void Gravar();
+    bool eventFilter(QObject* AObjeto, QEvent* AEvento) override;
+
+protected:
+    void Mostrar(const TEdicaoMascara& AEdicao) override;
+
+private:
+    TEdicaoMascara Ler() const;
+    bool TratarTecla(const QKeyEvent& ATecla);
+
+    QPointer<QLineEdit> FWidget;
+    bool FEscrevendo = false;
+};
+
+}  // namespace OryUtils
