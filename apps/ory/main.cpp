@@ -1,6 +1,6 @@
 #include "oryutils/platform/Terminal.hpp"
 #include "oryutils/runtime/Costura.hpp"
-#include "oryutils/runtime/Formatos.hpp"
+#include "oryutils/registry_numbers/UnOryUtilsFormatacoes.hpp"
 
 #include "Comando.hpp"
 
@@ -8,7 +8,7 @@ int main(int AQuantidade, char** AArgumentos) {
     using namespace OryUtils::Plataforma;
     const TTerminalUtf8 terminal;
     // Brazilian formats whatever the machine's, and messages on stderr instead of dialogs.
-    OryUtils::DefinirFormatSettings(OryUtils::BuscarFormatosBrasileiros());
+    OryUtils::GOryUtilsFormatacoes->GetFormatoPadraoDatasEValores().Configurar();
     OryUtils::CosturaInterface() = OryUtils::BuscarCosturaPadrao();
 
     Ory::TEntradaDeFluxo entrada(TFluxo::EntradaPadrao(), "a entrada padrão");

@@ -1,4 +1,5 @@
 #include "oryutils/platform/Arquivos.hpp"
+#include "oryutils/runtime/Formatos.hpp"
 
 #include "Apoio.hpp"
 #include "conferir/Conferencia.hpp"
@@ -106,7 +107,31 @@ TEST(Conferir, CadaTipoDeColuna) {
         {"municipio", "3550308", "", Ory::veValido, "by the rule"},
         {"municipio", "2201919", "", Ory::veValido, "official, against the rule"},
         {"municipio", "São Paulo", "", Ory::veInvalido, "a name"},
+        {"email", "a.b@cd.ef", "", Ory::veValido, "one address"},
+        {"email", "a@b.c;d@e.f", "", Ory::veInvalido, "two"},
+        {"email", "jo\xE3o@cd.ef", "", Ory::veValido, "Windows-1252"},
+        {"emails", "a@b.c; d@e.f,", "", Ory::veValido, "two, and a delimiter at the end"},
+        {"emails", "a@b.c, d@", "", Ory::veInvalido, "the second one"},
+        {"crc", "1sp-123456/O-5", "", Ory::veValido, "as people write it"},
+        {"crc", "1SP123456O55", "", Ory::veInvalido, "too long"},
+        {"data", "29/02/2024", "", Ory::veValido, "leap day"},
+        {"data", "29/02/2023", "", Ory::veInvalido, "no such day"},
+        {"hora", "14:07", "", Ory::veValido, "of the day"},
+        {"hora", "24:00", "", Ory::veInvalido, "no such time"},
+        {"ip", "192.168.0.1", "", Ory::veValido, "four parts"},
+        {"ip", "192.168.0", "", Ory::veInvalido, "three"},
+        {"cep", "01310-100", "", Ory::veValido, "formatted"},
+        {"cep", "1310100", "", Ory::veInvalido, "its leading zero lost"},
+        {"telefone", "(11) 98765-4321", "", Ory::veValido, "formatted"},
+        {"telefone", "01133334444", "", Ory::veValido, "with the long-distance zero"},
+        {"telefone", "3333-4444", "", Ory::veInvalido, "without the area code"},
+        {"telefone", "ramal 12", "", Ory::veInvalido, "letters"},
+        {"competencia", "03/2024", "", Ory::veValido, "month and year"},
+        {"competencia", "13/2024", "", Ory::veInvalido, "no such month"},
+        {"ncm", "8471.30.12", "", Ory::veValido, "eight digits"},
+        {"ncm", "8471", "", Ory::veInvalido, "a heading only"},
     };
+    const OryUtils::TFormatosTemporarios formatos(OryUtils::BuscarFormatosBrasileiros());
     for (const TCampo& c : CCampos)
         EXPECT_EQ(Ory::Conferir(*Ory::BuscarTipo(c.Tipo), c.Valor, c.Uf), c.Esperado) << c.Tipo << ": " << c.Porque;
 }
@@ -207,10 +232,19 @@ TEST(Conferir, ReescreveComVereditoENumeroFormatado) {
          "a header that needs quotes; bytes of Windows-1252 stay"},
         {"ie;uf\n224/3658792;RS\nisento;RS\n",
          "ie;uf;ie_veredito;ie_formatado\n224/3658792;RS;valido;2243658792\nisento;RS;valido;ISENTO\n", "IE bare"},
+        {"emails;cep\n\"a@b.c;d@e.f\";01310100\n",
+         "emails;cep;emails_veredito;emails_formatado;cep_veredito;cep_formatado\n"
+         "\"a@b.c;d@e.f\";01310100;valido;\"a@b.c;d@e.f\";valido;01310-100\n",
+         "a formatted value that needs quotes"},
+        {"fone;data;crc\n1133334444;5/3/2024;1sp123456/o-5\n",
+         "fone;data;crc;fone_veredito;fone_formatado;data_veredito;data_formatado;crc_veredito;crc_formatado\n"
+         "1133334444;5/3/2024;1sp123456/o-5;valido;(11)3333-4444;valido;05/03/2024;valido;1SP123456O5\n",
+         "each in its form"},
     };
     for (const TReescrita& caso : casos) {
         Ory::TEntradaDeTexto entrada(caso.Entrada, 5);
         Ory::TSaidaDeTexto saida;
+        const OryUtils::TFormatosTemporarios formatos(OryUtils::BuscarFormatosBrasileiros());
         Ory::ConferirCsv(entrada, &saida, {.Limites = {.Bloco = 8}});
         EXPECT_EQ(saida.Texto, caso.Esperado) << caso.Porque;
     }

@@ -7,6 +7,7 @@
 #include "oryutils/text/OryUtilsStrings.hpp"
 
 #include "conferir/Codificacao.hpp"
+#include "conferir/ColunasDeCampos.hpp"
 
 #include <algorithm>
 #include <array>
@@ -33,14 +34,31 @@ constexpr std::array CTipos{
     TNomeDeTipo{"cno", tcCno},
     TNomeDeTipo{"cnh", tcCnh},
     TNomeDeTipo{"municipio", tcMunicipio},
+    TNomeDeTipo{"email", tcEmail},
+    TNomeDeTipo{"emails", tcEmails},
+    TNomeDeTipo{"crc", tcCrc},
+    TNomeDeTipo{"data", tcData},
+    TNomeDeTipo{"hora", tcHora},
+    TNomeDeTipo{"ip", tcIp},
+    TNomeDeTipo{"cep", tcCep},
+    TNomeDeTipo{"telefone", tcTelefone},
+    TNomeDeTipo{"competencia", tcCompetencia},
+    TNomeDeTipo{"ncm", tcNcm},
     TNomeDeTipo{"nenhum", tcNenhum},
 };
 
 // Headers without their punctuation, besides the names of the types.
 constexpr std::array CCabecalhos{
-    TNomeDeTipo{"cpfcnpj", tcDocumento},         TNomeDeTipo{"cnpjcpf", tcDocumento},
-    TNomeDeTipo{"inscricaoestadual", tcIe},      TNomeDeTipo{"pispasep", tcPis},
-    TNomeDeTipo{"codigomunicipio", tcMunicipio}, TNomeDeTipo{"codigoibge", tcMunicipio},
+    TNomeDeTipo{"cpfcnpj", tcDocumento},
+    TNomeDeTipo{"cnpjcpf", tcDocumento},
+    TNomeDeTipo{"inscricaoestadual", tcIe},
+    TNomeDeTipo{"pispasep", tcPis},
+    TNomeDeTipo{"codigomunicipio", tcMunicipio},
+    TNomeDeTipo{"codigoibge", tcMunicipio},
+    TNomeDeTipo{"fone", tcTelefone},
+    TNomeDeTipo{"celular", tcTelefone},
+    TNomeDeTipo{"enderecoip", tcIp},
+    TNomeDeTipo{"datadenascimento", tcData},
 };
 
 constexpr bool EhBranco(char AByte) { return static_cast<unsigned char>(AByte) <= ' '; }
@@ -140,6 +158,7 @@ bool ValidouCnpj(std::string_view ACampo) {
 bool ValidouCpf(std::string_view ACampo) { return OryUtils::DigitosCpfCnpj::ConferirCpf(ACampo) == OryUtils::mrNenhum; }
 
 bool Validou(TTipoColuna ATipo, std::string_view ACampo, std::string_view AUf) {
+    if (EhColunaDeCampo(ATipo)) return ValidouCampo(ATipo, ACampo);
     switch (ATipo) {
         case tcCnpj:
             return ValidouCnpj(ACampo);
@@ -228,6 +247,7 @@ TVeredito Conferir(TTipoColuna ATipo, std::string_view ACampo, std::string_view 
 
 void EscreverFormatado(std::string& ASaida, TTipoColuna ATipo, std::string_view ACampo) {
     const std::string_view campo = Aparar(ACampo);
+    if (EhColunaDeCampo(ATipo)) return EscreverCampoFormatado(ASaida, ATipo, campo);
     switch (ATipo) {
         case tcCnpj:
             return Juntar(ASaida, TOryUtilsValidacoes::FormatarCnpjAlfanumerico(TTextoDeCampo(campo).Get()));

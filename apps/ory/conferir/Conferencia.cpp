@@ -2,6 +2,7 @@
 
 #include "oryutils/runtime/Utf.hpp"
 
+#include "conferir/ColunasDeCampos.hpp"
 #include "conferir/Esteira.hpp"
 
 #include <algorithm>
@@ -105,7 +106,14 @@ void ConferirRegistro(const TPlano& APlano, const TLeitorDeRegistros& ALeitor, T
         AParcial.Saida += APlano.Delimitador;
         AParcial.Saida += CVereditos[veredito];
         AParcial.Saida += APlano.Delimitador;
-        if (veredito == veValido) EscreverFormatado(AParcial.Saida, coluna.Tipo, valor);
+        if (veredito != veValido) continue;
+        if (!EhColunaDeCampo(coluna.Tipo)) {
+            EscreverFormatado(AParcial.Saida, coluna.Tipo, valor);
+            continue;
+        }
+        std::string formatado;  // may hold what a CSV puts in quotes
+        EscreverFormatado(formatado, coluna.Tipo, valor);
+        EscreverCampo(AParcial.Saida, formatado, APlano.Delimitador);
     }
     if (APlano.Reescrever) AParcial.Saida += ALeitor.GetFimDeLinha();
 }
