@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+
+/// What every target shares: bytes taken off the front of the input, and texts of any UTF-16 units.
+namespace Fuzz {
+
+class TEntrada {
+public:
+    TEntrada(const std::uint8_t* ABytes, std::size_t ATamanho) : FBytes(ABytes), FTamanho(ATamanho) {}
+
+    bool Acabou() const { return FTamanho == 0; }
+    std::uint8_t Byte() {
+        if (FTamanho == 0) return 0;
+        --FTamanho;
+        return *FBytes++;
+    }
+    template <typename T>
+    T Valor() {
+        T valor{};
+        const std::size_t quantos = FTamanho < sizeof valor ? FTamanho : sizeof valor;
+        if (quantos > 0) std::memcpy(&valor, FBytes, quantos);
+        FBytes += quantos;
+        FTamanho -= quantos;
+        return valor;
+    }
+    /// At most AMaior characters; most of them ASCII, as the languages are.
+    std::u16string Texto(std::size_t AMaior) {
+        std::u16string texto;
+        for (std::size_t n = Byte() % (AMaior + 1); n > 0 && !Acabou(); --n) {
+            const std::uint8_t c = Byte();
+            texto += c < 0xF0 ? char16_t{c} : Valor<char16_t>();
+        }
+        return texto;
+    }
+
+private:
+    const std::uint8_t* FBytes;
+    std::size_t FTamanho;
+};
+
+/// A finding unless ACondicao.
+inline void Exigir(bool ACondicao) {
+    if (!ACondicao) std::abort();
+}
+
+}  // namespace Fuzz
