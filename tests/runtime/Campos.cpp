@@ -9,11 +9,11 @@
 namespace OryUtils {
 namespace {
 
-class Campos : public testing::Test {
+class CamposDeDados : public testing::Test {
     TFormatosTemporarios FFormatos{BuscarFormatosBrasileiros()};
 };
 
-TEST_F(Campos, NumeroExibidoEEditado) {
+TEST_F(CamposDeDados, NumeroExibidoEEditado) {
     TNumericField campo(ftFloat);
     EXPECT_EQ(campo.GetTextoExibido(), u"");
     campo.SetDisplayFormat(u",0.00 %");
@@ -31,7 +31,7 @@ TEST_F(Campos, NumeroExibidoEEditado) {
     EXPECT_EQ(campo.GetTextoExibido(), u"");
 }
 
-TEST_F(Campos, OQueCadaTipoGuarda) {
+TEST_F(CamposDeDados, OQueCadaTipoGuarda) {
     TNumericField inteiro(ftLargeint);
     inteiro.SetValor(2.5);
     EXPECT_EQ(inteiro.GetValor(), Variant(3));
@@ -58,7 +58,7 @@ TEST_F(Campos, OQueCadaTipoGuarda) {
     EXPECT_THROW(momento.SetTexto(u"amanhã"), EConvertError);
 }
 
-TEST_F(Campos, Mascara) {
+TEST_F(CamposDeDados, Mascara) {
     TField campo(ftString);
     campo.SetEditMask(u"999.999.999-99;0; ");
     EXPECT_EQ(campo.GetTextoExibido(), u"") << "null shows nothing";
