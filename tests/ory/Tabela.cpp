@@ -62,6 +62,8 @@ const std::map<std::string, std::string> CForaDaTabela{
     {"ConverterCentimetrosParaPixels", "asks the screen of a user interface"},
     {"GetUF", CPassoDoObjeto},
     {"GetValido", CPassoDoObjeto},
+    {"GetMotivo", CPassoDoObjeto},
+    {"Validou", "of the IE class: ValidouIE is it"},
     {"Validar", CPassoDoObjeto},
     {"Add", CPassoDoFiltro},
     {"GetItem", CPassoDoFiltro},
@@ -116,10 +118,12 @@ bool EhDeNome(char ACaractere) {
     return ACaractere == '_' || std::isalnum(static_cast<unsigned char>(ACaractere)) != 0;
 }
 
+bool EhFimDeTipo(char ACaractere) { return ACaractere == '>' || ACaractere == '&' || ACaractere == '*'; }
+
 /// True when ATexto goes on as a declaration does behind its arguments: ";" or a body, "const" and "noexcept" before
 /// it.
 bool EhFimDeDeclaracao(std::string_view ATexto) {
-    for (const std::string_view palavra : {" ", "const", " ", "noexcept", " "})
+    for (const std::string_view palavra : {" ", "const", " ", "noexcept", " ", "override", " "})
         while (ATexto.starts_with(palavra)) ATexto.remove_prefix(palavra.size());
     return ATexto.starts_with(';') || ATexto.starts_with('{');
 }
@@ -130,8 +134,9 @@ std::set<std::string> BuscarOperacoesDeclaradas(const std::string& ATexto) {
     for (std::size_t abre = ATexto.find('('); abre != std::string::npos; abre = ATexto.find('(', abre + 1)) {
         std::size_t inicio = abre;
         while (inicio > 0 && EhDeNome(ATexto[inicio - 1])) --inicio;
-        const bool depoisDeTipo =
-            inicio > 1 && ATexto[inicio - 1] == ' ' && (EhDeNome(ATexto[inicio - 2]) || ATexto[inicio - 2] == '>');
+        const std::string_view antes = std::string_view(ATexto).substr(0, inicio);
+        const bool depoisDeTipo = antes.size() > 1 && antes.back() == ' ' && !antes.ends_with(" explicit ") &&
+                                  (EhDeNome(antes[antes.size() - 2]) || EhFimDeTipo(antes[antes.size() - 2]));
         const std::size_t fecha = ATexto.find(')', abre);
         const bool nome = inicio < abre && std::isupper(static_cast<unsigned char>(ATexto[inicio])) != 0;
         if (nome && depoisDeTipo && fecha != std::string::npos &&
