@@ -65,6 +65,11 @@ public:
     }
 
 private:
+    /// Around 15 digits, the first ones always the same: differences lose most of them.
+    std::u16string Longo() {
+        std::u16string numero = u"123456789" + DeUtf8(std::to_string(Sortear(10'000'000)));
+        return numero.insert(1 + Sortear(4) * 3, 1, u',');
+    }
     std::u16string Operando(int AProfundidade) {
         static constexpr const char16_t* CFuncoes[] = {u"SQR(", u"log(", u"LN(",  u"INT(",
                                                        u"ABS(", u"MAX(", u"Min(", u"EXP("};
@@ -77,7 +82,7 @@ private:
             case 2:
                 return CNomes[Sortear(Sortear(10) == 0 ? 7 : 4)];
             case 3:
-                return Sortear(4) ? u"3" : u"12345678901234,56789";
+                return Sortear(4) ? u"3" : Sortear(4) ? Longo() : u"12345678901234,56789";
             case 4:
                 return Sortear(4) ? u" 1.250" : u"0,00001";
             case 5:

@@ -32,6 +32,7 @@ constexpr std::size_t CCrescimentoMinimo = 64 * 1024;
 }  // namespace
 
 Extended TAvaliador::Calcular(std::u16string_view AFormula, std::u16string* AResolvida) {
+    if (const auto valor = FDireta.Calcular(AFormula, FRegras, AResolvida)) return *valor;
     const std::u16string_view sem_funcoes = ResolverFuncoes(AFormula);
     LancarErro();
     const Extended valor = CalcularSemFuncoes(sem_funcoes, AResolvida);

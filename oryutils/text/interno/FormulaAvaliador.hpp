@@ -1,5 +1,6 @@
 #pragma once
 
+#include "oryutils/text/interno/FormulaDireta.hpp"
 #include "oryutils/text/interno/FormulaExpressao.hpp"
 #include "oryutils/text/interno/FormulaFuncoes.hpp"
 #include "oryutils/text/interno/FormulaVariaveis.hpp"
@@ -10,8 +11,9 @@
 
 namespace OryUtils::Interno {
 
-/// The steps of an evaluation. Each runs once over its text; parentheses and functions are kept on stacks of their own.
-/// The working texts stay between evaluations, so that only a longer formula allocates.
+/// An evaluation: in one reading where that is enough, otherwise step by step. Each step runs once over its text;
+/// parentheses and functions are kept on stacks of their own. The working texts stay between evaluations, so that only
+/// a longer formula allocates.
 class TAvaliador {
 public:
     TVariaveis Variaveis;
@@ -62,6 +64,7 @@ private:
 
     TRegrasFormula FRegras;
     TErroFormula FErro;
+    TFormulaDireta FDireta{Variaveis};
     TExpressao FExpressao;
     TChamadas FChamadas;
     std::vector<TAberta> FAbertas;

@@ -13,20 +13,27 @@ namespace {
 constexpr Extended CMenorSemExpoenteNegativo = 1e-4L;
 constexpr int CDigitosEm64Bits = 19;
 
-Extended Resultado(char16_t AOperador, Extended AUm, Extended AOutro) noexcept {
+TOperCalc OperacaoDe(char16_t AOperador) noexcept {
+    return AOperador == u'*'   ? ocMultiplicacao
+           : AOperador == u'/' ? ocDivisao
+           : AOperador == u'+' ? ocSoma
+                               : ocSubtracao;
+}
+
+}  // namespace
+
+Extended CalcularOperacao(TOperCalc AOperador, Extended AUm, Extended AOutro) noexcept {
     switch (AOperador) {
-        case u'*':
+        case ocMultiplicacao:
             return TOryUtilsFormulas::GetMultiplicacao(AUm, AOutro);
-        case u'/':
+        case ocDivisao:
             return TOryUtilsFormulas::GetDivisao(AUm, AOutro);
-        case u'+':
+        case ocSoma:
             return TOryUtilsFormulas::GetSoma(AUm, AOutro);
         default:
             return TOryUtilsFormulas::GetSubtracao(AUm, AOutro);
     }
 }
-
-}  // namespace
 
 /// Reads the operand that starts at AInicio, behind AOperador, and answers where it ends.
 const char16_t* TExpressao::LerOperando(const char16_t* AInicio, const char16_t* AFim, char16_t AOperador) {
@@ -107,7 +114,7 @@ bool TExpressao::Recusar(const TParcela& AParcela) {
 
 /// The number that stands for the operation of ADireita, as its text reads back.
 Extended TExpressao::Operar(const TParcela& AEsquerda, const TParcela& ADireita) const {
-    const Extended exato = Resultado(ADireita.Operador, AEsquerda.Valor, ADireita.Valor);
+    const Extended exato = CalcularOperacao(OperacaoDe(ADireita.Operador), AEsquerda.Valor, ADireita.Valor);
     const Extended valor = FRegras.Ajuste == maNenhum ? exato : FRegras.Ajustar(exato);
     const Extended magnitude = std::abs(valor);
     const bool inteiro = magnitude < CPrimeiroDe16Digitos && ArredondarAoInteiro(magnitude) == magnitude;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "oryutils/text/OryUtilsFormulas.hpp"
 #include "oryutils/text/interno/FormulaErro.hpp"
 #include "oryutils/text/interno/FormulaRegras.hpp"
 
@@ -9,6 +10,9 @@
 #include <vector>
 
 namespace OryUtils::Interno {
+
+/// One operation on two numbers; division by 0 gives 0.
+Extended CalcularOperacao(TOperCalc AOperador, Extended AUm, Extended AOutro) noexcept;
 
 /// Evaluates texts without parentheses: operands and the operators between them, one kind of operator at a time.
 class TExpressao {

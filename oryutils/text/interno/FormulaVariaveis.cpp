@@ -3,6 +3,7 @@
 #include "oryutils/runtime/Caixa.hpp"
 
 #include <algorithm>
+#include <bit>
 
 namespace OryUtils::Interno {
 namespace {
@@ -14,27 +15,58 @@ char16_t Minuscula(char16_t c) noexcept {
 
 constexpr std::size_t CSemNome = std::u16string_view::npos;
 
-}  // namespace
-
-std::size_t TVariaveis::TDispersao::operator()(std::u16string_view ANome) const noexcept {
+std::uint64_t CalcularDispersao(std::u16string_view ANome) noexcept {
     std::uint64_t valor = 14695981039346656037U;
     for (const char16_t c : ANome) valor = (valor ^ Minuscula(c)) * 1099511628211U;
-    return static_cast<std::size_t>(valor ^ valor >> 32);
+    return valor ^ valor >> 32;
 }
 
-bool TVariaveis::TIgualdade::operator()(std::u16string_view AUm, std::u16string_view AOutro) const noexcept {
-    return std::equal(AUm.begin(), AUm.end(), AOutro.begin(), AOutro.end(),
-                      [](char16_t a, char16_t b) { return a == b || Minuscula(a) == Minuscula(b); });
+/// Whether ALinha, which starts with a name and a "=", is that of ANome.
+bool EhDaVariavel(std::u16string_view ALinha, std::u16string_view ANome) noexcept {
+    if (ALinha.size() <= ANome.size() || ALinha[ANome.size()] != u'=') return false;
+    for (std::size_t i = 0; i < ANome.size(); ++i)
+        if (ALinha[i] == u'=' || (ALinha[i] != ANome[i] && Minuscula(ALinha[i]) != Minuscula(ANome[i]))) return false;
+    return true;
+}
+
+}  // namespace
+
+TVariaveis::TEntrada* TVariaveis::Buscar(std::u16string_view ANome) noexcept {
+    if (FTabela.empty()) return nullptr;
+    const std::uint64_t dispersao = CalcularDispersao(ANome);
+    for (std::size_t i = dispersao & (FTabela.size() - 1); FTabela[i] != 0; i = (i + 1) & (FTabela.size() - 1)) {
+        TEntrada& entrada = FEntradas[FTabela[i] - 1];
+        if (entrada.Dispersao == dispersao && EhDaVariavel(FLinhas[entrada.Linha], ANome)) return &entrada;
+    }
+    return nullptr;
 }
 
 void TVariaveis::Indexar(std::size_t ALinha) {
-    const std::size_t igual = FLinhas[ALinha].find(u'=');
-    if (igual != CSemNome) FIndice.try_emplace(FLinhas[ALinha].substr(0, igual), TEntrada{.Linha = ALinha});
+    const std::u16string_view linha = FLinhas[ALinha];
+    const std::size_t igual = linha.find(u'=');
+    if (igual == CSemNome || Buscar(linha.substr(0, igual))) return;
+    FEntradas.push_back({.Linha = ALinha, .Dispersao = CalcularDispersao(linha.substr(0, igual))});
+    MontarTabela();
+}
+
+/// Puts the last entry in its place, and all of them where the table has to grow: half of it stays free.
+void TVariaveis::MontarTabela() {
+    std::size_t primeira = FEntradas.size() - 1;
+    if (FTabela.size() < FEntradas.size() * 2) {
+        FTabela.assign(std::bit_ceil(FEntradas.size() * 4), 0);
+        primeira = 0;
+    }
+    for (std::size_t e = primeira; e < FEntradas.size(); ++e) {
+        std::size_t i = FEntradas[e].Dispersao & (FTabela.size() - 1);
+        while (FTabela[i] != 0) i = (i + 1) & (FTabela.size() - 1);
+        FTabela[i] = static_cast<std::uint32_t>(e + 1);
+    }
 }
 
 void TVariaveis::SetLinhas(std::vector<std::u16string> ALinhas) {
     FLinhas = std::move(ALinhas);
-    FIndice.clear();
+    FEntradas.clear();
+    FTabela.clear();
     for (std::size_t i = 0; i < FLinhas.size(); ++i) Indexar(i);
 }
 
@@ -42,10 +74,9 @@ void TVariaveis::Definir(std::u16string_view ANome, Extended AValor, char16_t AS
     std::array<char16_t, CTamanhoMaximoExtended> valor;
     std::u16string linha(ANome);
     (linha += u'=') += EscreverExtended(AValor, valor, ASeparador);
-    const auto achada = FIndice.find(ANome);
-    if (achada != FIndice.end()) {
-        FLinhas[achada->second.Linha] = std::move(linha);
-        achada->second.Geracao = 0;
+    if (TEntrada* const entrada = Buscar(ANome)) {
+        FLinhas[entrada->Linha] = std::move(linha);
+        entrada->Geracao = 0;
         return;
     }
     FLinhas.push_back(std::move(linha));
@@ -54,30 +85,44 @@ void TVariaveis::Definir(std::u16string_view ANome, Extended AValor, char16_t AS
 
 void TVariaveis::Limpar() {
     FLinhas.clear();
-    FIndice.clear();
+    FEntradas.clear();
+    FTabela.clear();
+}
+
+/// Makes the value again when it is not that of the rules; false when the line holds no number.
+bool TVariaveis::Preparar(TEntrada& AEntrada) const {
+    if (AEntrada.Geracao == FGeracao) return true;
+    std::u16string_view linha = FLinhas[AEntrada.Linha];
+    linha.remove_prefix(linha.find(u'=') + 1);
+    const auto lido = TentarTextoParaExtended(linha);
+    if (!lido) return false;
+    const Extended ajustado = FRegras.Ajustar(*lido);
+    TValor& valor = AEntrada.Valor;
+    const auto texto = EscreverExtended(ajustado, valor.Texto, FRegras.SeparadorDecimal);
+    if (texto.data() != valor.Texto.data()) std::copy(texto.begin(), texto.end(), valor.Texto.begin());
+    valor.Tamanho = static_cast<std::uint8_t>(texto.size());
+    valor.Decimal = DecimalDe(ajustado);
+    AEntrada.Geracao = FGeracao;
+    return true;
+}
+
+const TVariaveis::TValor* TVariaveis::BuscarValor(std::u16string_view ANome) {
+    TEntrada* const entrada = Buscar(ANome);
+    return entrada && Preparar(*entrada) ? &entrada->Valor : nullptr;
 }
 
 std::u16string_view TVariaveis::BuscarTexto(std::u16string_view ANome, TErroFormula& AErro) {
-    const auto achada = FIndice.find(ANome);
-    if (achada == FIndice.end()) {
+    TEntrada* const entrada = Buscar(ANome);
+    if (!entrada) {
         AErro = {meVariavel, std::u16string(ANome)};
         return {};
     }
-    TEntrada& entrada = achada->second;
-    if (entrada.Geracao != FGeracao) {
-        std::u16string_view linha = FLinhas[entrada.Linha];
-        linha.remove_prefix(linha.find(u'=') + 1);
-        const auto valor = TentarTextoParaExtended(linha);
-        if (!valor) {
-            AErro = {meNumero, std::u16string(linha)};
-            return {};
-        }
-        const auto texto = EscreverExtended(FRegras.Ajustar(*valor), entrada.Texto, FRegras.SeparadorDecimal);
-        if (texto.data() != entrada.Texto.data()) std::copy(texto.begin(), texto.end(), entrada.Texto.begin());
-        entrada.Tamanho = static_cast<std::uint8_t>(texto.size());
-        entrada.Geracao = FGeracao;
+    if (!Preparar(*entrada)) {
+        const std::u16string& linha = FLinhas[entrada->Linha];
+        AErro = {meNumero, linha.substr(linha.find(u'=') + 1)};
+        return {};
     }
-    return {entrada.Texto.data(), entrada.Tamanho};
+    return {entrada->Valor.Texto.data(), entrada->Valor.Tamanho};
 }
 
 }  // namespace OryUtils::Interno

@@ -1,13 +1,14 @@
 #pragma once
 
+#include "oryutils/text/interno/FormulaDecimal.hpp"
 #include "oryutils/text/interno/FormulaErro.hpp"
 #include "oryutils/text/interno/FormulaRegras.hpp"
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace OryUtils::Interno {
@@ -31,25 +32,30 @@ public:
     /// there is no such variable or its value is no number.
     std::u16string_view BuscarTexto(std::u16string_view ANome, TErroFormula& AErro);
 
-private:
-    struct TDispersao {
-        using is_transparent = void;
-        std::size_t operator()(std::u16string_view ANome) const noexcept;
-    };
-    struct TIgualdade {
-        using is_transparent = void;
-        bool operator()(std::u16string_view AUm, std::u16string_view AOutro) const noexcept;
-    };
-    struct TEntrada {
-        std::size_t Linha = 0;
-        std::uint64_t Geracao = 0;  // that of the text
+    /// What stands for a variable in formulas.
+    struct TValor {
         std::uint8_t Tamanho = 0;
         std::array<char16_t, CTamanhoMaximoExtended> Texto{};
+        std::optional<TDecimal> Decimal{};  // the text as a number; none when it has an exponent
     };
+    /// None when there is no such variable or its value is no number. Holds as BuscarTexto does.
+    const TValor* BuscarValor(std::u16string_view ANome);
+
+private:
+    struct TEntrada {
+        std::size_t Linha = 0;
+        std::uint64_t Dispersao = 0;  // of the name
+        std::uint64_t Geracao = 0;    // that of the value
+        TValor Valor{};
+    };
+    TEntrada* Buscar(std::u16string_view ANome) noexcept;
+    bool Preparar(TEntrada& AEntrada) const;
     void Indexar(std::size_t ALinha);
+    void MontarTabela();
 
     std::vector<std::u16string> FLinhas;
-    std::unordered_map<std::u16string, TEntrada, TDispersao, TIgualdade> FIndice;
+    std::vector<TEntrada> FEntradas;
+    std::vector<std::uint32_t> FTabela;  // by name: one more than the place in FEntradas, 0 where there is none
     TRegrasFormula FRegras;
     std::uint64_t FGeracao = 1;
 };
