@@ -26,6 +26,7 @@ struct TJanela : QWidget {
         coluna->addWidget(Caixa);
         coluna->addWidget(Outra);
         show();
+        activateWindow();  // a bare X server has no window manager to do it
         EXPECT_TRUE(QTest::qWaitForWindowActive(this));
         Outra->setFocus();
     }
