@@ -1,5 +1,6 @@
 // The validations against a plain loop, on the same list: half CPF and half CNPJ, formatted, bare and odd, some wrong.
-// With an argument "--escrever=ARQUIVO" the lists are written for the other benchmarks to read.
+// With an argument "--escrever=ARQUIVO" the lists and the verdicts are written for the other
+// benchmarks to read.
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 #include "oryutils/runtime/Utf.hpp"
 
@@ -123,8 +124,10 @@ BENCHMARK(IE_Biblioteca);
 void Escrever(const std::string& AArquivo) {
     std::ofstream arquivo(AArquivo);
     for (const TItem& item : GDocumentos)
-        arquivo << (item.Tipo == tiCPF ? "CPF" : "CNPJ") << ';' << ParaUtf8(item.Numero) << '\n';
-    for (const TItemIE& item : GIEs) arquivo << ParaUtf8(item.UF) << ';' << ParaUtf8(item.IE) << '\n';
+        arquivo << (item.Tipo == tiCPF ? "CPF" : "CNPJ") << ';' << ParaUtf8(item.Numero) << ';'
+                << ValidouCnpjCpf(item.Tipo, item.Numero) << '\n';
+    for (const TItemIE& item : GIEs)
+        arquivo << ParaUtf8(item.UF) << ';' << ParaUtf8(item.IE) << ';' << ValidouIE(item.IE, item.UF) << '\n';
 }
 
 }  // namespace

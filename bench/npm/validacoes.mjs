@@ -1,6 +1,7 @@
 // Nanoseconds per call of npm validators over the list that bench_Validacoes writes:
 //   node validacoes.mjs LIST
-// One line each: name and the median of rounds run in turns.
+// One line each: name and the median of rounds run in turns. On the error output, how often each says what the library
+// says: one that refuses early does not do the same work.
 import { readFileSync } from "node:fs";
 import { isValidCnpj, isValidCpf, isValidIE } from "@brazilian-utils/brazilian-utils";
 import inscricaoEstadual from "inscricaoestadual";
@@ -14,6 +15,11 @@ const medidas = [
   ["IE_brazilian-utils", ies, (uf, numero) => isValidIE(uf, numero)],
   ["IE_inscricaoestadual", ies, (uf, numero) => inscricaoEstadual(numero, uf)],
 ].map(([nome, lista, validar]) => ({ nome, lista, validar, tempos: [] }));
+
+for (const { nome, lista, validar } of medidas) {
+  const iguais = lista.filter(([tipo, numero, veredito]) => Boolean(validar(tipo, numero)) === (veredito === "1"));
+  console.error(`${nome} agrees with the library on ${((100 * iguais.length) / lista.length).toFixed(1)}%`);
+}
 
 let validos = 0;
 function rodada({ lista, validar }) {

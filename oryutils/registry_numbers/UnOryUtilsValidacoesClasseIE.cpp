@@ -116,6 +116,15 @@ void TOryUtilsValidacoesIE::Validar() noexcept {
         FMotivo = Conferir(*unidade->Formatos, ie).Motivo;
 }
 
+// Apart from Validou, which so needs no room for the object.
+[[gnu::noinline]] static bool ValidouPassoAPasso(std::u16string_view AIE, std::u16string_view AUF) noexcept {
+    TOryUtilsValidacoesIE ie;
+    ie.SetUF(AUF);
+    ie.SetIE(AIE);
+    ie.Validar();
+    return ie.GetValido();
+}
+
 bool TOryUtilsValidacoesIE::Validou(std::u16string_view AIE, std::u16string_view AUF) noexcept {
     // Bare digits in a format of the unit are read where they stand.
     if (const TUnidade* unidade = BuscarUnidade(AUF)) {
@@ -123,11 +132,7 @@ bool TOryUtilsValidacoesIE::Validou(std::u16string_view AIE, std::u16string_view
         if (motivo == mrNenhum) return !so_zeros;
         if (!unidade->Validar && (motivo == mrDigito || motivo == mrPrefixo)) return false;
     }
-    TOryUtilsValidacoesIE ie;
-    ie.SetUF(AUF);
-    ie.SetIE(AIE);
-    ie.Validar();
-    return ie.GetValido();
+    return ValidouPassoAPasso(AIE, AUF);
 }
 
 std::u16string_view TOryUtilsValidacoesIE::FormatarBase(std::u16string_view AModelo) noexcept {

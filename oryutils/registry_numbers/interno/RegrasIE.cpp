@@ -65,7 +65,7 @@ constexpr int CalcularDigitoPelaSoma(TRegraDigito ARegra, int ASoma) noexcept {
     return CDigitoDaSoma[ARegra][static_cast<unsigned>(ASoma)];
 }
 
-int CalcularDigitoIrregular(const TFormatosIE::TDigito& ADigito, int ASoma, std::u16string_view AIE) noexcept {
+int CalcularDigito(const TFormatosIE::TDigito& ADigito, int ASoma, std::u16string_view AIE) noexcept {
     switch (ADigito.Regra) {
         case rdGoias:
             return CalcularDigitoGoias(ASoma % 11, AIE);
@@ -73,19 +73,35 @@ int CalcularDigitoIrregular(const TFormatosIE::TDigito& ADigito, int ASoma, std:
             return CalcularDigitoPelaSoma(BuscarRegraBahia(AIE[0]), ASoma);
         case rdAmapa:
             return CalcularDigitoAmapa(ASoma, AIE);
+        case rdAlgarismos:
+            return CalcularDigitoPelaSoma(rdDez, SomarAlgarismosDosProdutos(ADigito, AIE));
         default:
-            return CalcularDigitoPelaSoma(rdDez, SomarAlgarismosDosProdutos(ADigito, AIE));  // rdAlgarismos
+            return CalcularDigitoPelaSoma(ADigito.Regra, ASoma);
     }
 }
 
-inline int CalcularDigito(const TFormatosIE::TDigito& ADigito, int ASoma, std::u16string_view AIE) noexcept {
-    if (ADigito.Regra > rdDez) [[unlikely]]
-        return CalcularDigitoIrregular(ADigito, ASoma, AIE);
-    return CalcularDigitoPelaSoma(ADigito.Regra, ASoma);
+[[gnu::noinline]] bool SoTemZeros(std::u16string_view AIE) noexcept {
+    return std::ranges::all_of(AIE, [](char16_t c) { return c == u'0'; });
 }
 
-inline int Somar(const std::array<std::int16_t, CBloco>& ADigitos,
-                 const std::array<std::int16_t, CBloco>& APesos) noexcept {
+/// ADigito1 and ADigito2 are what the digits must be.
+inline TConferencia Comparar(const TFormatosIE::TFormato& AFormato, std::u16string_view AIE, int ADigito1, int ADigito2,
+                             int ASoma1) noexcept {
+    const bool certos =
+        (ValorDe(AIE[AFormato.Digito1.Indice]) == ADigito1) & (ValorDe(AIE[AFormato.Digito2.Indice]) == ADigito2);
+    return {certos ? mrNenhum : mrDigito, ASoma1 == 0 && SoTemZeros(AIE)};
+}
+
+// Out of line: the regular formats then need no registers saved.
+[[gnu::noinline]] TConferencia ConferirIrregular(const TFormatosIE::TFormato& AFormato, std::u16string_view AIE,
+                                                 int ASoma1, int ASoma2) noexcept {
+    return Comparar(AFormato, AIE, CalcularDigito(AFormato.Digito1, ASoma1, AIE),
+                    CalcularDigito(AFormato.Digito2, ASoma2, AIE), ASoma1);
+}
+
+using TBloco = std::array<std::int16_t, CBloco>;
+
+inline int Somar(const TBloco& ADigitos, const TBloco& APesos) noexcept {
     int soma = 0;
     for (std::size_t i = 0; i < CBloco; ++i) soma += ADigitos[i] * APesos[i];
     return soma;
@@ -100,25 +116,23 @@ bool TemInicioAceito(const TFormatosIE::TFormato& AFormato, std::u16string_view 
 TConferencia ConferirFormato(const TFormatosIE::TFormato& AFormato, std::u16string_view AIE) noexcept {
     const char16_t* inicio = AIE.data();
     const char16_t* fim = inicio + AIE.size() - CBloco;
-    const auto& [digito1, digito2, inicios] = AFormato;
-    std::array<std::int16_t, CBloco> a, b;
-    std::uint16_t estranhos = 0;
-    std::uint16_t algum = 0;
+    TBloco a, b;
+    std::uint16_t bits = 0;
     for (std::size_t i = 0; i < CBloco; ++i) {
         const auto do_inicio = static_cast<std::uint16_t>(inicio[i] - u'0');
         const auto do_fim = static_cast<std::uint16_t>(fim[i] - u'0');
-        estranhos = static_cast<std::uint16_t>(estranhos | (do_inicio > 9 ? 1 : 0) | (do_fim > 9 ? 1 : 0));
-        algum = static_cast<std::uint16_t>(algum | do_inicio | do_fim);
+        // Above 9 a value, or the value and 6 more, has bits beyond the lowest four.
+        bits = static_cast<std::uint16_t>(bits | do_inicio | (do_inicio + 6) | do_fim | (do_fim + 6));
         a[i] = static_cast<std::int16_t>(do_inicio);
         b[i] = static_cast<std::int16_t>(do_fim);
     }
-    const int soma1 = Somar(a, digito1.PesosDoInicio) + Somar(b, digito1.PesosDoFim);
-    const int soma2 = Somar(a, digito2.PesosDoInicio) + Somar(b, digito2.PesosDoFim);
-    if (estranhos) return {mrCaractere, false};
+    if (bits > 0xF) return {mrCaractere, false};
     if (!TemInicioAceito(AFormato, AIE)) return {mrPrefixo, false};
-    const bool certos = (ValorDe(AIE[digito1.Indice]) == CalcularDigito(digito1, soma1, AIE)) &
-                        (ValorDe(AIE[digito2.Indice]) == CalcularDigito(digito2, soma2, AIE));
-    return {certos ? mrNenhum : mrDigito, algum == 0};
+    const int soma1 = Somar(a, AFormato.Digito1.PesosDoInicio) + Somar(b, AFormato.Digito1.PesosDoFim);
+    const int soma2 = Somar(a, AFormato.Digito2.PesosDoInicio) + Somar(b, AFormato.Digito2.PesosDoFim);
+    if (AFormato.Irregular) return ConferirIrregular(AFormato, AIE, soma1, soma2);
+    return Comparar(AFormato, AIE, CalcularDigitoPelaSoma(AFormato.Digito1.Regra, soma1),
+                    CalcularDigitoPelaSoma(AFormato.Digito2.Regra, soma2), soma1);
 }
 
 }  // namespace

@@ -70,6 +70,7 @@ struct TFormatosIE {
     struct TFormato {
         TDigito Digito1, Digito2;  // a format with one check digit has it twice
         std::array<TInicioIE, 5> Inicios{};
+        bool Irregular = false;  // the sums are not all that counts
     };
     std::array<std::uint8_t, 16> PorTamanho{};  // the place in Formatos, counted from 1; 0 for none
     std::array<TFormato, 2> Formatos{};
@@ -87,6 +88,7 @@ private:
         formato.Inicios = AFormato.Inicios;
         formato.Digito1 = Preparar(AFormato.Digito1, AFormato.Tamanho);
         formato.Digito2 = AFormato.Digito2.Lugar == 0 ? formato.Digito1 : Preparar(AFormato.Digito2, AFormato.Tamanho);
+        formato.Irregular = formato.Digito1.Regra > rdDez || formato.Digito2.Regra > rdDez;
     }
     static constexpr TDigito Preparar(const TDigitoIE& ADigito, std::size_t ATamanho) {
         TDigito digito;
