@@ -1,6 +1,6 @@
 #include "oryutils/platform/Terminal.hpp"
-#include "oryutils/runtime/Costura.hpp"
 #include "oryutils/registry_numbers/UnOryUtilsFormatacoes.hpp"
+#include "oryutils/runtime/Costura.hpp"
 
 #include "Comando.hpp"
 

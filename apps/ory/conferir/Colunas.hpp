@@ -50,8 +50,8 @@ bool EhMesmoCabecalho(std::string_view AUm, std::string_view AOutro);
 /// The verdict on one field, bytes of UTF-8 or Windows-1252. AUf counts for a state registration only. The operations
 /// of the library decide; an exempt state registration is valid. Never throws for any bytes.
 TVeredito Conferir(TTipoColuna ATipo, std::string_view ACampo, std::string_view AUf);
-/// Appends the valid field in its display form: CNPJ, CPF, CEI, postcode, phone, period and NCM with their marks, a date
-/// as dd/mm/yyyy; addresses as they stand, in the encoding of the file; the others bare.
+/// Appends the valid field in its display form: CNPJ, CPF, CEI, postcode, phone, period and NCM with their marks, a
+/// date as dd/mm/yyyy; addresses as they stand, in the encoding of the file; the others bare.
 void EscreverFormatado(std::string& ASaida, TTipoColuna ATipo, std::string_view ACampo);
 
 }  // namespace Ory
