@@ -163,6 +163,7 @@ int ExecutarLinhaDeComando(std::span<const std::string> AArgumentos, TAmbiente& 
     CLI::App aplicativo("Confere e formata números de cadastro brasileiros e chama as operações da OryUtils.", "ory");
     Traduzir(aplicativo);
     PorAjuda(aplicativo);
+    aplicativo.allow_windows_style_options(false);  // "/dados/x.csv" is a file there too
     bool versao = false;
     aplicativo.add_flag("--versao,--version", versao, "mostra a versão");
     CLI::App* conferir = NovoComando(aplicativo, "conferir", "confere os números de um arquivo CSV");
