@@ -2,6 +2,7 @@
 // same ones as BenchFiltroSql.cpp.
 //   node filtro_sql.mjs
 import knex from "knex";
+import { medir } from "./medir.mjs";
 
 const db = knex({ client: "pg" });
 const nomes = ["Ana", "João D'Ávila", "Maria das Dores", "Zé"];
@@ -28,21 +29,19 @@ function montar(quantas) {
 }
 
 // toString writes the values into the text, as the library does; toSQL leaves them apart.
-const medidas = [5, 50, 500].flatMap((quantas) => [
-  { nome: `Filtro${quantas}_knex-toString`, quantas, rodar: () => montar(quantas).toString().length, tempos: [] },
-  { nome: `Filtro${quantas}_knex-toSQL`, quantas, rodar: () => montar(quantas).toSQL().sql.length, tempos: [] },
-]);
+function repetir(quantas, escrever) {
+  const vezes = Math.ceil(5000 / quantas);
+  const rodar = () => {
+    let escritos = 0;
+    for (let vez = 0; vez < vezes; ++vez) escritos += escrever(montar(quantas)).length;
+    return escritos;
+  };
+  return { vezes, rodar };
+}
 
-let escritos = 0;
-for (let i = 0; i < 15; ++i)
-  for (const { quantas, rodar, tempos } of medidas) {
-    const vezes = Math.ceil(5000 / quantas);
-    const inicio = process.cpuUsage();
-    for (let vez = 0; vez < vezes; ++vez) escritos += rodar();
-    const { user, system } = process.cpuUsage(inicio);
-    const tempo = ((user + system) * 1000) / vezes;
-    if (i >= 4) tempos.push(tempo); // the first rounds warm the compiler up
-  }
-for (const { nome, tempos } of medidas)
-  console.log(nome, tempos.sort((a, b) => a - b)[tempos.length >> 1].toFixed(1));
-if (escritos === 0) throw new Error("nothing was written");
+medir(
+  [5, 50, 500].flatMap((quantas) => [
+    { nome: `Filtro${quantas}_knex-toString`, ...repetir(quantas, (consulta) => consulta.toString()) },
+    { nome: `Filtro${quantas}_knex-toSQL`, ...repetir(quantas, (consulta) => consulta.toSQL().sql) },
+  ]),
+);
