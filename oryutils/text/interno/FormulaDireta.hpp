@@ -71,7 +71,7 @@ private:
     bool FTerminou = false;
     std::u16string FResolvida;  // working room
     char16_t* FEscrita = nullptr;
-    std::array<TGrupo, CProfundidade> FGrupos;
+    std::array<TGrupo, CProfundidade> FGrupos{};
 };
 
 }  // namespace OryUtils::Interno
