@@ -1,7 +1,10 @@
 #include "apps/cadastro/Cadastro.hpp"
 
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
+#include "oryutils/runtime/NumeroTexto.hpp"
+#include "oryutils/text/UnOryUtilsMatematica.hpp"
 #include "oryutils/ui/UnOryUtilsDialogs.hpp"
 
 #include <algorithm>
@@ -90,6 +93,18 @@ const std::array<std::u16string_view, 27> CUFs{
     u"AC", u"AL", u"AM", u"AP", u"BA", u"CE", u"DF", u"ES", u"GO", u"MA", u"MG", u"MS", u"MT", u"PA",
     u"PB", u"PE", u"PI", u"PR", u"RJ", u"RN", u"RO", u"RR", u"RS", u"SC", u"SE", u"SP", u"TO"};
 // clang-format on
+
+std::u16string EscreverPorExtenso(std::u16string_view AValor) {
+    std::u16string numero(AValor);
+    std::erase(numero, FormatSettings().ThousandSeparator);
+    const auto valor = TentarTextoParaExtended(numero);
+    if (!valor) return {};
+    try {
+        return TOryUtilsMatematica::BuscarValorPorExtenso(*valor);
+    } catch (const Exception&) {
+        return {};  // negative, or more than words can tell
+    }
+}
 
 void Salvar(const TValores& AValores, const TControles& AControles) {
     for (std::size_t i = 0; i < CCampos.size(); ++i) CCampos[i].Validar(nullptr, AControles[i], AValores);

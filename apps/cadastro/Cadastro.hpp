@@ -33,6 +33,9 @@ inline constexpr std::u16string_view CTituloCadastro = u"Cadastro de cliente";
 inline constexpr std::u16string_view CCaptionSalvar = u"&Salvar";
 inline constexpr std::u16string_view CCaptionFechar = u"&Fechar";
 
+/// What stands under the value's box: AValor in words; nothing while it is blank or no amount.
+std::u16string EscreverPorExtenso(std::u16string_view AValor);
+
 /// The save button: every field in order, without a sender; then the user is told that all is well. EAbort at the
 /// first field that does not hold.
 void Salvar(const TValores& AValores, const TControles& AControles);

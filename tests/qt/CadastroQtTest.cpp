@@ -1,3 +1,5 @@
+#include "oryutils/runtime/Formatos.hpp"
+
 #include "apps/cadastro/qt/JanelaCadastro.hpp"
 #include "qt/Roteiro.hpp"
 
@@ -32,6 +34,13 @@ TEST_F(TTesteQt, CadastroConfereAoSairEAoSalvar) {
     };
     TAvisos avisos;
 
+    const TFormatosTemporarios brasileiros(BuscarFormatosBrasileiros());
+    digitar(caValor, "1.234,56");
+    EXPECT_EQ(janela.GetPorExtenso()->text(),
+              QString::fromUtf8("UM MIL E DUZENTOS E TRINTA E QUATRO REAIS E CINQUENTA E SEIS CENTAVOS"));
+    digitar(caValor, "-1");
+    EXPECT_EQ(janela.GetPorExtenso()->text(), "") << "a debt has no words";
+
     digitar(caNome, "Comercial Modelo");
     digitar(caDocumento, "11.222.333/0001-82");
     janela.GetCampo(caDocumento)->setFocus();
@@ -43,6 +52,7 @@ TEST_F(TTesteQt, CadastroConfereAoSairEAoSalvar) {
     QCoreApplication::processEvents();
     EXPECT_EQ(BuscarDialogo(), nullptr) << "one warning, not a chain of them";
 
+    digitar(caValor, "1234,5");
     digitar(caDocumento, "11.222.333/0001-81");
     digitar(caNome, " ");
     auto* salvar = janela.findChildren<QPushButton*>().constFirst();

@@ -41,6 +41,16 @@ TJanelaCadastro::TJanelaCadastro() {
         FCampos[i]->setFixedWidth(std::max(campo.Largura * letra + 2 * letra, FCampos[i]->minimumSizeHint().width()));
         FCampos[i]->installEventFilter(this);
         formulario->addRow(Texto(campo.Caption), FCampos[i]);
+        if (i == caValor) {
+            FPorExtenso = new QLabel;
+            FPorExtenso->setWordWrap(true);
+            FPorExtenso->setMinimumHeight(2 * fontMetrics().lineSpacing());
+            FPorExtenso->setAlignment(Qt::AlignTop);
+            formulario->addRow(QString(), FPorExtenso);
+            connect(static_cast<QLineEdit*>(FCampos[i]), &QLineEdit::textChanged, this, [this](const QString& AValor) {
+                FPorExtenso->setText(Texto(EscreverPorExtenso(AValor.toStdU16String())));
+            });
+        }
     }
     auto* salvar = new QPushButton(Texto(CCaptionSalvar));
     FFechar = new QPushButton(Texto(CCaptionFechar));

@@ -2,6 +2,7 @@
 
 #include "apps/cadastro/Cadastro.hpp"
 
+#include <QLabel>
 #include <QWidget>
 
 #include <array>
@@ -15,6 +16,7 @@ public:
     TJanelaCadastro();
 
     QWidget* GetCampo(TCampo ACampo) const { return FCampos[ACampo]; }
+    const QLabel* GetPorExtenso() const { return FPorExtenso; }
 
 protected:
     bool eventFilter(QObject* AObjeto, QEvent* AEvento) override;
@@ -26,6 +28,7 @@ private:
     void Tratar(const std::function<void()>& ATratador);
 
     std::array<QWidget*, CQuantidadeCampos> FCampos{};
+    QLabel* FPorExtenso = nullptr;
     QWidget* FFechar = nullptr;
     bool FValidando = false;
 };

@@ -1,6 +1,7 @@
 // The sample window with the system's own controls: a host of the library that knows nothing of its forms.
 #include "oryutils/forms/win32/ControleWin32.hpp"
 #include "oryutils/platform/windows/Windows.hpp"
+#include "oryutils/registry_numbers/UnOryUtilsFormatacoes.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/ui/UnOryUtilsDialogs.hpp"
 
@@ -16,6 +17,7 @@ constexpr UINT CSaiuDoCampo = WM_APP + 1;
 constexpr int CPrimeiroCampo = 100;
 constexpr int CSalvar = 1;  // IDOK: what Enter presses
 constexpr int CFechar = 2;  // IDCANCEL: what Esc presses
+constexpr int CPorExtenso = 50;
 
 class TJanelaCadastro {
 public:
@@ -56,7 +58,7 @@ private:
         constexpr int CLarguraBotao = 85, CAlturaBotao = 26, CAlturaLista = 200;
         constexpr DWORD CEstilo = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
         RECT r{0, 0, CLarguraRotulo + 40 * CLarguraLetra + 3 * CMargem,
-               CQuantidadeCampos * CAlturaLinha + CAlturaBotao + 3 * CMargem};
+               (CQuantidadeCampos + 1) * CAlturaLinha + CAlturaBotao + 3 * CMargem};
         const int larguraCliente = static_cast<int>(r.right);
         ::AdjustWindowRectEx(&r, CEstilo, FALSE, WS_EX_CONTROLPARENT);
         ::CreateWindowExW(WS_EX_CONTROLPARENT, L"TJanelaCadastro", Texto(CTituloCadastro).c_str(), CEstilo,
@@ -72,6 +74,11 @@ private:
                 campo.Lista ? L"COMBOBOX" : L"EDIT", u"", estilo | WS_TABSTOP,
                 {x, y, x + campo.Largura * CLarguraLetra + CMargem, y + (campo.Lista ? CAlturaLista : CAlturaCaixa)},
                 CPrimeiroCampo + static_cast<int>(i)));
+            if (i == caValor) {
+                y += CAlturaLinha;
+                Criar(L"STATIC", u"", SS_NOPREFIX, {x, y - 4, larguraCliente - CMargem, y + CAlturaLinha - 8},
+                      CPorExtenso);
+            }
             if (!campo.Lista) continue;
             for (const auto& uf : CUFs)
                 ::SendMessageW(FCampos.back(), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Texto(uf).c_str()));
@@ -99,7 +106,7 @@ private:
 
     TValores LerValores() const {
         TValores valores;
-        for (std::size_t i = 0; i < valores.size(); ++i) {
+        for (std::size_t i = 0; i < FCampos.size(); ++i) {
             std::wstring texto(static_cast<std::size_t>(::GetWindowTextLengthW(FCampos[i])), L'\0');
             ::GetWindowTextW(FCampos[i], texto.data(), static_cast<int>(texto.size()) + 1);
             valores[i] = Plataforma::DeWide(texto);
@@ -149,6 +156,8 @@ private:
         // gives back, is not an exit.
         if (campo && !FValidando && ANotificacao == (lista ? CBN_KILLFOCUS : EN_KILLFOCUS))
             ::PostMessageW(FJanela, CSaiuDoCampo, static_cast<WPARAM>(AId - CPrimeiroCampo), 0);
+        if (AId == CPrimeiroCampo + caValor && ANotificacao == EN_CHANGE && FCampos.size() > caValor)
+            ::SetDlgItemTextW(FJanela, CPorExtenso, Texto(EscreverPorExtenso(LerValores()[caValor])).c_str());
         if (AId == CSalvar) AoSalvar();
         if (AId == CFechar) ::DestroyWindow(FJanela);
     }
@@ -186,5 +195,6 @@ private:
 }  // namespace OryUtils::Cadastro
 
 int WINAPI WinMain(HINSTANCE AModulo, HINSTANCE, LPSTR, int) {
+    OryUtils::GOryUtilsFormatacoes->GetFormatoPadraoDatasEValores().Configurar();
     return OryUtils::Cadastro::TJanelaCadastro(AModulo).Executar();
 }
