@@ -111,7 +111,9 @@ bool TEdicaoMascaradaQt::TratarTecla(const QKeyEvent& ATecla) {
 }
 
 bool TEdicaoMascaradaQt::eventFilter(QObject* AObjeto, QEvent* AEvento) {
-    if (AObjeto != FWidget || FWidget->isReadOnly()) return QObject::eventFilter(AObjeto, AEvento);
+    // A widget on its way out still sends events, but is no line edit any more.
+    if (!qobject_cast<QLineEdit*>(AObjeto) || AObjeto != FWidget || FWidget->isReadOnly())
+        return QObject::eventFilter(AObjeto, AEvento);
     switch (AEvento->type()) {
         case QEvent::KeyPress:
             return TratarTecla(*static_cast<QKeyEvent*>(AEvento));
