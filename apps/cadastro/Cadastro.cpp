@@ -1,6 +1,7 @@
 #include "apps/cadastro/Cadastro.hpp"
 
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
+#include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
@@ -16,9 +17,6 @@ namespace {
 constexpr std::size_t CDigitosCpf = 11;
 constexpr std::int16_t CPrecisaoValor = 15;
 constexpr std::int16_t CDecimaisValor = 2;
-
-bool EhDigito(char16_t c) { return c >= u'0' && c <= u'9'; }
-bool EhLetra(char16_t c) { return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z'); }
 
 bool EstahEmBranco(std::u16string_view ATexto) { return ATexto.find_first_not_of(u' ') == ATexto.npos; }
 

@@ -30,10 +30,6 @@ bool TemIsent(std::u16string_view ATexto) noexcept {
            ATexto.end();
 }
 
-bool SoTemZeros(std::u16string_view AIE) noexcept {
-    return std::ranges::all_of(AIE, [](char16_t c) { return c == u'0'; });
-}
-
 constexpr TFormatosIE CSemFormatos;
 
 /// The formats of a unit, and the operation where an IE that fits none may still be valid.

@@ -80,10 +80,6 @@ int CalcularDigito(const TFormatosIE::TDigito& ADigito, int ASoma, std::u16strin
     }
 }
 
-[[gnu::noinline]] bool SoTemZeros(std::u16string_view AIE) noexcept {
-    return std::ranges::all_of(AIE, [](char16_t c) { return c == u'0'; });
-}
-
 /// ADigito1 and ADigito2 are what the digits must be.
 inline TConferencia Comparar(const TFormatosIE::TFormato& AFormato, std::u16string_view AIE, int ADigito1, int ADigito2,
                              int ASoma1) noexcept {
@@ -136,6 +132,10 @@ TConferencia ConferirFormato(const TFormatosIE::TFormato& AFormato, std::u16stri
 }
 
 }  // namespace
+
+bool SoTemZeros(std::u16string_view AIE) noexcept {
+    return std::ranges::all_of(AIE, [](char16_t c) { return c == u'0'; });
+}
 
 TConferencia Conferir(const TFormatosIE& AFormatos, std::u16string_view AIE) noexcept {
     const std::size_t lugar = AIE.size() <= CMaiorTamanho ? AFormatos.PorTamanho[AIE.size()] : 0;

@@ -167,4 +167,7 @@ struct TConferencia {
 /// digit, so its leading zeros must be there.
 TConferencia Conferir(const TFormatosIE& AFormatos, std::u16string_view AIE) noexcept;
 
+/// True when every character is a zero.
+bool SoTemZeros(std::u16string_view AIE) noexcept;
+
 }  // namespace OryUtils::RegrasIE
