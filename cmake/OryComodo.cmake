@@ -15,7 +15,8 @@ endif()
 # The system's own libraries, for the rooms that call them.
 if(WIN32)
   target_compile_definitions(ory_opcoes INTERFACE _WIN32_WINNT=0x0A00 UNICODE _UNICODE)
-  set(ORY_SISTEMA user32 advapi32 bcrypt gdi32 comctl32 comdlg32 ole32 shell32 uuid)
+  set(ORY_SISTEMA user32 advapi32 bcrypt gdi32 comctl32 comdlg32 ole32 shell32 uuid version
+                  ws2_32 iphlpapi psapi)
 else()
   set(ORY_SISTEMA ${CMAKE_DL_LIBS})
 endif()
