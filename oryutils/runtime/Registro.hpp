@@ -1,0 +1,96 @@
+#pragma once
+
+#include "oryutils/OryExport.hpp"
+#include "oryutils/platform/Registro.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace OryUtils {
+
+using Plataforma::TChaveRaiz;
+using enum Plataforma::TChaveRaiz;
+using Plataforma::arLeitura;
+using Plataforma::arTotal;
+
+/// A value or a key of the registry that could not be read or written.
+class ORY_API ERegistryException : public Exception {
+public:
+    using Exception::Exception;
+    const char* GetNomeDaClasse() const noexcept override { return "ERegistryException"; }
+};
+
+/// Reads and writes the registry through one current key. On Linux the same calls work on a settings store in files
+/// (docs/ajustes.md). A path that starts with "\" counts from the root key, another one from the current key, or from
+/// the root key while none is open. Not for use by two threads at once.
+///
+/// What fails answers false or raises ERegistryException, as each operation says; GetUltimoErro tells the system's
+/// reason. While no key is open every value is missing and nothing can be written.
+/// Example:  TRegistry registro(arLeitura);
+///           if (registro.OpenKey(u"Software\\Empresa", false)) pasta = registro.ReadString(u"Pasta");
+class ORY_API TRegistry {
+public:
+    /// AAcesso: mask of the access rights with which keys are opened. The root key is crCurrentUser.
+    explicit TRegistry(std::uint32_t AAcesso = arTotal) : FAcesso(AAcesso) {}
+
+    TChaveRaiz GetRootKey() const noexcept { return FRaiz; }
+    /// Another root closes the current key.
+    void SetRootKey(TChaveRaiz ARaiz);
+    std::uint32_t GetAccess() const noexcept { return FAcesso; }
+    /// Path of the current key below the root, as it was opened; empty while none is open.
+    const std::u16string& GetCurrentPath() const noexcept { return FCaminho; }
+    bool EstahAberta() const noexcept { return FChave.EstahAberta(); }
+
+    /// Makes the key the current one. False when it does not open; the current key then stays.
+    /// ACriar: creates it, with the keys above it, when it is missing
+    bool OpenKey(std::u16string_view AChave, bool ACriar);
+    void CloseKey() noexcept;
+
+    /// Creates the key, with the keys above it; one that is there is no error. The current key stays.
+    /// Raises "Falha ao criar a chave %s".
+    void CreateKey(std::u16string_view AChave);
+    bool KeyExists(std::u16string_view AChave) const;
+    /// Deletes the key and all below it. False when it is missing or may not be deleted.
+    bool DeleteKey(std::u16string_view AChave);
+    bool ValueExists(std::u16string_view AValor) const;
+    /// False when the value is missing or may not be deleted.
+    bool DeleteValue(std::u16string_view AValor);
+    /// Names of the keys right below the current one, and of its values; empty while none is open.
+    std::vector<std::u16string> GetKeyNames() const;
+    std::vector<std::u16string> GetValueNames() const;
+
+    /// The text of a value, up to its first character of code 0; variables in an expandable one stay as they are.
+    /// Empty when the value is missing. Raises "Tipo de dado inválido para '%s'" for a value that is no text.
+    std::u16string ReadString(std::u16string_view AValor) const;
+    /// The readers of numbers raise "Falha ao obter dados de '%s'" when the value is missing and "Tipo de dado inválido
+    /// para '%s'" when it is of another kind.
+    std::int32_t ReadInteger(std::u16string_view AValor) const;
+    double ReadFloat(std::u16string_view AValor) const;
+
+    /// The writers raise "Falha ao definir dados para '%s'".
+    void WriteString(std::u16string_view AValor, std::u16string_view ATexto);
+    /// As a 32-bit integer.
+    void WriteInteger(std::u16string_view AValor, std::int32_t AInteiro);
+    /// As the eight bytes of the number, a binary value.
+    void WriteFloat(std::u16string_view AValor, double ANumero);
+
+    /// Of the last operation that failed, until the next that fails; erNenhum before.
+    Plataforma::TErroRegistro GetUltimoErro() const noexcept { return FUltimoErro; }
+
+private:
+    bool Deu(Plataforma::TErroRegistro AErro) const noexcept;
+    std::u16string BuscarCaminhoCompleto(std::u16string_view AChave) const;
+    bool LerDado(std::u16string_view AValor, Plataforma::TDadoRegistro& ADado) const;
+    void Gravar(std::u16string_view AValor, const Plataforma::TDadoRegistro& ADado);
+
+    TChaveRaiz FRaiz = crCurrentUser;
+    std::uint32_t FAcesso;
+    Plataforma::TChaveRegistro FChave{};
+    std::u16string FCaminho{};
+    mutable Plataforma::TErroRegistro FUltimoErro = Plataforma::erNenhum;
+};
+
+}  // namespace OryUtils
