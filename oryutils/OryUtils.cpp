@@ -3,6 +3,7 @@
 #include "oryutils/dates/OryUtilsDatas.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 #include "oryutils/registry_numbers/UnOryUtilsFormatacoes.hpp"
+#include "oryutils/system/OryUtilsSystem.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
 #include "oryutils/text/UnOryUtilsMatematica.hpp"
 #include "oryutils/ui/OryUtilsControls.hpp"
@@ -26,10 +27,9 @@ constexpr TUnidade UnidadeDe() {
 
 // In starting order; they stop in the opposite one.
 constexpr std::array CUnidades{
-    UnidadeDe<GOryUtilsStrings>(),     UnidadeDe<GOryUtilsMatematica>(),
-    UnidadeDe<GOryUtilsDatas>(),       UnidadeDe<GOryUtilsValidacoes>(),
-    UnidadeDe<GOryUtilsFormatacoes>(), UnidadeDe<GOryUtilsControls>(),
-    UnidadeDe<GOryUtilsDialogs>(),     TUnidade{IniciarInterface, FinalizarInterface},
+    UnidadeDe<GOryUtilsStrings>(),  UnidadeDe<GOryUtilsMatematica>(), UnidadeDe<GOryUtilsDatas>(),
+    UnidadeDe<GOryUtilsSistema>(),  UnidadeDe<GOryUtilsValidacoes>(), UnidadeDe<GOryUtilsFormatacoes>(),
+    UnidadeDe<GOryUtilsControls>(), UnidadeDe<GOryUtilsDialogs>(),    TUnidade{IniciarInterface, FinalizarInterface},
 };
 
 // Not constinit: the mutex of mingw-w64 has no constant initializer.

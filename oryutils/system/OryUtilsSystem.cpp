@@ -1,0 +1,7 @@
+#include "oryutils/system/OryUtilsSystem.hpp"
+
+namespace OryUtils {
+
+TInstanciaGlobal<TOryUtilsSistema> GOryUtilsSistema;
+
+}  // namespace OryUtils
