@@ -1,0 +1,64 @@
+#include "oryutils/platform/DadosDoArquivo.hpp"
+
+#include "oryutils/platform/windows/InstanteUtc.hpp"
+
+#include <shellapi.h>
+
+namespace OryUtils::Plataforma {
+namespace {
+
+DWORD BuscarAtributos(std::u16string_view AArquivo) {
+    if (AArquivo.find(u'\0') != AArquivo.npos) return INVALID_FILE_ATTRIBUTES;
+    return ::GetFileAttributesW(ParaWide(std::u16string(AArquivo)));
+}
+
+}  // namespace
+
+std::optional<TDadosDoArquivo> ProcurarArquivo(std::u16string_view AArquivo) {
+    if (AArquivo.find(u'\0') != AArquivo.npos) return {};
+    WIN32_FIND_DATAW dados{};
+    const HANDLE busca = ::FindFirstFileW(ParaWide(std::u16string(AArquivo)), &dados);
+    if (busca == INVALID_HANDLE_VALUE) return {};
+    ::FindClose(busca);
+    const bool pasta = (dados.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    return TDadosDoArquivo{
+        .Nome = DeWide(dados.cFileName),
+        .Tamanho = pasta ? 0 : std::uint64_t{dados.nFileSizeHigh} << 32 | dados.nFileSizeLow,
+        .UltimaGravacao = DeFileTime(dados.ftLastWriteTime),
+        .EhPasta = pasta,
+    };
+}
+
+bool ExisteArquivo(std::u16string_view AArquivo) {
+    const DWORD atributos = BuscarAtributos(AArquivo);
+    return atributos != INVALID_FILE_ATTRIBUTES && (atributos & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+bool AlterarUltimaGravacao(std::u16string_view AArquivo, TInstanteUtc AInstante) {
+    if (AInstante < -CMilissegundosDe1601A1970 || AArquivo.find(u'\0') != AArquivo.npos) return false;
+    const HANDLE arquivo = ::CreateFileW(ParaWide(std::u16string(AArquivo)), FILE_WRITE_ATTRIBUTES,
+                                         FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                                         FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (arquivo == INVALID_HANDLE_VALUE) return false;
+    const FILETIME tempo = ParaFileTime(AInstante);
+    const bool foi = ::SetFileTime(arquivo, nullptr, nullptr, &tempo) != 0;
+    ::CloseHandle(arquivo);
+    return foi;
+}
+
+bool AbrirComProgramaPadrao(std::u16string_view AArquivo, std::u16string_view AParametros) {
+    if (BuscarAtributos(AArquivo) == INVALID_FILE_ATTRIBUTES) return false;
+    const std::u16string arquivo(AArquivo);
+    const std::u16string parametros(AParametros);
+    SHELLEXECUTEINFOW pedido{};
+    pedido.cbSize = sizeof pedido;
+    // A failure is answered, not shown.
+    pedido.fMask = SEE_MASK_FLAG_NO_UI | SEE_MASK_NOASYNC;
+    pedido.lpVerb = L"open";
+    pedido.lpFile = ParaWide(arquivo);
+    pedido.lpParameters = parametros.empty() ? nullptr : ParaWide(parametros);
+    pedido.nShow = SW_SHOWNORMAL;
+    return ::ShellExecuteExW(&pedido) != 0;
+}
+
+}  // namespace OryUtils::Plataforma
