@@ -1,5 +1,6 @@
 #include "oryutils/OryUtils.hpp"
 
+#include "oryutils/changes/UnOryUtilsClasses.hpp"
 #include "oryutils/dates/OryUtilsDatas.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 #include "oryutils/registry_numbers/UnOryUtilsFormatacoes.hpp"
@@ -27,9 +28,11 @@ constexpr TUnidade UnidadeDe() {
 
 // In starting order; they stop in the opposite one.
 constexpr std::array CUnidades{
-    UnidadeDe<GOryUtilsStrings>(),  UnidadeDe<GOryUtilsMatematica>(), UnidadeDe<GOryUtilsDatas>(),
-    UnidadeDe<GOryUtilsSistema>(),  UnidadeDe<GOryUtilsValidacoes>(), UnidadeDe<GOryUtilsFormatacoes>(),
-    UnidadeDe<GOryUtilsControls>(), UnidadeDe<GOryUtilsDialogs>(),    TUnidade{IniciarInterface, FinalizarInterface},
+    UnidadeDe<GOryUtilsStrings>(),    UnidadeDe<GOryUtilsMatematica>(),
+    UnidadeDe<GOryUtilsDatas>(),      UnidadeDe<GOryUtilsSistema>(),
+    UnidadeDe<GOryUtilsValidacoes>(), UnidadeDe<GOryUtilsFormatacoes>(),
+    UnidadeDe<GOryUtilsControls>(),   UnidadeDe<GOryUtilsClasses>(),
+    UnidadeDe<GOryUtilsDialogs>(),    TUnidade{IniciarInterface, FinalizarInterface},
 };
 
 // Not constinit: the mutex of mingw-w64 has no constant initializer.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "oryutils/forms/Controles.hpp"
+#include "oryutils/runtime/Componente.hpp"
 
 #include <concepts>
 #include <cstdint>
@@ -36,14 +37,15 @@ public:
 };
 
 /// A dialog as a model: controls with positions in pixels, computed by portable code. A toolkit realises it natively,
-/// runs it, and writes back what the user did. Belongs to the thread of the user interface.
+/// runs it, and writes back what the user did. A component: it may own others, which go with it. Belongs to the thread
+/// of the user interface.
 /// Example:
 ///   TFormulario formulario;
 ///   auto& botao = formulario.Adicionar<TBotao>();
 ///   botao.SetTexto(u"O&K");
 ///   botao.SetModalResult(mrOk);
 ///   if (formulario.ExecutarModal() == mrOk) ...
-class ORY_API TFormulario : public TObjeto {
+class ORY_API TFormulario : public TComponente {
 public:
     TFormulario();
     ~TFormulario() override;

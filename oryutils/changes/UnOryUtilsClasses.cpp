@@ -1,0 +1,11 @@
+#include "oryutils/changes/UnOryUtilsClasses.hpp"
+
+namespace OryUtils {
+
+TInstanciaGlobal<TOryUtilsClasses> GOryUtilsClasses;
+
+bool TOryUtilsClasses::ComparouMetodos(const TMetodo& A, const TMetodo& B) noexcept { return A == B; }
+
+bool ComparouMetodos(const TMetodo& A, const TMetodo& B) noexcept { return TOryUtilsClasses::ComparouMetodos(A, B); }
+
+}  // namespace OryUtils
