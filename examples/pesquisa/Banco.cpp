@@ -155,12 +155,18 @@ void Acrescentar(std::string& AParametros, char ACodigo, std::string_view AValor
     AParametros += AValor;
 }
 
-}  // namespace
-
-TBanco TBanco::Criar(const std::filesystem::path& AArquivo) {
+/// What both a new and an existing database are opened with.
+std::string ParametrosDeConexao() {
     std::string parametros(1, isc_dpb_version1);
     Acrescentar(parametros, isc_dpb_user_name, "SYSDBA");
     Acrescentar(parametros, isc_dpb_lc_ctype, "UTF8");
+    return parametros;
+}
+
+}  // namespace
+
+TBanco TBanco::Criar(const std::filesystem::path& AArquivo) {
+    std::string parametros = ParametrosDeConexao();
     Acrescentar(parametros, isc_dpb_set_db_charset, "UTF8");
     Acrescentar(parametros, isc_dpb_sql_dialect, std::string_view("\3\0\0\0", 4));
     Acrescentar(parametros, isc_dpb_overwrite, std::string_view("\1\0\0\0", 4));
@@ -169,6 +175,16 @@ TBanco TBanco::Criar(const std::filesystem::path& AArquivo) {
     isc_db_handle conexao = 0;
     isc_create_database(status, 0, AArquivo.c_str(), &conexao, static_cast<short>(parametros.size()),
                         parametros.c_str(), 0);
+    status.Conferir();
+    return TBanco(conexao);
+}
+
+TBanco TBanco::Abrir(const std::filesystem::path& AArquivo) {
+    const std::string parametros = ParametrosDeConexao();
+    TStatus status;
+    isc_db_handle conexao = 0;
+    isc_attach_database(status, 0, AArquivo.c_str(), &conexao, static_cast<short>(parametros.size()),
+                        parametros.c_str());
     status.Conferir();
     return TBanco(conexao);
 }

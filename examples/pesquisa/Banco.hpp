@@ -29,6 +29,8 @@ class TBanco {
 public:
     /// A new database in AArquivo; a file of that name is replaced.
     static TBanco Criar(const std::filesystem::path& AArquivo);
+    /// The database of AArquivo, which must exist.
+    static TBanco Abrir(const std::filesystem::path& AArquivo);
 
     TBanco(TBanco&& AOutro) noexcept : FConexao(std::exchange(AOutro.FConexao, 0)) {}
     TBanco& operator=(TBanco&&) = delete;
