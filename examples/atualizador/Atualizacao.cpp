@@ -19,9 +19,11 @@ void CriarClientes(TBanco& ABanco) {
 /// The first version stored numbers as they were typed.
 void FormatarNumeros(TBanco& ABanco) {
     std::vector<TLinha> linhas;
-    for (const TLinha& linha : ABanco.Consultar(u"SELECT CODIGO, CNPJ FROM CLIENTE WHERE CNPJ IS NOT NULL"))
-        if (TOryUtilsValidacoes::ValidouCnpjCpf(tiCNPJ, *linha[1]))
-            linhas.push_back({TOryUtilsStrings::FormatarInscricaoFederal(tiCNPJ, *linha[1]), linha[0]});
+    for (const TLinha& linha : ABanco.Consultar(u"SELECT CODIGO, CNPJ FROM CLIENTE WHERE CNPJ IS NOT NULL")) {
+        const std::u16string digitos = TOryUtilsStrings::ExtrairSomenteNumeros(linha[1].value());
+        if (TOryUtilsValidacoes::ValidouCnpjCpf(tiCNPJ, digitos))
+            linhas.push_back({TOryUtilsStrings::FormatarInscricaoFederal(tiCNPJ, digitos), linha[0]});
+    }
     ABanco.ExecutarParaCada(u"UPDATE CLIENTE SET CNPJ = ? WHERE CODIGO = ?", linhas);
 }
 

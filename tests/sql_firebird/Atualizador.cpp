@@ -44,7 +44,7 @@ TEST(Atualizador, PassoQueOBancoRecusaEsperaEOsSeguintesComEle) {
     for (int vez = 0; vez < 2; ++vez) {
         const TTextos ditas = Atualizar(banco, false);
         const std::size_t antes = vez == 0 ? 1 : 0;
-        ASSERT_EQ(ditas.size(), 4 + antes);
+        ASSERT_EQ(ditas.size(), 4 + antes) << testing::PrintToString(ditas);
         EXPECT_EQ(ditas[0], Executando(vez == 0 ? "01.01" : "01.02"));
         EXPECT_EQ(ditas[antes], Executando("01.02"));
         EXPECT_NE(ditas[antes + 1].find("CLIENTE_CNPJ"), std::string::npos) << "the database's own words";
