@@ -10,11 +10,18 @@ foreach(alvo gtest gtest_main)
 endforeach()
 
 # ory_teste(nome LIGA alvo... [FONTES arquivo...])
-#   Test program testes_<nome> from tests/<nome>/*.cpp (or FONTES), linked with the rooms it tests and nothing above.
+#   Test program testes_<nome> from tests/<nome>/*.cpp and the folder of this system in it, linux/ or windows/ (or
+#   FONTES), linked with the rooms it tests and nothing above.
 function(ory_teste nome)
   cmake_parse_arguments(T "" "" "LIGA;FONTES" ${ARGN})
   if(NOT T_FONTES)
-    file(GLOB T_FONTES CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${nome}/*.cpp)
+    if(WIN32)
+      set(sistema windows)
+    else()
+      set(sistema linux)
+    endif()
+    set(pasta ${PROJECT_SOURCE_DIR}/tests/${nome})
+    file(GLOB T_FONTES CONFIGURE_DEPENDS ${pasta}/*.cpp ${pasta}/${sistema}/*.cpp)
   endif()
   if(NOT T_FONTES)
     return()
