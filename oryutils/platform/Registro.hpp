@@ -89,7 +89,8 @@ public:
     TErroRegistro Gravar(std::u16string_view AValor, const TDadoRegistro& ADado);
     /// erNaoExiste when there is no such value.
     TErroRegistro ExcluirValor(std::u16string_view AValor);
-    /// Deletes the key below this one with everything in it; erNaoExiste when there is none, erNomeInvalido for "".
+    /// Deletes the key right below this one with everything in it; erNaoExiste when there is none, erNomeInvalido for a
+    /// path and for "".
     TErroRegistro ExcluirSubchave(std::u16string_view ASubchave);
 
     /// Names of the keys right below, of the values (the default value as ""); in no certain order.

@@ -1,4 +1,4 @@
-#include "oryutils/runtime/Caixa.hpp"
+#include "oryutils/platform/Caixa.hpp"
 
 #include <algorithm>
 #include <array>

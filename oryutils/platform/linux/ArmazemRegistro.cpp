@@ -1,0 +1,253 @@
+#include "oryutils/platform/linux/ArmazemRegistro.hpp"
+
+#include "oryutils/platform/interno/Unidades.hpp"
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <pwd.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+#include <vector>
+
+namespace OryUtils::Plataforma::Interno {
+namespace {
+
+constexpr const char* CVariavelDaPasta = "ORYUTILS_REGISTRO";
+constexpr const char* CPastaDoSistema = "/etc/oryutils";
+constexpr std::string_view CPastaDoUsuario = "/oryutils";
+constexpr mode_t CModoDaTrava = 0600;  // who can open it could keep every writer waiting
+constexpr std::size_t CMaiorArquivo = 64u << 20;
+
+// The keys that every Windows has and that settings are written below.
+constexpr std::array CChavesDaMaquina{
+    u"HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Run",
+    u"HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows NT\\CurrentVersion\\Windows",
+    u"HKEY_LOCAL_MACHINE\\Software\\Classes",
+    u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Environment",
+    u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Hardware Profiles\\Current",
+};
+constexpr std::array CChavesDoUsuario{
+    u"HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Run",
+    u"HKEY_CURRENT_USER\\Environment",
+};
+constexpr std::u16string_view CChaveDosProgramas = u"HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion";
+constexpr std::u16string_view CPastaDeProgramas{u"/opt\0", 5};
+
+class TDescritor {
+public:
+    explicit TDescritor(int AAlca) : FAlca(AAlca) {}
+    ~TDescritor() {
+        if (FAlca >= 0) ::close(FAlca);
+    }
+    TDescritor(const TDescritor&) = delete;
+    TDescritor& operator=(const TDescritor&) = delete;
+    int Get() const { return FAlca; }
+    bool Falhou() const { return FAlca < 0; }
+
+private:
+    int FAlca;
+};
+
+TErroRegistro DeErrno(int AErro, TErroRegistro ADemais) {
+    switch (AErro) {
+        case EACCES:
+        case EPERM:
+        case EROFS:
+            return erAcessoNegado;
+        case ENOSPC:
+        case EDQUOT:
+            return erDiscoCheio;
+        case EFBIG:
+            return erArquivoGrande;
+        default:
+            return ADemais;
+    }
+}
+
+// Not in a program that runs with more rights than its user: the variables are the user's.
+std::string BuscarVariavel(const char* ANome) {
+    const char* valor = ::secure_getenv(ANome);
+    return valor ? valor : "";
+}
+
+std::string BuscarPastaPessoal() {
+    if (std::string pasta = BuscarVariavel("HOME"); !pasta.empty()) return pasta;
+    std::array<char, 16384> memoria{};
+    passwd conta{};
+    passwd* achada = nullptr;
+    ::getpwuid_r(::geteuid(), &conta, memoria.data(), memoria.size(), &achada);
+    return achada && achada->pw_dir ? achada->pw_dir : "";
+}
+
+std::string BuscarPastaDoUsuario() {
+    // A relative folder counts as none.
+    if (const std::string pasta = BuscarVariavel("XDG_CONFIG_HOME"); pasta.starts_with('/'))
+        return pasta + std::string(CPastaDoUsuario);
+    const std::string pessoal = BuscarPastaPessoal();
+    return pessoal.empty() ? pessoal : pessoal + "/.config" + std::string(CPastaDoUsuario);
+}
+
+std::string BuscarPastaAcima(const std::string& APasta) {
+    const std::size_t barra = APasta.find_last_not_of('/') == APasta.npos ? 0 : APasta.rfind('/');
+    if (barra == APasta.npos) return ".";
+    return barra == 0 ? "/" : APasta.substr(0, barra);
+}
+
+// What root makes in a user's folder (sudo with the user's HOME) belongs to that user, or would lock the user out.
+bool HerdarDono(const TDescritor& ANovo, const std::string& APasta) {
+    struct stat dados {};
+    if (::geteuid() != 0 || ::stat(APasta.c_str(), &dados) != 0 || dados.st_uid == 0) return true;
+    return ::fchown(ANovo.Get(), dados.st_uid, dados.st_gid) == 0;
+}
+
+// A file that was not there, whatever the process's mask of modes.
+int CriarArquivoNovo(const std::string& ANome, mode_t AModo) {
+    return ::open(ANome.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, AModo);
+}
+
+bool CriarPasta(const std::string& APasta, mode_t AModo) {
+    int feita = ::mkdir(APasta.c_str(), AModo);
+    const std::string acima = BuscarPastaAcima(APasta);
+    if (feita != 0 && errno == ENOENT && CriarPasta(acima, AModo)) feita = ::mkdir(APasta.c_str(), AModo);
+    if (feita != 0) return errno == EEXIST;
+    const TDescritor pasta(::open(APasta.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    return !pasta.Falhou() && ::fchmod(pasta.Get(), AModo) == 0 && HerdarDono(pasta, acima);
+}
+
+TArquivoReg CriarArmazemNovo(std::string_view ARaiz) {
+    TArquivoReg arquivo;
+    if (ARaiz == "HKEY_CURRENT_USER") {
+        for (const char16_t* chave : CChavesDoUsuario) arquivo.CriarChave(chave);
+        return arquivo;
+    }
+    for (const char16_t* chave : CChavesDaMaquina) arquivo.CriarChave(chave);
+    arquivo.Gravar(CChaveDosProgramas, u"ProgramFilesDir", {tdrTexto, BytesDeUnidades(CPastaDeProgramas)});
+    return arquivo;
+}
+
+// The whole file, at most CMaiorArquivo.
+TErroRegistro LerBytes(int AAlca, std::string& ABytes) {
+    struct stat dados {};
+    if (::fstat(AAlca, &dados) != 0) return erFalhaDeLeitura;
+    if (!S_ISREG(dados.st_mode)) return erCorrompido;
+    if (dados.st_size > static_cast<off_t>(CMaiorArquivo)) return erArquivoGrande;
+    ABytes.resize(static_cast<std::size_t>(dados.st_size));
+    std::size_t lidos = 0;
+    while (lidos < ABytes.size()) {
+        const ssize_t parte = ::read(AAlca, ABytes.data() + lidos, ABytes.size() - lidos);
+        if (parte < 0 && errno == EINTR) continue;
+        if (parte < 0) return erFalhaDeLeitura;
+        if (parte == 0) break;
+        lidos += static_cast<std::size_t>(parte);
+    }
+    ABytes.resize(lidos);
+    return erNenhum;
+}
+
+bool EscreverTudo(int AAlca, std::string_view ABytes) {
+    while (!ABytes.empty()) {
+        const ssize_t escritos = ::write(AAlca, ABytes.data(), ABytes.size());
+        if (escritos < 0 && errno == EINTR) continue;
+        if (escritos < 0) return false;
+        ABytes.remove_prefix(static_cast<std::size_t>(escritos));
+    }
+    return true;
+}
+
+// The new text goes to a file beside the old one and takes its name when it is whole and on the disk. Only the holder
+// of the lock comes here: what stands there already is what a killed writer left behind.
+TErroRegistro Substituir(const TLocalDoArmazem& ALocal, std::string_view ABytes) {
+    const std::string arquivo = ALocal.BuscarArquivo();
+    const std::string novo = arquivo + ".novo";
+    const auto falhou = [&] {
+        const TErroRegistro erro = DeErrno(errno, erFalhaDeGravacao);
+        ::unlink(novo.c_str());
+        return erro;
+    };
+    ::unlink(novo.c_str());
+    {
+        const TDescritor saida(CriarArquivoNovo(novo, ALocal.ModoDoArquivo));
+        if (saida.Falhou() || ::fchmod(saida.Get(), ALocal.ModoDoArquivo) != 0 || !HerdarDono(saida, ALocal.Pasta) ||
+            !EscreverTudo(saida.Get(), ABytes) || ::fsync(saida.Get()) != 0)
+            return falhou();
+    }
+    if (std::rename(novo.c_str(), arquivo.c_str()) != 0) return falhou();
+    const TDescritor pasta(::open(ALocal.Pasta.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!pasta.Falhou()) ::fsync(pasta.Get());
+    return erNenhum;
+}
+
+int AbrirTrava(const TLocalDoArmazem& ALocal) {
+    const std::string nome = ALocal.BuscarArquivo() + ".trava";
+    const int alca = ::open(nome.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC);
+    if (alca >= 0 || errno != ENOENT) return alca;
+    if (const TDescritor nova(CriarArquivoNovo(nome, CModoDaTrava)); !nova.Falhou()) HerdarDono(nova, ALocal.Pasta);
+    return ::open(nome.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC);
+}
+
+bool Travar(const TDescritor& ATrava) {
+    while (::flock(ATrava.Get(), LOCK_EX) != 0)
+        if (errno != EINTR) return false;
+    return true;
+}
+
+}  // namespace
+
+TLocalDoArmazem BuscarLocalDoArmazem(TChaveRaiz ARaiz) {
+    const bool doUsuario = ARaiz == crCurrentUser;
+    TLocalDoArmazem local;
+    local.Raiz = doUsuario ? "HKEY_CURRENT_USER" : "HKEY_LOCAL_MACHINE";
+    local.ModoDaPasta = doUsuario ? 0700 : 0755;
+    local.ModoDoArquivo = doUsuario ? 0600 : 0644;
+    local.Pasta = BuscarVariavel(CVariavelDaPasta);
+    if (local.Pasta.empty()) local.Pasta = doUsuario ? BuscarPastaDoUsuario() : CPastaDoSistema;
+    return local;
+}
+
+bool PodeGravarNoArmazem(const TLocalDoArmazem& ALocal) {
+    std::string pasta = ALocal.Pasta;
+    while (::faccessat(AT_FDCWD, pasta.c_str(), W_OK | X_OK, AT_EACCESS) != 0) {
+        if (errno != ENOENT || pasta == "/" || pasta == ".") return false;
+        pasta = BuscarPastaAcima(pasta);
+    }
+    return true;
+}
+
+TErroRegistro LerArmazem(const TLocalDoArmazem& ALocal, TArquivoReg& AArquivo) {
+    if (ALocal.Pasta.empty()) return erAcessoNegado;
+    const TDescritor entrada(::open(ALocal.BuscarArquivo().c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    std::string bytes;
+    if (!entrada.Falhou()) {
+        if (const TErroRegistro erro = LerBytes(entrada.Get(), bytes); erro != erNenhum) return erro;
+    } else if (errno != ENOENT) {
+        return DeErrno(errno, erFalhaDeLeitura);
+    }
+    if (bytes.empty()) {
+        AArquivo = CriarArmazemNovo(ALocal.Raiz);
+        return erNenhum;
+    }
+    auto lido = TArquivoReg::DeBytes(bytes);
+    if (!lido) return erCorrompido;
+    AArquivo = *std::move(lido);
+    return erNenhum;
+}
+
+TErroRegistro AlterarArmazem(const TLocalDoArmazem& ALocal, TEdicaoDoArmazem AEdicao, const void* AContexto) {
+    if (ALocal.Pasta.empty()) return erAcessoNegado;
+    if (!CriarPasta(ALocal.Pasta, ALocal.ModoDaPasta)) return DeErrno(errno, erFalhaDeGravacao);
+    // A file of its own, since the store's is another one after each edit.
+    const TDescritor trava(AbrirTrava(ALocal));
+    if (trava.Falhou() || !Travar(trava)) return DeErrno(errno, erFalhaDeGravacao);
+    TArquivoReg arquivo;
+    if (const TErroRegistro erro = LerArmazem(ALocal, arquivo); erro != erNenhum) return erro;
+    if (const TErroRegistro erro = AEdicao(arquivo, AContexto); erro != erNenhum) return erro;
+    if (arquivo.BuscarTamanho() > CMaiorArquivo) return erArquivoGrande;
+    return Substituir(ALocal, arquivo.ParaBytes());
+}
+
+}  // namespace OryUtils::Plataforma::Interno
