@@ -5,10 +5,8 @@
 
 namespace OryUtils {
 
-std::size_t TListaDeObjetos::ConferirIndice(int AIndice) const {
-    if (AIndice < 0 || AIndice >= GetCount())
-        throw EListError(u"Índice fora dos limites da lista (" + InteiroParaTexto(AIndice) + u")");
-    return static_cast<std::size_t>(AIndice);
+void TListaDeObjetos::RecusarIndice(int AIndice) {
+    throw EListError(u"Índice fora dos limites da lista (" + InteiroParaTexto(AIndice) + u")");
 }
 
 }  // namespace OryUtils

@@ -3,6 +3,7 @@
 #include "oryutils/OryExport.hpp"
 #include "oryutils/runtime/Objeto.hpp"
 
+#include <cstddef>
 #include <memory>
 #include <vector>
 
@@ -20,9 +21,16 @@ public:
 
 protected:
     /// Raises EListError when AIndice is not 0 up to the count less one.
-    std::size_t ConferirIndice(int AIndice) const;
+    std::size_t ConferirIndice(int AIndice) const {
+        const auto indice = static_cast<std::size_t>(AIndice);
+        if (indice >= FItens.size()) RecusarIndice(AIndice);
+        return indice;
+    }
 
     std::vector<std::unique_ptr<TObjeto>> FItens{};
+
+private:
+    [[noreturn]] static void RecusarIndice(int AIndice);
 };
 
 }  // namespace OryUtils

@@ -308,9 +308,20 @@ std::u16string ExtendedParaTexto(Extended AValor, const TFormatSettings& AFormat
     return std::u16string(EscreverExtended(AValor, texto, AFormatos.DecimalSeparator));
 }
 
+std::u16string_view EscreverInt64(std::int64_t AValor, std::span<char16_t, CTamanhoMaximoInt64> ADestino) noexcept {
+    char16_t* inicio = ADestino.data() + ADestino.size();
+    // The lowest number has no positive partner of its own type.
+    auto magnitude = static_cast<std::uint64_t>(AValor);
+    if (AValor < 0) magnitude = 0 - magnitude;
+    do *--inicio = static_cast<char16_t>(u'0' + magnitude % 10);
+    while (magnitude /= 10);
+    if (AValor < 0) *--inicio = u'-';
+    return {inicio, ADestino.data() + ADestino.size()};
+}
+
 std::u16string InteiroParaTexto(std::int64_t AValor) {
-    std::array<char16_t, 24> texto{};
-    return {texto.data(), EscreverInteiro(texto.data(), AValor)};
+    std::array<char16_t, CTamanhoMaximoInt64> texto;
+    return std::u16string(EscreverInt64(AValor, texto));
 }
 
 std::u16string_view EscreverZeros(Extended AValor, int ADigitos, std::span<char16_t> ADestino) noexcept {

@@ -41,6 +41,12 @@ ORY_API Extended TextoParaExtended(std::u16string_view ATexto, const TFormatSett
 ORY_API std::u16string ExtendedParaTexto(Extended AValor, const TFormatSettings& AFormatos = FormatSettings());
 ORY_API std::u16string InteiroParaTexto(std::int64_t AValor);
 
+/// Room for the text of a 64-bit integer, with its sign.
+inline constexpr std::size_t CTamanhoMaximoInt64 = 20;
+/// As InteiroParaTexto, into the end of ADestino without allocating; the result is the written text.
+ORY_API std::u16string_view EscreverInt64(std::int64_t AValor,
+                                          std::span<char16_t, CTamanhoMaximoInt64> ADestino) noexcept;
+
 /// Room for the text of an Extended: sign, 15 digits, zeros behind the separator, exponent.
 inline constexpr std::size_t CTamanhoMaximoExtended = 32;
 /// As ExtendedParaTexto, into ADestino without allocating; the result is the written text.

@@ -5,8 +5,8 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 
 namespace OryUtils {
@@ -24,17 +24,9 @@ constexpr std::array<std::u16string_view, std::variant_size_v<Variant::TValor>> 
                                 std::u16string(APara) + u".");
 }
 
-void AnexarInteiro(std::u16string& ADestino, std::uint64_t AValor) {
-    std::array<char, 24> texto;
-    const auto fim = std::to_chars(texto.data(), texto.data() + texto.size(), AValor).ptr;
-    ADestino.append(texto.data(), fim);
-}
-
-/// The magnitude, which a negative number may have one more of than a positive one.
-std::uint64_t AnexarSinal(std::u16string& ADestino, std::int64_t AValor) {
-    if (AValor >= 0) return static_cast<std::uint64_t>(AValor);
-    ADestino += u'-';
-    return 0 - static_cast<std::uint64_t>(AValor);
+void AnexarInteiro(std::u16string& ADestino, std::int64_t AValor) {
+    std::array<char16_t, CTamanhoMaximoInt64> texto;
+    ADestino += EscreverInt64(AValor, texto);
 }
 
 struct TEscritor {
@@ -44,15 +36,16 @@ struct TEscritor {
     void operator()(TNaoAtribuido) const {}
     void operator()(TNulo) const {}
     void operator()(bool AValor) const { Destino += AValor ? u"True" : u"False"; }
-    void operator()(std::int64_t AValor) const { AnexarInteiro(Destino, AnexarSinal(Destino, AValor)); }
+    void operator()(std::int64_t AValor) const { AnexarInteiro(Destino, AValor); }
     void operator()(Extended AValor) const {
         std::array<char16_t, CTamanhoMaximoExtended> texto;
         Destino += EscreverExtended(AValor, texto, FormatSettings().DecimalSeparator);
     }
     void operator()(TMoeda AValor) const {
-        const std::uint64_t magnitude = AnexarSinal(Destino, AValor.DezMilesimos);
-        AnexarInteiro(Destino, magnitude / CDezMil);
-        std::uint64_t resto = magnitude % CDezMil;
+        // The whole part of -0,5 has no sign of its own.
+        if (AValor.DezMilesimos < 0) Destino += u'-';
+        AnexarInteiro(Destino, std::abs(AValor.DezMilesimos / CDezMil));
+        auto resto = std::abs(AValor.DezMilesimos % CDezMil);
         if (resto == 0) return;
         Destino += FormatSettings().DecimalSeparator;
         for (; resto > 0; resto = resto * 10 % CDezMil) Destino += static_cast<char16_t>(u'0' + resto * 10 / CDezMil);

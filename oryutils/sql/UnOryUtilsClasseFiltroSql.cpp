@@ -2,6 +2,7 @@
 
 #include "oryutils/runtime/Caixa.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/sql/interno/BlocoDeNos.hpp"
 #include "oryutils/sql/interno/CondicaoSql.hpp"
 
 #include <algorithm>
@@ -9,9 +10,17 @@
 namespace OryUtils {
 namespace {
 
-constexpr std::u16string_view BuscarPalavra(TOperadorFiltro AOperador) {
-    return AOperador == ofAnd ? u" AND " : u" OR ";
-}
+using Interno::TPedacoSql;
+using Interno::TTextoSql;
+
+constexpr TPedacoSql CE(u" AND ");
+constexpr TPedacoSql COu(u" OR ");
+constexpr TPedacoSql COnde(u" WHERE ");
+constexpr TPedacoSql CNada(u"");
+constexpr TPedacoSql CAbre(u"( ");
+constexpr TPedacoSql CFecha(u" )");
+
+constexpr const TPedacoSql& BuscarPalavra(TOperadorFiltro AOperador) { return AOperador == ofAnd ? CE : COu; }
 
 /// The tables that are wanted, found case ignored in time that hardly grows with their number.
 class TTabelas {
@@ -45,69 +54,73 @@ struct TGrupo {
 };
 
 /// Appends the text of the tree to ASaida; nothing when no condition is left.
-void AnexarArvore(std::u16string& ASaida, const TOryUtilsFiltroSql& ARaiz, const TTabelas& ATabelas) {
-    constexpr std::u16string_view CAbre = u"( ";
-    constexpr std::u16string_view CFecha = u" )";
+void AnexarArvore(TTextoSql& ASaida, const TOryUtilsFiltroSql& ARaiz, const TTabelas& ATabelas) {
     std::vector<TGrupo> abertos;
-    const auto escrever = [&](const TOryUtilsFiltroSql& ANo, std::u16string_view AJuncao) {
-        const std::size_t antes = ASaida.size();
+    const auto escrever = [&](const TOryUtilsFiltroSql& ANo, const TPedacoSql& AJuncao) {
         if (ANo.GetCount() > 0) {
-            (ASaida += AJuncao) += CAbre;
-            abertos.push_back({&ANo, antes, ASaida.size()});
+            const std::size_t antes = ASaida.GetTamanho();
+            ASaida.Anexar(AJuncao);
+            ASaida.Anexar(CAbre);
+            abertos.push_back({&ANo, antes, ASaida.GetTamanho()});
         } else if (Interno::EstahCompleta(ANo) && ATabelas.Quer(ANo.GetTabela())) {
-            ASaida += AJuncao;
-            Interno::AnexarCondicao(ASaida, ANo);
+            Interno::AnexarCondicao(ASaida, AJuncao, ANo);
         }
     };
-    escrever(ARaiz, u"");
+    escrever(ARaiz, CNada);
     while (!abertos.empty()) {
         TGrupo& grupo = abertos.back();
-        const bool vazio = ASaida.size() == grupo.Inicio;
+        const bool vazio = ASaida.GetTamanho() == grupo.Inicio;
         if (grupo.Proximo < grupo.No->GetCount()) {
             const TOryUtilsFiltroSql& filho = grupo.No->GetItem(grupo.Proximo++);
-            escrever(filho, vazio ? u"" : BuscarPalavra(grupo.No->GetOperador()));
+            escrever(filho, vazio ? CNada : BuscarPalavra(grupo.No->GetOperador()));
             continue;
         }
         if (vazio)
-            ASaida.resize(grupo.Antes);
+            ASaida.Recuar(grupo.Antes);
         else
-            ASaida += CFecha;
+            ASaida.Anexar(CFecha);
         abertos.pop_back();
     }
 }
 
 std::u16string MontarSQL(const TOryUtilsFiltroSql& ARaiz, const std::vector<std::u16string>& ATabelas,
-                         std::u16string_view APalavra) {
+                         const TPedacoSql& APalavra) {
     constexpr std::size_t CCondicaoComum = 40;
-    std::u16string saida;
-    saida.reserve(APalavra.size() +
-                  (ATabelas.empty() ? static_cast<std::size_t>(ARaiz.GetCount()) * CCondicaoComum : 0));
-    saida = APalavra;
+    TTextoSql saida(ATabelas.empty() ? static_cast<std::size_t>(ARaiz.GetCount() + 1) * CCondicaoComum : 0);
+    saida.Anexar(APalavra);
+    const std::size_t inicio = saida.GetTamanho();
     AnexarArvore(saida, ARaiz, TTabelas(ATabelas));
-    if (saida.size() == APalavra.size()) saida.clear();
-    return saida;
+    if (saida.GetTamanho() == inicio) saida.Recuar(0);
+    return std::move(saida).Terminar();
 }
 
 }  // namespace
 
 TOryUtilsFiltroSql::TOryUtilsFiltroSql(TOperadorFiltro AOperador) : FOperador(AOperador) {}
 
-TOryUtilsFiltroSql::~TOryUtilsFiltroSql() { TOryUtilsFiltroSql::Clear(); }
+TOryUtilsFiltroSql::~TOryUtilsFiltroSql() {
+    TOryUtilsFiltroSql::Clear();
+    Interno::LargarBloco(FBloco);
+}
+
+void* TOryUtilsFiltroSql::operator new(std::size_t ATamanho) { return Interno::TomarLugarAvulso(ATamanho); }
+
+void TOryUtilsFiltroSql::operator delete(void* ALugar) noexcept { Interno::DevolverLugar(ALugar); }
+
+void* TOryUtilsFiltroSql::operator new(std::size_t ATamanho, TOryUtilsFiltroSql& AGrupo) {
+    return Interno::TomarLugar(AGrupo.FBloco, ATamanho, AGrupo.FItens.size());
+}
+
+void TOryUtilsFiltroSql::operator delete(void* ALugar, TOryUtilsFiltroSql&) noexcept { Interno::DevolverLugar(ALugar); }
 
 TOryUtilsFiltroSql& TOryUtilsFiltroSql::Add(TOperadorFiltro AOperador) {
-    auto novo = std::make_unique<TOryUtilsFiltroSql>(AOperador);
-    TOryUtilsFiltroSql& filho = *novo;
-    FItens.push_back(std::move(novo));
+    auto* filho = new (*this) TOryUtilsFiltroSql(AOperador);
+    FItens.push_back(std::unique_ptr<TObjeto>(filho));
     FTabela.clear();
     FCampo.clear();
     FCondicao = cfNenhum;
     FValor = Variant();
-    return filho;
-}
-
-TOryUtilsFiltroSql& TOryUtilsFiltroSql::GetItem(int AIndice) const {
-    // Only Add and SetItem fill the list.
-    return static_cast<TOryUtilsFiltroSql&>(*FItens[ConferirIndice(AIndice)]);
+    return *filho;
 }
 
 void TOryUtilsFiltroSql::SetItem(int AIndice, std::unique_ptr<TOryUtilsFiltroSql> AValor) {
@@ -174,33 +187,31 @@ void TOryUtilsFiltroSql::Assign(const TListaDeObjetos& ASource) {
     }
 }
 
-bool TOryUtilsFiltroSql::GetUsarUpperCase() const noexcept {
-    return FUsarUpperCase && FCondicao != cfIsNull && FCondicao != cfIsNotNull;
-}
-
 std::u16string TOryUtilsFiltroSql::BuscarCondicaoStr() const {
     return std::u16string(Interno::BuscarPalavra(FCondicao));
 }
 
-std::u16string TOryUtilsFiltroSql::BuscarOperadorStr() const { return std::u16string(BuscarPalavra(FOperador)); }
+std::u16string TOryUtilsFiltroSql::BuscarOperadorStr() const {
+    return std::u16string(BuscarPalavra(FOperador).GetTexto());
+}
 
 std::u16string TOryUtilsFiltroSql::BuscarSQL(const std::vector<std::u16string>& ATabelas) const {
-    return MontarSQL(*this, ATabelas, u"");
+    return MontarSQL(*this, ATabelas, CNada);
 }
 std::u16string TOryUtilsFiltroSql::BuscarSQL() const { return BuscarSQL({}); }
 
 std::u16string TOryUtilsFiltroSql::BuscarSQLAnd(const std::vector<std::u16string>& ATabelas) const {
-    return MontarSQL(*this, ATabelas, u" AND ");
+    return MontarSQL(*this, ATabelas, CE);
 }
 std::u16string TOryUtilsFiltroSql::BuscarSQLAnd() const { return BuscarSQLAnd({}); }
 
 std::u16string TOryUtilsFiltroSql::BuscarSQLOr(const std::vector<std::u16string>& ATabelas) const {
-    return MontarSQL(*this, ATabelas, u" OR ");
+    return MontarSQL(*this, ATabelas, COu);
 }
 std::u16string TOryUtilsFiltroSql::BuscarSQLOr() const { return BuscarSQLOr({}); }
 
 std::u16string TOryUtilsFiltroSql::BuscarSQLWhere(const std::vector<std::u16string>& ATabelas) const {
-    return MontarSQL(*this, ATabelas, u" WHERE ");
+    return MontarSQL(*this, ATabelas, COnde);
 }
 std::u16string TOryUtilsFiltroSql::BuscarSQLWhere() const { return BuscarSQLWhere({}); }
 

@@ -4,6 +4,7 @@
 #include "oryutils/runtime/ListaDeObjetos.hpp"
 #include "oryutils/runtime/Variante.hpp"
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -11,6 +12,10 @@
 #include <vector>
 
 namespace OryUtils {
+
+namespace Interno {
+struct TBlocoDeNos;
+}
 
 /// How a group joins its conditions.
 enum TOperadorFiltro : std::uint8_t { ofAnd, ofOr };
@@ -55,12 +60,19 @@ public:
     explicit TOryUtilsFiltroSql(TOperadorFiltro AOperador);
     ~TOryUtilsFiltroSql() override;
 
+    /// Nodes are created and freed as any other object. Those that Add creates stand together in memory.
+    static void* operator new(std::size_t ATamanho);
+    static void operator delete(void* ALugar) noexcept;
+
     /// Appends a new child and answers it, to be filled in or to get children of its own. From now on this node is a
     /// group: its Tabela and Campo become empty, its Condicao cfNenhum, its Valor unassigned. AOperador is how the
     /// child joins its own children.
     TOryUtilsFiltroSql& Add(TOperadorFiltro AOperador);
     /// The child of that number, from 0. Raises EListError when there is none.
-    TOryUtilsFiltroSql& GetItem(int AIndice) const;
+    TOryUtilsFiltroSql& GetItem(int AIndice) const {
+        // Only Add and SetItem fill the list.
+        return static_cast<TOryUtilsFiltroSql&>(*FItens[ConferirIndice(AIndice)]);
+    }
     /// Puts AValor in the place of that child, which is freed. Raises EListError when there is none, and when AValor
     /// is null.
     void SetItem(int AIndice, std::unique_ptr<TOryUtilsFiltroSql> AValor);
@@ -88,7 +100,9 @@ public:
     const std::u16string& GetTabela() const noexcept { return FTabela; }
     void SetTabela(std::u16string_view AValor) { FTabela = AValor; }
     /// Upper and lower case are the same; false for cfIsNull and cfIsNotNull, whatever was set.
-    bool GetUsarUpperCase() const noexcept;
+    bool GetUsarUpperCase() const noexcept {
+        return FUsarUpperCase && FCondicao != cfIsNull && FCondicao != cfIsNotNull;
+    }
     void SetUsarUpperCase(bool AValor) noexcept { FUsarUpperCase = AValor; }
     /// One value, or an array of values for cfIn, cfNotIn and cfBetween. Its text is VarianteParaTexto's: numbers and
     /// dates are written as the process-wide formats say, which a database may not read ("12,5"); give those as text.
@@ -123,15 +137,18 @@ public:
     std::u16string BuscarSQLWhere() const;
 
 private:
+    static void* operator new(std::size_t ATamanho, TOryUtilsFiltroSql& AGrupo);
+    static void operator delete(void* ALugar, TOryUtilsFiltroSql& AGrupo) noexcept;
     void CopiarCondicao(const TOryUtilsFiltroSql& ADe);
 
-    std::u16string FCampo{};
+    TOryUtilsFiltroSql* FOwner = nullptr;
     TCondicaoFiltro FCondicao = cfNenhum;
     TOperadorFiltro FOperador;
-    TOryUtilsFiltroSql* FOwner = nullptr;
     bool FQuoteStr = false;
-    std::u16string FTabela{};
     bool FUsarUpperCase = false;
+    Interno::TBlocoDeNos* FBloco = nullptr;  // where the next child goes
+    std::u16string FTabela{};
+    std::u16string FCampo{};
     Variant FValor{};
 };
 

@@ -254,6 +254,27 @@ TEST(FiltroSql, TrocaDeItens) {
     EXPECT_EQ(raiz.GetCount(), 0);
 }
 
+// Children made by Add share their memory with others that stay; the ones that come from outside do not.
+TEST(FiltroSql, TrocasEmUmGrupoGrande) {
+    struct TMaior : TFiltro {
+        using TFiltro::TFiltro;
+        std::u16string Anotacao = u"um texto do programa que não cabe no próprio objeto";
+    };
+    constexpr int CFilhos = 300;
+    TFiltro raiz(ofAnd);
+    for (int rodada = 0; rodada < 3; ++rodada) {
+        for (int i = 0; i < CFilhos; ++i) Preencher(raiz.Add(ofAnd).Add(ofAnd), {u"a", cfIgual, i});
+        for (int i = rodada; i < raiz.GetCount(); i += 2) {
+            auto novo = std::make_unique<TMaior>(ofOr);
+            Preencher(*novo, {u"b", cfIgual, i});
+            raiz.SetItem(i, std::move(novo));
+        }
+        raiz.GetItem(rodada + 1).Clear();
+        EXPECT_EQ(raiz.BuscarSQL(), MontarDevagar(raiz, {}));
+        if (rodada == 1) raiz.Clear();
+    }
+}
+
 // Any recursion over the depth would exhaust the stack here.
 TEST(FiltroSql, ArvoresFundasELargas) {
     constexpr int CProfundidade = 300'000;

@@ -2,9 +2,9 @@
 
 #include "oryutils/runtime/Caixa.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/runtime/NumeroTexto.hpp"
 
 #include <array>
-#include <initializer_list>
 
 namespace OryUtils::Interno {
 namespace {
@@ -12,7 +12,7 @@ namespace {
 enum TFormaDoValor { fvNenhum, fvEscalar, fvLista, fvInicio, fvFim, fvMeio, fvIntervalo };
 
 struct TPalavra {
-    std::u16string_view Texto;
+    TPedacoSql Texto;
     TFormaDoValor Forma;
 };
 
@@ -35,114 +35,124 @@ constexpr std::array<TPalavra, cfDiferente + 1> CPalavras{{
     {u"<>", fvEscalar},
 }};
 
-/// Appends all the parts with one growth of the text.
-void AnexarPartes(std::u16string& ASaida, std::initializer_list<std::u16string_view> APartes) {
-    std::size_t posicao = ASaida.size();
-    std::size_t tamanho = posicao;
-    for (const std::u16string_view parte : APartes) tamanho += parte.size();
-    ASaida.resize(tamanho);
-    for (const std::u16string_view parte : APartes)
-        for (const char16_t c : parte) ASaida[posicao++] = c;
-}
+constexpr TPedacoSql CAbre(u"( ");
+constexpr TPedacoSql CAbreMaiusculas(u"( UPPER(");
+constexpr TPedacoSql CMaiusculas(u"UPPER(");
+constexpr TPedacoSql CE(u" AND ");
+constexpr TPedacoSql CFecha(u" )");
 
 char16_t Maiuscula(char16_t ACaractere) {
     if (ACaractere >= 0x80) return MaiusculaDe(ACaractere);
     return static_cast<char16_t>(ACaractere - (ACaractere >= u'a' && ACaractere <= u'z' ? u'a' - u'A' : 0));
 }
 
-/// The inner part of a quoted text: the apostrophes from AInicio on are doubled, in place.
-void DobrarApostrofos(std::u16string& ASaida, std::size_t AInicio) {
-    std::size_t primeiro = ASaida.find(u'\'', AInicio);
-    if (primeiro == std::u16string::npos) return;
-    std::size_t quantos = 0;
-    for (std::size_t i = primeiro; i < ASaida.size(); ++i) quantos += ASaida[i] == u'\'';
-    std::size_t origem = ASaida.size();
-    ASaida.resize(ASaida.size() + quantos);
-    for (std::size_t destino = ASaida.size(); destino != origem;) {
-        ASaida[--destino] = ASaida[--origem];
-        if (ASaida[origem] == u'\'') ASaida[--destino] = u'\'';
-    }
+char16_t* EscreverNome(char16_t* ADestino, std::u16string_view ANome) {
+    for (const char16_t c : ANome) *ADestino++ = Maiuscula(c);
+    return ADestino;
 }
 
-void AnexarValor(std::u16string& ASaida, const Variant& AValor, bool AEntreAspas) {
-    if (!AEntreAspas) return AnexarVariante(ASaida, AValor);
-    ASaida += u'\'';
-    const std::size_t inicio = ASaida.size();
-    AnexarVariante(ASaida, AValor);
-    DobrarApostrofos(ASaida, inicio);
-    ASaida += u'\'';
+/// Each apostrophe inside a quoted text is doubled.
+char16_t* EscreverCitado(char16_t* ADestino, std::u16string_view ATexto) {
+    for (const char16_t c : ATexto) {
+        *ADestino++ = c;
+        *ADestino = u'\'';  // stays only behind another one
+        ADestino += c == u'\'';
+    }
+    return ADestino;
+}
+
+void AnexarTexto(TTextoSql& ASaida, std::u16string_view ATexto, bool AEntreAspas) {
+    if (!AEntreAspas) return ASaida.AnexarTexto(ATexto);
+    char16_t* fim = ASaida.Abrir(2 * ATexto.size() + 2);
+    *fim++ = u'\'';
+    fim = EscreverCitado(fim, ATexto);
+    *fim++ = u'\'';
+    ASaida.Fechar(fim);
+}
+
+void AnexarValor(TTextoSql& ASaida, const Variant& AValor, bool AEntreAspas) {
+    if (const auto* texto = AValor.GetTexto()) return AnexarTexto(ASaida, *texto, AEntreAspas);
+    if (const auto* inteiro = std::get_if<std::int64_t>(&AValor.GetValor())) {
+        std::array<char16_t, CTamanhoMaximoInt64> digitos;
+        return AnexarTexto(ASaida, EscreverInt64(*inteiro, digitos), AEntreAspas);
+    }
+    AnexarTexto(ASaida, VarianteParaTexto(AValor), AEntreAspas);
 }
 
 /// '%value' or '%value%'.
-void AnexarModelo(std::u16string& ASaida, const Variant& AValor, std::u16string_view ASufixo) {
+void AnexarModelo(TTextoSql& ASaida, const Variant& AValor, std::u16string_view ASufixo) {
     if (!AValor.GetTexto()) {
         const Variant soma = Variant(u"%") + AValor;
         return AnexarValor(ASaida, ASufixo.empty() ? soma : soma + Variant(ASufixo), true);
     }
-    ASaida += u"'%";
-    const std::size_t inicio = ASaida.size();
-    ASaida += *AValor.GetTexto();
-    DobrarApostrofos(ASaida, inicio);
-    ASaida += ASufixo;
-    ASaida += u'\'';
+    char16_t* fim = ASaida.Abrir(2 * AValor.GetTexto()->size() + ASufixo.size() + 3);
+    *fim++ = u'\'';
+    *fim++ = u'%';
+    fim = EscreverCitado(fim, *AValor.GetTexto());
+    for (const char16_t c : ASufixo) *fim++ = c;
+    *fim++ = u'\'';
+    ASaida.Fechar(fim);
 }
 
-void AnexarLista(std::u16string& ASaida, const Variant& AValor, bool AEntreAspas) try {
+void AnexarLista(TTextoSql& ASaida, const Variant& AValor, bool AEntreAspas) try {
     const auto* itens = AValor.GetItens();
     if (!itens) return AnexarValor(ASaida, AValor, AEntreAspas);
     // The last index is kept in 8 bits; that of an empty array turns to 255, where there is no element.
     const auto ultimo = static_cast<std::uint8_t>(itens->size() - 1);
     for (std::size_t i = 0; i <= ultimo; ++i) {
-        if (i) ASaida += u',';
+        if (i) ASaida.Anexar(u',');
         AnexarValor(ASaida, itens->at(i), AEntreAspas);
     }
 } catch (const std::exception&) {
     throw Exception(u"Erro na geração do SQL com cláusula IN ou NOT IN.");
 }
 
-void AnexarIntervalo(std::u16string& ASaida, const Variant& AValor, bool AEntreAspas) {
+void AnexarIntervalo(TTextoSql& ASaida, const Variant& AValor, bool AEntreAspas) {
     const auto* itens = AValor.GetItens();
     if (itens && itens->size() != 2) throw Exception(u"Número de parâmetros incorreto para a pesquisa com BETWEEN.");
     AnexarValor(ASaida, itens ? itens->front() : AValor, AEntreAspas);
-    ASaida += u" AND ";
+    ASaida.Anexar(CE);
     AnexarValor(ASaida, itens ? itens->back() : AValor, AEntreAspas);
 }
 
 }  // namespace
 
 std::u16string_view BuscarPalavra(TCondicaoFiltro ACondicao) noexcept {
-    return ACondicao < CPalavras.size() ? CPalavras[ACondicao].Texto : u"";
+    return ACondicao < CPalavras.size() ? CPalavras[ACondicao].Texto.GetTexto() : u"";
 }
 
-bool EstahCompleta(const TOryUtilsFiltroSql& ACondicao) noexcept {
-    return !ACondicao.GetTabela().empty() && !ACondicao.GetCampo().empty() &&
-           !BuscarPalavra(ACondicao.GetCondicao()).empty();
-}
-
-void AnexarCondicao(std::u16string& ASaida, const TOryUtilsFiltroSql& ACondicao) {
+void AnexarCondicao(TTextoSql& ASaida, const TPedacoSql& AJuncao, const TOryUtilsFiltroSql& ACondicao) {
     const TPalavra& palavra = CPalavras[ACondicao.GetCondicao()];
+    const std::u16string_view tabela = ACondicao.GetTabela();
+    const std::u16string_view campo = ACondicao.GetCampo();
     const Variant& valor = ACondicao.GetValor();
     const bool entre_aspas = ACondicao.GetQuoteStr();
     const bool maiusculas = ACondicao.GetUsarUpperCase();
 
-    const std::u16string_view abre = maiusculas ? u"( UPPER(" : u"( ";
-    const std::size_t inicio = ASaida.size() + abre.size();
-    const std::size_t fim = inicio + ACondicao.GetTabela().size() + 1 + ACondicao.GetCampo().size();
-    AnexarPartes(ASaida, {abre, ACondicao.GetTabela(), u".", ACondicao.GetCampo(), maiusculas ? u") " : u" ",
-                          palavra.Texto, u" "});
-    for (std::size_t i = inicio; i < fim; ++i) ASaida[i] = Maiuscula(ASaida[i]);
+    constexpr std::size_t CPedacos = 4;
+    char16_t* fim = ASaida.Abrir(CPedacos * TPedacoSql::CMaiorTamanho + tabela.size() + campo.size());
+    fim = AJuncao.Escrever(fim);
+    fim = (maiusculas ? CAbreMaiusculas : CAbre).Escrever(fim);
+    fim = EscreverNome(fim, tabela);
+    *fim++ = u'.';
+    fim = EscreverNome(fim, campo);
+    if (maiusculas) *fim++ = u')';
+    *fim++ = u' ';
+    fim = palavra.Texto.Escrever(fim);
+    *fim++ = u' ';
+    ASaida.Fechar(fim);
     switch (palavra.Forma) {
         case fvNenhum:
             break;
         case fvEscalar:
-            if (maiusculas) ASaida += u"UPPER(";
+            if (maiusculas) ASaida.Anexar(CMaiusculas);
             AnexarValor(ASaida, valor, entre_aspas);
-            if (maiusculas) ASaida += u')';
+            if (maiusculas) ASaida.Anexar(u')');
             break;
         case fvLista:
-            ASaida += u'(';
+            ASaida.Anexar(u'(');
             AnexarLista(ASaida, valor, entre_aspas);
-            ASaida += u" )";
+            ASaida.Anexar(CFecha);
             break;
         case fvInicio:
             AnexarValor(ASaida, valor, true);
@@ -157,7 +167,7 @@ void AnexarCondicao(std::u16string& ASaida, const TOryUtilsFiltroSql& ACondicao)
             AnexarIntervalo(ASaida, valor, entre_aspas);
             break;
     }
-    ASaida += u" )";
+    ASaida.Anexar(CFecha);
 }
 
 }  // namespace OryUtils::Interno

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "oryutils/sql/UnOryUtilsClasseFiltroSql.hpp"
+#include "oryutils/sql/interno/TextoSql.hpp"
 
 namespace OryUtils::Interno {
 
@@ -8,9 +9,12 @@ namespace OryUtils::Interno {
 std::u16string_view BuscarPalavra(TCondicaoFiltro ACondicao) noexcept;
 
 /// True when ACondicao says enough to be written.
-bool EstahCompleta(const TOryUtilsFiltroSql& ACondicao) noexcept;
+inline bool EstahCompleta(const TOryUtilsFiltroSql& ACondicao) noexcept {
+    return !ACondicao.GetTabela().empty() && !ACondicao.GetCampo().empty() && ACondicao.GetCondicao() > cfNenhum &&
+           ACondicao.GetCondicao() <= cfDiferente;
+}
 
-/// Appends the text of one complete condition.
-void AnexarCondicao(std::u16string& ASaida, const TOryUtilsFiltroSql& ACondicao);
+/// Appends AJuncao and the text of one complete condition.
+void AnexarCondicao(TTextoSql& ASaida, const TPedacoSql& AJuncao, const TOryUtilsFiltroSql& ACondicao);
 
 }  // namespace OryUtils::Interno
