@@ -2,6 +2,7 @@
 
 #include "oryutils/changes/UnOryUtilsClasses.hpp"
 #include "oryutils/dates/OryUtilsDatas.hpp"
+#include "oryutils/files/OryUtilsFiles.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 #include "oryutils/registry_numbers/UnOryUtilsFormatacoes.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"

@@ -1,0 +1,39 @@
+#include "oryutils/platform/VersaoDeArquivo.hpp"
+
+#include "oryutils/platform/LeituraDeArquivo.hpp"
+#include "oryutils/platform/linux/BlocoDeVersao.hpp"
+#include "oryutils/platform/linux/RecursoDeVersaoPe.hpp"
+
+namespace OryUtils::Plataforma {
+namespace {
+
+class TFonteDeArquivo final : public TFonteDeBytes {
+public:
+    explicit TFonteDeArquivo(const TLeituraDeArquivo& AArquivo) : FArquivo(AArquivo) {}
+    std::size_t Ler(std::uint64_t AInicio, std::span<char> ADestino) const override {
+        return FArquivo.Ler(AInicio, ADestino);
+    }
+
+private:
+    const TLeituraDeArquivo& FArquivo;
+};
+
+}  // namespace
+
+TVersaoDeArquivo::TVersaoDeArquivo(std::u16string_view AArquivo) {
+    const TLeituraDeArquivo arquivo(AArquivo);
+    if (arquivo.EstahAberto()) FBloco = LerRecursoDeVersaoPe(TFonteDeArquivo(arquivo));
+}
+
+std::optional<TVersaoFixa> TVersaoDeArquivo::ConsultarFixa() const { return TBlocoDeVersao(FBloco).ConsultarFixa(); }
+
+std::optional<TTraducao> TVersaoDeArquivo::ConsultarTraducao() const {
+    return TBlocoDeVersao(FBloco).ConsultarTraducao();
+}
+
+std::optional<std::u16string> TVersaoDeArquivo::ConsultarTexto(std::u16string_view ATabela,
+                                                               std::u16string_view AChave) const {
+    return TBlocoDeVersao(FBloco).ConsultarTexto(ATabela, AChave);
+}
+
+}  // namespace OryUtils::Plataforma
