@@ -10,6 +10,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -19,18 +20,24 @@ namespace Ory {
 namespace {
 
 /// The options as they come, before they are checked.
-struct TOpcoesLidas {
+struct TOpcoesDeConferir {
     TPedidoDeConferencia Conferencia{};
     std::vector<std::string> Colunas{};
     std::string Codificacao{};
     std::string Delimitador{};
     std::string Vereditos{};
     std::string Cores = "auto";
+};
+
+struct TOpcoesDeChamar {
     std::string Operacao{};
     std::vector<std::string> Argumentos{};
     bool Lote = false;
-    bool JsonDeChamar = false;
-    bool JsonDeOperacoes = false;
+    bool Json = false;
+};
+
+struct TOpcoesDeOperacoes {
+    bool Json = false;
 };
 
 TTipoColuna LerTipo(const std::string& ANome) {
@@ -39,7 +46,7 @@ TTipoColuna LerTipo(const std::string& ANome) {
     return *tipo;
 }
 
-TPedidoDeConferencia LerPedido(const TOpcoesLidas& ALidas) {
+TPedidoDeConferencia LerPedido(const TOpcoesDeConferir& ALidas) {
     TPedidoDeConferencia pedido = ALidas.Conferencia;
     for (const std::string& coluna : ALidas.Colunas) {
         const std::size_t igual = coluna.rfind('=');
@@ -71,7 +78,7 @@ TPedidoDeConferencia LerPedido(const TOpcoesLidas& ALidas) {
     return pedido;
 }
 
-void DescreverConferir(CLI::App& AComando, TOpcoesLidas& AOpcoes) {
+void DescreverConferir(CLI::App& AComando, TOpcoesDeConferir& AOpcoes) {
     TPedidoDeConferencia& pedido = AOpcoes.Conferencia;
     AComando.add_option("ARQUIVO", pedido.Arquivo, "arquivo CSV; \"-\" ou nenhum: a entrada padrão");
     AComando
@@ -101,19 +108,23 @@ void DescreverConferir(CLI::App& AComando, TOpcoesLidas& AOpcoes) {
         "  cut -d';' -f3 clientes.csv | ory conferir --vereditos cnpj");
 }
 
-void DescreverChamar(CLI::App& AComando, TOpcoesLidas& AOpcoes) {
+void DescreverChamar(CLI::App& AComando, TOpcoesDeChamar& AOpcoes) {
     AComando.add_option("OPERACAO", AOpcoes.Operacao, "nome da operação; veja ory operacoes");
     AComando.add_option("ARGUMENTO", AOpcoes.Argumentos,
                         "um valor por argumento: texto como está, listas em JSON ([\"a\",\"b\"]),\n"
                         "datas AAAA-MM-DDTHH:MM:SS, enumerações pelo ordinal");
     AComando.add_flag("--lote", AOpcoes.Lote, "lê um pedido JSON por linha e responde um JSON por linha");
-    AComando.add_flag("--json", AOpcoes.JsonDeChamar, "resposta em JSON, como em --lote (antes da operação)");
+    AComando.add_flag("--json", AOpcoes.Json, "resposta em JSON, como em --lote (antes da operação)");
     AComando.footer(
         "Saída do programa: 0 certo, 1 a operação falhou, 2 chamada errada.\n\n"
         "Exemplos:\n"
         "  ory chamar ValidouCnpjCpf 1 11222333000181\n"
         "  ory chamar LimparTexto:chars 1-2.3 '[\".\",\"-\"]'\n"
         "  echo '{\"op\":\"ValidouCnpjCpf\",\"args\":[1,\"11222333000181\"]}' | ory chamar --lote");
+}
+
+void DescreverOperacoes(CLI::App& AComando, TOpcoesDeOperacoes& AOpcoes) {
+    AComando.add_flag("--json", AOpcoes.Json, "lista em JSON");
 }
 
 /// The library's own words are English; these take their place.
@@ -156,31 +167,72 @@ std::string DescreverErroDeUso(const CLI::ParseError& AErro, const CLI::App& AAp
     return mensagem;
 }
 
+/// The sub-commands, each with what was asked of it and what runs it.
+class TComandos {
+public:
+    TComandos(CLI::App& AAplicativo, TAmbiente& AAmbiente) : FAplicativo(AAplicativo), FAmbiente(AAmbiente) {}
+
+    /// ADescrever gives the sub-command its options, which fill a TPedido; AExecutar runs it.
+    template <typename TPedido>
+    void Incluir(const std::string& ANome, const std::string& ADescricao, void (*ADescrever)(CLI::App&, TPedido&),
+                 int (*AExecutar)(const TPedido&, TAmbiente&)) {
+        CLI::App* comando = NovoComando(FAplicativo, ANome, ADescricao);
+        const auto pedido = std::make_shared<TPedido>();
+        ADescrever(*comando, *pedido);
+        FComandos.push_back({comando, [this, pedido, AExecutar] { return AExecutar(*pedido, FAmbiente); }});
+    }
+    /// Runs the one that was written; nothing when none was.
+    std::optional<int> Executar() const {
+        const auto escrito = std::ranges::find_if(FComandos, [](const auto& c) { return c.Comando->parsed(); });
+        return escrito == FComandos.end() ? std::nullopt : std::optional(escrito->Executar());
+    }
+
+private:
+    struct TComando {
+        CLI::App* Comando;
+        std::function<int()> Executar;
+    };
+    CLI::App& FAplicativo;
+    TAmbiente& FAmbiente;
+    std::vector<TComando> FComandos{};
+};
+
+int ExecutarConferir(const TOpcoesDeConferir& AOpcoes, TAmbiente& AAmbiente) {
+    return Conferir(LerPedido(AOpcoes), AAmbiente);
+}
+
+int ExecutarChamar(const TOpcoesDeChamar& AOpcoes, TAmbiente& AAmbiente) {
+    if (AOpcoes.Lote) {
+        if (!AOpcoes.Operacao.empty()) throw EFalha("--lote não leva operação na linha de comando");
+        ChamarEmLote(AAmbiente.Entrada, AAmbiente.Saida);
+        return stTudoCerto;
+    }
+    if (AOpcoes.Operacao.empty()) throw EFalha("falta a operação ou --lote; veja ory chamar --ajuda");
+    return ChamarUma(AOpcoes.Operacao, AOpcoes.Argumentos, AOpcoes.Json, AAmbiente);
+}
+
+int ExecutarOperacoes(const TOpcoesDeOperacoes& AOpcoes, TAmbiente& AAmbiente) {
+    ListarOperacoes(AAmbiente.Saida, AOpcoes.Json);
+    return stTudoCerto;
+}
+
 }  // namespace
 
 int ExecutarLinhaDeComando(std::span<const std::string> AArgumentos, TAmbiente& AAmbiente) {
-    TOpcoesLidas opcoes;
     CLI::App aplicativo("Confere e formata números de cadastro brasileiros e chama as operações da OryUtils.", "ory");
     Traduzir(aplicativo);
     PorAjuda(aplicativo);
     aplicativo.allow_windows_style_options(false);  // "/dados/x.csv" is a file there too
     bool versao = false;
     aplicativo.add_flag("--versao,--version", versao, "mostra a versão");
-    CLI::App* conferir = NovoComando(aplicativo, "conferir", "confere os números de um arquivo CSV");
-    CLI::App* chamar = NovoComando(aplicativo, "chamar", "chama uma operação da biblioteca");
-    CLI::App* operacoes = NovoComando(aplicativo, "operacoes", "lista o que chamar pode chamar");
-    CLI::App* mensagem = NovoComando(aplicativo, "mensagem", "mostra uma mensagem e responde o que foi escolhido");
-    TPedidoDeMensagem pedidoDeMensagem;
-    DescreverConferir(*conferir, opcoes);
-    DescreverChamar(*chamar, opcoes);
-    operacoes->add_flag("--json", opcoes.JsonDeOperacoes, "lista em JSON");
-    DescreverMensagem(*mensagem, pedidoDeMensagem);
-    CLI::App* formula = NovoComando(aplicativo, "formula", "calcula uma fórmula e mostra a expressão resolvida");
-    TPedidoDeFormula pedidoDeFormula;
-    DescreverFormula(*formula, pedidoDeFormula);
-    CLI::App* extenso = NovoComando(aplicativo, "extenso", "escreve valores por extenso");
-    TPedidoDeExtenso pedidoDeExtenso;
-    DescreverExtenso(*extenso, pedidoDeExtenso);
+    TComandos comandos(aplicativo, AAmbiente);
+    comandos.Incluir("conferir", "confere os números de um arquivo CSV", DescreverConferir, ExecutarConferir);
+    comandos.Incluir("chamar", "chama uma operação da biblioteca", DescreverChamar, ExecutarChamar);
+    comandos.Incluir("operacoes", "lista o que chamar pode chamar", DescreverOperacoes, ExecutarOperacoes);
+    comandos.Incluir("mensagem", "mostra uma mensagem e responde o que foi escolhido", DescreverMensagem,
+                     MostrarMensagem);
+    comandos.Incluir("formula", "calcula uma fórmula e mostra a expressão resolvida", DescreverFormula, MostrarFormula);
+    comandos.Incluir("extenso", "escreve valores por extenso", DescreverExtenso, MostrarExtenso);
     aplicativo.require_subcommand(0, 1);
 
     std::vector<std::string> invertidos(AArgumentos.rbegin(), AArgumentos.rend());
@@ -196,22 +248,7 @@ int ExecutarLinhaDeComando(std::span<const std::string> AArgumentos, TAmbiente& 
         AAmbiente.Saida.Escrever("ory " + std::string(OryUtils::BuscarVersaoOryUtils()) + "\n");
         return stTudoCerto;
     }
-    if (conferir->parsed()) return Conferir(LerPedido(opcoes), AAmbiente);
-    if (formula->parsed()) return MostrarFormula(pedidoDeFormula, AAmbiente);
-    if (extenso->parsed()) return MostrarExtenso(pedidoDeExtenso, AAmbiente);
-    if (mensagem->parsed()) return MostrarMensagem(pedidoDeMensagem, AAmbiente);
-    if (operacoes->parsed()) {
-        ListarOperacoes(AAmbiente.Saida, opcoes.JsonDeOperacoes);
-        return stTudoCerto;
-    }
-    if (chamar->parsed() && opcoes.Lote) {
-        if (!opcoes.Operacao.empty()) throw EFalha("--lote não leva operação na linha de comando");
-        ChamarEmLote(AAmbiente.Entrada, AAmbiente.Saida);
-        return stTudoCerto;
-    }
-    if (chamar->parsed() && !opcoes.Operacao.empty())
-        return ChamarUma(opcoes.Operacao, opcoes.Argumentos, opcoes.JsonDeChamar, AAmbiente);
-    if (chamar->parsed()) throw EFalha("falta a operação ou --lote; veja ory chamar --ajuda");
+    if (const auto status = comandos.Executar()) return *status;
     AAmbiente.Erro.Escrever(aplicativo.help());
     return stFalha;
 }
