@@ -10,6 +10,12 @@ namespace OryUtils::Plataforma {
 /// a name with the character of code 0.
 ORY_API bool ExistePasta(std::u16string_view APasta);
 
+/// Creates the folder with those above it; true when it is there at the end. Never throws.
+ORY_API bool CriarPasta(std::u16string_view APasta);
+
+/// What parts the folders of a path: "\" on Windows, "/" on Linux.
+ORY_API char16_t BuscarSeparadorDePastas() noexcept;
+
 /// True when the system forbids ACaractere in the name of a file. (Windows) < > : " / \ | ? * and the codes below 32.
 /// (Linux) / and code 0.
 ORY_API bool EhProibidoEmNomeDeArquivo(char16_t ACaractere) noexcept;

@@ -33,6 +33,64 @@ constexpr std::array CTeclasFisicas{
     TTeclaFisica{0xE2, 94},
 };
 
+struct TTeclaNomeada {
+    std::uint16_t Tecla;
+    TKeysym Keysym;
+    TKeysym Outra;  // the second key of that number: the right one, or the keypad's
+};
+// Keys that write nothing, and those of the keypad, are found by their names.
+constexpr std::array CTeclasNomeadas{
+    TTeclaNomeada{0x08, 0xFF08, 0},       // BackSpace
+    TTeclaNomeada{0x09, 0xFF09, 0},       // Tab
+    TTeclaNomeada{0x0C, 0xFF0B, 0},       // Clear
+    TTeclaNomeada{0x0D, 0xFF0D, 0xFF8D},  // Return, KP_Enter
+    TTeclaNomeada{0x10, 0xFFE1, 0xFFE2},  // Shift_L, Shift_R
+    TTeclaNomeada{0x11, 0xFFE3, 0xFFE4},  // Control_L, Control_R
+    TTeclaNomeada{0x12, 0xFFE9, 0xFFEA},  // Alt_L, Alt_R
+    TTeclaNomeada{0x13, 0xFF13, 0},       // Pause
+    TTeclaNomeada{0x14, 0xFFE5, 0},       // Caps_Lock
+    TTeclaNomeada{0x1B, 0xFF1B, 0},       // Escape
+    TTeclaNomeada{0x20, 0x0020, 0},       // space
+    TTeclaNomeada{0x21, 0xFF55, 0},       // Prior
+    TTeclaNomeada{0x22, 0xFF56, 0},       // Next
+    TTeclaNomeada{0x23, 0xFF57, 0},       // End
+    TTeclaNomeada{0x24, 0xFF50, 0},       // Home
+    TTeclaNomeada{0x25, 0xFF51, 0},       // Left
+    TTeclaNomeada{0x26, 0xFF52, 0},       // Up
+    TTeclaNomeada{0x27, 0xFF53, 0},       // Right
+    TTeclaNomeada{0x28, 0xFF54, 0},       // Down
+    TTeclaNomeada{0x2C, 0xFF61, 0},       // Print
+    TTeclaNomeada{0x2D, 0xFF63, 0},       // Insert
+    TTeclaNomeada{0x2E, 0xFFFF, 0},       // Delete
+    TTeclaNomeada{0x5B, 0xFFEB, 0},       // Super_L
+    TTeclaNomeada{0x5C, 0xFFEC, 0},       // Super_R
+    TTeclaNomeada{0x5D, 0xFF67, 0},       // Menu
+    TTeclaNomeada{0x6A, 0xFFAA, 0},       // KP_Multiply
+    TTeclaNomeada{0x6B, 0xFFAB, 0},       // KP_Add
+    TTeclaNomeada{0x6C, 0xFFAC, 0},       // KP_Separator
+    TTeclaNomeada{0x6D, 0xFFAD, 0},       // KP_Subtract
+    TTeclaNomeada{0x6E, 0xFFAE, 0xFFAC},  // KP_Decimal, which writes a comma in Brazil
+    TTeclaNomeada{0x6F, 0xFFAF, 0},       // KP_Divide
+    TTeclaNomeada{0x90, 0xFF7F, 0},       // Num_Lock
+    TTeclaNomeada{0x91, 0xFF14, 0},       // Scroll_Lock
+    TTeclaNomeada{0xA0, 0xFFE1, 0},       // Shift_L
+    TTeclaNomeada{0xA1, 0xFFE2, 0},       // Shift_R
+    TTeclaNomeada{0xA2, 0xFFE3, 0},       // Control_L
+    TTeclaNomeada{0xA3, 0xFFE4, 0},       // Control_R
+    TTeclaNomeada{0xA4, 0xFFE9, 0},       // Alt_L
+    TTeclaNomeada{0xA5, 0xFFEA, 0xFE03},  // Alt_R, which is AltGr on many layouts
+};
+constexpr std::uint16_t CPrimeiroDoTeclado = 0x60;  // digits of the keypad
+constexpr TKeysym CKeysymDoTeclado = 0xFFB0;
+constexpr std::uint16_t CPrimeiraFuncao = 0x70;  // F1 to F24
+constexpr TKeysym CKeysymFuncao = 0xFFBE;
+
+struct TBotao {
+    std::uint16_t Tecla;
+    unsigned Marca;
+};
+constexpr std::array CBotoes{TBotao{1, CBotaoEsquerdo}, TBotao{2, CBotaoDireito}, TBotao{4, CBotaoDoMeio}};
+
 constexpr std::uint16_t CTeclaDecimal = 0x6E;
 constexpr std::uint8_t CCodigoDecimal = 91;
 constexpr TKeysym CKeysymSeparador = 0xFFAC;  // the keypad's decimal key where it writes a comma
@@ -82,7 +140,53 @@ std::optional<std::size_t> LocalizarTeclaVirtual(const TTeclado& ATeclado, std::
     return std::nullopt;
 }
 
+TTeclaNomeada NomearTecla(std::uint16_t ATecla) {
+    for (const TTeclaNomeada& nomeada : CTeclasNomeadas)
+        if (nomeada.Tecla == ATecla) return nomeada;
+    if (ATecla >= CPrimeiroDoTeclado && ATecla < CPrimeiroDoTeclado + 10)
+        return {ATecla, CKeysymDoTeclado + ATecla - CPrimeiroDoTeclado, 0};
+    if (ATecla >= CPrimeiraFuncao && ATecla < CPrimeiraFuncao + 24)
+        return {ATecla, CKeysymFuncao + ATecla - CPrimeiraFuncao, 0};
+    return {ATecla, 0, 0};
+}
+
+// The server's codes of a virtual key: its own, then that of its other key, as far as the layout has them.
+std::array<std::optional<std::uint8_t>, 2> BuscarCodigos(const TTeclado& ATeclado, std::uint16_t ATecla) {
+    const auto codigo = [&](std::optional<std::size_t> AIndice) -> std::optional<std::uint8_t> {
+        if (!AIndice) return std::nullopt;
+        return static_cast<std::uint8_t>(*AIndice + ATeclado.MenorTecla);
+    };
+    const TTeclaNomeada nomeada = NomearTecla(ATecla);
+    if (nomeada.Keysym == 0) return {codigo(LocalizarTeclaVirtual(ATeclado, ATecla)), std::nullopt};
+    return {codigo(LocalizarTecla(ATeclado, nomeada.Keysym)),
+            nomeada.Outra ? codigo(LocalizarTecla(ATeclado, nomeada.Outra)) : std::nullopt};
+}
+
 }  // namespace
+
+void EnviarEventosDeTecla(std::span<const TEventoDeTecla> AEventos) {
+    const std::optional<TTeclado> teclado = PerguntarAoServidorX();
+    if (!teclado) return;
+    std::vector<TToque> toques;
+    for (const TEventoDeTecla& evento : AEventos) {
+        auto [codigo, outro] = BuscarCodigos(*teclado, evento.Tecla);
+        if (outro && (evento.Estendida || !codigo)) codigo = outro;
+        if (codigo) toques.push_back({*codigo, evento.Soltar});
+    }
+    FingirToques(toques);
+}
+
+bool TeclaEstahAbaixada(std::uint16_t ATecla) {
+    const std::optional<TTeclado> teclado = PerguntarAoServidorX();
+    if (!teclado) return false;
+    for (const TBotao& botao : CBotoes)
+        if (botao.Tecla == ATecla) return teclado->Modificadores & botao.Marca;
+    for (const auto& codigo : BuscarCodigos(*teclado, ATecla))
+        if (codigo && teclado->Abaixadas[*codigo]) return true;
+    return false;
+}
+
+std::uint32_t BuscarTempoDeInatividade() { return PerguntarInatividade().value_or(0); }
 
 std::u16string TraduzirTeclaVirtual(std::uint16_t ATecla) {
     const std::optional<TTeclado> teclado = PerguntarAoServidorX();

@@ -18,4 +18,20 @@ std::u16string TraduzirTeclaVirtual(std::uint16_t ATecla) {
     return {caracteres.begin(), caracteres.begin() + std::max(quantidade, 0)};
 }
 
+void EnviarEventosDeTecla(std::span<const TEventoDeTecla> AEventos) {
+    for (const TEventoDeTecla& evento : AEventos) {
+        const DWORD marcas = (evento.Soltar ? KEYEVENTF_KEYUP : 0u) | (evento.Estendida ? KEYEVENTF_EXTENDEDKEY : 0u);
+        ::keybd_event(static_cast<BYTE>(evento.Tecla),
+                      static_cast<BYTE>(::MapVirtualKeyW(evento.Tecla, MAPVK_VK_TO_VSC)), marcas, 0);
+    }
+}
+
+bool TeclaEstahAbaixada(std::uint16_t ATecla) { return ::GetAsyncKeyState(ATecla) < 0; }
+
+std::uint32_t BuscarTempoDeInatividade() {
+    LASTINPUTINFO ultimo{sizeof ultimo, 0};
+    if (!::GetLastInputInfo(&ultimo)) return 0;
+    return ::GetTickCount() - ultimo.dwTime;
+}
+
 }  // namespace OryUtils::Plataforma

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "oryutils/OryExport.hpp"
+
+#include <cstdint>
+#include <string>
+
+namespace OryUtils::Plataforma {
+
+/// The system's own words for one of its error codes (GetLastError, WSAGetLastError; errno), without the final point
+/// and line end. Never throws for an unknown code.
+ORY_API std::u16string DescreverErroDoSistema(std::uint32_t ACodigo);
+
+}  // namespace OryUtils::Plataforma
