@@ -22,7 +22,8 @@ TCosturaInterface BuscarCosturaPadrao() noexcept {
             .Erro = [](std::u16string_view AMensagem) { Escrever("Erro", AMensagem); },
             .ProcessarMensagens = [] {},
             .AtribuirFoco = AtribuirFocoDireto,
-            .BuscarPixelsPorPolegada = [] { return 96; }};
+            .BuscarPixelsPorPolegada = [] { return 96; },
+            .MostrarCursorOcupado = [](bool) {}};
 }
 
 TCosturaInterface& CosturaInterface() noexcept {

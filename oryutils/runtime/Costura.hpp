@@ -18,6 +18,8 @@ struct TCosturaInterface {
     void (*AtribuirFoco)(TWinControl* AControle);
     /// Of the screen; 96 before the user interface starts.
     int (*BuscarPixelsPorPolegada)();
+    /// The busy cursor, or the ordinary one again.
+    void (*MostrarCursorOcupado)(bool AOcupado);
 };
 
 /// The seam in use. Change it only while no other thread calls the library.

@@ -172,7 +172,8 @@ void IniciarInterface() {
         .Erro = [](std::u16string_view AMensagem) { GOryUtilsDialogs->Erro(AMensagem); },
         .ProcessarMensagens = [] { BuscarToolkit().ProcessarMensagens(); },
         .AtribuirFoco = [](TWinControl* AControle) { GOryUtilsControls->AtribuirFocoControle(AControle); },
-        .BuscarPixelsPorPolegada = [] { return BuscarToolkit().GetPixelsPorPolegada(); }};
+        .BuscarPixelsPorPolegada = [] { return BuscarToolkit().GetPixelsPorPolegada(); },
+        .MostrarCursorOcupado = [](bool AOcupado) { BuscarToolkit().SetCursor(AOcupado ? ctAmpulheta : ctNormal); }};
 }
 
 void FinalizarInterface() { CosturaInterface() = BuscarCosturaPadrao(); }

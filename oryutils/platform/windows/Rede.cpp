@@ -3,12 +3,16 @@
 #include "oryutils/platform/ErroDoSistema.hpp"
 #include "oryutils/platform/windows/Windows.hpp"
 
+// Each needs the one before it.
+// clang-format off
+#include <winsock2.h>
+#include <ws2tcpip.h>
+#include <iphlpapi.h>
+// clang-format on
+
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
-#include <iphlpapi.h>
-#include <winsock2.h>
-#include <ws2tcpip.h>
 
 namespace OryUtils::Plataforma {
 namespace {
