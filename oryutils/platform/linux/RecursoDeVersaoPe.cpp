@@ -140,7 +140,7 @@ private:
 
     /// What stands below a name are its languages: data, no folders. So nothing goes round in circles.
     bool AcharIdioma(std::uint32_t APasta, std::uint32_t& ADestino) const {
-        constexpr std::array<std::uint32_t, 3> CPreferidos{0x0409, 0x0009, 0x0000};
+        constexpr std::array<std::uint32_t, 3> CPreferidos{0x0000, 0x0409, 0x0009};
         for (const std::uint32_t idioma : CPreferidos) {
             const auto serve = [&](std::uint32_t AEntrada) { return AEntrada == idioma; };
             if (AcharEntrada(APasta, serve, ADestino)) return (ADestino & CBitAlto) == 0;

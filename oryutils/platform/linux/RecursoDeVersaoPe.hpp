@@ -16,9 +16,9 @@ public:
 };
 
 /// The bytes of the version resource of a PE file (type 16, name 1), of at most 64 KiB; empty when there is none or
-/// anything on the way to it is broken. Of several languages the one is taken that the version functions of Windows
-/// take: English of the United States, then no language, then the first. Only what lies on the way is read, whatever
-/// the size of the file, and no value found in it is trusted.
+/// anything on the way to it is broken. Of several languages the one is taken that the version functions take on a
+/// Windows in English: no language, then English, then the first. Only what lies on the way is read, whatever the size
+/// of the file, and no value found in it is trusted.
 std::vector<char> LerRecursoDeVersaoPe(const TFonteDeBytes& AFonte);
 
 }  // namespace OryUtils::Plataforma

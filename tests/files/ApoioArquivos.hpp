@@ -1,0 +1,40 @@
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <string>
+#include <string_view>
+
+/// A folder of the test's own, with a name that asks for UTF-16; it goes with its files at the end.
+class TPastaTemporaria {
+public:
+    TPastaTemporaria() {
+        std::random_device sorteio;
+        do FPasta = std::filesystem::temp_directory_path() / (u"Versões de teste " + DeNumero(sorteio()));
+        while (!std::filesystem::create_directory(FPasta));
+    }
+    TPastaTemporaria(const TPastaTemporaria&) = delete;
+    TPastaTemporaria& operator=(const TPastaTemporaria&) = delete;
+    ~TPastaTemporaria() {
+        std::error_code erro;
+        std::filesystem::remove_all(FPasta, erro);
+    }
+
+    const std::filesystem::path& Caminho() const { return FPasta; }
+    std::u16string Nome(std::u16string_view AArquivo) const { return (FPasta / AArquivo).u16string(); }
+    /// The whole name of the file written.
+    std::u16string Gravar(std::u16string_view AArquivo, std::string_view ABytes) const {
+        std::ofstream(FPasta / AArquivo, std::ios::binary)
+            .write(ABytes.data(), static_cast<std::streamsize>(ABytes.size()));
+        return Nome(AArquivo);
+    }
+
+private:
+    static std::u16string DeNumero(unsigned ANumero) {
+        const std::string texto = std::to_string(ANumero);
+        return {texto.begin(), texto.end()};
+    }
+
+    std::filesystem::path FPasta;
+};

@@ -1,0 +1,69 @@
+#include "files/ArvoreWine.hpp"
+
+#include "oryutils/platform/LeituraDeArquivo.hpp"
+#include "oryutils/platform/VersaoDeArquivo.hpp"
+#include "oryutils/platform/linux/BlocoDeVersao.hpp"
+#include "oryutils/platform/linux/RecursoDeVersaoPe.hpp"
+#include "oryutils/runtime/Utf.hpp"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+// The reader that the Linux library uses against the version functions of the system, over files that nobody here made.
+
+namespace {
+
+using namespace OryUtils;
+using namespace OryUtils::Plataforma;
+
+class TFonteDeArquivo final : public TFonteDeBytes {
+public:
+    explicit TFonteDeArquivo(const std::filesystem::path& AArquivo) : FArquivo(AArquivo.u16string()) {}
+    std::size_t Ler(std::uint64_t AInicio, std::span<char> ADestino) const override {
+        return FArquivo.Ler(AInicio, ADestino);
+    }
+
+private:
+    TLeituraDeArquivo FArquivo;
+};
+
+constexpr std::u16string_view CChaves[] = {
+    u"CompanyName",    u"FileDescription", u"FileVersion",        u"InternalName",
+    u"LegalCopyright", u"LegalTrademarks", u"OriginalFilename",   u"ProductName",
+    u"ProductVersion", u"Comments",        u"MinVersionDataBase", u"SpecialBuild",
+};
+
+/// Every answer to the three questions, in one text.
+template <typename T>
+std::string Descrever(const T& AVersao) {
+    std::string texto;
+    if (const auto fixa = AVersao.ConsultarFixa())
+        texto += std::to_string(fixa->MaisSignificativa) + "." + std::to_string(fixa->MenosSignificativa);
+    const auto traducao = AVersao.ConsultarTraducao();
+    if (!traducao) return texto;
+    texto += " " + std::to_string(traducao->Idioma) + "/" + std::to_string(traducao->PaginaDeCodigo);
+    char tabela[16];
+    std::snprintf(tabela, sizeof tabela, "%04x%04x", traducao->Idioma, traducao->PaginaDeCodigo);
+    for (const auto chave : CChaves)
+        if (const auto valor = AVersao.ConsultarTexto(DeUtf8(tabela), chave))
+            texto += "\n" + ParaUtf8(chave) + "=" + ParaUtf8(*valor);
+    return texto;
+}
+
+TEST(ArvoreWine, OLeitorDizOQueOSistemaDiz) {
+    const auto arquivos = BuscarArquivosDoWine();
+    ASSERT_GT(arquivos.size(), 100u) << ORY_ARVORE_WINE;
+    std::size_t comTextos = 0;
+    for (const auto& arquivo : arquivos) {
+        const TVersaoDeArquivo doSistema(arquivo.u16string());
+        const auto bloco = LerRecursoDeVersaoPe(TFonteDeArquivo(arquivo));
+        EXPECT_EQ(doSistema.Existe(), !bloco.empty()) << arquivo;
+        const std::string resposta = Descrever(doSistema);
+        EXPECT_EQ(resposta, Descrever(TBlocoDeVersao(bloco))) << arquivo;
+        comTextos += resposta.find('\n') != std::string::npos;
+    }
+    EXPECT_GT(comTextos, arquivos.size() / 4);
+}
+
+}  // namespace
