@@ -1,9 +1,10 @@
 #include "apps/cadastro/Cadastro.hpp"
 
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
+#include "oryutils/registry_numbers/UnOryUtilsFormatacoes.hpp"
 #include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/runtime/FormatoDataHora.hpp"
+#include "oryutils/runtime/Formatos.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
 #include "oryutils/text/UnOryUtilsMatematica.hpp"
 #include "oryutils/ui/UnOryUtilsDialogs.hpp"
@@ -14,9 +15,21 @@
 namespace OryUtils::Cadastro {
 namespace {
 
-constexpr std::size_t CDigitosCpf = 11;
+constexpr std::size_t CDigitosCep = 8;
+// The area code of two digits, the number of eight or nine; the code may have its leading zero.
+constexpr std::size_t CMenorFone = 10;
+constexpr std::size_t CMaiorFone = 12;
 constexpr std::int16_t CPrecisaoValor = 15;
 constexpr std::int16_t CDecimaisValor = 2;
+
+constexpr std::array<std::u16string_view, 2> CTiposDocumento{u"CNPJ", u"CPF"};
+// clang-format off
+constexpr std::array<std::u16string_view, 27> CUFs{
+    u"AC", u"AL", u"AM", u"AP", u"BA", u"CE", u"DF", u"ES", u"GO", u"MA", u"MG", u"MS", u"MT", u"PA",
+    u"PB", u"PE", u"PI", u"PR", u"RJ", u"RN", u"RO", u"RR", u"RS", u"SC", u"SE", u"SP", u"TO"};
+// clang-format on
+
+bool EhCpf(std::u16string_view ATipoDocumento) { return ATipoDocumento == CTiposDocumento[1]; }
 
 bool EstahEmBranco(std::u16string_view ATexto) { return ATexto.find_first_not_of(u' ') == ATexto.npos; }
 
@@ -26,8 +39,15 @@ std::u16string SemPontuacao(std::u16string_view ATexto) {
     return limpo;
 }
 
-void Recusar(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AMensagem) {
-    if (ValidarCampo(ASender, AControle)) TOryUtilsValidacoes::TratarResultadoValidacao(AControle, AMensagem);
+std::size_t ContarDigitos(std::u16string_view ATexto) {
+    return static_cast<std::size_t>(std::ranges::count_if(ATexto, [](char16_t c) { return EhDigito(c); }));
+}
+
+void FormatarMunicipio(TField& ACampo) { FormatarCampo(ACampo, u"9999999;0; "); }
+void FormatarNascimento(TField& ACampo) { FormatarCampo(ACampo, u"99/99/9999;1;_"); }
+
+void RecusarSe(bool ARuim, const TObjeto* ASender, TWinControl* AControle, std::u16string_view AMensagem) {
+    if (ARuim && ValidarCampo(ASender, AControle)) TOryUtilsValidacoes::TratarResultadoValidacao(AControle, AMensagem);
 }
 
 void ConferirNome(const TObjeto* ASender, TWinControl* AControle, const TValores& AValores) {
@@ -36,12 +56,20 @@ void ConferirNome(const TObjeto* ASender, TWinControl* AControle, const TValores
 
 void ConferirDocumento(const TObjeto* ASender, TWinControl* AControle, const TValores& AValores) {
     const std::u16string& numero = AValores[caDocumento];
-    if (std::any_of(numero.begin(), numero.end(), EhLetra)) {
-        if (!ValidouCnpjAlfanumerico(numero)) Recusar(ASender, AControle, u"CNPJ inválido. Verifique.");
-        return;
-    }
-    const bool cpf = SemPontuacao(numero).size() <= CDigitosCpf;
-    ValidarDocumento(ASender, AControle, numero, cpf ? OryTypes::tiCPF : OryTypes::tiCNPJ);
+    if (std::ranges::any_of(numero, EhLetra))
+        return RecusarSe(!ValidouCnpjAlfanumerico(numero), ASender, AControle, u"CNPJ inválido. Verifique.");
+    ValidarDocumento(ASender, AControle, numero, EhCpf(AValores[caTipoDocumento]) ? OryTypes::tiCPF : OryTypes::tiCNPJ);
+}
+
+void ConferirCEP(const TObjeto* ASender, TWinControl* AControle, const TValores& AValores) {
+    const std::size_t digitos = ContarDigitos(AValores[caCEP]);
+    RecusarSe(digitos != 0 && digitos != CDigitosCep, ASender, AControle, u"CEP inválido: são oito dígitos.");
+}
+
+void ConferirFone(const TObjeto* ASender, TWinControl* AControle, const TValores& AValores) {
+    const std::size_t digitos = ContarDigitos(AValores[caFone]);
+    RecusarSe(digitos != 0 && (digitos < CMenorFone || digitos > CMaiorFone), ASender, AControle,
+              u"Telefone inválido: informe o DDD e o número.");
 }
 
 void ConferirUF(const TObjeto* ASender, TWinControl* AControle, const TValores& AValores) {
@@ -56,10 +84,8 @@ void ConferirIE(const TObjeto* ASender, TWinControl* AControle, const TValores& 
 
 void ConferirMunicipio(const TObjeto* ASender, TWinControl* AControle, const TValores& AValores) {
     const std::u16string codigo = SemPontuacao(AValores[caMunicipio]);
-    if (codigo.empty()) return;
-    const bool numerico = std::all_of(codigo.begin(), codigo.end(), EhDigito);
-    if (!numerico || !ValidouCodigoMunicipioOficial(codigo))
-        Recusar(ASender, AControle, u"Código do município inválido. Verifique.");
+    RecusarSe(!codigo.empty() && !ValidouCodigoMunicipioOficial(codigo), ASender, AControle,
+              u"Código do município inválido. Verifique.");
 }
 
 void ConferirValor(const TObjeto* ASender, TWinControl* AControle, const TValores& AValores) {
@@ -69,27 +95,27 @@ void ConferirValor(const TObjeto* ASender, TWinControl* AControle, const TValore
 }
 
 void ConferirNascimento(const TObjeto* ASender, TWinControl* AControle, const TValores& AValores) {
-    const std::u16string& data = AValores[caNascimento];
-    if (!EstahEmBranco(data) && !TentarTextoParaData(data))
-        Recusar(ASender, AControle, u"Data de nascimento inválida: use dia/mês/ano, como 31/12/1999.");
+    if (ContarDigitos(AValores[caNascimento]) > 0)
+        ValidarData(ASender, AControle, AValores[caNascimento],
+                    u"Data de nascimento inválida: use dia/mês/ano, como 31/12/1999.");
 }
 
 }  // namespace
 
+// The mask of the CNPJ takes the letters of the numbers given out since July 2026.
 // clang-format off
 const std::array<TDescricaoCampo, CQuantidadeCampos> CCampos{{
-    {u"&Nome",                  false, 40, &ConferirNome},
-    {u"&CPF ou CNPJ",           false, 20, &ConferirDocumento},
-    {u"&UF",                    true,   6, &ConferirUF},
-    {u"&Inscrição estadual",    false, 20, &ConferirIE},
-    {u"Código do &município",   false, 10, &ConferirMunicipio},
-    {u"&Valor do crédito",      false, 16, &ConferirValor},
-    {u"&Data de nascimento",    false, 12, &ConferirNascimento},
+    {u"&Nome",                {},              -1, 40, ftString, nullptr,                        &ConferirNome,       caNome,          u"Comercial Modelo Ltda."},
+    {u"&CPF ou CNPJ",         CTiposDocumento,  0,  6, ftString, nullptr,                        nullptr,             caTipoDocumento, u"CNPJ"},
+    {u"",                     {},              -1, 20, ftString, &FormatarCnpjAlfanumericoCampo, &ConferirDocumento,  caTipoDocumento, u"11222333000181"},
+    {u"C&EP",                 {},              -1, 10, ftString, &FormatarCEP,                   &ConferirCEP,        caCEP,           u"01310100"},
+    {u"&Telefone",            {},              -1, 16, ftString, &FormatarFone,                  &ConferirFone,       caFone,          u"( 11)98765-4321"},
+    {u"&UF",                  CUFs,            -1,  4, ftString, nullptr,                        &ConferirUF,         caUF,            u"SP"},
+    {u"&Inscrição estadual",  {},              -1, 20, ftString, nullptr,                        &ConferirIE,         caUF,            u"110.042.490.114"},
+    {u"Código do &município", {},              -1, 10, ftString, &FormatarMunicipio,             &ConferirMunicipio,  caMunicipio,     u"3550308"},
+    {u"&Valor do crédito",    {},              -1, 16, ftFloat,  &FormatarCampoValor,            &ConferirValor,      caValor,         u"1234,56"},
+    {u"&Data de nascimento",  {},              -1, 12, ftDate,   &FormatarNascimento,            &ConferirNascimento, caNascimento,    u"31/12/1999"},
 }};
-
-const std::array<std::u16string_view, 27> CUFs{
-    u"AC", u"AL", u"AM", u"AP", u"BA", u"CE", u"DF", u"ES", u"GO", u"MA", u"MG", u"MS", u"MT", u"PA",
-    u"PB", u"PE", u"PI", u"PR", u"RJ", u"RN", u"RO", u"RR", u"RS", u"SC", u"SE", u"SP", u"TO"};
 // clang-format on
 
 std::u16string EscreverPorExtenso(std::u16string_view AValor) {
@@ -104,9 +130,77 @@ std::u16string EscreverPorExtenso(std::u16string_view AValor) {
     }
 }
 
-void Salvar(const TValores& AValores, const TControles& AControles) {
-    for (std::size_t i = 0; i < CCampos.size(); ++i) CCampos[i].Validar(nullptr, AControles[i], AValores);
-    GOryUtilsDialogs->Informacao(u"Cliente conferido: todos os campos são válidos.");
+TCadastro::TCadastro() {
+    for (std::size_t i = 0; i < CCampos.size(); ++i) {
+        const TDescricaoCampo& campo = CCampos[i];
+        if (!campo.Formatar) continue;
+        FCampos[i] = EhCampoNumerico(campo.Tipo) ? std::make_unique<TNumericField>(campo.Tipo)
+                                                 : std::make_unique<TField>(campo.Tipo);
+        campo.Formatar(*FCampos[i]);
+    }
+}
+
+TCadastro::~TCadastro() = default;
+
+void TCadastro::Exemplificar() {
+    for (std::size_t i = 0; i < CCampos.size(); ++i) {
+        EscreverCaixa(i, CCampos[i].Exemplo);
+        if (TEditorDeCampo* editor = GetEditor(i)) editor->Gravar();
+    }
+}
+
+// What the field took, as the rules want it; else what the user must still correct.
+TValores TCadastro::LerValores() {
+    TValores valores;
+    for (std::size_t i = 0; i < valores.size(); ++i) {
+        TEditorDeCampo* editor = GetEditor(i);
+        if (editor) editor->Gravar();
+        valores[i] = editor && editor->GetErro().empty() ? FCampos[i]->GetTexto() : LerCaixa(i);
+    }
+    return valores;
+}
+
+void TCadastro::AoSair(std::size_t ACampo, std::size_t AFoco) {
+    const TDescricaoCampo& campo = CCampos[ACampo];
+    if (FValidando || !campo.Validar || AFoco == ACampo || AFoco == static_cast<std::size_t>(campo.Escolha)) return;
+    Tratar([&] {
+        TWinControl& controle = GetControle(ACampo);
+        campo.Validar(&controle, &controle, LerValores());
+    });
+}
+
+void TCadastro::AoEscolher(std::size_t ACampo) {
+    if (ACampo != caTipoDocumento) return;
+    TField& documento = *FCampos[caDocumento];
+    const std::u16string anterior = documento.GetEditMask();
+    EhCpf(LerCaixa(caTipoDocumento)) ? FormatarCPF(documento) : FormatarCnpjAlfanumericoCampo(documento);
+    if (documento.GetEditMask() == anterior) return;
+    // The number of one kind is none of the other.
+    documento.SetValor(TNulo{});
+    GetEditor(caDocumento)->Atualizar();
+}
+
+void TCadastro::AoSalvar() {
+    if (FValidando) return;
+    Tratar([&] {
+        const TValores valores = LerValores();
+        for (std::size_t i = 0; i < CCampos.size(); ++i)
+            if (CCampos[i].Validar) CCampos[i].Validar(nullptr, &GetControle(i), valores);
+        GOryUtilsDialogs->Informacao(u"Cliente conferido: todos os campos são válidos.");
+    });
+}
+
+// A handler of the host: what aborts ends silently, any other error is shown.
+void TCadastro::Tratar(const std::function<void()>& ATratador) {
+    FValidando = true;
+    try {
+        ATratador();
+    } catch (const EAbort&) {
+        // Silent by its meaning.
+    } catch (const Exception& erro) {
+        GOryUtilsDialogs->Erro(erro.GetMensagem());
+    }
+    FValidando = false;
 }
 
 }  // namespace OryUtils::Cadastro

@@ -1,8 +1,12 @@
 #pragma once
 
+#include "oryutils/forms/EditorDeCampo.hpp"
+#include "oryutils/runtime/Campos.hpp"
 #include "oryutils/runtime/Controle.hpp"
 
 #include <array>
+#include <functional>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -10,24 +14,44 @@
 namespace OryUtils::Cadastro {
 
 /// The fields of the customer, in tab order.
-enum TCampo : int { caNome, caDocumento, caUF, caIE, caMunicipio, caValor, caNascimento, CQuantidadeCampos };
+enum TCampo : int {
+    caNome,
+    caTipoDocumento,
+    caDocumento,
+    caCEP,
+    caFone,
+    caUF,
+    caIE,
+    caMunicipio,
+    caValor,
+    caNascimento,
+    CQuantidadeCampos
+};
 
 using TValores = std::array<std::u16string, CQuantidadeCampos>;
-using TControles = std::array<TWinControl*, CQuantidadeCampos>;
 
 struct TDescricaoCampo {
+    /// Empty: it stands on the line of the field before, at its right.
     std::u16string_view Caption;
-    /// Chosen from the states; else typed.
-    bool Lista;
+    /// It is chosen from these; none: it is typed.
+    std::span<const std::u16string_view> Opcoes;
+    /// Of Opcoes, when the window opens; -1 for none.
+    int OpcaoInicial;
     /// Width of the box, in characters.
     int Largura;
-    /// Reports a bad value by focus, warning and EAbort.
+    TFieldType Tipo;
+    /// Gives the field its mask or its format; null where any text is typed.
+    void (*Formatar)(TField& ACampo);
+    /// Reports a bad value by focus, warning and EAbort; null where nothing can be wrong.
     void (*Validar)(const TObjeto* ASender, TWinControl* AControle, const TValores& AValores);
+    /// The choice that its rule depends on: one may go back to it and leave a bad value. Itself for none.
+    TCampo Escolha;
+    /// What the pictures of the documentation show.
+    std::u16string_view Exemplo;
 };
 
 /// Indexed by TCampo.
 extern const std::array<TDescricaoCampo, CQuantidadeCampos> CCampos;
-extern const std::array<std::u16string_view, 27> CUFs;
 
 inline constexpr std::u16string_view CTituloCadastro = u"Cadastro de cliente";
 inline constexpr std::u16string_view CCaptionSalvar = u"&Salvar";
@@ -36,8 +60,46 @@ inline constexpr std::u16string_view CCaptionFechar = u"&Fechar";
 /// What stands under the value's box: AValor in words; nothing while it is blank or no amount.
 std::u16string EscreverPorExtenso(std::u16string_view AValor);
 
-/// The save button: every field in order, without a sender; then the user is told that all is well. EAbort at the
-/// first field that does not hold.
-void Salvar(const TValores& AValores, const TControles& AControles);
+/// What the sample window does, whatever its controls: the windows of the toolkits tell what happened to theirs.
+class TCadastro {
+public:
+    TCadastro();
+    virtual ~TCadastro();
+    TCadastro(const TCadastro&) = delete;
+    TCadastro& operator=(const TCadastro&) = delete;
+
+    /// Fills all boxes with a made-up customer.
+    void Exemplificar();
+
+protected:
+    // What the window calls.
+
+    /// The field that the box of ACampo is bound to; null where any text is typed or chosen.
+    TField* GetCampoDeDados(std::size_t ACampo) const noexcept { return FCampos[ACampo].get(); }
+    /// While a warning is up the focus goes away and comes back: that is no exit.
+    bool EstahValidando() const noexcept { return FValidando; }
+    /// The focus went from ACampo to AFoco (CQuantidadeCampos when that is no field): the value must hold.
+    void AoSair(std::size_t ACampo, std::size_t AFoco);
+    /// An option of ACampo was chosen.
+    void AoEscolher(std::size_t ACampo);
+    /// The save button: every field in order, without a sender; then the user is told that all is well.
+    void AoSalvar();
+
+    // What it provides.
+
+    virtual TWinControl& GetControle(std::size_t ACampo) = 0;
+    /// Null where the box is not bound.
+    virtual TEditorDeCampo* GetEditor(std::size_t ACampo) = 0;
+    /// What the box shows; the chosen option of a list.
+    virtual std::u16string LerCaixa(std::size_t ACampo) const = 0;
+    virtual void EscreverCaixa(std::size_t ACampo, std::u16string_view ATexto) = 0;
+
+private:
+    TValores LerValores();
+    void Tratar(const std::function<void()>& ATratador);
+
+    std::array<std::unique_ptr<TField>, CQuantidadeCampos> FCampos;
+    bool FValidando = false;
+};
 
 }  // namespace OryUtils::Cadastro

@@ -50,6 +50,14 @@ void TEditorDeCampo::AoSair(std::u16string_view ATexto) {
     Mostrar({FCampo.GetTextoExibido(), 0, 0});
 }
 
+void TEditorDeCampo::AoGravar(std::u16string_view ATexto) {
+    const bool tinhaFoco = FTemFoco;
+    // What is displayed is not what is edited: the field has it already.
+    if (!tinhaFoco && FErro.empty() && ATexto == FCampo.GetTextoExibido()) return;
+    AoSair(ATexto);
+    if (tinhaFoco) AoEntrar();
+}
+
 /// Of ATexto what may go where the selection of AEdicao stands in a number.
 std::u16string TEditorDeCampo::FiltrarNumero(const TEdicaoMascara& AEdicao, std::u16string_view ATexto,
                                              bool AColado) const {

@@ -28,6 +28,9 @@ public:
     const std::u16string& GetErro() const noexcept { return FErro; }
     /// Shows the field's value and mask anew, after the program changed them.
     void Atualizar();
+    /// What the box holds now goes to the field, as when the focus leaves it; a box that has the focus goes on editing
+    /// what the field took.
+    virtual void Gravar() = 0;
 
 protected:
     // What the toolkit's class calls.
@@ -39,6 +42,7 @@ protected:
     TEdicaoMascara Ajustar(const TEdicaoMascara& AEdicao) const { return FMascara.Ajustar(AEdicao); }
     void AoEntrar();
     void AoSair(std::u16string_view ATexto);
+    void AoGravar(std::u16string_view ATexto);
 
     // What it provides.
 

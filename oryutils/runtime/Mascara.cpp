@@ -317,7 +317,7 @@ std::u16string TMascara::Sair(std::u16string_view ATexto) const {
         const char16_t c = i >= vazios ? antes[campos[i - vazios]] : FBranco;
         // Places of different kinds: what does not fit further right stays.
         if (!EhVazio(c) && !LugarAceita(FLugares[campos[i]], c)) return antes;
-        texto[campos[i]] = c;
+        texto[campos[i]] = EhVazio(c) ? c : NaCaixa(FLugares[campos[i]], c);
     }
     return texto;
 }

@@ -38,21 +38,23 @@ protected:
         Digitar(VK_CONTROL, false);
     }
 
-    /// Runs AFormulario; APassos follow one another once it is shown. A form that nothing closed is a failure.
-    int Executar(TFormulario& AFormulario, std::deque<std::function<void()>> APassos) {
+    /// ARodar runs a loop of messages; APassos follow one another meanwhile, each when ADeveAndar. A loop that no step
+    /// ended is a failure, and ADesistir ends it.
+    template <typename TRodar>
+    auto Conduzir(std::deque<std::function<void()>> APassos, const std::function<bool()>& ADeveAndar,
+                  const std::function<void()>& ADesistir, TRodar ARodar) {
         constexpr int CIntervalo = 10;
         constexpr int CTiquesOciosos = 100;
         int ociosos = 0;
         const auto temporizador = FToolkit.LigarTemporizador(CIntervalo, [&] {
-            // A form inside of another has its own steps; the outer one's wait.
-            if (!::IsWindowEnabled(Janela(AFormulario))) return;
+            if (!ADeveAndar()) return;
             if (!APassos.empty()) {
                 const auto passo = std::move(APassos.front());
                 APassos.pop_front();
                 passo();
             } else if (++ociosos == CTiquesOciosos) {
-                ADD_FAILURE() << "nothing closed the form";
-                AFormulario.SetModalResult(-1);
+                ADD_FAILURE() << "no step ended the loop";
+                ADesistir();
             }
         });
         struct TDesligar {
@@ -60,7 +62,15 @@ protected:
             std::uintptr_t Temporizador;
             ~TDesligar() { Toolkit.DesligarTemporizador(Temporizador); }
         } desligar{FToolkit, temporizador};
-        return AFormulario.ExecutarModal();
+        return ARodar();
+    }
+
+    /// Runs AFormulario; APassos follow one another once it is shown. A form that nothing closed is a failure.
+    int Executar(TFormulario& AFormulario, std::deque<std::function<void()>> APassos) {
+        // A form inside of another has its own steps; the outer one's wait.
+        return Conduzir(
+            std::move(APassos), [&] { return ::IsWindowEnabled(Janela(AFormulario)) != 0; },
+            [&] { AFormulario.SetModalResult(-1); }, [&] { return AFormulario.ExecutarModal(); });
     }
 
     static HWND Janela(const TFormulario& AFormulario) {

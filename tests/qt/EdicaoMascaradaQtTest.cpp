@@ -11,6 +11,7 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QVBoxLayout>
 
 #include <memory>
@@ -119,6 +120,63 @@ TEST_F(EdicaoQt, ColarRecortarEErro) {
     delete janela.Caixa;
     edicaoData.Atualizar();
     EXPECT_EQ(edicaoData.GetWidget(), nullptr);
+}
+
+// What the box's own menu does, undone marks and all, counts as the same keys.
+TEST_F(EdicaoQt, OMenuDaCaixaRecortaEColaNaMascara) {
+    TJanela janela;
+    TField cpf(ftString);
+    FormatarCPF(cpf);
+    const TEdicaoMascaradaQt edicao(janela.Caixa, cpf);
+    // Undo, redo, a line, then these.
+    enum TItem : int { itRecortar = 3, itColar = 5, itExcluir = 6 };
+    const auto escolher = [&](TItem AItem) {
+        const std::unique_ptr<QMenu> menu(janela.Caixa->createStandardContextMenu());
+        ASSERT_GT(menu->actions().size(), AItem);
+        menu->actions()[AItem]->trigger();
+    };
+    janela.Caixa->setFocus();
+    janela.Caixa->setText("52911122225");
+    janela.Caixa->setSelection(5, 2);
+    escolher(itRecortar);
+    EXPECT_EQ(janela.Caixa->text(), "529.1  .222-25");
+    EXPECT_EQ(QApplication::clipboard()->text(), "11");
+    EXPECT_EQ(janela.Caixa->cursorPosition(), 5);
+    QApplication::clipboard()->setText("82.247/");
+    escolher(itColar);
+    EXPECT_EQ(janela.Caixa->text(), "529.182.247-25");
+    EXPECT_EQ(janela.Caixa->cursorPosition(), 12);
+    janela.Caixa->setSelection(0, 3);
+    escolher(itExcluir);
+    EXPECT_EQ(janela.Caixa->text(), "   .182.247-25");
+    janela.Caixa->selectAll();
+    QApplication::clipboard()->setText("111.444.777-35 e mais");
+    escolher(itColar);
+    EXPECT_EQ(janela.Caixa->text(), "111.444.777-35");
+    janela.Outra->setFocus();
+    EXPECT_EQ(cpf.GetTexto(), u"11144477735");
+}
+
+TEST_F(EdicaoQt, GravarSemSairContinuaAEdicao) {
+    TJanela janela;
+    TNumericField valor(ftFloat);
+    FormatarCampoValor(valor);
+    TEdicaoMascaradaQt edicao(janela.Caixa, valor);
+    edicao.Gravar();
+    EXPECT_TRUE(valor.EhNulo());
+    janela.Caixa->setFocus();
+    QTest::keyClicks(janela.Caixa, "1234,5");
+    edicao.Gravar();
+    EXPECT_EQ(valor.GetTexto(), u"1234,50");
+    EXPECT_EQ(janela.Caixa->text(), "1234,50") << "still edited, not displayed";
+    QTest::keyClick(janela.Caixa, Qt::Key_End);
+    QTest::keyClick(janela.Caixa, Qt::Key_Backspace);
+    QTest::keyClicks(janela.Caixa, "9");
+    janela.Outra->setFocus();
+    EXPECT_EQ(janela.Caixa->text(), "1.234,59");
+    edicao.Gravar();
+    EXPECT_EQ(edicao.GetErro(), u"") << "what is displayed is not read again";
+    EXPECT_EQ(valor.GetTexto(), u"1234,59");
 }
 
 TEST_F(EdicaoQt, FormatosMudados) {

@@ -167,6 +167,7 @@ TEST(Mascara, EdicaoViva) {
         EXPECT_EQ(edicao.Texto.size(), mascara.GetTamanho()) << caso.Porque;
     }
     EXPECT_EQ(Mascara(CFone).Sair(u"(119)87654-321 "), u"( 11)98765-4321");
+    EXPECT_EQ(Mascara(u"!a>a;0; ").Sair(u"ÿ "), u" Ÿ") << "as the place further right writes it";
     EXPECT_EQ(Mascara(u"!L99;0; ").Sair(u"A1 "), u"A1 ") << "the letter has no place further right";
 }
 

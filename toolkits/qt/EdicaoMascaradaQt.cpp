@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 
+#include <algorithm>
 #include <optional>
 
 namespace OryUtils {
@@ -40,7 +41,13 @@ std::optional<TTeclaMascara> BuscarTecla(int ACodigo) {
 
 TEdicaoMascaradaQt::TEdicaoMascaradaQt(QLineEdit* AWidget, TField& ACampo) : TEditorDeCampo(ACampo), FWidget(AWidget) {
     AWidget->installEventFilter(this);
-    // A text that came some other way, from the context menu or the program, is brought into the mask.
+    QObject::connect(AWidget, &QLineEdit::textEdited, this, [this] { AoEditar(); });
+    const auto lembrar = [this] {
+        if (!FEscrevendo && FWidget) FAntes = Ler();
+    };
+    QObject::connect(AWidget, &QLineEdit::selectionChanged, this, lembrar);
+    QObject::connect(AWidget, &QLineEdit::cursorPositionChanged, this, lembrar);
+    // A text that came some other way, as from the program, is brought into the mask.
     QObject::connect(AWidget, &QLineEdit::textChanged, this, [this] {
         if (!FEscrevendo && FWidget) Mostrar(Ajustar(Ler()));
     });
@@ -55,7 +62,7 @@ TEdicaoMascaradaQt::~TEdicaoMascaradaQt() {
 }
 
 void TEdicaoMascaradaQt::Gravar() {
-    if (FWidget) AoSair(Ler().Texto);
+    if (FWidget) AoGravar(Ler().Texto);
 }
 
 TEdicaoMascara TEdicaoMascaradaQt::Ler() const {
@@ -82,6 +89,22 @@ void TEdicaoMascaradaQt::Mostrar(const TEdicaoMascara& AEdicao) {
         FWidget->setSelection(ancora, cursor - ancora);
     }
     FEscrevendo = false;
+    FAntes = Ler();
+}
+
+/// The widget's own menu cuts, pastes and deletes as if there were no mask: the same is done again in the mask.
+void TEdicaoMascaradaQt::AoEditar() {
+    if (FEscrevendo || !FWidget || FWidget->isReadOnly()) return;
+    const TEdicaoMascara antes = FAntes;
+    const auto [inicio, fim] = std::minmax(antes.Cursor, antes.Ancora);
+    const std::u16string depois = FWidget->text().toStdU16String();
+    const std::size_t restante = antes.Texto.size() - std::min(fim, antes.Texto.size());
+    const bool trocouSelecao = depois.size() >= inicio + restante &&
+                               depois.starts_with(antes.Texto.substr(0, inicio)) &&
+                               depois.ends_with(antes.Texto.substr(antes.Texto.size() - restante));
+    if (!trocouSelecao) return;  // undone, or moved by the mouse: fitted to the mask as any other text
+    const std::u16string incluido = depois.substr(inicio, depois.size() - restante - inicio);
+    Mostrar(incluido.empty() ? Teclar(antes, tmExcluir) : Colar(antes, incluido));
 }
 
 /// True when the key is spent.
@@ -132,7 +155,7 @@ bool TEdicaoMascaradaQt::eventFilter(QObject* AObjeto, QEvent* AEvento) {
             return false;
         case QEvent::FocusOut: {
             const auto motivo = static_cast<QFocusEvent*>(AEvento)->reason();
-            if (motivo != Qt::PopupFocusReason) Gravar();
+            if (motivo != Qt::PopupFocusReason) AoSair(Ler().Texto);
             return false;
         }
         default:

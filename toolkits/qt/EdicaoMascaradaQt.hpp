@@ -22,8 +22,7 @@ public:
     ~TEdicaoMascaradaQt() override;
 
     QLineEdit* GetWidget() const noexcept { return FWidget.data(); }
-    /// What the widget holds now goes to the field, as when the focus leaves it.
-    void Gravar();
+    void Gravar() override;
     bool eventFilter(QObject* AObjeto, QEvent* AEvento) override;
 
 protected:
@@ -32,8 +31,11 @@ protected:
 private:
     TEdicaoMascara Ler() const;
     bool TratarTecla(const QKeyEvent& ATecla);
+    void AoEditar();
 
     QPointer<QLineEdit> FWidget;
+    /// The box before the edit that is under way.
+    TEdicaoMascara FAntes;
     bool FEscrevendo = false;
 };
 

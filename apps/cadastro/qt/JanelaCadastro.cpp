@@ -1,10 +1,5 @@
 #include "apps/cadastro/qt/JanelaCadastro.hpp"
 
-#include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/ui/UnOryUtilsDialogs.hpp"
-
-#include "toolkits/qt/ControleQt.hpp"
-
 #include <QComboBox>
 #include <QFocusEvent>
 #include <QFormLayout>
@@ -13,7 +8,6 @@
 #include <QPushButton>
 
 #include <algorithm>
-#include <vector>
 
 namespace OryUtils::Cadastro {
 namespace {
@@ -27,30 +21,25 @@ QString Texto(std::u16string_view ATexto) {
 TJanelaCadastro::TJanelaCadastro() {
     setWindowTitle(Texto(CTituloCadastro));
     auto* formulario = new QFormLayout(this);
+    formulario->setVerticalSpacing(fontMetrics().lineSpacing() / 2);
+    QHBoxLayout* linha = nullptr;
     for (std::size_t i = 0; i < CCampos.size(); ++i) {
-        const TDescricaoCampo& campo = CCampos[i];
-        if (campo.Lista) {
-            auto* lista = new QComboBox;
-            for (const auto& uf : CUFs) lista->addItem(Texto(uf));
-            lista->setCurrentIndex(-1);
-            FCampos[i] = lista;
-        } else {
-            FCampos[i] = new QLineEdit;
+        FCaixas[i] = CriarCaixa(i);
+        FControles.emplace_back(FCaixas[i]);
+        if (!CCampos[i].Caption.empty()) {
+            auto* rotulo = new QLabel(Texto(CCampos[i].Caption));
+            rotulo->setBuddy(FCaixas[i]);
+            linha = new QHBoxLayout;
+            linha->addStretch();
+            formulario->addRow(rotulo, linha);
         }
-        const int letra = fontMetrics().averageCharWidth();
-        FCampos[i]->setFixedWidth(std::max(campo.Largura * letra + 2 * letra, FCampos[i]->minimumSizeHint().width()));
-        FCampos[i]->installEventFilter(this);
-        formulario->addRow(Texto(campo.Caption), FCampos[i]);
-        if (i == caValor) {
-            FPorExtenso = new QLabel;
-            FPorExtenso->setWordWrap(true);
-            FPorExtenso->setMinimumHeight(2 * fontMetrics().lineSpacing());
-            FPorExtenso->setAlignment(Qt::AlignTop);
-            formulario->addRow(QString(), FPorExtenso);
-            connect(static_cast<QLineEdit*>(FCampos[i]), &QLineEdit::textChanged, this, [this](const QString& AValor) {
-                FPorExtenso->setText(Texto(EscreverPorExtenso(AValor.toStdU16String())));
-            });
-        }
+        linha->insertWidget(linha->count() - 1, FCaixas[i]);
+        if (i != caValor) continue;
+        FPorExtenso = new QLabel;
+        FPorExtenso->setWordWrap(true);
+        FPorExtenso->setMinimumHeight(2 * fontMetrics().lineSpacing());
+        FPorExtenso->setAlignment(Qt::AlignTop);
+        formulario->addRow(QString(), FPorExtenso);
     }
     auto* salvar = new QPushButton(Texto(CCaptionSalvar));
     FFechar = new QPushButton(Texto(CCaptionFechar));
@@ -63,61 +52,63 @@ TJanelaCadastro::TJanelaCadastro() {
     connect(static_cast<QPushButton*>(FFechar), &QPushButton::clicked, this, &QWidget::close);
 }
 
+QWidget* TJanelaCadastro::CriarCaixa(std::size_t ACampo) {
+    const TDescricaoCampo& campo = CCampos[ACampo];
+    const int letra = fontMetrics().horizontalAdvance(u'0');
+    QWidget* caixa = nullptr;
+    if (!campo.Opcoes.empty()) {
+        auto* lista = new QComboBox(this);
+        for (const auto& opcao : campo.Opcoes) lista->addItem(Texto(opcao));
+        lista->setCurrentIndex(campo.OpcaoInicial);
+        connect(lista, &QComboBox::currentIndexChanged, this, [this, ACampo] { AoEscolher(ACampo); });
+        caixa = lista;
+        caixa->setFixedWidth(std::max(caixa->sizeHint().width(), campo.Largura * letra));
+    } else {
+        auto* edicao = new QLineEdit(this);
+        if (ACampo == caValor)
+            connect(edicao, &QLineEdit::textChanged, this, [this](const QString& AValor) {
+                if (FPorExtenso) FPorExtenso->setText(Texto(EscreverPorExtenso(AValor.toStdU16String())));
+            });
+        if (TField* dados = GetCampoDeDados(ACampo))
+            FEdicoes[ACampo] = std::make_unique<TEdicaoMascaradaQt>(edicao, *dados);
+        caixa = edicao;
+        caixa->setFixedWidth((campo.Largura + 2) * letra);
+    }
+    caixa->installEventFilter(this);
+    return caixa;
+}
+
 // The focus that a warning takes away, and gives back, is not an exit.
 bool TJanelaCadastro::eventFilter(QObject* AObjeto, QEvent* AEvento) {
-    const auto campo = std::find(FCampos.begin(), FCampos.end(), AObjeto);
-    if (campo != FCampos.end() && AEvento->type() == QEvent::FocusOut && !FValidando) {
+    const auto caixa = std::ranges::find(FCaixas, AObjeto);
+    if (caixa != FCaixas.end() && AEvento->type() == QEvent::FocusOut && !EstahValidando()) {
         const Qt::FocusReason motivo = static_cast<QFocusEvent*>(AEvento)->reason();
         if (motivo != Qt::ActiveWindowFocusReason && motivo != Qt::PopupFocusReason)
             // The focus is still moving: the check waits for its own event.
             QMetaObject::invokeMethod(
-                this, [this, indice = static_cast<std::size_t>(campo - FCampos.begin())] { AoSair(indice); },
+                this, [this, campo = static_cast<std::size_t>(caixa - FCaixas.begin())] { AoPerderFoco(campo); },
                 Qt::QueuedConnection);
     }
     return QWidget::eventFilter(AObjeto, AEvento);
 }
 
-TValores TJanelaCadastro::LerValores() const {
-    TValores valores;
-    for (std::size_t i = 0; i < valores.size(); ++i) {
-        const auto* lista = qobject_cast<const QComboBox*>(FCampos[i]);
-        valores[i] =
-            (lista ? lista->currentText() : static_cast<const QLineEdit*>(FCampos[i])->text()).toStdU16String();
-    }
-    return valores;
-}
-
-// Left for another field: the value must hold. Leaving for the close button is always allowed.
-void TJanelaCadastro::AoSair(std::size_t ACampo) {
+// Leaving for the close button is always allowed.
+void TJanelaCadastro::AoPerderFoco(std::size_t ACampo) {
     const QWidget* foco = focusWidget();
-    if (FValidando || !isVisible() || foco == FCampos[ACampo] || foco == FFechar) return;
-    Tratar([&] {
-        TControleQt controle(FCampos[ACampo]);
-        CCampos[ACampo].Validar(&controle, &controle, LerValores());
-    });
+    if (isVisible() && foco != FFechar)
+        AoSair(ACampo, static_cast<std::size_t>(std::ranges::find(FCaixas, foco) - FCaixas.begin()));
 }
 
-void TJanelaCadastro::AoSalvar() {
-    if (FValidando) return;
-    Tratar([&] {
-        std::vector<TControleQt> adaptadores(FCampos.begin(), FCampos.end());
-        TControles controles{};
-        for (std::size_t i = 0; i < controles.size(); ++i) controles[i] = &adaptadores[i];
-        Salvar(LerValores(), controles);
-    });
+std::u16string TJanelaCadastro::LerCaixa(std::size_t ACampo) const {
+    const auto* lista = qobject_cast<const QComboBox*>(FCaixas[ACampo]);
+    return (lista ? lista->currentText() : static_cast<const QLineEdit*>(FCaixas[ACampo])->text()).toStdU16String();
 }
 
-// A handler of the host: what aborts ends silently, any other error is shown.
-void TJanelaCadastro::Tratar(const std::function<void()>& ATratador) {
-    FValidando = true;
-    try {
-        ATratador();
-    } catch (const EAbort&) {
-        // Silent by its meaning.
-    } catch (const Exception& erro) {
-        GOryUtilsDialogs->Erro(erro.GetMensagem());
-    }
-    FValidando = false;
+void TJanelaCadastro::EscreverCaixa(std::size_t ACampo, std::u16string_view ATexto) {
+    if (auto* lista = qobject_cast<QComboBox*>(FCaixas[ACampo]))
+        lista->setCurrentText(Texto(ATexto));
+    else
+        static_cast<QLineEdit*>(FCaixas[ACampo])->setText(Texto(ATexto));
 }
 
 }  // namespace OryUtils::Cadastro

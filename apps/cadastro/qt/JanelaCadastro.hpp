@@ -1,36 +1,43 @@
 #pragma once
 
 #include "apps/cadastro/Cadastro.hpp"
+#include "toolkits/qt/ControleQt.hpp"
+#include "toolkits/qt/EdicaoMascaradaQt.hpp"
 
 #include <QLabel>
 #include <QWidget>
 
 #include <array>
-#include <functional>
+#include <memory>
+#include <vector>
 
 namespace OryUtils::Cadastro {
 
 /// The sample window with the controls of Qt: a host of the library that knows nothing of its forms.
-class TJanelaCadastro final : public QWidget {
+class TJanelaCadastro final : public QWidget, public TCadastro {
 public:
     TJanelaCadastro();
 
-    QWidget* GetCampo(TCampo ACampo) const { return FCampos[ACampo]; }
+    QWidget* GetCaixa(TCampo ACampo) const { return FCaixas[ACampo]; }
     const QLabel* GetPorExtenso() const { return FPorExtenso; }
 
 protected:
     bool eventFilter(QObject* AObjeto, QEvent* AEvento) override;
 
-private:
-    TValores LerValores() const;
-    void AoSair(std::size_t ACampo);
-    void AoSalvar();
-    void Tratar(const std::function<void()>& ATratador);
+    TWinControl& GetControle(std::size_t ACampo) override { return FControles[ACampo]; }
+    TEditorDeCampo* GetEditor(std::size_t ACampo) override { return FEdicoes[ACampo].get(); }
+    std::u16string LerCaixa(std::size_t ACampo) const override;
+    void EscreverCaixa(std::size_t ACampo, std::u16string_view ATexto) override;
 
-    std::array<QWidget*, CQuantidadeCampos> FCampos{};
+private:
+    QWidget* CriarCaixa(std::size_t ACampo);
+    void AoPerderFoco(std::size_t ACampo);
+
+    std::array<QWidget*, CQuantidadeCampos> FCaixas{};
+    std::array<std::unique_ptr<TEdicaoMascaradaQt>, CQuantidadeCampos> FEdicoes;
+    std::vector<TControleQt> FControles;
     QLabel* FPorExtenso = nullptr;
     QWidget* FFechar = nullptr;
-    bool FValidando = false;
 };
 
 }  // namespace OryUtils::Cadastro

@@ -5,11 +5,13 @@
 
 #include <QApplication>
 
+// With --exemplo the boxes are filled.
 int main(int argc, char** argv) {
     QApplication aplicacao(argc, argv);
     OryUtils::InstalarToolkitQt();
     OryUtils::GOryUtilsFormatacoes->GetFormatoPadraoDatasEValores().Configurar();
     OryUtils::Cadastro::TJanelaCadastro janela;
+    if (QApplication::arguments().contains("--exemplo")) janela.Exemplificar();
     janela.show();
     return QApplication::exec();
 }

@@ -1,200 +1,222 @@
-// The sample window with the system's own controls: a host of the library that knows nothing of its forms.
-#include "oryutils/forms/win32/ControleWin32.hpp"
-#include "oryutils/platform/windows/Windows.hpp"
-#include "oryutils/registry_numbers/UnOryUtilsFormatacoes.hpp"
-#include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/ui/UnOryUtilsDialogs.hpp"
+#include "apps/cadastro/win32/JanelaCadastro.hpp"
 
-#include "apps/cadastro/Cadastro.hpp"
-
-#include <optional>
-#include <vector>
+#include <algorithm>
 
 namespace OryUtils::Cadastro {
 namespace {
 
 constexpr UINT CSaiuDoCampo = WM_APP + 1;
 constexpr int CPrimeiroCampo = 100;
-constexpr int CSalvar = 1;  // IDOK: what Enter presses
-constexpr int CFechar = 2;  // IDCANCEL: what Esc presses
+constexpr int CSalvar = IDOK;      // what Enter presses
+constexpr int CFechar = IDCANCEL;  // what Esc presses
 constexpr int CPorExtenso = 50;
 
-class TJanelaCadastro {
-public:
-    explicit TJanelaCadastro(HINSTANCE AModulo) : FModulo(AModulo) {
-        NONCLIENTMETRICSW metricas{};
-        metricas.cbSize = sizeof metricas;
-        ::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metricas, &metricas, 0);
-        FFonte = ::CreateFontIndirectW(&metricas.lfMessageFont);
-        WNDCLASSEXW classe{};
-        classe.cbSize = sizeof classe;
-        classe.lpfnWndProc = &TJanelaCadastro::Procedimento;
-        classe.hInstance = AModulo;
-        classe.hCursor = ::LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));
-        classe.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(COLOR_BTNFACE + 1));
-        classe.lpszClassName = L"TJanelaCadastro";
-        ::RegisterClassExW(&classe);
-        Montar();
-    }
-    ~TJanelaCadastro() { ::DeleteObject(FFonte); }
-    TJanelaCadastro(const TJanelaCadastro&) = delete;
-    TJanelaCadastro& operator=(const TJanelaCadastro&) = delete;
+std::wstring Texto(std::u16string_view ATexto) { return {Plataforma::ParaWide(ATexto.data()), ATexto.size()}; }
 
-    int Executar() {
-        ::ShowWindow(FJanela, SW_SHOWNORMAL);
-        ::SetFocus(FCampos[0]);
-        MSG mensagem;
-        while (::GetMessageW(&mensagem, nullptr, 0, 0) > 0) {
-            if (::IsDialogMessageW(FJanela, &mensagem)) continue;
-            ::TranslateMessage(&mensagem);
-            ::DispatchMessageW(&mensagem);
-        }
-        return static_cast<int>(mensagem.wParam);
-    }
-
-private:
-    void Montar() {
-        constexpr int CMargem = 12, CLarguraRotulo = 140, CAlturaLinha = 32, CAlturaCaixa = 23, CLarguraLetra = 7;
-        constexpr int CLarguraBotao = 85, CAlturaBotao = 26, CAlturaLista = 200;
-        constexpr DWORD CEstilo = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
-        RECT r{0, 0, CLarguraRotulo + 40 * CLarguraLetra + 3 * CMargem,
-               (CQuantidadeCampos + 1) * CAlturaLinha + CAlturaBotao + 3 * CMargem};
-        const int larguraCliente = static_cast<int>(r.right);
-        ::AdjustWindowRectEx(&r, CEstilo, FALSE, WS_EX_CONTROLPARENT);
-        ::CreateWindowExW(WS_EX_CONTROLPARENT, L"TJanelaCadastro", Texto(CTituloCadastro).c_str(), CEstilo,
-                          CW_USEDEFAULT, CW_USEDEFAULT, static_cast<int>(r.right - r.left),
-                          static_cast<int>(r.bottom - r.top), nullptr, nullptr, FModulo, this);
-        int y = CMargem;
-        for (std::size_t i = 0; i < CCampos.size(); ++i, y += CAlturaLinha) {
-            const TDescricaoCampo& campo = CCampos[i];
-            const int x = CMargem + CLarguraRotulo;
-            Criar(L"STATIC", campo.Caption, 0, {CMargem, y + 3, CMargem + CLarguraRotulo, y + CAlturaCaixa}, 0);
-            const DWORD estilo = campo.Lista ? CBS_DROPDOWNLIST | WS_VSCROLL : ES_AUTOHSCROLL | WS_BORDER;
-            FCampos.push_back(Criar(
-                campo.Lista ? L"COMBOBOX" : L"EDIT", u"", estilo | WS_TABSTOP,
-                {x, y, x + campo.Largura * CLarguraLetra + CMargem, y + (campo.Lista ? CAlturaLista : CAlturaCaixa)},
-                CPrimeiroCampo + static_cast<int>(i)));
-            if (i == caValor) {
-                y += CAlturaLinha;
-                Criar(L"STATIC", u"", SS_NOPREFIX, {x, y - 4, larguraCliente - CMargem, y + CAlturaLinha - 8},
-                      CPorExtenso);
-            }
-            if (!campo.Lista) continue;
-            for (const auto& uf : CUFs)
-                ::SendMessageW(FCampos.back(), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Texto(uf).c_str()));
-        }
-        y += CMargem;
-        const int x = larguraCliente - 2 * (CLarguraBotao + CMargem);
-        Criar(L"BUTTON", CCaptionSalvar, BS_DEFPUSHBUTTON | WS_TABSTOP, {x, y, x + CLarguraBotao, y + CAlturaBotao},
-              CSalvar);
-        Criar(L"BUTTON", CCaptionFechar, WS_TABSTOP,
-              {x + CLarguraBotao + CMargem, y, x + 2 * CLarguraBotao + CMargem, y + CAlturaBotao}, CFechar);
-    }
-
-    static std::wstring Texto(std::u16string_view ATexto) {
-        return {Plataforma::ParaWide(ATexto.data()), ATexto.size()};
-    }
-
-    HWND Criar(const wchar_t* AClasse, std::u16string_view ATexto, DWORD AEstilo, const RECT& ALugar, int AId) const {
-        const HWND janela =
-            ::CreateWindowExW(0, AClasse, Texto(ATexto).c_str(), AEstilo | WS_CHILD | WS_VISIBLE, ALugar.left,
-                              ALugar.top, ALugar.right - ALugar.left, ALugar.bottom - ALugar.top, FJanela,
-                              reinterpret_cast<HMENU>(static_cast<INT_PTR>(AId)), FModulo, nullptr);
-        ::SendMessageW(janela, WM_SETFONT, reinterpret_cast<WPARAM>(FFonte), FALSE);
-        return janela;
-    }
-
-    TValores LerValores() const {
-        TValores valores;
-        for (std::size_t i = 0; i < FCampos.size(); ++i) {
-            std::wstring texto(static_cast<std::size_t>(::GetWindowTextLengthW(FCampos[i])), L'\0');
-            ::GetWindowTextW(FCampos[i], texto.data(), static_cast<int>(texto.size()) + 1);
-            valores[i] = Plataforma::DeWide(texto);
-        }
-        return valores;
-    }
-
-    /// A handler of the host: what aborts ends silently, any other error is shown.
-    template <typename TTratador>
-    void Tratar(TTratador&& ATratador) {
-        FValidando = true;
-        try {
-            ATratador();
-        } catch (const EAbort&) {
-        } catch (const Exception& erro) {
-            GOryUtilsDialogs->Erro(erro.GetMensagem());
-        }
-        FValidando = false;
-    }
-
-    /// Left for another field: the value must hold. Leaving for the close button is always allowed.
-    void AoSair(std::size_t ACampo) {
-        const HWND foco = ::GetFocus();
-        if (FValidando || foco == FCampos[ACampo] || !::IsChild(FJanela, foco) ||
-            foco == ::GetDlgItem(FJanela, CFechar))
-            return;
-        Tratar([&] {
-            TControleWin32 controle(FCampos[ACampo]);
-            CCampos[ACampo].Validar(&controle, &controle, LerValores());
-        });
-    }
-
-    void AoSalvar() {
-        if (FValidando) return;
-        Tratar([&] {
-            std::vector<TControleWin32> adaptadores(FCampos.begin(), FCampos.end());
-            TControles controles{};
-            for (std::size_t i = 0; i < controles.size(); ++i) controles[i] = &adaptadores[i];
-            Salvar(LerValores(), controles);
-        });
-    }
-
-    void AoComandar(int AId, int ANotificacao) {
-        const bool campo = AId >= CPrimeiroCampo && AId < CPrimeiroCampo + CQuantidadeCampos;
-        const bool lista = campo && CCampos[static_cast<std::size_t>(AId - CPrimeiroCampo)].Lista;
-        // The focus is still moving: the check waits for its own message. The focus that a warning takes away, and
-        // gives back, is not an exit.
-        if (campo && !FValidando && ANotificacao == (lista ? CBN_KILLFOCUS : EN_KILLFOCUS))
-            ::PostMessageW(FJanela, CSaiuDoCampo, static_cast<WPARAM>(AId - CPrimeiroCampo), 0);
-        if (AId == CPrimeiroCampo + caValor && ANotificacao == EN_CHANGE && FCampos.size() > caValor)
-            ::SetDlgItemTextW(FJanela, CPorExtenso, Texto(EscreverPorExtenso(LerValores()[caValor])).c_str());
-        if (AId == CSalvar) AoSalvar();
-        if (AId == CFechar) ::DestroyWindow(FJanela);
-    }
-
-    static LRESULT CALLBACK Procedimento(HWND AJanela, UINT AMensagem, WPARAM AW, LPARAM AL) {
-        if (AMensagem == WM_NCCREATE) {
-            auto* nova = static_cast<TJanelaCadastro*>(reinterpret_cast<const CREATESTRUCTW*>(AL)->lpCreateParams);
-            nova->FJanela = AJanela;
-            ::SetWindowLongPtrW(AJanela, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(nova));
-        }
-        auto* cadastro = reinterpret_cast<TJanelaCadastro*>(::GetWindowLongPtrW(AJanela, GWLP_USERDATA));
-        switch (AMensagem) {
-            case WM_COMMAND:
-                cadastro->AoComandar(LOWORD(AW), HIWORD(AW));
-                return 0;
-            case CSaiuDoCampo:
-                cadastro->AoSair(AW);
-                return 0;
-            case WM_DESTROY:
-                ::PostQuitMessage(0);
-                return 0;
-            default:
-                return ::DefWindowProcW(AJanela, AMensagem, AW, AL);
-        }
-    }
-
-    HINSTANCE FModulo;
-    HFONT FFonte = nullptr;
-    HWND FJanela = nullptr;
-    std::vector<HWND> FCampos;
-    bool FValidando = false;
+/// An empty dialog box: Tab, Enter, Esc, Alt with a letter, and the focus that comes back to where it was.
+struct TModelo {
+    DLGTEMPLATE Caixa{};
+    WORD Menu = 0, Classe = 0, Titulo = 0;
 };
 
 }  // namespace
-}  // namespace OryUtils::Cadastro
 
-int WINAPI WinMain(HINSTANCE AModulo, HINSTANCE, LPSTR, int) {
-    OryUtils::GOryUtilsFormatacoes->GetFormatoPadraoDatasEValores().Configurar();
-    return OryUtils::Cadastro::TJanelaCadastro(AModulo).Executar();
+TJanelaCadastro::TJanelaCadastro(HINSTANCE AModulo, int APixelsPorPolegada) : FModulo(AModulo) {
+    const HDC tela = ::GetDC(nullptr);
+    const int daTela = ::GetDeviceCaps(tela, LOGPIXELSY);
+    ::ReleaseDC(nullptr, tela);
+    FPixelsPorPolegada = APixelsPorPolegada > 0 ? APixelsPorPolegada : daTela;
+    NONCLIENTMETRICSW metricas{};
+    metricas.cbSize = sizeof metricas;
+    ::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metricas, &metricas, 0);
+    metricas.lfMessageFont.lfHeight =
+        ::MulDiv(static_cast<int>(metricas.lfMessageFont.lfHeight), FPixelsPorPolegada, daTela);
+    FFonte = ::CreateFontIndirectW(&metricas.lfMessageFont);
+    TModelo modelo;
+    modelo.Caixa.style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
+    modelo.Caixa.dwExtendedStyle = WS_EX_APPWINDOW;
+    FJanela =
+        ::CreateDialogIndirectParamW(AModulo, &modelo.Caixa, nullptr, &Procedimento, reinterpret_cast<LPARAM>(this));
+    Montar();
 }
+
+TJanelaCadastro::~TJanelaCadastro() {
+    if (FJanela) ::DestroyWindow(FJanela);
+    ::DeleteObject(FFonte);
+}
+
+HWND TJanelaCadastro::GetPorExtenso() const { return ::GetDlgItem(FJanela, CPorExtenso); }
+
+int TJanelaCadastro::Executar() {
+    ::ShowWindow(FJanela, SW_SHOWNORMAL);
+    ::SetFocus(FCaixas[0]);
+    MSG mensagem;
+    while (::GetMessageW(&mensagem, nullptr, 0, 0) > 0) {
+        if (FJanela && ::IsDialogMessageW(FJanela, &mensagem)) continue;
+        ::TranslateMessage(&mensagem);
+        ::DispatchMessageW(&mensagem);
+    }
+    return static_cast<int>(mensagem.wParam);
+}
+
+/// The size of ATexto in the window's font.
+SIZE TJanelaCadastro::Medir(std::u16string_view ATexto) const {
+    const HDC tela = ::GetDC(nullptr);
+    const HGDIOBJ anterior = ::SelectObject(tela, FFonte);
+    RECT r{};
+    ::DrawTextW(tela, Plataforma::ParaWide(ATexto.data()), static_cast<int>(ATexto.size()), &r,
+                DT_CALCRECT | DT_SINGLELINE);
+    ::SelectObject(tela, anterior);
+    ::ReleaseDC(nullptr, tela);
+    return {r.right, r.bottom};
+}
+
+int TJanelaCadastro::BuscarLargura(std::size_t ACampo) const {
+    const int setaOuBorda = Pixels(CCampos[ACampo].Opcoes.empty() ? 12 : 24);
+    return CCampos[ACampo].Largura * static_cast<int>(Medir(u"0").cx) + setaOuBorda;
+}
+
+void TJanelaCadastro::Montar() {
+    const int margem = Pixels(12), letra = static_cast<int>(Medir(u"0").cy);
+    const int alturaCaixa = letra + Pixels(9), alturaLinha = alturaCaixa + Pixels(8);
+    const int larguraBotao = Pixels(88), alturaBotao = letra + Pixels(13);
+    int colunaRotulos = 0, colunaCaixas = 0;
+    for (std::size_t i = 0; i < CCampos.size(); ++i) {
+        colunaRotulos = std::max(colunaRotulos, static_cast<int>(Medir(CCampos[i].Caption).cx));
+        colunaCaixas = std::max(colunaCaixas, BuscarLargura(i));
+    }
+    const int esquerda = margem + colunaRotulos + margem;
+    const int larguraCliente = esquerda + colunaCaixas + margem;
+
+    int topo = margem, left = esquerda;
+    for (std::size_t i = 0; i < CCampos.size(); ++i) {
+        if (!CCampos[i].Caption.empty()) {
+            if (i > 0) topo += alturaLinha;
+            left = esquerda;
+            Criar(L"STATIC", CCampos[i].Caption, SS_CENTERIMAGE,
+                  {margem, topo, margem + colunaRotulos, topo + alturaCaixa}, 0);
+        }
+        FCaixas[i] = CriarCaixa(i, left, topo);
+        FControles.emplace_back(FCaixas[i]);
+        left += BuscarLargura(i) + margem / 2;
+        if (i != caValor) continue;
+        Criar(L"STATIC", u"", SS_NOPREFIX,
+              {esquerda, topo + alturaCaixa + Pixels(4), larguraCliente - margem,
+               topo + alturaCaixa + Pixels(4) + 2 * letra},
+              CPorExtenso);
+        topo += 2 * letra + Pixels(4);
+    }
+    topo += alturaLinha + margem / 2;
+    left = larguraCliente - margem - larguraBotao;
+    Criar(L"BUTTON", CCaptionSalvar, BS_DEFPUSHBUTTON | WS_TABSTOP,
+          {left - margem - larguraBotao, topo, left - margem, topo + alturaBotao}, CSalvar);
+    Criar(L"BUTTON", CCaptionFechar, WS_TABSTOP, {left, topo, left + larguraBotao, topo + alturaBotao}, CFechar);
+    ::SendMessageW(FJanela, DM_SETDEFID, CSalvar, 0);
+    ::SetWindowTextW(FJanela, Texto(CTituloCadastro).c_str());
+
+    RECT r{0, 0, larguraCliente, topo + alturaBotao + margem};
+    ::AdjustWindowRectEx(&r, static_cast<DWORD>(::GetWindowLongPtrW(FJanela, GWL_STYLE)), FALSE,
+                         static_cast<DWORD>(::GetWindowLongPtrW(FJanela, GWL_EXSTYLE)));
+    RECT area{};
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+    const int largura = static_cast<int>(r.right - r.left), altura = static_cast<int>(r.bottom - r.top);
+    ::SetWindowPos(FJanela, nullptr, static_cast<int>(area.left + area.right - largura) / 2,
+                   static_cast<int>(area.top + area.bottom - altura) / 2, largura, altura, SWP_NOZORDER);
+}
+
+HWND TJanelaCadastro::CriarCaixa(std::size_t ACampo, int ALeft, int ATop) {
+    const TDescricaoCampo& campo = CCampos[ACampo];
+    const bool lista = !campo.Opcoes.empty();
+    // Of a list the height is that of its opened box.
+    const int altura = static_cast<int>(Medir(u"0").cy) + Pixels(9) + (lista ? Pixels(180) : 0);
+    const HWND caixa =
+        Criar(lista ? L"COMBOBOX" : L"EDIT", u"",
+              WS_TABSTOP | (lista ? CBS_DROPDOWNLIST | WS_VSCROLL : ES_AUTOHSCROLL | WS_BORDER),
+              {ALeft, ATop, ALeft + BuscarLargura(ACampo), ATop + altura}, CPrimeiroCampo + static_cast<int>(ACampo));
+    for (const auto& opcao : campo.Opcoes)
+        ::SendMessageW(caixa, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Texto(opcao).c_str()));
+    if (lista) ::SendMessageW(caixa, CB_SETCURSEL, static_cast<WPARAM>(campo.OpcaoInicial), 0);
+    if (TField* dados = GetCampoDeDados(ACampo))
+        FEdicoes[ACampo] = std::make_unique<TEdicaoMascaradaWin32>(caixa, *dados);
+    return caixa;
+}
+
+HWND TJanelaCadastro::Criar(const wchar_t* AClasse, std::u16string_view ATexto, DWORD AEstilo, const RECT& ALugar,
+                            int AId) const {
+    const HWND janela =
+        ::CreateWindowExW(0, AClasse, Texto(ATexto).c_str(), AEstilo | WS_CHILD | WS_VISIBLE,
+                          static_cast<int>(ALugar.left), static_cast<int>(ALugar.top),
+                          static_cast<int>(ALugar.right - ALugar.left), static_cast<int>(ALugar.bottom - ALugar.top),
+                          FJanela, reinterpret_cast<HMENU>(static_cast<INT_PTR>(AId)), FModulo, nullptr);
+    ::SendMessageW(janela, WM_SETFONT, reinterpret_cast<WPARAM>(FFonte), FALSE);
+    return janela;
+}
+
+std::u16string TJanelaCadastro::LerCaixa(std::size_t ACampo) const {
+    const HWND caixa = FCaixas[ACampo];
+    const auto& opcoes = CCampos[ACampo].Opcoes;
+    if (!opcoes.empty()) {
+        const LRESULT opcao = ::SendMessageW(caixa, CB_GETCURSEL, 0, 0);
+        return opcao < 0 ? u"" : std::u16string(opcoes[static_cast<std::size_t>(opcao)]);
+    }
+    std::wstring texto(static_cast<std::size_t>(::GetWindowTextLengthW(caixa)), L'\0');
+    ::GetWindowTextW(caixa, texto.data(), static_cast<int>(texto.size()) + 1);
+    return Plataforma::DeWide(texto);
+}
+
+void TJanelaCadastro::EscreverCaixa(std::size_t ACampo, std::u16string_view ATexto) {
+    const auto& opcoes = CCampos[ACampo].Opcoes;
+    if (opcoes.empty()) {
+        ::SetWindowTextW(FCaixas[ACampo], Texto(ATexto).c_str());
+        return;
+    }
+    const auto opcao = std::ranges::find(opcoes, ATexto) - opcoes.begin();
+    ::SendMessageW(FCaixas[ACampo], CB_SETCURSEL, static_cast<WPARAM>(opcao), 0);
+    AoEscolher(ACampo);
+}
+
+// Leaving for the close button, or for another program, is always allowed.
+void TJanelaCadastro::AoPerderFoco(std::size_t ACampo) {
+    const HWND foco = ::GetFocus();
+    if (::IsChild(FJanela, foco) && foco != ::GetDlgItem(FJanela, CFechar))
+        AoSair(ACampo, static_cast<std::size_t>(std::ranges::find(FCaixas, foco) - FCaixas.begin()));
+}
+
+void TJanelaCadastro::AoComandar(int AId, int ANotificacao) {
+    if (AId == CSalvar) AoSalvar();
+    if (AId == CFechar) ::DestroyWindow(FJanela);
+    if (AId < CPrimeiroCampo || AId >= CPrimeiroCampo + CQuantidadeCampos) return;
+    const auto campo = static_cast<std::size_t>(AId - CPrimeiroCampo);
+    const bool lista = !CCampos[campo].Opcoes.empty();
+    // The focus is still moving: the check waits for its own message. The focus that a warning takes away, and gives
+    // back, is not an exit.
+    if (!EstahValidando() && ANotificacao == (lista ? CBN_KILLFOCUS : EN_KILLFOCUS))
+        ::PostMessageW(FJanela, CSaiuDoCampo, campo, 0);
+    if (lista && ANotificacao == CBN_SELCHANGE) AoEscolher(campo);
+    if (campo == caValor && ANotificacao == EN_CHANGE && FCaixas[campo])
+        ::SetWindowTextW(GetPorExtenso(), Texto(EscreverPorExtenso(LerCaixa(campo))).c_str());
+}
+
+INT_PTR CALLBACK TJanelaCadastro::Procedimento(HWND AJanela, UINT AMensagem, WPARAM AW, LPARAM AL) {
+    auto* cadastro = reinterpret_cast<TJanelaCadastro*>(::GetWindowLongPtrW(AJanela, DWLP_USER));
+    switch (AMensagem) {
+        case WM_INITDIALOG:
+            ::SetWindowLongPtrW(AJanela, DWLP_USER, AL);
+            reinterpret_cast<TJanelaCadastro*>(AL)->FJanela = AJanela;
+            return FALSE;  // the focus comes when it is shown
+        case WM_COMMAND:
+            cadastro->AoComandar(LOWORD(AW), HIWORD(AW));
+            return TRUE;
+        case CSaiuDoCampo:
+            cadastro->AoPerderFoco(AW);
+            return TRUE;
+        case WM_DESTROY:
+            cadastro->FJanela = nullptr;
+            ::PostQuitMessage(0);
+            return TRUE;
+        default:
+            return FALSE;
+    }
+}
+
+}  // namespace OryUtils::Cadastro

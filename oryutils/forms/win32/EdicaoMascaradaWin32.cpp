@@ -34,7 +34,7 @@ struct TEdicaoMascaradaWin32::TTratador {
         const LRESULT resultado = ::DefSubclassProc(AJanela, AMensagem, AWParam, ALParam);
         if (edicao.FEscrevendo) return resultado;
         if (AMensagem == WM_SETFOCUS) edicao.AoEntrar();
-        if (AMensagem == WM_KILLFOCUS) edicao.Gravar();
+        if (AMensagem == WM_KILLFOCUS) edicao.AoSair(edicao.Ler().Texto);
         // A text that the program writes is brought into the mask.
         if (AMensagem == WM_SETTEXT) edicao.Mostrar(edicao.Ajustar(edicao.Ler()));
         return resultado;
@@ -56,7 +56,7 @@ TEdicaoMascaradaWin32::~TEdicaoMascaradaWin32() {
 }
 
 void TEdicaoMascaradaWin32::Gravar() {
-    if (FJanela) AoSair(Ler().Texto);
+    if (FJanela) AoGravar(Ler().Texto);
 }
 
 TEdicaoMascara TEdicaoMascaradaWin32::Ler() const {

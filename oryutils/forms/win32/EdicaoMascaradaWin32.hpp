@@ -21,8 +21,7 @@ public:
     ~TEdicaoMascaradaWin32() override;
 
     HWND__* GetHandle() const noexcept { return FJanela; }
-    /// What the control holds now goes to the field, as when the focus leaves it.
-    void Gravar();
+    void Gravar() override;
 
 protected:
     void Mostrar(const TEdicaoMascara& AEdicao) override;

@@ -1,0 +1,227 @@
+// The sample window itself: typed into, left, saved.
+#include "oryutils/runtime/Utf.hpp"
+
+#include "apps/cadastro/win32/JanelaCadastro.hpp"
+#include "forms_win32/Auxiliares.hpp"
+
+#include <cctype>
+
+namespace OryUtils::Cadastro {
+namespace {
+
+class JanelaCadastro : public FormsWin32 {
+protected:
+    /// APassos at a window whose name is filled in: left empty it would be the first to complain.
+    void Conduzir(TJanelaCadastro& AJanela, std::deque<std::function<void()>> APassos) {
+        if (::GetWindowTextLengthW(AJanela.GetCaixa(caNome)) == 0)
+            ::SetWindowTextW(AJanela.GetCaixa(caNome), L"Comercial Modelo");
+        const auto fechar = [&] { ::PostMessageW(AJanela.GetHandle(), WM_CLOSE, 0, 0); };
+        APassos.emplace_back(fechar);
+        FormsWin32::Conduzir(
+            std::move(APassos), [] { return true; },
+            [&] {
+                if (const HWND aviso = Dialogo()) ::PostMessageW(aviso, WM_CLOSE, 0, 0);
+                fechar();
+            },
+            [&] { return AJanela.Executar(); });
+    }
+    /// The dialog of the library that is shown.
+    static HWND Dialogo() { return ::FindWindowW(L"TOryFormulario", nullptr); }
+    /// What it says.
+    static std::string Aviso() {
+        std::u16string texto;
+        for (const HWND filho : Filhos(Dialogo()))
+            if (!(::SendMessageW(filho, WM_GETDLGCODE, 0, 0) & DLGC_BUTTON)) texto += Texto(filho);
+        return ParaUtf8(texto);
+    }
+
+    TFormatosTemporarios FFormatos{BuscarFormatosBrasileiros()};
+};
+
+struct TCaso {
+    TCampo Campo;
+    const wchar_t* Digitado;
+    const char* NaCaixa;
+    const char* Depois;  // left
+};
+constexpr TCaso CDigitados[] = {
+    {caDocumento, L"11222333000181", "11.222.333/0001-81", "11.222.333/0001-81"},
+    {caDocumento, L"12abc34501de35", "12.ABC.345/01DE-35", "12.ABC.345/01DE-35"},
+    {caCEP, L"01310x100", "01310-100", "01310-100"},
+    {caFone, L"11987654321", "(119)87654-321 ", "( 11)98765-4321"},
+    {caMunicipio, L"35a50308", "3550308", "3550308"},
+    {caValor, L"1234,5x6", "1234,56", "1.234,56"},
+    {caNascimento, L"31121999", "31/12/1999", "31/12/1999"},
+};
+
+TEST_F(JanelaCadastro, AsCaixasSeguemAsMascaras) {
+    TJanelaCadastro janela(nullptr);
+    std::deque<std::function<void()>> passos;
+    const auto ir = [&](TCampo ACampo) { ::SetFocus(janela.GetCaixa(ACampo)); };
+    for (const TCaso& c : CDigitados) {
+        passos.push_back([&] { ir(c.Campo), Escrever(c.Digitado); });
+        passos.push_back([&] {
+            EXPECT_EQ(ParaUtf8(Texto(janela.GetCaixa(c.Campo))), c.NaCaixa);
+            if (c.Campo == caValor) {
+                EXPECT_EQ(ParaUtf8(Texto(janela.GetPorExtenso())),
+                          "UM MIL E DUZENTOS E TRINTA E QUATRO REAIS E CINQUENTA E SEIS CENTAVOS");
+            }
+            ir(caUF);
+        });
+        passos.push_back([&] {
+            EXPECT_EQ(ParaUtf8(Texto(janela.GetCaixa(c.Campo))), c.Depois);
+            EXPECT_EQ(Dialogo(), nullptr);
+            EXPECT_EQ(::GetFocus(), janela.GetCaixa(caUF)) << "a good value lets the focus go";
+        });
+    }
+    Conduzir(janela, std::move(passos));
+}
+
+struct TRecusado {
+    TCampo Campo;
+    const wchar_t* Digitado;
+    const char* Aviso;
+};
+constexpr TRecusado CRecusados[] = {
+    {caNome, L"", "Informe o nome do cliente."},
+    {caDocumento, L"11222333000182", "CNPJ inválido. Verifique."},
+    {caDocumento, L"12ABC34501DE36", "CNPJ inválido. Verifique."},
+    {caCEP, L"0131010", "CEP inválido: são oito dígitos."},
+    {caFone, L"98765432", "Telefone inválido: informe o DDD e o número."},
+    {caMunicipio, L"3550309", "Código do município inválido. Verifique."},
+    {caValor, L"-", "Valor inválido. Verifique."},
+    {caNascimento, L"30021999", "Data de nascimento inválida: use dia/mês/ano, como 31/12/1999."},
+    {caNascimento, L"3112", "Data de nascimento inválida: use dia/mês/ano, como 31/12/1999."},
+};
+
+TEST_F(JanelaCadastro, SairDeUmValorRuimAvisaEDevolveOFoco) {
+    for (const TRecusado& c : CRecusados) {
+        TJanelaCadastro janela(nullptr);
+        const HWND caixa = janela.GetCaixa(c.Campo);
+        std::u16string recusado;
+        Conduzir(janela, {[&] {
+                              ::SetWindowTextW(caixa, L"");
+                              ::SetFocus(caixa);
+                              Escrever(c.Digitado);
+                          },
+                          [&] {
+                              recusado = Texto(caixa);
+                              Tecla(VK_TAB);
+                          },
+                          [&] {
+                              EXPECT_EQ(Aviso(), c.Aviso);
+                              Tecla(VK_RETURN);
+                          },
+                          [&] {
+                              EXPECT_EQ(Dialogo(), nullptr) << "one warning, not a chain of them: " << c.Aviso;
+                              EXPECT_EQ(::GetFocus(), caixa) << c.Aviso;
+                              if (c.Campo != caFone) {  // its digits move right
+                                  EXPECT_EQ(ParaUtf8(Texto(caixa)), ParaUtf8(recusado)) << "to be corrected";
+                              }
+                          }});
+    }
+}
+
+TEST_F(JanelaCadastro, OTipoDoDocumentoTrocaAMascara) {
+    TJanelaCadastro janela(nullptr);
+    const HWND tipo = janela.GetCaixa(caTipoDocumento), documento = janela.GetCaixa(caDocumento);
+    Conduzir(janela, {[&] { ::SetFocus(documento), Escrever(L"529982"); }, [&] { ::SetFocus(tipo); },
+                      [&] {
+                          EXPECT_EQ(Dialogo(), nullptr) << "the kind may be chosen after the number";
+                          Tecla(VK_DOWN);
+                      },
+                      [&] {
+                          EXPECT_EQ(ParaUtf8(Texto(documento)), "") << "a number of the other kind";
+                          Tecla(VK_TAB);
+                      },
+                      [&] {
+                          EXPECT_EQ(::GetFocus(), documento);
+                          Escrever(L"52998224726999");
+                      },
+                      [&] {
+                          EXPECT_EQ(ParaUtf8(Texto(documento)), "529.982.247-26");
+                          Tecla(VK_TAB);
+                      },
+                      [&] {
+                          EXPECT_EQ(Aviso(), "CPF inválido. Verifique.");
+                          Tecla(VK_RETURN);
+                      }});
+}
+
+TEST_F(JanelaCadastro, AltELetraVaiAoCampoDaLetra) {
+    TJanelaCadastro janela(nullptr);
+    std::deque<std::function<void()>> passos;
+    for (std::size_t i = 0; i < CCampos.size(); ++i) {
+        const std::size_t marca = CCampos[i].Caption.find(u'&');
+        if (marca == std::u16string_view::npos) continue;
+        passos.push_back([=] { AltTecla(static_cast<WPARAM>(std::toupper(CCampos[i].Caption[marca + 1]))); });
+        passos.push_back([&, i] {
+            EXPECT_EQ(::GetFocus(), janela.GetCaixa(static_cast<TCampo>(i))) << ParaUtf8(CCampos[i].Caption);
+            ::SetFocus(janela.GetCaixa(caCEP));
+        });
+        passos.push_back([] {
+            if (Dialogo()) Tecla(VK_RETURN);  // no state was chosen
+        });
+        passos.push_back([&] { ::SetFocus(janela.GetCaixa(caCEP)); });
+    }
+    Conduzir(janela, std::move(passos));
+}
+
+TEST_F(JanelaCadastro, SalvarConfereTudo) {
+    TJanelaCadastro janela(nullptr);
+    janela.Exemplificar();
+    const HWND nome = janela.GetCaixa(caNome), documento = janela.GetCaixa(caDocumento);
+    Conduzir(janela, {[&] {
+                          ::SetWindowTextW(nome, L" ");
+                          ::SetFocus(documento);
+                          Tecla(VK_RETURN);
+                      },
+                      [&] {
+                          EXPECT_EQ(Aviso(), "Informe o nome do cliente.");
+                          Tecla(VK_RETURN);
+                      },
+                      [&] {
+                          EXPECT_EQ(::GetFocus(), nome);
+                          ::SetWindowTextW(nome, L"Comercial Modelo");
+                          ::SetFocus(documento);
+                          Escrever(L"1122233300018");
+                          Escrever(L"2");
+                      },
+                      [&] { Tecla(VK_RETURN); },
+                      [&] {
+                          EXPECT_EQ(Aviso(), "CNPJ inválido. Verifique.") << "Enter leaves the box where it is";
+                          Tecla(VK_RETURN);
+                      },
+                      [&] { Escrever(L"11222333000181"); }, [&] { Tecla(VK_RETURN); },
+                      [&] {
+                          EXPECT_EQ(Aviso(), "Cliente conferido: todos os campos são válidos.");
+                          Tecla(VK_RETURN);
+                      }});
+}
+
+TEST_F(JanelaCadastro, OLugarDeTudoSegueOsPixelsPorPolegada) {
+    LONG anterior = 0;
+    for (const int pixels : {96, 120, 144, 192}) {
+        const TJanelaCadastro janela(nullptr, pixels);
+        RECT cliente{};
+        ::GetClientRect(janela.GetHandle(), &cliente);
+        EXPECT_GT(cliente.right, anterior);
+        anterior = cliente.right;
+        std::vector<TRetangulo> lugares;
+        for (const HWND filho : Filhos(janela.GetHandle())) {
+            const TRetangulo r = Retangulo(filho);
+            const std::string qual = ParaUtf8(Texto(filho)) + " at " + std::to_string(pixels);
+            EXPECT_TRUE(r.Left >= 0 && r.Top >= 0 && r.Left + r.Width <= cliente.right &&
+                        r.Top + r.Height <= cliente.bottom)
+                << qual;
+            for (const TRetangulo& outro : lugares)
+                EXPECT_TRUE(r.Left >= outro.Left + outro.Width || outro.Left >= r.Left + r.Width ||
+                            r.Top >= outro.Top + outro.Height || outro.Top >= r.Top + r.Height)
+                    << qual;
+            lugares.push_back(r);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace OryUtils::Cadastro
