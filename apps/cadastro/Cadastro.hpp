@@ -57,6 +57,8 @@ inline constexpr std::u16string_view CTituloCadastro = u"Cadastro de cliente";
 inline constexpr std::u16string_view CCaptionSalvar = u"&Salvar";
 inline constexpr std::u16string_view CCaptionFechar = u"&Fechar";
 
+/// Lines for the value in words: enough for a thousand million.
+inline constexpr int CLinhasPorExtenso = 3;
 /// What stands under the value's box: AValor in words; nothing while it is blank or no amount.
 std::u16string EscreverPorExtenso(std::u16string_view AValor);
 

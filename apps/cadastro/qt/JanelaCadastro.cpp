@@ -22,6 +22,7 @@ TJanelaCadastro::TJanelaCadastro() {
     setWindowTitle(Texto(CTituloCadastro));
     auto* formulario = new QFormLayout(this);
     formulario->setVerticalSpacing(fontMetrics().lineSpacing() / 2);
+    const int entre = fontMetrics().horizontalAdvance(u'0');
     QHBoxLayout* linha = nullptr;
     for (std::size_t i = 0; i < CCampos.size(); ++i) {
         FCaixas[i] = CriarCaixa(i);
@@ -29,7 +30,10 @@ TJanelaCadastro::TJanelaCadastro() {
         if (!CCampos[i].Caption.empty()) {
             auto* rotulo = new QLabel(Texto(CCampos[i].Caption));
             rotulo->setBuddy(FCaixas[i]);
+            // The marked letter breaks the kerning: the text is drawn a little wider than it is measured.
+            rotulo->setMinimumWidth(rotulo->sizeHint().width() + entre);
             linha = new QHBoxLayout;
+            linha->setSpacing(entre);
             linha->addStretch();
             formulario->addRow(rotulo, linha);
         }
@@ -37,13 +41,14 @@ TJanelaCadastro::TJanelaCadastro() {
         if (i != caValor) continue;
         FPorExtenso = new QLabel;
         FPorExtenso->setWordWrap(true);
-        FPorExtenso->setMinimumHeight(2 * fontMetrics().lineSpacing());
+        FPorExtenso->setFixedHeight(CLinhasPorExtenso * fontMetrics().lineSpacing());
         FPorExtenso->setAlignment(Qt::AlignTop);
         formulario->addRow(QString(), FPorExtenso);
     }
     auto* salvar = new QPushButton(Texto(CCaptionSalvar));
     FFechar = new QPushButton(Texto(CCaptionFechar));
     auto* botoes = new QHBoxLayout;
+    botoes->setSpacing(entre);
     botoes->addStretch();
     botoes->addWidget(salvar);
     botoes->addWidget(FFechar);

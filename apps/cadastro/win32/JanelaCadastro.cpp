@@ -10,6 +10,8 @@ constexpr int CPrimeiroCampo = 100;
 constexpr int CSalvar = IDOK;      // what Enter presses
 constexpr int CFechar = IDCANCEL;  // what Esc presses
 constexpr int CPorExtenso = 50;
+// Of a box, above and below its text.
+constexpr int CFolgaCaixa = 7;
 
 std::wstring Texto(std::u16string_view ATexto) { return {Plataforma::ParaWide(ATexto.data()), ATexto.size()}; }
 
@@ -78,7 +80,8 @@ int TJanelaCadastro::BuscarLargura(std::size_t ACampo) const {
 
 void TJanelaCadastro::Montar() {
     const int margem = Pixels(12), letra = static_cast<int>(Medir(u"0").cy);
-    const int alturaCaixa = letra + Pixels(9), alturaLinha = alturaCaixa + Pixels(8);
+    const int alturaCaixa = letra + Pixels(CFolgaCaixa), alturaLinha = alturaCaixa + Pixels(10);
+    const int alturaExtenso = CLinhasPorExtenso * letra;
     const int larguraBotao = Pixels(88), alturaBotao = letra + Pixels(13);
     int colunaRotulos = 0, colunaCaixas = 0;
     for (std::size_t i = 0; i < CCampos.size(); ++i) {
@@ -102,9 +105,9 @@ void TJanelaCadastro::Montar() {
         if (i != caValor) continue;
         Criar(L"STATIC", u"", SS_NOPREFIX,
               {esquerda, topo + alturaCaixa + Pixels(4), larguraCliente - margem,
-               topo + alturaCaixa + Pixels(4) + 2 * letra},
+               topo + alturaCaixa + Pixels(4) + alturaExtenso},
               CPorExtenso);
-        topo += 2 * letra + Pixels(4);
+        topo += alturaExtenso + Pixels(4);
     }
     topo += alturaLinha + margem / 2;
     left = larguraCliente - margem - larguraBotao;
@@ -128,11 +131,11 @@ HWND TJanelaCadastro::CriarCaixa(std::size_t ACampo, int ALeft, int ATop) {
     const TDescricaoCampo& campo = CCampos[ACampo];
     const bool lista = !campo.Opcoes.empty();
     // Of a list the height is that of its opened box.
-    const int altura = static_cast<int>(Medir(u"0").cy) + Pixels(9) + (lista ? Pixels(180) : 0);
+    const int altura = static_cast<int>(Medir(u"0").cy) + Pixels(CFolgaCaixa) + (lista ? Pixels(180) : 0);
     const HWND caixa =
-        Criar(lista ? L"COMBOBOX" : L"EDIT", u"",
-              WS_TABSTOP | (lista ? CBS_DROPDOWNLIST | WS_VSCROLL : ES_AUTOHSCROLL | WS_BORDER),
-              {ALeft, ATop, ALeft + BuscarLargura(ACampo), ATop + altura}, CPrimeiroCampo + static_cast<int>(ACampo));
+        Criar(lista ? L"COMBOBOX" : L"EDIT", u"", WS_TABSTOP | (lista ? CBS_DROPDOWNLIST | WS_VSCROLL : ES_AUTOHSCROLL),
+              {ALeft, ATop, ALeft + BuscarLargura(ACampo), ATop + altura}, CPrimeiroCampo + static_cast<int>(ACampo),
+              lista ? 0 : WS_EX_CLIENTEDGE);
     for (const auto& opcao : campo.Opcoes)
         ::SendMessageW(caixa, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Texto(opcao).c_str()));
     if (lista) ::SendMessageW(caixa, CB_SETCURSEL, static_cast<WPARAM>(campo.OpcaoInicial), 0);
@@ -142,9 +145,9 @@ HWND TJanelaCadastro::CriarCaixa(std::size_t ACampo, int ALeft, int ATop) {
 }
 
 HWND TJanelaCadastro::Criar(const wchar_t* AClasse, std::u16string_view ATexto, DWORD AEstilo, const RECT& ALugar,
-                            int AId) const {
+                            int AId, DWORD AEstiloEstendido) const {
     const HWND janela =
-        ::CreateWindowExW(0, AClasse, Texto(ATexto).c_str(), AEstilo | WS_CHILD | WS_VISIBLE,
+        ::CreateWindowExW(AEstiloEstendido, AClasse, Texto(ATexto).c_str(), AEstilo | WS_CHILD | WS_VISIBLE,
                           static_cast<int>(ALugar.left), static_cast<int>(ALugar.top),
                           static_cast<int>(ALugar.right - ALugar.left), static_cast<int>(ALugar.bottom - ALugar.top),
                           FJanela, reinterpret_cast<HMENU>(static_cast<INT_PTR>(AId)), FModulo, nullptr);

@@ -37,7 +37,8 @@ private:
     int Pixels(int A96PorPolegada) const { return ::MulDiv(A96PorPolegada, FPixelsPorPolegada, 96); }
     SIZE Medir(std::u16string_view ATexto) const;
     void Montar();
-    HWND Criar(const wchar_t* AClasse, std::u16string_view ATexto, DWORD AEstilo, const RECT& ALugar, int AId) const;
+    HWND Criar(const wchar_t* AClasse, std::u16string_view ATexto, DWORD AEstilo, const RECT& ALugar, int AId,
+               DWORD AEstiloEstendido = 0) const;
     HWND CriarCaixa(std::size_t ACampo, int ALeft, int ATop);
     int BuscarLargura(std::size_t ACampo) const;
     void AoPerderFoco(std::size_t ACampo);
