@@ -32,18 +32,36 @@ bool TemIsent(std::u16string_view ATexto) noexcept {
 
 constexpr TFormatosIE CSemFormatos;
 
-/// The formats of a unit, and the operation where an IE that fits none may still be valid.
+/// The two letters of a unit in one number, either case alike: only letters become a capital without that bit.
+class TSigla {
+public:
+    constexpr TSigla(char16_t APrimeira, char16_t ASegunda) noexcept
+        : FLetras((APrimeira | std::uint32_t{ASegunda} << 16) & ~0x0020'0020U) {}
+    constexpr TSigla(const char16_t* ASigla) noexcept : TSigla(ASigla[0], ASigla[1]) {}
+    constexpr bool operator==(const TSigla&) const = default;
+
+    static constexpr std::size_t CPosicoes = 1024;
+    /// The lowest five bits of each letter.
+    constexpr std::size_t BuscarPosicao() const noexcept { return (FLetras & 0x1F) << 5 | (FLetras >> 16 & 0x1F); }
+
+private:
+    std::uint32_t FLetras;
+};
+
+/// The formats of a unit, and the operation where an IE that fits none may still be valid: also one with the wrong
+/// digits for the format of its length, when OutroTamanho.
 struct TUnidade {
-    std::u16string_view Sigla;
+    TSigla Sigla;
     const TFormatosIE* Formatos;
     void (TOryUtilsValidacoesIE::*Validar)() noexcept = nullptr;
+    bool OutroTamanho = false;
 };
 
 // clang-format off
 constexpr std::array CUnidades{
     TUnidade{u"EX", &CSemFormatos, &TOryUtilsValidacoesIE::Validar_Exportacao}, TUnidade{u"AC", &CFormatosAC},
     TUnidade{u"AL", &CFormatosAL}, TUnidade{u"AM", &CFormatosAM}, TUnidade{u"AP", &CFormatosAP},
-    TUnidade{u"BA", &CFormatosBA, &TOryUtilsValidacoesIE::Validar_BA}, TUnidade{u"CE", &CFormatosCE},
+    TUnidade{u"BA", &CFormatosBA, &TOryUtilsValidacoesIE::Validar_BA, true}, TUnidade{u"CE", &CFormatosCE},
     TUnidade{u"DF", &CFormatosDF}, TUnidade{u"ES", &CFormatosES}, TUnidade{u"GO", &CFormatosGO},
     TUnidade{u"MA", &CFormatosMA}, TUnidade{u"MG", &CFormatosMG}, TUnidade{u"MS", &CFormatosMS},
     TUnidade{u"MT", &CFormatosMT, &TOryUtilsValidacoesIE::Validar_MT}, TUnidade{u"PA", &CFormatosPA},
@@ -54,27 +72,19 @@ constexpr std::array CUnidades{
     TUnidade{u"SE", &CFormatosSE}, TUnidade{u"TO", &CFormatosTO}};
 // clang-format on
 
-constexpr unsigned CLetras = 26;
-
-/// 0 to 25 for a letter in either case, more for anything else.
-constexpr unsigned OrdemDaLetra(char16_t ALetra) noexcept { return (ALetra & ~0x20U) - u'A'; }
-
-constexpr std::size_t PosicaoDaSigla(std::u16string_view ASigla) noexcept {
-    return std::size_t{OrdemDaLetra(ASigla[0])} * CLetras + OrdemDaLetra(ASigla[1]);
-}
-
-/// For each pair of letters the place of its unit, counted from 1; 0 for none.
+/// The only unit that each position may be of.
 constexpr auto CIndiceDasUnidades = [] {
-    std::array<std::uint8_t, CLetras * CLetras> indice{};
+    std::array<std::uint8_t, TSigla::CPosicoes> indice{};
     for (std::size_t i = 0; i < CUnidades.size(); ++i)
-        indice[PosicaoDaSigla(CUnidades[i].Sigla)] = static_cast<std::uint8_t>(i + 1);
+        indice[CUnidades[i].Sigla.BuscarPosicao()] = static_cast<std::uint8_t>(i);
     return indice;
 }();
 
 const TUnidade* BuscarUnidade(std::u16string_view AUF) noexcept {
-    if (AUF.size() != 2 || OrdemDaLetra(AUF[0]) >= CLetras || OrdemDaLetra(AUF[1]) >= CLetras) return nullptr;
-    const std::size_t indice = CIndiceDasUnidades[PosicaoDaSigla(AUF)];
-    return indice == 0 ? nullptr : &CUnidades[indice - 1];
+    if (AUF.size() != 2) return nullptr;
+    const TSigla sigla(AUF[0], AUF[1]);
+    const TUnidade& unidade = CUnidades[CIndiceDasUnidades[sigla.BuscarPosicao()]];
+    return unidade.Sigla == sigla ? &unidade : nullptr;
 }
 
 }  // namespace
@@ -109,7 +119,7 @@ void TOryUtilsValidacoesIE::Validar() noexcept {
     else if (unidade->Validar)
         (this->*unidade->Validar)();
     else
-        FMotivo = Conferir(*unidade->Formatos, ie).Motivo;
+        FMotivo = Conferir(*unidade->Formatos, ie);
 }
 
 // Apart from Validou, which so needs no room for the object.
@@ -124,9 +134,9 @@ void TOryUtilsValidacoesIE::Validar() noexcept {
 bool TOryUtilsValidacoesIE::Validou(std::u16string_view AIE, std::u16string_view AUF) noexcept {
     // Bare digits in a format of the unit are read where they stand.
     if (const TUnidade* unidade = BuscarUnidade(AUF)) {
-        const auto [motivo, so_zeros] = Conferir(*unidade->Formatos, AIE);
-        if (motivo == mrNenhum) return !so_zeros;
-        if (!unidade->Validar && (motivo == mrDigito || motivo == mrPrefixo)) return false;
+        const TMotivoRecusa motivo = Conferir(*unidade->Formatos, AIE);
+        if (motivo == mrNenhum) return !SoTemZeros(AIE);
+        if (!unidade->OutroTamanho && (motivo == mrDigito || motivo == mrPrefixo)) return false;
     }
     return ValidouPassoAPasso(AIE, AUF);
 }
@@ -176,30 +186,30 @@ int TOryUtilsValidacoesIE::BuscarDigitoPadrao(int AResto) noexcept { return Calc
 
 // Where a rule compares the IE with the text it expects, zeros and all, the base is the IE itself or the IE is refused:
 // most units read the digits where they stand.
-void TOryUtilsValidacoesIE::Validar_AC() noexcept { FMotivo = Conferir(CFormatosAC, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_AL() noexcept { FMotivo = Conferir(CFormatosAL, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_AM() noexcept { FMotivo = Conferir(CFormatosAM, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_AP() noexcept { FMotivo = Conferir(CFormatosAP, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_CE() noexcept { FMotivo = Conferir(CFormatosCE, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_DF() noexcept { FMotivo = Conferir(CFormatosDF, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_ES() noexcept { FMotivo = Conferir(CFormatosES, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_GO() noexcept { FMotivo = Conferir(CFormatosGO, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_MA() noexcept { FMotivo = Conferir(CFormatosMA, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_MG() noexcept { FMotivo = Conferir(CFormatosMG, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_MS() noexcept { FMotivo = Conferir(CFormatosMS, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_PA() noexcept { FMotivo = Conferir(CFormatosPA, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_PB() noexcept { FMotivo = Conferir(CFormatosPB, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_PE() noexcept { FMotivo = Conferir(CFormatosPE, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_PI() noexcept { FMotivo = Conferir(CFormatosPI, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_PR() noexcept { FMotivo = Conferir(CFormatosPR, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_RJ() noexcept { FMotivo = Conferir(CFormatosRJ, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_RN() noexcept { FMotivo = Conferir(CFormatosRN, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_RO() noexcept { FMotivo = Conferir(CFormatosRO, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_RR() noexcept { FMotivo = Conferir(CFormatosRR, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_RS() noexcept { FMotivo = Conferir(CFormatosRS, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_SC() noexcept { FMotivo = Conferir(CFormatosSC, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_SE() noexcept { FMotivo = Conferir(CFormatosSE, GetIE()).Motivo; }
-void TOryUtilsValidacoesIE::Validar_TO() noexcept { FMotivo = Conferir(CFormatosTO, GetIE()).Motivo; }
+void TOryUtilsValidacoesIE::Validar_AC() noexcept { FMotivo = Conferir(CFormatosAC, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_AL() noexcept { FMotivo = Conferir(CFormatosAL, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_AM() noexcept { FMotivo = Conferir(CFormatosAM, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_AP() noexcept { FMotivo = Conferir(CFormatosAP, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_CE() noexcept { FMotivo = Conferir(CFormatosCE, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_DF() noexcept { FMotivo = Conferir(CFormatosDF, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_ES() noexcept { FMotivo = Conferir(CFormatosES, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_GO() noexcept { FMotivo = Conferir(CFormatosGO, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_MA() noexcept { FMotivo = Conferir(CFormatosMA, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_MG() noexcept { FMotivo = Conferir(CFormatosMG, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_MS() noexcept { FMotivo = Conferir(CFormatosMS, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_PA() noexcept { FMotivo = Conferir(CFormatosPA, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_PB() noexcept { FMotivo = Conferir(CFormatosPB, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_PE() noexcept { FMotivo = Conferir(CFormatosPE, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_PI() noexcept { FMotivo = Conferir(CFormatosPI, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_PR() noexcept { FMotivo = Conferir(CFormatosPR, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_RJ() noexcept { FMotivo = Conferir(CFormatosRJ, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_RN() noexcept { FMotivo = Conferir(CFormatosRN, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_RO() noexcept { FMotivo = Conferir(CFormatosRO, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_RR() noexcept { FMotivo = Conferir(CFormatosRR, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_RS() noexcept { FMotivo = Conferir(CFormatosRS, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_SC() noexcept { FMotivo = Conferir(CFormatosSC, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_SE() noexcept { FMotivo = Conferir(CFormatosSE, GetIE()); }
+void TOryUtilsValidacoesIE::Validar_TO() noexcept { FMotivo = Conferir(CFormatosTO, GetIE()); }
 
 void TOryUtilsValidacoesIE::Validar_BA() noexcept {
     // The number counts, not how it was written: the IE takes the zeros of each format in turn.
@@ -207,7 +217,7 @@ void TOryUtilsValidacoesIE::Validar_BA() noexcept {
     if (FIE.Tamanho > CMaiorTamanho) return;
     for (const std::u16string_view zeros : {u"00000000", u"000000000"}) {
         Guardar(FIE, FormatarBase(zeros));
-        FMotivo = Conferir(CFormatosBA, GetIE()).Motivo;
+        FMotivo = Conferir(CFormatosBA, GetIE());
         if (FMotivo == mrNenhum) return;
     }
 }
@@ -218,12 +228,12 @@ void TOryUtilsValidacoesIE::Validar_MT() noexcept {
         FIE.Texto[0] = FIE.Texto[1] = u'0';
         FIE.Tamanho += 2;
     }
-    FMotivo = Conferir(CFormatosMT, GetIE()).Motivo;
+    FMotivo = Conferir(CFormatosMT, GetIE());
 }
 
 void TOryUtilsValidacoesIE::Validar_SP() noexcept {
     const std::u16string_view ie = GetIE();
-    FMotivo = (ie.starts_with(u'P') ? Conferir(CFormatosSPRural, ie.substr(1)) : Conferir(CFormatosSP, ie)).Motivo;
+    FMotivo = (ie.starts_with(u'P') ? Conferir(CFormatosSPRural, ie.substr(1)) : Conferir(CFormatosSP, ie));
 }
 
 void TOryUtilsValidacoesIE::Validar_Exportacao() noexcept { FMotivo = mrNenhum; }

@@ -1,6 +1,7 @@
 #include "oryutils/registry_numbers/interno/RegrasIE.hpp"
 
 #include <algorithm>
+#include <bit>
 
 namespace OryUtils::RegrasIE {
 namespace {
@@ -22,20 +23,20 @@ constexpr auto CDigitoDaSoma = [] {
 
 constexpr int ValorDe(char16_t ADigito) noexcept { return ADigito - u'0'; }
 
+constexpr int CalcularDigitoPelaSoma(TRegraDigito ARegra, int ASoma) noexcept {
+    return CDigitoDaSoma[ARegra][static_cast<unsigned>(ASoma)];
+}
+
 int BuscarNumeroDe8Digitos(std::u16string_view AIE) noexcept {
     int numero = 0;
     for (const char16_t c : AIE.substr(0, 8)) numero = numero * 10 + ValorDe(c);
     return numero;
 }
 
-int CalcularDigitoGoias(int AResto, std::u16string_view AIE) noexcept {
-    if (AResto != 1) return CalcularDigitoPadrao(AResto);
+int CalcularDigitoGoias(int ASoma, std::u16string_view AIE) noexcept {
+    if (ASoma % 11 != 1) return CalcularDigitoPelaSoma(rdPadrao, ASoma);
     const int numero = BuscarNumeroDe8Digitos(AIE);
     return numero >= 10103105 && numero <= 10119997 ? 1 : 0;
-}
-
-TRegraDigito BuscarRegraBahia(char16_t APrimeiroDigito) noexcept {
-    return APrimeiroDigito == u'6' || APrimeiroDigito == u'7' || APrimeiroDigito == u'9' ? rdPadrao : rdDez;
 }
 
 int CalcularDigitoAmapa(int ASoma, std::u16string_view AIE) noexcept {
@@ -51,96 +52,94 @@ int CalcularDigitoAmapa(int ASoma, std::u16string_view AIE) noexcept {
     return digito == 11 ? faixa.DigitoDoOnze : digito;
 }
 
-int SomarAlgarismosDosProdutos(const TFormatosIE::TDigito& ADigito, std::u16string_view AIE) noexcept {
-    const auto algarismos = [](int AProduto) { return AProduto / 10 + AProduto % 10; };
-    const std::u16string_view fim = AIE.substr(AIE.size() - CBloco);
-    int soma = 0;
+/// The digits of a product by 2 add up to the product less 9 when it has two of them, which for a multiple of ten is
+/// one more.
+int CalcularDigitoAlgarismos(const TFormatosIE::TDigito& ADigito, int ASoma, std::u16string_view AIE) noexcept {
+    const char16_t* inicio = AIE.data();
+    const char16_t* fim = inicio + AIE.size() - CBloco;
     for (std::size_t i = 0; i < CBloco; ++i)
-        soma += algarismos(ValorDe(AIE[i]) * ADigito.PesosDoInicio[i]) +
-                algarismos(ValorDe(fim[i]) * ADigito.PesosDoFim[i]);
-    return soma;
-}
-
-constexpr int CalcularDigitoPelaSoma(TRegraDigito ARegra, int ASoma) noexcept {
-    return CDigitoDaSoma[ARegra][static_cast<unsigned>(ASoma)];
+        ASoma += (ADigito.PesosDoInicio[i] == 2 && inicio[i] >= u'5') + (ADigito.PesosDoFim[i] == 2 && fim[i] >= u'5');
+    return CalcularDigitoPelaSoma(rdDez, ASoma);
 }
 
 int CalcularDigito(const TFormatosIE::TDigito& ADigito, int ASoma, std::u16string_view AIE) noexcept {
     switch (ADigito.Regra) {
         case rdGoias:
-            return CalcularDigitoGoias(ASoma % 11, AIE);
-        case rdBahia:
-            return CalcularDigitoPelaSoma(BuscarRegraBahia(AIE[0]), ASoma);
+            return CalcularDigitoGoias(ASoma, AIE);
         case rdAmapa:
             return CalcularDigitoAmapa(ASoma, AIE);
         case rdAlgarismos:
-            return CalcularDigitoPelaSoma(rdDez, SomarAlgarismosDosProdutos(ADigito, AIE));
+            return CalcularDigitoAlgarismos(ADigito, ASoma, AIE);
         default:
             return CalcularDigitoPelaSoma(ADigito.Regra, ASoma);
     }
 }
 
 /// ADigito1 and ADigito2 are what the digits must be.
-inline TConferencia Comparar(const TFormatosIE::TFormato& AFormato, std::u16string_view AIE, int ADigito1, int ADigito2,
-                             int ASoma1) noexcept {
+inline TMotivoRecusa Comparar(const TFormatosIE::TFormato& AFormato, const char16_t* AIE, int ADigito1,
+                              int ADigito2) noexcept {
     const bool certos =
         (ValorDe(AIE[AFormato.Digito1.Indice]) == ADigito1) & (ValorDe(AIE[AFormato.Digito2.Indice]) == ADigito2);
-    return {certos ? mrNenhum : mrDigito, ASoma1 == 0 && SoTemZeros(AIE)};
+    return certos ? mrNenhum : mrDigito;
 }
 
 // Out of line: the regular formats then need no registers saved.
-[[gnu::noinline]] TConferencia ConferirIrregular(const TFormatosIE::TFormato& AFormato, std::u16string_view AIE,
-                                                 int ASoma1, int ASoma2) noexcept {
-    return Comparar(AFormato, AIE, CalcularDigito(AFormato.Digito1, ASoma1, AIE),
-                    CalcularDigito(AFormato.Digito2, ASoma2, AIE), ASoma1);
+[[gnu::noinline]] TMotivoRecusa ConferirIrregular(const TFormatosIE::TFormato& AFormato, std::u16string_view AIE,
+                                                  int ASoma1, int ASoma2) noexcept {
+    return Comparar(AFormato, AIE.data(), CalcularDigito(AFormato.Digito1, ASoma1, AIE),
+                    CalcularDigito(AFormato.Digito2, ASoma2, AIE));
 }
 
-using TBloco = std::array<std::int16_t, CBloco>;
+using TBloco = std::array<std::uint16_t, CBloco>;
+using TMetades = std::array<std::uint64_t, 2>;
 
-inline int Somar(const TBloco& ADigitos, const TBloco& APesos) noexcept {
-    int soma = 0;
-    for (std::size_t i = 0; i < CBloco; ++i) soma += ADigitos[i] * APesos[i];
-    return soma;
+/// The sum of all lanes, each with its weights. No sum is too large for a lane.
+inline int Somar(const TBloco& AInicio, const TBloco& AFim, const TFormatosIE::TDigito& ADigito) noexcept {
+    static_assert(CMaiorSoma <= 0xFFFF);
+    TBloco somas;
+    for (std::size_t i = 0; i < CBloco; ++i)
+        somas[i] = static_cast<std::uint16_t>(AInicio[i] * ADigito.PesosDoInicio[i] + AFim[i] * ADigito.PesosDoFim[i]);
+    const auto metades = std::bit_cast<TMetades>(somas);
+    // The highest lane of the product is the sum of four.
+    return static_cast<int>((metades[0] + metades[1]) * 0x0001'0001'0001'0001 >> 48);
 }
 
-bool TemInicioAceito(const TFormatosIE::TFormato& AFormato, std::u16string_view AIE) noexcept {
-    std::uint64_t inicio = 0;
-    for (std::size_t i = 0; i < 4; ++i) inicio |= static_cast<std::uint64_t>(AIE[i]) << (16 * i);
-    return std::ranges::any_of(AFormato.Inicios, [&](const TInicioIE& i) { return (inicio & i.Mascara) == i.Valor; });
+/// The first format from APrimeiro on that has this start; null when there is none.
+const TFormatosIE::TFormato* BuscarPeloInicio(const TFormatosIE::TFormato* APrimeiro, std::uint64_t AInicio) noexcept {
+    for (const TFormatosIE::TFormato* formato = APrimeiro;; ++formato) {
+        for (const TInicioIE& inicio : formato->Inicios)
+            if ((AInicio & inicio.Mascara) == inicio.Valor) return formato;
+        if (!formato->OutroInicio) return nullptr;
+    }
 }
 
-TConferencia ConferirFormato(const TFormatosIE::TFormato& AFormato, std::u16string_view AIE) noexcept {
+TMotivoRecusa ConferirFormatos(const TFormatosIE::TFormato* APrimeiro, std::u16string_view AIE) noexcept {
     const char16_t* inicio = AIE.data();
     const char16_t* fim = inicio + AIE.size() - CBloco;
-    TBloco a, b;
-    std::uint16_t bits = 0;
+    TBloco a, b, bits;
     for (std::size_t i = 0; i < CBloco; ++i) {
-        const auto do_inicio = static_cast<std::uint16_t>(inicio[i] - u'0');
-        const auto do_fim = static_cast<std::uint16_t>(fim[i] - u'0');
+        a[i] = static_cast<std::uint16_t>(inicio[i] - u'0');
+        b[i] = static_cast<std::uint16_t>(fim[i] - u'0');
         // Above 9 a value, or the value and 6 more, has bits beyond the lowest four.
-        bits = static_cast<std::uint16_t>(bits | do_inicio | (do_inicio + 6) | do_fim | (do_fim + 6));
-        a[i] = static_cast<std::int16_t>(do_inicio);
-        b[i] = static_cast<std::int16_t>(do_fim);
+        bits[i] = static_cast<std::uint16_t>(a[i] | (a[i] + 6) | b[i] | (b[i] + 6));
     }
-    if (bits > 0xF) return {mrCaractere, false};
-    if (!TemInicioAceito(AFormato, AIE)) return {mrPrefixo, false};
-    const int soma1 = Somar(a, AFormato.Digito1.PesosDoInicio) + Somar(b, AFormato.Digito1.PesosDoFim);
-    const int soma2 = Somar(a, AFormato.Digito2.PesosDoInicio) + Somar(b, AFormato.Digito2.PesosDoFim);
-    if (AFormato.Irregular) return ConferirIrregular(AFormato, AIE, soma1, soma2);
-    return Comparar(AFormato, AIE, CalcularDigitoPelaSoma(AFormato.Digito1.Regra, soma1),
-                    CalcularDigitoPelaSoma(AFormato.Digito2.Regra, soma2), soma1);
+    const auto metades = std::bit_cast<TMetades>(bits);
+    if ((metades[0] | metades[1]) & 0xFFF0'FFF0'FFF0'FFF0) return mrCaractere;
+    const TFormatosIE::TFormato* formato = BuscarPeloInicio(APrimeiro, LerInicio(inicio));
+    if (!formato) return mrPrefixo;
+    const int soma1 = Somar(a, b, formato->Digito1);
+    const int soma2 = Somar(a, b, formato->Digito2);
+    if (formato->Irregular) return ConferirIrregular(*formato, AIE, soma1, soma2);
+    return Comparar(*formato, inicio, CalcularDigitoPelaSoma(formato->Digito1.Regra, soma1),
+                    CalcularDigitoPelaSoma(formato->Digito2.Regra, soma2));
 }
 
 }  // namespace
 
-bool SoTemZeros(std::u16string_view AIE) noexcept {
-    return std::ranges::all_of(AIE, [](char16_t c) { return c == u'0'; });
-}
-
-TConferencia Conferir(const TFormatosIE& AFormatos, std::u16string_view AIE) noexcept {
+TMotivoRecusa Conferir(const TFormatosIE& AFormatos, std::u16string_view AIE) noexcept {
     const std::size_t lugar = AIE.size() <= CMaiorTamanho ? AFormatos.PorTamanho[AIE.size()] : 0;
-    if (lugar == 0) return {mrTamanho, false};
-    return ConferirFormato(AFormatos.Formatos[lugar - 1], AIE);
+    if (lugar == 0) return mrTamanho;
+    return ConferirFormatos(&AFormatos.Formatos[lugar - 1], AIE);
 }
 
 }  // namespace OryUtils::RegrasIE
