@@ -2,6 +2,8 @@
 
 #include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/runtime/interno/ConversaoExata.hpp"
+#include "oryutils/runtime/interno/Estimativa.hpp"
 #include "oryutils/runtime/interno/InteiroLongo.hpp"
 #include "oryutils/runtime/interno/QuinzeDigitos.hpp"
 
@@ -29,21 +31,9 @@ bool RetirarSinal(std::u16string_view& ATexto) noexcept {
     return negativo;
 }
 
-/// Digits joined in one number as far as 64 bits certainly hold them; the rest only counts.
-constexpr int CDigitosEm64Bits = 19;
-/// No extended float, nor the point half way between two of them, has more significant digits.
-constexpr int CDigitosQueDecidem = 11600;
 /// Numbers with so many places before the comma overflow, and with so few round to zero.
 constexpr std::int64_t CMaiorOrdem = TLimites::max_exponent10 + 2;
 constexpr std::int64_t CMenorOrdem = TLimites::min_exponent10 - TLimites::digits;
-
-/// A decimal number as written: Digitos (which may hold one separator) with the exponent of its last digit.
-struct TDecimal {
-    std::u16string_view Digitos;
-    std::int64_t Expoente = 0;
-    std::int64_t Significativos = 0;
-    std::uint64_t Inicio = 0;  // the first 19 significant digits
-};
 
 std::optional<TDecimal> LerDecimal(std::u16string_view ATexto, char16_t ASeparador) noexcept {
     TDecimal decimal;
@@ -79,54 +69,34 @@ std::optional<TDecimal> LerDecimal(std::u16string_view ATexto, char16_t ASeparad
     return decimal;
 }
 
-/// ANumero times 2 to AExpoente, rounded half to even; ASobrou tells that the number is a little larger.
-std::optional<Extended> Arredondar(const TInteiroLongo& ANumero, int AExpoente, bool ASobrou) noexcept {
-    constexpr int CMenorBit = TLimites::min_exponent - TLimites::digits;
-    const int bits = ANumero.ContarBits();
-    const int descartados = std::max({bits - 64, CMenorBit - AExpoente, 0});
-    std::uint64_t mantissa = ANumero.Buscar64Bits(descartados);
-    int expoente = AExpoente + descartados;
-    const bool metade = ANumero.Bit(descartados - 1);
-    if (metade && ((mantissa & 1) || ASobrou || ANumero.TemBitAbaixoDe(descartados - 1)) && ++mantissa == 0) {
-        mantissa = std::uint64_t{1} << 63;
-        ++expoente;
-    }
-    const Extended valor = std::ldexp(static_cast<Extended>(mantissa), expoente);
-    return std::isinf(valor) ? std::nullopt : std::optional(valor);
-}
-
-/// The exact value of the digits, then one rounding.
-std::optional<Extended> ConverterDecimalLongo(const TDecimal& ADecimal) noexcept {
-    TInteiroLongo numero;
-    std::int64_t lidos = 0;
-    bool sobrou = false;
-    std::uint32_t grupo = 0;  // nine digits at a time
-    std::uint32_t fator = 1;
-    for (const char16_t c : ADecimal.Digitos) {
-        if (!EhDigito(c) || (lidos == 0 && c == u'0')) continue;
-        if (++lidos > CDigitosQueDecidem) {
-            sobrou |= c != u'0';
-            continue;
+/// ADecimal by its first 38 digits. False when they do not tell how it rounds.
+bool TentarConverter(const TDecimal& ADecimal, std::optional<Extended>& AValor) noexcept {
+    constexpr int CDigitosEm128Bits = 38;
+    TInteiro128 inicio = ADecimal.Inicio;
+    std::int64_t lidos = std::min<std::int64_t>(ADecimal.Significativos, CDigitosEm64Bits);
+    if (ADecimal.Significativos > lidos) {
+        inicio = 0;
+        lidos = 0;
+        for (const char16_t c : ADecimal.Digitos) {
+            if (!EhDigito(c) || (lidos == 0 && c == u'0')) continue;
+            inicio = inicio * 10 + static_cast<unsigned>(c - u'0');
+            if (++lidos == CDigitosEm128Bits) break;
         }
-        grupo = grupo * 10 + static_cast<std::uint32_t>(c - u'0');
-        fator *= 10;
-        if (fator < 1'000'000'000) continue;
-        numero.MultiplicarSomar(fator, grupo);
-        grupo = 0;
-        fator = 1;
     }
-    numero.MultiplicarSomar(fator, grupo);
-    const auto expoente = static_cast<int>(ADecimal.Expoente + std::max<std::int64_t>(lidos - CDigitosQueDecidem, 0));
-    if (expoente >= 0) {
-        numero.MultiplicarPorPotenciaDe5(expoente);
-        return Arredondar(numero, expoente, sobrou);
+    const std::int64_t outros = ADecimal.Significativos - lidos;
+    const TEstimativa valor =
+        MultiplicarPorPotenciaDe10(Estimar(inicio, outros > 0, 0), static_cast<int>(ADecimal.Expoente + outros));
+    const int descartados = std::max(64, CMenorBit - valor.Expoente);
+    if (descartados > 128) {
+        AValor = 0;  // below the half of the smallest one
+        return true;
     }
-    // Enough bits in front for the quotient to keep more than the 64 of the result.
-    const int bits_do_divisor = -expoente * 7 / 3 + 1;
-    const int deslocamento = std::max(bits_do_divisor + 66 - numero.ContarBits(), 0);
-    numero.DeslocarEsquerda(deslocamento);
-    sobrou |= numero.DividirPorPotenciaDe5(-expoente);
-    return Arredondar(numero, expoente - deslocamento, sobrou);
+    const TLadoDaMetade lado = BuscarLadoDaMetade(valor, descartados);
+    if (lado == lmIncerto) return false;
+    const std::uint64_t mantissa = valor.DescartarBits(descartados);
+    AValor =
+        JuntarBinario(mantissa, valor.Expoente + descartados, lado == lmAcima || (lado == lmMetade && (mantissa & 1)));
+    return true;
 }
 
 std::optional<Extended> ConverterDecimal(const TDecimal& ADecimal) noexcept {
@@ -134,38 +104,21 @@ std::optional<Extended> ConverterDecimal(const TDecimal& ADecimal) noexcept {
     const std::int64_t ordem = ADecimal.Significativos + ADecimal.Expoente;
     if (ordem > CMaiorOrdem) return std::nullopt;
     if (ordem < CMenorOrdem) return Extended{0};
-    if (ADecimal.Significativos > CDigitosEm64Bits || std::abs(ADecimal.Expoente) > CPotenciaExata)
-        return ConverterDecimalLongo(ADecimal);
+    if (ADecimal.Significativos > CDigitosEm64Bits || std::abs(ADecimal.Expoente) > CPotenciaExata) {
+        std::optional<Extended> valor;
+        return TentarConverter(ADecimal, valor) ? valor : ConverterExato(ADecimal);
+    }
     // Both numbers are exact, so the one operation rounds once.
     return MultiplicarPorPotenciaDe10(static_cast<Extended>(ADecimal.Inicio), static_cast<int>(ADecimal.Expoente));
 }
 
-/// AValor (positive, finite) as a 64-bit mantissa times 2 to Expoente.
-struct TBinario {
-    std::uint64_t Mantissa = 0;
-    int Expoente = 0;
-};
-TBinario SepararBinario(Extended AValor) noexcept {
-    TBinario binario;
-    const Extended fracao = std::frexp(AValor, &binario.Expoente);
-    binario.Mantissa = static_cast<std::uint64_t>(std::ldexp(fracao, 64));
-    binario.Expoente -= 64;
-    return binario;
-}
-
 /// AValor times 10 to APotencia as an integer, halves up; the result fits 64 bits.
-std::uint64_t EscalarArredondando(TBinario AValor, int APotencia) noexcept {
-    TInteiroLongo numero(AValor.Mantissa);
-    const int expoente = AValor.Expoente + APotencia;
-    // Two bits at least stay below the units: the first one decides the rounding.
-    const int deslocamento = std::max(expoente, 0) + 2;
-    numero.DeslocarEsquerda(deslocamento);
-    if (APotencia >= 0)
-        numero.MultiplicarPorPotenciaDe5(APotencia);
-    else
-        numero.DividirPorPotenciaDe5(-APotencia);
-    const int unidade = deslocamento - expoente;
-    return numero.Buscar64Bits(unidade) + numero.Bit(unidade - 1);
+std::uint64_t Escalar(TBinario AValor, int APotencia) noexcept {
+    const TEstimativa valor = MultiplicarPorPotenciaDe10(Estimar(AValor.Mantissa, 0, AValor.Expoente), APotencia);
+    const int decimais = -valor.Expoente;
+    const TLadoDaMetade lado = BuscarLadoDaMetade(valor, decimais);
+    if (lado == lmIncerto) return EscalarExato(AValor, APotencia);
+    return valor.DescartarBits(decimais) + (lado != lmAbaixo);
 }
 
 /// Writes at ADestino and answers the end of what was written.
@@ -239,8 +192,8 @@ TDigitosDecimais SepararDigitos(Extended AValor, int AQuantidade) noexcept {
     const TBinario binario = SepararBinario(AValor);
     // Digits before the comma less one, or one less than that: log10(2) is 0.30103.
     int ordem = static_cast<int>(std::floor((binario.Expoente + 63) * 0.30102999566398120));
-    std::uint64_t valor = EscalarArredondando(binario, AQuantidade - 1 - ordem);
-    if (valor >= primeiroLongo) valor = EscalarArredondando(binario, AQuantidade - 1 - ++ordem);
+    std::uint64_t valor = Escalar(binario, AQuantidade - 1 - ordem);
+    if (valor >= primeiroLongo) valor = Escalar(binario, AQuantidade - 1 - ++ordem);
     return {valor, ordem};
 }
 
@@ -256,12 +209,9 @@ Extended ArredondarPara15Digitos(Extended AValor) noexcept {
         return magnitude == 0 ? 0 : AValor;
     const TQuinzeDigitos decimal = SepararQuinzeDigitos(magnitude);
     const int expoente = decimal.Ordem - 14;
-    if (std::abs(expoente) > CPotenciaExata) {
-        std::array<char16_t, CTamanhoMaximoExtended> texto;
-        return TentarTextoParaExtended(EscreverExtended(AValor, texto, u','), TFormatSettings{.DecimalSeparator = u','})
-            .value_or(AValor < 0 ? -TLimites::infinity() : TLimites::infinity());
-    }
-    const Extended arredondado = MultiplicarPorPotenciaDe10(decimal.Digitos, expoente);
+    const TDecimal escrito{
+        .Expoente = expoente, .Significativos = 15, .Inicio = static_cast<std::uint64_t>(decimal.Digitos)};
+    const Extended arredondado = ConverterDecimal(escrito).value_or(TLimites::infinity());
     return AValor < 0 ? -arredondado : arredondado;
 }
 

@@ -11,18 +11,18 @@ namespace OryUtils {
 /// floats. The caller keeps within that room.
 class TInteiroLongo {
 public:
-    explicit TInteiroLongo(std::uint64_t AValor = 0) noexcept {
+    constexpr explicit TInteiroLongo(std::uint64_t AValor = 0) noexcept {
         Acrescentar(static_cast<std::uint32_t>(AValor));
         Acrescentar(static_cast<std::uint32_t>(AValor >> 32));
         Aparar();
     }
 
-    bool EhZero() const noexcept { return FTamanho == 0; }
-    int ContarBits() const noexcept {
+    constexpr bool EhZero() const noexcept { return FTamanho == 0; }
+    constexpr int ContarBits() const noexcept {
         return FTamanho == 0 ? 0 : static_cast<int>(FTamanho) * 32 - std::countl_zero(FPartes[FTamanho - 1]);
     }
 
-    void MultiplicarSomar(std::uint32_t AFator, std::uint32_t AParcela) noexcept {
+    constexpr void MultiplicarSomar(std::uint32_t AFator, std::uint32_t AParcela) noexcept {
         std::uint64_t sobra = AParcela;
         for (std::size_t i = 0; i < FTamanho; ++i) {
             sobra += std::uint64_t{FPartes[i]} * AFator;
@@ -33,7 +33,7 @@ public:
     }
 
     /// The quotient stays; the remainder is the result.
-    std::uint32_t Dividir(std::uint32_t ADivisor) noexcept {
+    constexpr std::uint32_t Dividir(std::uint32_t ADivisor) noexcept {
         std::uint64_t resto = 0;
         for (std::size_t i = FTamanho; i-- > 0;) {
             resto = resto << 32 | FPartes[i];
@@ -44,19 +44,19 @@ public:
         return static_cast<std::uint32_t>(resto);
     }
 
-    void MultiplicarPorPotenciaDe5(int AExpoente) noexcept {
+    constexpr void MultiplicarPorPotenciaDe5(int AExpoente) noexcept {
         for (; AExpoente >= CExpoente5; AExpoente -= CExpoente5) MultiplicarSomar(CPotencia5, 0);
         for (; AExpoente > 0; --AExpoente) MultiplicarSomar(5, 0);
     }
     /// True when the division left something over.
-    bool DividirPorPotenciaDe5(int AExpoente) noexcept {
+    constexpr bool DividirPorPotenciaDe5(int AExpoente) noexcept {
         bool sobrou = false;
         for (; AExpoente >= CExpoente5; AExpoente -= CExpoente5) sobrou |= Dividir(CPotencia5) != 0;
         for (; AExpoente > 0; --AExpoente) sobrou |= Dividir(5) != 0;
         return sobrou;
     }
 
-    void DeslocarEsquerda(int ABits) noexcept {
+    constexpr void DeslocarEsquerda(int ABits) noexcept {
         if (FTamanho == 0 || ABits <= 0) return;
         const std::size_t partes = static_cast<std::size_t>(ABits) / 32;
         for (int i = ABits % 32; i > 0; i -= 16) MultiplicarSomar(1U << (i < 16 ? i : 16), 0);
@@ -66,18 +66,18 @@ public:
         FTamanho += partes;
     }
 
-    bool Bit(int APosicao) const noexcept {
+    constexpr bool Bit(int APosicao) const noexcept {
         const auto parte = static_cast<std::size_t>(APosicao / 32);
         return APosicao >= 0 && parte < FTamanho && (FPartes[parte] >> (APosicao % 32) & 1U);
     }
     /// True when one of the lowest AQuantidade bits is set.
-    bool TemBitAbaixoDe(int AQuantidade) const noexcept {
+    constexpr bool TemBitAbaixoDe(int AQuantidade) const noexcept {
         for (int i = 0; i < AQuantidade; ++i)
             if (Bit(i)) return true;
         return false;
     }
     /// The 64 bits from APosicao up.
-    std::uint64_t Buscar64Bits(int APosicao) const noexcept {
+    constexpr std::uint64_t Buscar64Bits(int APosicao) const noexcept {
         std::uint64_t valor = 0;
         for (int i = 63; i >= 0; --i) valor = valor << 1 | static_cast<std::uint64_t>(Bit(APosicao + i));
         return valor;
@@ -88,8 +88,8 @@ private:
     static constexpr int CExpoente5 = 13;
     static constexpr std::uint32_t CPotencia5 = 1220703125;  // 5 to the 13th, the largest that fits
 
-    void Acrescentar(std::uint32_t AParte) noexcept { FPartes[FTamanho++] = AParte; }
-    void Aparar() noexcept {
+    constexpr void Acrescentar(std::uint32_t AParte) noexcept { FPartes[FTamanho++] = AParte; }
+    constexpr void Aparar() noexcept {
         while (FTamanho > 0 && FPartes[FTamanho - 1] == 0) --FTamanho;
     }
 
