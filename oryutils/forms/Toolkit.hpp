@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -35,6 +36,8 @@ public:
     virtual int ExecutarModal(TFormulario& AFormulario) = 0;
     /// Lets the message loop run once, without waiting.
     virtual void ProcessarMensagens() = 0;
+    /// The visible windows of this thread take no input as long as the result lives. Null when there are none.
+    virtual std::shared_ptr<void> DesabilitarJanelas() { return nullptr; }
 
     /// Size of ATexto in the dialog font. ALarguraMaxima above 0 wraps at words, 0 does not; line breaks count.
     virtual TTamanho MedirTexto(std::u16string_view ATexto, int ALarguraMaxima) const = 0;

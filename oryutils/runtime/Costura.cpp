@@ -23,7 +23,8 @@ TCosturaInterface BuscarCosturaPadrao() noexcept {
             .ProcessarMensagens = [] {},
             .AtribuirFoco = AtribuirFocoDireto,
             .BuscarPixelsPorPolegada = [] { return 96; },
-            .MostrarCursorOcupado = [](bool) {}};
+            .MostrarCursorOcupado = [](bool) {},
+            .DesabilitarJanelas = [] { return std::shared_ptr<void>(); }};
 }
 
 TCosturaInterface& CosturaInterface() noexcept {

@@ -3,6 +3,7 @@
 #include "oryutils/OryExport.hpp"
 #include "oryutils/runtime/Controle.hpp"
 
+#include <memory>
 #include <string_view>
 
 namespace OryUtils {
@@ -20,6 +21,9 @@ struct TCosturaInterface {
     int (*BuscarPixelsPorPolegada)();
     /// The busy cursor, or the ordinary one again.
     void (*MostrarCursorOcupado)(bool AOcupado);
+    /// The application's windows take no input as long as the result lives; those that took it before do so again
+    /// afterwards. Null when there are none.
+    std::shared_ptr<void> (*DesabilitarJanelas)();
 };
 
 /// The seam in use. Change it only while no other thread calls the library.

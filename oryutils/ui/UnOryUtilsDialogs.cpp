@@ -173,7 +173,8 @@ void IniciarInterface() {
         .ProcessarMensagens = [] { BuscarToolkit().ProcessarMensagens(); },
         .AtribuirFoco = [](TWinControl* AControle) { GOryUtilsControls->AtribuirFocoControle(AControle); },
         .BuscarPixelsPorPolegada = [] { return BuscarToolkit().GetPixelsPorPolegada(); },
-        .MostrarCursorOcupado = [](bool AOcupado) { BuscarToolkit().SetCursor(AOcupado ? ctAmpulheta : ctNormal); }};
+        .MostrarCursorOcupado = [](bool AOcupado) { BuscarToolkit().SetCursor(AOcupado ? ctAmpulheta : ctNormal); },
+        .DesabilitarJanelas = [] { return BuscarToolkit().DesabilitarJanelas(); }};
 }
 
 void FinalizarInterface() { CosturaInterface() = BuscarCosturaPadrao(); }

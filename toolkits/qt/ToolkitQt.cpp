@@ -12,6 +12,7 @@
 #include <QFileDialog>
 #include <QFontInfo>
 #include <QFontMetrics>
+#include <QPointer>
 #include <QScreen>
 
 #include <algorithm>
@@ -158,6 +159,22 @@ void TToolkitQt::SetCursor(TCursorTela ACursor) {
         QGuiApplication::restoreOverrideCursor();
     }
     FAmpulheta = ampulheta;
+}
+
+std::shared_ptr<void> TToolkitQt::DesabilitarJanelas() {
+    if (!QCoreApplication::instance() || !EhThreadDaAplicacao()) return nullptr;
+    const auto reabilitar = [](QList<QPointer<QWidget>>* AJanelas) {
+        for (const QPointer<QWidget>& janela : *AJanelas)
+            if (janela) janela->setEnabled(true);
+        delete AJanelas;
+    };
+    const std::shared_ptr<QList<QPointer<QWidget>>> janelas(new QList<QPointer<QWidget>>, reabilitar);
+    for (QWidget* janela : QApplication::topLevelWidgets()) {
+        if (!janela->isVisible() || !janela->isEnabled()) continue;
+        janela->setEnabled(false);
+        janelas->append(janela);
+    }
+    return janelas;
 }
 
 bool TToolkitQt::EstahPressionada(std::uint16_t ATecla) const {

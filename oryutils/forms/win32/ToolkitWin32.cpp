@@ -1,5 +1,6 @@
 #include "oryutils/forms/win32/ToolkitWin32.hpp"
 
+#include "oryutils/forms/win32/interno/DesabilitarJanelas.hpp"
 #include "oryutils/forms/win32/interno/JanelaWin32.hpp"
 #include "oryutils/forms/win32/interno/LacoDeMensagens.hpp"
 #include "oryutils/forms/win32/interno/Seletores.hpp"
@@ -108,6 +109,10 @@ void TToolkitWin32::SetCursor(TCursorTela ACursor) {
     const HCURSOR ampulheta = ::LoadCursorW(nullptr, MAKEINTRESOURCEW(CCursorAmpulheta));
     FPartes->Laco.Cursor = ACursor == ctAmpulheta ? ampulheta : nullptr;
     ::SetCursor(ACursor == ctAmpulheta ? ampulheta : ::LoadCursorW(nullptr, MAKEINTRESOURCEW(CCursorSeta)));
+}
+
+std::shared_ptr<void> TToolkitWin32::DesabilitarJanelas() {
+    return std::make_shared<Win32::TDesabilitarJanelas>(nullptr);
 }
 
 bool TToolkitWin32::EstahPressionada(std::uint16_t ATecla) const { return (::GetAsyncKeyState(ATecla) & 0x8000) != 0; }

@@ -28,6 +28,7 @@ public:
     bool EhThreadDaInterface() const override;
     int ExecutarModal(TFormulario& AFormulario) override;
     void ProcessarMensagens() override;
+    std::shared_ptr<void> DesabilitarJanelas() override;
     TTamanho MedirTexto(std::u16string_view ATexto, int ALarguraMaxima) const override;
     int GetTamanhoFonte() const override;
     int GetPixelsPorPolegada() const override;

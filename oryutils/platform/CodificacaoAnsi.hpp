@@ -1,0 +1,30 @@
+#pragma once
+
+#include "oryutils/OryExport.hpp"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace OryUtils::Plataforma {
+
+/// Reads the bytes that the system's console programs write: by the ANSI code page on Windows, by the code set of the
+/// environment's locale (LC_ALL, LC_CTYPE, LANG) on Linux, where the plain "C" locale counts as UTF-8. Malformed bytes
+/// become U+FFFD; never throws for them. The locale is asked once, when the first byte beyond ASCII comes.
+class ORY_API TDecodificadorAnsi {
+public:
+    TDecodificadorAnsi() = default;
+    ~TDecodificadorAnsi();
+    TDecodificadorAnsi(const TDecodificadorAnsi&) = delete;
+    TDecodificadorAnsi& operator=(const TDecodificadorAnsi&) = delete;
+
+    /// The text of ABytes, which stand by themselves: a character of which a part is missing is malformed.
+    std::u16string Decodificar(std::string_view ABytes);
+
+private:
+    enum TTipo : int { tdNaoPerguntado, tdUtf8, tdOutro };
+    TTipo FTipo = tdNaoPerguntado;
+    void* FConversor = nullptr;
+};
+
+}  // namespace OryUtils::Plataforma

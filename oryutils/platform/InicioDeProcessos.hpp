@@ -1,0 +1,75 @@
+#pragma once
+
+#include "oryutils/OryExport.hpp"
+#include "oryutils/platform/AlcaDeProcesso.hpp"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace OryUtils::Plataforma {
+
+/// Milliseconds of a wait without limit.
+inline constexpr std::uint32_t CEsperaSemLimite = 0xFFFFFFFF;
+
+enum TEspera : int { epTerminou, epMensagens, epTempo };
+
+/// A process that was started. (Linux) Processo may be none on a kernel without pidfd; Thread always is.
+struct TProcessoIniciado {
+    TAlcaDeProcesso Processo{};
+    TAlcaDeProcesso Thread{};
+    std::uint32_t ID = 0;
+    std::uint32_t IDThread = 0;
+};
+
+/// Starts a command line in a console of its own, without inheriting handles. (Linux) It gets a session of its own; its
+/// input is /dev/null, and its output goes there too unless AExibir is true.
+ORY_API std::optional<TProcessoIniciado> CriarProcesso(std::u16string_view ALinhaDeComando, bool AExibir);
+
+struct TPedidoDeExecucao {
+    std::u16string Aplicacao{};
+    std::u16string Parametros{};
+    std::u16string Pasta{};  // empty: the caller's
+    void* Janela = nullptr;
+    bool Elevar = false;
+    bool Exibir = false;
+};
+/// Starts a program through the system's shell. (Linux) Elevar means pkexec or sudo -A in front, except for root.
+/// (Windows) A success without a process of its own, such as a document handed to a running program, has ID 0.
+ORY_API std::optional<TProcessoIniciado> ExecutarPeloSistema(const TPedidoDeExecucao& APedido);
+
+/// Waits for the end of a process, at most ALimite milliseconds. AAcordar: epMensagens as soon as messages of the
+/// application wait (Linux: they may wait, every few milliseconds).
+ORY_API TEspera EsperarProcesso(const TProcessoIniciado& AProcesso, std::uint32_t ALimite, bool AAcordar);
+/// Waits for messages of the application, at most ALimite milliseconds: epMensagens (see above) or epTempo.
+ORY_API TEspera EsperarMensagens(std::uint32_t ALimite);
+
+/// A hidden process whose output comes through a pipe.
+class ORY_API TProcessoCapturado {
+public:
+    enum TLeitura : int { lcBytes, lcNada, lcFim };
+
+    /// Null when the command cannot be started.
+    static std::unique_ptr<TProcessoCapturado> Iniciar(std::u16string_view ALinhaDeComando);
+    ~TProcessoCapturado();
+    TProcessoCapturado(const TProcessoCapturado&) = delete;
+    TProcessoCapturado& operator=(const TProcessoCapturado&) = delete;
+
+    /// Waits at most ALimite milliseconds for output and reads what is there, at most ADestino.size() bytes.
+    /// Result: lcBytes with ALidos set; lcNada when nothing came or messages wait; lcFim when no writer is left.
+    TLeitura Ler(std::span<char> ADestino, std::uint32_t ALimite, std::size_t& ALidos) noexcept;
+    const TProcessoIniciado& GetProcesso() const noexcept { return FProcesso; }
+
+private:
+    TProcessoCapturado(TProcessoIniciado AProcesso, std::intptr_t ALeitura)
+        : FProcesso(std::move(AProcesso)), FLeitura(ALeitura) {}
+
+    TProcessoIniciado FProcesso;
+    std::intptr_t FLeitura;  // read end of the pipe
+};
+
+}  // namespace OryUtils::Plataforma

@@ -1,0 +1,129 @@
+#include "oryutils/platform/InicioDeProcessos.hpp"
+
+#include "oryutils/platform/LinhaDeComando.hpp"
+#include "oryutils/platform/Utf.hpp"
+#include "oryutils/platform/linux/Elevacao.hpp"
+#include "oryutils/platform/linux/Filhos.hpp"
+
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <fcntl.h>
+#include <poll.h>
+#include <unistd.h>
+
+namespace OryUtils::Plataforma {
+namespace {
+
+// A host's message loop has no common signal here: it is looked after so often.
+constexpr std::uint32_t CFatia = 20;
+
+class TDescritor {
+public:
+    explicit TDescritor(int ANumero) : FNumero(ANumero) {}
+    ~TDescritor() {
+        if (FNumero >= 0) ::close(FNumero);
+    }
+    TDescritor(const TDescritor&) = delete;
+    TDescritor& operator=(const TDescritor&) = delete;
+    int Get() const { return FNumero; }
+    int Soltar() { return std::exchange(FNumero, -1); }
+
+private:
+    int FNumero;
+};
+
+std::vector<std::string> ConverterArgumentos(const std::vector<std::u16string>& AArgumentos) {
+    std::vector<std::string> argumentos;
+    for (const std::u16string& argumento : AArgumentos) argumentos.push_back(ParaUtf8(argumento));
+    return argumentos;
+}
+
+// The system takes a line with blanks in front.
+std::vector<std::string> SepararComando(std::u16string_view ALinha) {
+    ALinha.remove_prefix(std::min(ALinha.find_first_not_of(u" \t"), ALinha.size()));
+    return ConverterArgumentos(SepararLinhaDeComando(ALinha));
+}
+
+TProcessoIniciado Iniciado(pid_t APid, bool AComAlca) {
+    TProcessoIniciado processo;
+    processo.ID = processo.IDThread = static_cast<std::uint32_t>(APid);
+    if (AComAlca) processo.Processo = TAlcaDeProcesso(AbrirPidfd(APid));
+    return processo;
+}
+
+}  // namespace
+
+std::optional<TProcessoIniciado> CriarProcesso(std::u16string_view ALinhaDeComando, bool AExibir) {
+    const TDescritor nulo(::open("/dev/null", O_RDWR | O_CLOEXEC));
+    TPedidoDeFilho pedido{.Argumentos = SepararComando(ALinhaDeComando), .FecharDescritores = true};
+    pedido.Entrada = nulo.Get();
+    if (!AExibir) pedido.Saida = pedido.Erro = nulo.Get();
+    const pid_t pid = GerarFilho(pedido);
+    if (pid == 0) return std::nullopt;
+    return Iniciado(pid, true);
+}
+
+std::optional<TProcessoIniciado> ExecutarPeloSistema(const TPedidoDeExecucao& APedido) {
+    TPedidoDeFilho pedido{.Argumentos = ConverterArgumentos(SepararArgumentos(APedido.Parametros)),
+                          .Pasta = ParaUtf8(APedido.Pasta),
+                          .SessaoPropria = false,
+                          .FecharDescritores = true};
+    pedido.Argumentos.insert(pedido.Argumentos.begin(), ParaUtf8(APedido.Aplicacao));
+    if (APedido.Elevar && ::geteuid() != 0) {
+        const std::vector<std::string> elevador = BuscarElevador(!pedido.Pasta.empty());
+        if (elevador.empty()) return std::nullopt;
+        pedido.Argumentos.insert(pedido.Argumentos.begin(), elevador.begin(), elevador.end());
+    }
+    const pid_t pid = GerarFilho(pedido);
+    if (pid == 0) return std::nullopt;
+    return Iniciado(pid, true);
+}
+
+TEspera EsperarProcesso(const TProcessoIniciado& AProcesso, std::uint32_t ALimite, bool AAcordar) {
+    using TRelogio = std::chrono::steady_clock;
+    const auto pid = static_cast<pid_t>(AProcesso.ID);
+    const auto inicio = TRelogio::now();
+    while (true) {
+        const auto passou = std::chrono::duration_cast<std::chrono::milliseconds>(TRelogio::now() - inicio).count();
+        const std::int64_t resta = ALimite == CEsperaSemLimite ? CFatia : ALimite - passou;
+        const auto espera = std::clamp<std::int64_t>(resta, 0, CFatia);
+        if (EsperarFilho(pid, AProcesso.Processo.Get(), static_cast<int>(espera))) return epTerminou;
+        if (resta <= espera && ALimite != CEsperaSemLimite) return epTempo;
+        if (AAcordar) return epMensagens;
+    }
+}
+
+TEspera EsperarMensagens(std::uint32_t ALimite) {
+    ::poll(nullptr, 0, static_cast<int>(std::min(ALimite, CFatia)));
+    return ALimite > CFatia ? epMensagens : epTempo;
+}
+
+std::unique_ptr<TProcessoCapturado> TProcessoCapturado::Iniciar(std::u16string_view ALinhaDeComando) {
+    int pontas[2];
+    if (::pipe2(pontas, O_CLOEXEC) != 0) return nullptr;
+    TDescritor leitura(pontas[0]);
+    const TDescritor escrita(pontas[1]);
+    constexpr int CCapacidade = 1 << 20;  // the writer of much output is stopped less often; a wish, not a need
+    ::fcntl(leitura.Get(), F_SETPIPE_SZ, CCapacidade);
+    TPedidoDeFilho pedido{.Argumentos = SepararComando(ALinhaDeComando)};
+    pedido.Saida = pedido.Erro = escrita.Get();
+    const pid_t pid = GerarFilho(pedido);
+    if (pid == 0) return nullptr;
+    return std::unique_ptr<TProcessoCapturado>(new TProcessoCapturado(Iniciado(pid, true), leitura.Soltar()));
+}
+
+TProcessoCapturado::~TProcessoCapturado() { ::close(static_cast<int>(FLeitura)); }
+
+TProcessoCapturado::TLeitura TProcessoCapturado::Ler(std::span<char> ADestino, std::uint32_t ALimite,
+                                                     std::size_t& ALidos) noexcept {
+    pollfd leitura{.fd = static_cast<int>(FLeitura), .events = POLLIN, .revents = 0};
+    if (::poll(&leitura, 1, static_cast<int>(ALimite)) <= 0) return lcNada;
+    const ssize_t lidos = ::read(leitura.fd, ADestino.data(), ADestino.size());
+    if (lidos < 0 && errno == EINTR) return lcNada;
+    if (lidos <= 0) return lcFim;
+    ALidos = static_cast<std::size_t>(lidos);
+    return lcBytes;
+}
+
+}  // namespace OryUtils::Plataforma

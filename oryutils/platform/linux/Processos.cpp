@@ -1,0 +1,244 @@
+#include "oryutils/platform/Processos.hpp"
+
+#include "oryutils/platform/Utf.hpp"
+#include "oryutils/platform/linux/Filhos.hpp"
+
+#include <climits>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <charconv>
+#include <csignal>
+#include <cstring>
+#include <dirent.h>
+#include <fcntl.h>
+#include <malloc.h>
+#include <map>
+#include <memory>
+#include <optional>
+#include <pwd.h>
+#include <span>
+#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <sys/utsname.h>
+#include <unistd.h>
+
+namespace OryUtils::Plataforma {
+namespace {
+
+std::string CaminhoDe(pid_t APid, std::string_view AArquivo) {
+    std::string caminho = "/proc/" + std::to_string(APid) + '/';
+    return caminho.append(AArquivo);
+}
+
+// A file of /proc that fits in the buffer; empty when it cannot be read.
+std::string_view LerArquivo(const std::string& ACaminho, std::span<char> ADestino) {
+    const int arquivo = ::open(ACaminho.c_str(), O_RDONLY | O_CLOEXEC);
+    if (arquivo < 0) return {};
+    const ssize_t lidos = ::read(arquivo, ADestino.data(), ADestino.size());
+    ::close(arquivo);
+    return {ADestino.data(), lidos > 0 ? static_cast<std::size_t>(lidos) : 0};
+}
+
+// What stands behind a name at the beginning of a line, up to the line's end.
+std::string_view BuscarCampo(std::string_view ATexto, std::string_view ANome) {
+    std::size_t inicio = ATexto.starts_with(ANome.substr(1)) ? ANome.size() - 1 : ATexto.find(ANome);
+    if (inicio == ATexto.npos) return {};
+    if (inicio != ANome.size() - 1) inicio += ANome.size();
+    inicio = ATexto.find_first_not_of(" \t", inicio);
+    if (inicio == ATexto.npos) return {};
+    return ATexto.substr(inicio, ATexto.find('\n', inicio) - inicio);
+}
+
+template <typename TNumero>
+TNumero LerNumero(std::string_view ATexto) {
+    TNumero numero = 0;
+    std::from_chars(ATexto.data(), ATexto.data() + ATexto.size(), numero);
+    return numero;
+}
+
+struct TSituacao {
+    std::string Nome;  // at most 15 bytes
+    bool Terminado = false;
+    uid_t Usuario = 0;
+    std::uint64_t Memoria = 0;
+};
+
+std::optional<TSituacao> LerSituacao(pid_t APid) {
+    std::array<char, 8192> destino;
+    const std::string_view texto = LerArquivo(CaminhoDe(APid, "status"), destino);
+    if (texto.empty()) return std::nullopt;
+    TSituacao situacao;
+    situacao.Nome = BuscarCampo(texto, "\nName:");
+    const std::string_view estado = BuscarCampo(texto, "\nState:");
+    situacao.Terminado = estado.starts_with('Z') || estado.starts_with('X');
+    const std::string_view usuarios = BuscarCampo(texto, "\nUid:");  // real, effective, saved, of the file system
+    situacao.Usuario = LerNumero<uid_t>(usuarios.substr(std::min(usuarios.find('\t') + 1, usuarios.size())));
+    situacao.Memoria = LerNumero<std::uint64_t>(BuscarCampo(texto, "\nVmRSS:")) * 1024;
+    return situacao;
+}
+
+std::string LerCaminho(pid_t APid) {
+    std::array<char, PATH_MAX> destino;
+    const ssize_t tamanho = ::readlink(CaminhoDe(APid, "exe").c_str(), destino.data(), destino.size());
+    if (tamanho <= 0) return {};
+    std::string caminho(destino.data(), static_cast<std::size_t>(tamanho));
+    constexpr std::string_view CExcluido = " (deleted)";  // a program replaced while it runs
+    if (caminho.ends_with(CExcluido)) caminho.resize(caminho.size() - CExcluido.size());
+    return caminho;
+}
+
+// Of other users' programs the system tells the short name only.
+std::string NomeDe(const std::string& ACaminho, const std::string& ANomeCurto) {
+    return ACaminho.empty() ? ANomeCurto : ACaminho.substr(ACaminho.rfind('/') + 1);
+}
+
+std::string BuscarNomeDoUsuario(uid_t AUsuario) {
+    std::vector<char> memoria(1024);
+    passwd conta{};
+    passwd* achada = nullptr;
+    while (::getpwuid_r(AUsuario, &conta, memoria.data(), memoria.size(), &achada) == ERANGE)
+        memoria.resize(memoria.size() * 2);
+    return achada ? achada->pw_name : "";
+}
+
+template <typename TAcao>
+void PercorrerProcessos(TAcao AAcao) {
+    const std::unique_ptr<DIR, decltype([](DIR* APasta) { ::closedir(APasta); })> pasta(::opendir("/proc"));
+    if (!pasta) return;
+    while (const dirent* entrada = ::readdir(pasta.get())) {
+        const std::string_view nome = entrada->d_name;
+        if (nome.front() < '1' || nome.front() > '9') continue;
+        if (!AAcao(LerNumero<pid_t>(nome))) return;
+    }
+}
+
+// Who opened a descriptor for each of many processes could soon open no file: a quarter of them is left free.
+TAlcaDeProcesso AbrirComReserva(pid_t APid, std::intptr_t AMaior) {
+    TAlcaDeProcesso alca(AbrirPidfd(APid));
+    return alca.Get() <= AMaior ? std::move(alca) : TAlcaDeProcesso();
+}
+
+std::intptr_t BuscarMaiorAlca() {
+    rlimit limite{};
+    if (::getrlimit(RLIMIT_NOFILE, &limite) != 0) return 0;
+    return static_cast<std::intptr_t>(std::min<rlim_t>(limite.rlim_cur, INT_MAX) / 4 * 3);
+}
+
+bool EnviarMorte(const TAlcaDeProcesso& AAlca, pid_t APid) {
+    if (AAlca) return ::syscall(SYS_pidfd_send_signal, static_cast<int>(AAlca.Get()), SIGKILL, nullptr, 0) == 0;
+    return ::kill(APid, SIGKILL) == 0;
+}
+
+bool PodeTerminar(pid_t APid) { return ::kill(APid, 0) == 0; }
+
+pid_t BuscarPid(std::uint32_t AID) { return AID <= INT_MAX ? static_cast<pid_t>(AID) : 0; }
+
+}  // namespace
+
+std::vector<TProcessoDoSistema> ListarProcessos(const std::function<bool(std::u16string_view)>& AQuer) {
+    ColherFilhos();
+    const std::intptr_t maior_alca = BuscarMaiorAlca();
+    struct TUsuario {
+        std::u16string Nome;
+        bool Quer;
+    };
+    std::map<uid_t, TUsuario> usuarios;
+    std::vector<TProcessoDoSistema> processos;
+    PercorrerProcessos([&](pid_t APid) {
+        const std::optional<TSituacao> situacao = LerSituacao(APid);
+        if (!situacao || situacao->Terminado) return true;
+        auto usuario = usuarios.find(situacao->Usuario);
+        if (usuario == usuarios.end()) {
+            std::u16string nome = DeUtf8(BuscarNomeDoUsuario(situacao->Usuario));
+            const bool quer = AQuer(nome);
+            usuario = usuarios.emplace(situacao->Usuario, TUsuario{std::move(nome), quer}).first;
+        }
+        if (!usuario->second.Quer) return true;
+        const std::string caminho = LerCaminho(APid);
+        processos.push_back({.ID = static_cast<std::uint32_t>(APid),
+                             .Nome = DeUtf8(NomeDe(caminho, situacao->Nome)),
+                             .Usuario = usuario->second.Nome,
+                             .Caminho = DeUtf8(caminho),
+                             .Alca = AbrirComReserva(APid, maior_alca),
+                             .Memoria = situacao->Memoria});
+        return true;
+    });
+    return processos;
+}
+
+TDonoDeProcesso BuscarDonoDoProcesso(std::uint32_t AID) {
+    const std::optional<TSituacao> situacao = LerSituacao(BuscarPid(AID));
+    if (!situacao) return {};
+    utsname sistema{};
+    ::uname(&sistema);
+    return {DeUtf8(BuscarNomeDoUsuario(situacao->Usuario)), DeUtf8(sistema.nodename)};
+}
+
+std::u16string BuscarCaminhoDoProcesso(std::uint32_t AID) { return DeUtf8(LerCaminho(BuscarPid(AID))); }
+
+TAlcaDeProcesso AbrirProcesso(const std::function<bool(std::u16string_view)>& AQuer) {
+    TAlcaDeProcesso alca;
+    PercorrerProcessos([&](pid_t APid) {
+        const std::optional<TSituacao> situacao = LerSituacao(APid);
+        if (!situacao || situacao->Terminado || !AQuer(DeUtf8(NomeDe(LerCaminho(APid), situacao->Nome)))) return true;
+        alca = TAlcaDeProcesso(AbrirPidfd(APid));
+        return !alca;
+    });
+    return alca;
+}
+
+std::uint64_t BuscarMemoriaDoProcesso(const TAlcaDeProcesso& AAlca) {
+    if (!AAlca) return 0;
+    std::array<char, 1024> destino;
+    const std::string_view dados = LerArquivo("/proc/self/fdinfo/" + std::to_string(AAlca.Get()), destino);
+    const auto pid = LerNumero<pid_t>(BuscarCampo(dados, "\nPid:"));  // -1 once it has ended
+    const std::optional<TSituacao> situacao = pid > 0 ? LerSituacao(pid) : std::nullopt;
+    return situacao ? situacao->Memoria : 0;
+}
+
+TFimDeProcesso TerminarProcesso(std::uint32_t AID, std::u16string& AErro) {
+    const pid_t pid = BuscarPid(AID);
+    if (pid == 0) return fpNaoAberto;  // to the system it would be a whole group
+    ColherFilhos();
+    const TAlcaDeProcesso alca(AbrirPidfd(pid));
+    if (!PodeTerminar(pid) || (alca && Terminou(alca.Get()))) return fpNaoAberto;
+    if (EnviarMorte(alca, pid)) return fpTerminado;
+    AErro = DeUtf8(std::strerror(errno));
+    return fpErro;
+}
+
+int TerminarProcessos(const std::function<bool(std::u16string_view)>& AQuer) {
+    int terminados = 0;
+    PercorrerProcessos([&](pid_t APid) {
+        const TAlcaDeProcesso alca(AbrirPidfd(APid));  // before the name: the number cannot change hands in between
+        const std::optional<TSituacao> situacao = LerSituacao(APid);
+        if (!situacao || situacao->Terminado || !AQuer(DeUtf8(NomeDe(LerCaminho(APid), situacao->Nome)))) return true;
+        if (EnviarMorte(alca, APid)) ++terminados;
+        return true;
+    });
+    return terminados;
+}
+
+bool EhAdministrador() { return ::geteuid() == 0; }
+
+bool EhProcessoDe32BitsEmSistemaDe64() {
+    utsname sistema{};
+    if (sizeof(void*) != 4 || ::uname(&sistema) != 0) return false;
+    return std::string_view(sistema.machine).find("64") != std::string_view::npos;
+}
+
+void LiberarMemoria() { ::malloc_trim(0); }
+
+void AbrirConfiguracaoDeDataHora() {
+    if (!::getenv("DISPLAY") && !::getenv("WAYLAND_DISPLAY")) return;
+    const std::array<std::vector<std::string>, 4> CProgramas{{{"gnome-control-center", "datetime"},
+                                                              {"systemsettings", "kcm_clock"},
+                                                              {"cinnamon-settings", "calendar"},
+                                                              {"time-admin"}}};
+    for (const std::vector<std::string>& programa : CProgramas)
+        if (GerarFilho({.Argumentos = programa, .FecharDescritores = true}) != 0) return;
+}
+
+}  // namespace OryUtils::Plataforma

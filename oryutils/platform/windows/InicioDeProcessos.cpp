@@ -1,0 +1,127 @@
+#include "oryutils/platform/InicioDeProcessos.hpp"
+
+#include "oryutils/platform/windows/Windows.hpp"
+
+#include <algorithm>
+#include <chrono>
+#include <shellapi.h>
+
+namespace OryUtils::Plataforma {
+namespace {
+
+// A pipe has no signal to wait on together with messages: it is looked at so often, more often when output flows.
+constexpr DWORD CMaiorIntervalo = 10;
+
+HANDLE AlcaDe(const TAlcaDeProcesso& AAlca) { return reinterpret_cast<HANDLE>(AAlca.Get()); }
+TAlcaDeProcesso Assumir(HANDLE AAlca) { return TAlcaDeProcesso(reinterpret_cast<std::intptr_t>(AAlca)); }
+
+STARTUPINFOW BuscarDadosDeInicio(bool AExibir) {
+    STARTUPINFOW inicio{};
+    inicio.cb = sizeof(inicio);
+    inicio.dwFlags = STARTF_USESHOWWINDOW;
+    inicio.wShowWindow = AExibir ? SW_SHOWNORMAL : SW_HIDE;
+    return inicio;
+}
+
+std::optional<TProcessoIniciado> Criar(std::u16string_view ALinha, STARTUPINFOW& AInicio, bool AHerdar, DWORD AOpcoes) {
+    if (ALinha.find(u'\0') != ALinha.npos) return std::nullopt;
+    std::u16string linha(ALinha);  // the call writes into it
+    PROCESS_INFORMATION dados{};
+    if (!::CreateProcessW(nullptr, ParaWide(linha.data()), nullptr, nullptr, AHerdar, AOpcoes, nullptr, nullptr,
+                          &AInicio, &dados))
+        return std::nullopt;
+    return TProcessoIniciado{Assumir(dados.hProcess), Assumir(dados.hThread), dados.dwProcessId, dados.dwThreadId};
+}
+
+}  // namespace
+
+std::optional<TProcessoIniciado> CriarProcesso(std::u16string_view ALinhaDeComando, bool AExibir) {
+    STARTUPINFOW inicio = BuscarDadosDeInicio(AExibir);
+    std::wstring area = L"winsta0\\default";
+    inicio.lpDesktop = area.data();
+    return Criar(ALinhaDeComando, inicio, false, CREATE_NEW_CONSOLE | NORMAL_PRIORITY_CLASS);
+}
+
+std::optional<TProcessoIniciado> ExecutarPeloSistema(const TPedidoDeExecucao& APedido) {
+    const auto possui_zero = [](const std::u16string& ATexto) { return ATexto.find(u'\0') != ATexto.npos; };
+    if (possui_zero(APedido.Aplicacao) || possui_zero(APedido.Parametros) || possui_zero(APedido.Pasta))
+        return std::nullopt;
+    SHELLEXECUTEINFOW dados{};
+    dados.cbSize = sizeof(dados);
+    dados.fMask = SEE_MASK_NOCLOSEPROCESS;
+    dados.hwnd = static_cast<HWND>(APedido.Janela);
+    dados.lpVerb = APedido.Elevar ? L"runas" : nullptr;
+    dados.lpFile = ParaWide(APedido.Aplicacao);
+    dados.lpParameters = ParaWide(APedido.Parametros);
+    dados.lpDirectory = APedido.Pasta.empty() ? nullptr : ParaWide(APedido.Pasta);
+    dados.nShow = APedido.Exibir ? SW_SHOWNORMAL : SW_HIDE;
+    if (!::ShellExecuteExW(&dados)) return std::nullopt;
+    TProcessoIniciado processo;
+    if (!dados.hProcess) return processo;
+    processo.Processo = Assumir(dados.hProcess);
+    processo.ID = ::GetProcessId(dados.hProcess);
+    return processo;
+}
+
+TEspera EsperarProcesso(const TProcessoIniciado& AProcesso, std::uint32_t ALimite, bool AAcordar) {
+    const HANDLE processo = AlcaDe(AProcesso.Processo);
+    const DWORD situacao = AAcordar ? ::MsgWaitForMultipleObjects(1, &processo, FALSE, ALimite, QS_ALLINPUT)
+                                    : ::WaitForSingleObject(processo, ALimite);
+    if (situacao == WAIT_TIMEOUT) return epTempo;
+    return situacao == WAIT_OBJECT_0 + 1 ? epMensagens : epTerminou;
+}
+
+TEspera EsperarMensagens(std::uint32_t ALimite) {
+    return ::MsgWaitForMultipleObjects(0, nullptr, FALSE, ALimite, QS_ALLINPUT) == WAIT_OBJECT_0 ? epMensagens
+                                                                                                 : epTempo;
+}
+
+std::unique_ptr<TProcessoCapturado> TProcessoCapturado::Iniciar(std::u16string_view ALinhaDeComando) {
+    SECURITY_ATTRIBUTES herdavel{.nLength = sizeof(herdavel), .lpSecurityDescriptor = nullptr, .bInheritHandle = TRUE};
+    constexpr DWORD CCapacidade = 1 << 20;
+    HANDLE leitura = nullptr;
+    HANDLE escrita = nullptr;
+    if (!::CreatePipe(&leitura, &escrita, &herdavel, CCapacidade)) return nullptr;
+    // A child that held the read end would keep its own children writing to nobody.
+    ::SetHandleInformation(leitura, HANDLE_FLAG_INHERIT, 0);
+    STARTUPINFOW inicio = BuscarDadosDeInicio(false);
+    inicio.dwFlags |= STARTF_USESTDHANDLES;
+    inicio.hStdInput = ::GetStdHandle(STD_INPUT_HANDLE);
+    inicio.hStdOutput = escrita;
+    inicio.hStdError = escrita;
+    std::optional<TProcessoIniciado> processo = Criar(ALinhaDeComando, inicio, true, 0);
+    ::CloseHandle(escrita);
+    if (!processo) {
+        ::CloseHandle(leitura);
+        return nullptr;
+    }
+    return std::unique_ptr<TProcessoCapturado>(
+        new TProcessoCapturado(std::move(*processo), reinterpret_cast<std::intptr_t>(leitura)));
+}
+
+TProcessoCapturado::~TProcessoCapturado() { ::CloseHandle(reinterpret_cast<HANDLE>(FLeitura)); }
+
+TProcessoCapturado::TLeitura TProcessoCapturado::Ler(std::span<char> ADestino, std::uint32_t ALimite,
+                                                     std::size_t& ALidos) noexcept {
+    const auto leitura = reinterpret_cast<HANDLE>(FLeitura);
+    HANDLE processo = AlcaDe(FProcesso.Processo);
+    DWORD prontos = 0;
+    DWORD intervalo = 1;
+    for (DWORD passou = 0;; passou += intervalo, intervalo = std::min(intervalo * 2, CMaiorIntervalo)) {
+        if (!::PeekNamedPipe(leitura, nullptr, 0, nullptr, &prontos, nullptr)) return lcFim;
+        if (prontos > 0) break;
+        if (passou >= ALimite) return lcNada;
+        // The end of the process is most often the end of the output: it is not slept through.
+        const bool vivo = ::WaitForSingleObject(processo, 0) == WAIT_TIMEOUT;
+        const DWORD quantidade = vivo ? 1 : 0;
+        const DWORD situacao = ::MsgWaitForMultipleObjects(quantidade, &processo, FALSE, intervalo, QS_ALLINPUT);
+        if (situacao == WAIT_OBJECT_0 + quantidade) return lcNada;
+    }
+    DWORD lidos = 0;
+    const DWORD maximo = static_cast<DWORD>(std::min<std::size_t>(ADestino.size(), prontos));
+    if (!::ReadFile(leitura, ADestino.data(), maximo, &lidos, nullptr) || lidos == 0) return lcFim;
+    ALidos = lidos;
+    return lcBytes;
+}
+
+}  // namespace OryUtils::Plataforma

@@ -1,0 +1,110 @@
+#include "oryutils/platform/InicioDeProcessos.hpp"
+#include "oryutils/platform/Processos.hpp"
+#include "oryutils/runtime/Costura.hpp"
+#include "oryutils/system/OryUtilsSystem.hpp"
+#include "oryutils/system/interno/Executor.hpp"
+#include "oryutils/system/interno/SaidaDeComando.hpp"
+
+#include <array>
+#include <chrono>
+
+namespace OryUtils {
+namespace {
+
+using Plataforma::TProcessoCapturado;
+
+/// The application's messages are looked after at least so often, in milliseconds.
+constexpr std::uint32_t CIntervaloDasMensagens = 20;
+/// A producer silent for so long has paused: what it wrote last is a chunk of its own. One that the system merely stops
+/// for a moment, in the middle of a long output, has not.
+constexpr auto CPausa = std::chrono::milliseconds(100);
+
+void ProcessarMensagens() { CosturaInterface().ProcessarMensagens(); }
+
+void LerSaida(TProcessoCapturado& AProcesso, Sistema::TSaidaDeComando& ASaida) {
+    std::vector<char> bloco(std::size_t{256} * 1024);
+    using TRelogio = std::chrono::steady_clock;
+    auto ultima_leitura = TRelogio::now();
+    while (true) {
+        std::size_t lidos = 0;
+        const TProcessoCapturado::TLeitura leitura = AProcesso.Ler(bloco, CIntervaloDasMensagens, lidos);
+        if (leitura == TProcessoCapturado::lcFim) break;
+        if (leitura == TProcessoCapturado::lcBytes) {
+            ASaida.Receber({bloco.data(), lidos});
+            ultima_leitura = TRelogio::now();
+        } else if (TRelogio::now() - ultima_leitura >= CPausa) {
+            ASaida.FecharParte();
+        }
+        ProcessarMensagens();
+    }
+    ASaida.FecharParte();
+}
+
+}  // namespace
+
+void TOryUtilsSistema::ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando,
+                                                 std::vector<std::u16string>& ASaida) {
+    const std::unique_ptr<TProcessoCapturado> processo = TProcessoCapturado::Iniciar(ALinhaDeComando);
+    if (!processo) return;
+    Plataforma::TDecodificadorAnsi decodificador;
+    Sistema::TSaidaDeComando saida(ASaida, [&](std::string_view ABytes) { return decodificador.Decodificar(ABytes); });
+    LerSaida(*processo, saida);
+    while (Plataforma::EsperarProcesso(processo->GetProcesso(), Plataforma::CEsperaSemLimite, true) !=
+           Plataforma::epTerminou)
+        ProcessarMensagens();
+}
+
+std::u16string TOryUtilsSistema::ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando) {
+    return Sistema::BuscarTextoDoComando(Sistema::ExecutorDoSistema(), ALinhaDeComando);
+}
+
+std::unique_ptr<TOryUtilsSystemDadosRetornoProcessoIOP> TOryUtilsSistema::CriarProcesso(
+    TOryUtilsSystemDadosCriacaoProcessoIOP& AParametros) {
+    const auto processo = Plataforma::CriarProcesso(AParametros.Comando, AParametros.ExibirProcesso);
+    auto retorno = std::make_unique<TOryUtilsSystemDadosRetornoProcessoIOP>();
+    if (processo) {
+        AParametros.IDProcesso = processo->ID;
+        retorno->CriouProcesso = true;
+        retorno->InformacaoProcesso = {processo->Processo.Get(), processo->Thread.Get(), processo->ID,
+                                       processo->IDThread};
+    }
+    if (AParametros.MetodoRetornoCriacaoProcesso) AParametros.MetodoRetornoCriacaoProcesso(*retorno);
+    if (processo && AParametros.AguardarProcesso)
+        Plataforma::EsperarProcesso(*processo, AParametros.TempoLimiteProcesso, false);
+    return retorno;
+}
+
+bool TOryUtilsSistema::ExecutouComando(std::u16string_view AComando, bool AAguardar, bool AExibir) {
+    TOryUtilsSystemDadosCriacaoProcessoIOP dados;
+    dados.Comando = AComando;
+    dados.AguardarProcesso = AAguardar;
+    dados.ExibirProcesso = AExibir;
+    return CriarProcesso(dados)->CriouProcesso;
+}
+
+bool TOryUtilsSistema::EstahRodandoComoAdministrador() { return Plataforma::EhAdministrador(); }
+bool TOryUtilsSistema::EhSistemaOperacional64bits() { return Plataforma::EhProcessoDe32BitsEmSistemaDe64(); }
+
+void TOryUtilsSistema::Dormir(std::uint32_t AMilissegundos) {
+    using TRelogio = std::chrono::steady_clock;
+    const auto inicio = TRelogio::now();
+    while (true) {
+        const auto passou = std::chrono::duration_cast<std::chrono::milliseconds>(TRelogio::now() - inicio).count();
+        if (passou >= static_cast<std::int64_t>(AMilissegundos)) return;
+        const auto resta = static_cast<std::uint32_t>(static_cast<std::int64_t>(AMilissegundos) - passou);
+        if (Plataforma::EsperarMensagens(resta) == Plataforma::epMensagens) ProcessarMensagens();
+    }
+}
+
+void ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando, std::vector<std::u16string>& ASaida) {
+    TOryUtilsSistema::ExecutarComandoComRetorno(ALinhaDeComando, ASaida);
+}
+std::u16string ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando) {
+    return TOryUtilsSistema::ExecutarComandoComRetorno(ALinhaDeComando);
+}
+bool ExecutarComando(std::u16string_view AComando, bool AAguardar, bool AExibir) {
+    return TOryUtilsSistema::ExecutouComando(AComando, AAguardar, AExibir);
+}
+bool EhSistemaOperacional64bits() { return TOryUtilsSistema::EhSistemaOperacional64bits(); }
+
+}  // namespace OryUtils

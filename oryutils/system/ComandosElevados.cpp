@@ -1,0 +1,60 @@
+#include "oryutils/platform/InicioDeProcessos.hpp"
+#include "oryutils/runtime/Costura.hpp"
+#include "oryutils/system/OryUtilsSystem.hpp"
+
+#include <algorithm>
+#include <chrono>
+
+namespace OryUtils {
+namespace {
+
+/// The limit is that of the whole wait, however often messages wake it.
+void EsperarComMensagens(const Plataforma::TProcessoIniciado& AProcesso, std::uint32_t ALimite) {
+    using TRelogio = std::chrono::steady_clock;
+    const auto inicio = TRelogio::now();
+    std::uint32_t resta = ALimite;
+    while (Plataforma::EsperarProcesso(AProcesso, resta, true) == Plataforma::epMensagens) {
+        CosturaInterface().ProcessarMensagens();
+        if (ALimite == CSemTempoLimite) continue;
+        const auto passou = std::chrono::duration_cast<std::chrono::milliseconds>(TRelogio::now() - inicio).count();
+        resta = static_cast<std::uint32_t>(std::max<std::int64_t>(static_cast<std::int64_t>(ALimite) - passou, 0));
+    }
+}
+
+}  // namespace
+
+bool TOryUtilsSistema::ExecutouComandoModoAdministrador(
+    TOryUtilsSystemDadosComandoModoAdministradorIOP& AParametros) const {
+    const auto processo = Plataforma::ExecutarPeloSistema({.Aplicacao = AParametros.Aplicacao,
+                                                           .Parametros = AParametros.Parametros,
+                                                           .Pasta = AParametros.Diretorio,
+                                                           .Janela = AParametros.Handle,
+                                                           .Elevar = FAtivarExecucaoComandosModoAdministrador,
+                                                           .Exibir = AParametros.ExibirProcesso});
+    if (!processo) return false;
+    AParametros.IDProcesso = processo->ID;
+    TOryUtilsSystemDadosRetornoProcessoModoAdminIOP retorno;
+    retorno.CriouProcesso = true;
+    retorno.IDProcesso = processo->ID;
+    if (AParametros.MetodoRetornoCriacaoProcesso) AParametros.MetodoRetornoCriacaoProcesso(retorno);
+    if (AParametros.BloquearTela && processo->ID != 0) {
+        const std::shared_ptr<void> bloqueio = CosturaInterface().DesabilitarJanelas();
+        EsperarComMensagens(*processo, AParametros.TempoLimiteProcesso);
+    }
+    return true;
+}
+
+bool TOryUtilsSistema::ExecutouComandoModoAdministrador(void* AHandle, std::u16string_view AAplicacao,
+                                                        std::u16string_view AParametros, std::u16string_view ADiretorio,
+                                                        bool AAguardar) const {
+    TOryUtilsSystemDadosComandoModoAdministradorIOP dados;
+    dados.Handle = AHandle;
+    dados.Aplicacao = AAplicacao;
+    dados.Parametros = AParametros;
+    dados.Diretorio = ADiretorio;
+    dados.BloquearTela = AAguardar;
+    dados.ExibirProcesso = true;
+    return ExecutouComandoModoAdministrador(dados);
+}
+
+}  // namespace OryUtils

@@ -1,0 +1,119 @@
+#include "oryutils/platform/Processos.hpp"
+
+#include "oryutils/runtime/Caixa.hpp"
+#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/runtime/FormatoNumero.hpp"
+#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/system/OryUtilsSystem.hpp"
+
+namespace OryUtils {
+namespace {
+
+bool MesmoNome(std::u16string_view AUm, std::u16string_view AOutro) {
+    return IguaisIgnorandoCaixa(Aparar(AUm), Aparar(AOutro));
+}
+
+template <typename TCondicao>
+bool Existe(std::u16string_view AUsuario, TCondicao ACondicao) {
+    const std::unique_ptr<TProcessoItems> processos = TOryUtilsSistema::BuscarListaDeProcessosWindows(AUsuario);
+    for (int i = 0; i < processos->GetCount(); ++i)
+        if (ACondicao(processos->GetItems(i))) return true;
+    return false;
+}
+
+}  // namespace
+
+std::unique_ptr<TProcessoItems> TOryUtilsSistema::BuscarListaDeProcessosWindows(std::u16string_view AUsuario) {
+    const std::u16string_view usuario = Aparar(AUsuario);
+    auto processos = std::make_unique<TProcessoItems>();
+    const auto quer = [&](std::u16string_view ADono) { return usuario.empty() || MesmoNome(usuario, ADono); };
+    for (Plataforma::TProcessoDoSistema& processo : Plataforma::ListarProcessos(quer)) {
+        TProcessoItem& item = processos->Add();
+        item.Usuario = std::move(processo.Usuario);
+        item.Processo = std::move(processo.Nome);
+        item.EnderecoMemoria = std::move(processo.Alca);
+        item.Caminho = std::move(processo.Caminho);
+        item.IDProcesso = processo.ID;
+        item.MemoriaUsada = processo.Memoria;
+    }
+    return processos;
+}
+
+bool TOryUtilsSistema::ProcessoEstahRodando(std::u16string_view AProcesso, std::u16string_view AUsuario) {
+    return Existe(AUsuario, [&](const TProcessoItem& AItem) { return MesmoNome(AItem.Processo, AProcesso); });
+}
+
+bool TOryUtilsSistema::ProcessoEstahRodando(std::uint32_t AIDProcesso, std::u16string_view AUsuario) {
+    return AIDProcesso != 0 &&
+           Existe(AUsuario, [&](const TProcessoItem& AItem) { return AItem.IDProcesso == AIDProcesso; });
+}
+
+bool TOryUtilsSistema::FinalizouProcesso(std::u16string_view AExecutavel) {
+    return Plataforma::TerminarProcessos(
+               [&](std::u16string_view ANome) { return IguaisIgnorandoCaixa(ANome, AExecutavel); }) > 0;
+}
+
+TResultStatus TOryUtilsSistema::FinalizouProcessoPeloPID(std::uint32_t AIDProcesso) {
+    const std::u16string id = DeUtf8(std::to_string(AIDProcesso));
+    std::u16string erro;
+    switch (Plataforma::TerminarProcesso(AIDProcesso, erro)) {
+        case Plataforma::fpTerminado:
+            return {};
+        case Plataforma::fpNaoAberto:
+            return {false, u"Não foi possível finalizar o processo pois o PID [ " + id +
+                               u" ] não foi encontrado ou não está mais ativo."};
+        default:
+            return {false, u"Ocorreu um erro ao tentar finalizar o processo referente ao ID " + id +
+                               u".\r\nErro ocorrido: \r\n\r\n" + erro + u"."};
+    }
+}
+
+void TOryUtilsSistema::BuscarUsuarioEDominioDoProcesso(std::uint32_t AIDProcesso, std::u16string& AUsuario,
+                                                       std::u16string& ADominio) {
+    Plataforma::TDonoDeProcesso dono = Plataforma::BuscarDonoDoProcesso(AIDProcesso);
+    AUsuario = std::move(dono.Usuario);
+    ADominio = std::move(dono.Dominio);
+}
+
+std::u16string TOryUtilsSistema::BuscarCaminhoArquivoPeloIDProcesso(std::uint32_t AIDProcesso) {
+    return Plataforma::BuscarCaminhoDoProcesso(AIDProcesso);
+}
+
+TAlcaDeProcesso TOryUtilsSistema::BuscarEnderecoMemoriaProcesso(std::u16string_view AProcesso) {
+    return Plataforma::AbrirProcesso([&](std::u16string_view ANome) { return MesmoNome(ANome, AProcesso); });
+}
+
+std::uint64_t TOryUtilsSistema::BuscarMemoriaUsadaEnderecoProcesso(const TAlcaDeProcesso& AEndereco) {
+    return Plataforma::BuscarMemoriaDoProcesso(AEndereco);
+}
+
+std::u16string TOryUtilsSistema::BuscarMemoriaUsadaProcesso(std::u16string_view AProcesso) {
+    const std::uint64_t bytes = BuscarMemoriaUsadaEnderecoProcesso(BuscarEnderecoMemoriaProcesso(AProcesso));
+    return FormatarNumero(u",.# KB", static_cast<Extended>(bytes / 1024));
+}
+
+void TOryUtilsSistema::LiberarMemoriaResidualProcesso() { Plataforma::LiberarMemoria(); }
+void TOryUtilsSistema::AbrirPropriedadesDataHora() { Plataforma::AbrirConfiguracaoDeDataHora(); }
+
+std::unique_ptr<TProcessoItems> GetListaDeProcessosWindows(std::u16string_view AUsuario) {
+    return TOryUtilsSistema::BuscarListaDeProcessosWindows(AUsuario);
+}
+bool ProcessIsRunning(std::u16string_view AProcesso, std::u16string_view AUsuario) {
+    return TOryUtilsSistema::ProcessoEstahRodando(AProcesso, AUsuario);
+}
+bool ProcessIsRunning(std::uint32_t AIDProcesso, std::u16string_view AUsuario) {
+    return TOryUtilsSistema::ProcessoEstahRodando(AIDProcesso, AUsuario);
+}
+bool KillProcess(std::u16string_view AExecutavel) { return TOryUtilsSistema::FinalizouProcesso(AExecutavel); }
+TAlcaDeProcesso GetEnderecoMemoriaProcesso(std::u16string_view AProcesso) {
+    return TOryUtilsSistema::BuscarEnderecoMemoriaProcesso(AProcesso);
+}
+std::u16string GetMemoriaUsadaProcesso(std::u16string_view AProcesso) {
+    return TOryUtilsSistema::BuscarMemoriaUsadaProcesso(AProcesso);
+}
+void GetUsuarioEDominioDoProcesso(std::uint32_t AIDProcesso, std::u16string& AUsuario, std::u16string& ADominio) {
+    TOryUtilsSistema::BuscarUsuarioEDominioDoProcesso(AIDProcesso, AUsuario, ADominio);
+}
+void AbrirPropriedadesDataHora() { TOryUtilsSistema::AbrirPropriedadesDataHora(); }
+
+}  // namespace OryUtils

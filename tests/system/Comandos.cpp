@@ -1,0 +1,191 @@
+#include "oryutils/platform/CodificacaoAnsi.hpp"
+#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/system/OryUtilsSystem.hpp"
+#include "oryutils/system/interno/Executor.hpp"
+#include "oryutils/system/interno/SaidaDeComando.hpp"
+
+#include "system/Auxiliar.hpp"
+
+#include <gtest/gtest.h>
+
+namespace OryUtils {
+namespace {
+
+using Testes::Comando;
+using Testes::EntreAspas;
+using Testes::TAoProcessarMensagens;
+using Testes::TPastaTemporaria;
+using TLinhas = std::vector<std::u16string>;
+
+TLinhas Executar(std::u16string_view ALinha) {
+    TLinhas linhas;
+    TOryUtilsSistema::ExecutarComandoComRetorno(ALinha, linhas);
+    return linhas;
+}
+
+TEST(Comandos, OsArgumentosChegamComoEscritos) {
+    EXPECT_EQ(Executar(Comando(uR"(argumentos um "dois tres" "" a\b "c\\" d\"e)")),
+              (TLinhas{u"[um]", u"[dois tres]", u"[]", u"[a\\b]", u"[c\\]", u"[d\"e]"}));
+}
+
+TEST(Comandos, CadaSaidaComoOComandoATermina) {
+    struct TCaso {
+        std::u16string_view Argumentos;
+        TLinhas Esperado;
+        const char* Porque;
+    };
+    const TCaso casos[] = {
+        {u"nada", {u"ja havia"}, "nothing printed leaves the list"},
+        {u"argumentos a b", {u"ja havia[a]", u"[b]"}, "the output goes on with the text of the list"},
+        {u"erro falhou", {u"ja haviafalhou"}, "standard error is captured too"},
+        {u"morrer", {u"ja haviaantes"}, "a command that is killed gives what it printed before"},
+    };
+    for (const TCaso& caso : casos) {
+        TLinhas linhas{u"ja havia"};
+        TOryUtilsSistema::ExecutarComandoComRetorno(Comando(caso.Argumentos), linhas);
+        EXPECT_EQ(linhas, caso.Esperado) << caso.Porque;
+    }
+    EXPECT_EQ(ExecutarComandoComRetorno(Comando(u"argumentos a b")), u"[a]\r\n[b]") << "the form with one text";
+}
+
+TEST(Comandos, OQueNaoIniciaDeixaALista) {
+    const std::u16string com_zero = Comando(u"argumentos a") + u'\0' + u"b";
+    for (const std::u16string& linha : {std::u16string(u"este-programa-nao-existe -a"), std::u16string(),
+                                        std::u16string(u"   "), com_zero, EntreAspas(ORY_PASTA_DO_PROJETO)}) {
+        TLinhas linhas{u"ja havia", u""};
+        TOryUtilsSistema::ExecutarComandoComRetorno(linha, linhas);
+        EXPECT_EQ(linhas, (TLinhas{u"ja havia", u""}));
+        EXPECT_EQ(TOryUtilsSistema::ExecutarComandoComRetorno(linha), u"");
+        EXPECT_FALSE(TOryUtilsSistema::ExecutouComando(linha, true, false));
+    }
+}
+
+TEST(Comandos, QuemHerdaASaidaAindaEscreve) {
+    const std::u16string texto = TOryUtilsSistema::ExecutarComandoComRetorno(Comando(u"herdar"));
+    EXPECT_TRUE(texto.starts_with(u"pai")) << "of the command itself";
+    EXPECT_TRUE(texto.ends_with(u"filho")) << "printed after the command had ended";
+}
+
+// The program prints at once, so the chunks are those of the bytes.
+TEST(Comandos, CemMegabytes) {
+    constexpr std::size_t CBytes = 100'000'000;
+    const TLinhas linhas = Executar(Comando(u"linhas 100000000"));
+    std::string bloco;
+    while (bloco.size() < 64000) bloco += std::string(999, static_cast<char>('a' + bloco.size() / 1000 % 26)) + '\n';
+    TLinhas esperado;
+    Sistema::TSaidaDeComando saida(esperado, [](std::string_view) { return std::u16string(); });
+    for (std::size_t resto = CBytes; resto > 0; resto -= std::min(resto, bloco.size()))
+        saida.Receber(std::string_view(bloco).substr(0, resto));
+    saida.FecharParte();
+    EXPECT_TRUE(linhas == esperado);
+}
+
+TEST(Comandos, BytesQuebradosSaoLidosParteAParte) {
+    const TPastaTemporaria pasta;
+    std::string bytes;
+    for (int i = 0; i < 60; ++i) bytes += "ação\xFF\x80\xC3 \xE2\x82 😀\r\n";
+    std::ofstream(pasta / "saida", std::ios::binary) << bytes;
+    std::u16string esperado;
+    Plataforma::TDecodificadorAnsi decodificador;
+    for (std::size_t i = 0; i < bytes.size(); i += 255)
+        esperado += Aparar(decodificador.Decodificar(bytes.substr(i, 255)));
+    EXPECT_EQ(TOryUtilsSistema::ExecutarComandoComRetorno(Comando(u"arquivo " + EntreAspas(pasta / "saida"))),
+              esperado);
+}
+
+TEST(Comandos, AsMensagensFluemEUmaPausaFechaAParte) {
+    const TPastaTemporaria pasta;
+    int vezes = 0;
+    // So many turns without output are longer than what counts as a pause.
+    const TAoProcessarMensagens ao_processar([&] {
+        if (++vezes == 30) std::ofstream(pasta / "siga") << "sim";
+    });
+    EXPECT_EQ(Executar(Comando(u"parar a " + EntreAspas(pasta / "siga") + u" b")), TLinhas{u"ab"})
+        << "the line break was at the end of what was read at once";
+    EXPECT_GE(vezes, 30);
+}
+
+TEST(Comandos, DormirDeixaAsMensagensFluir) {
+    int vezes = 0;
+    const TAoProcessarMensagens ao_processar([&] { ++vezes; });
+    TOryUtilsSistema::Dormir(0);
+    EXPECT_EQ(vezes, 0);
+    TOryUtilsSistema::Dormir(60);  // returns
+}
+
+TEST(Comandos, ProcessoCriadoEAguardado) {
+    const TPastaTemporaria pasta;
+    ASSERT_TRUE(ExecutarComando(Comando(u"criar " + EntreAspas(pasta / "um")), true, false));
+    EXPECT_TRUE(std::filesystem::exists(pasta / "um")) << "it has ended when the wait is over";
+
+    TOryUtilsSystemDadosCriacaoProcessoIOP dados;
+    dados.Comando = Comando(u"dormir");
+    dados.AguardarProcesso = true;
+    dados.TempoLimiteProcesso = 1;
+    TOryUtilsSystemDadosRetornoProcessoIOP avisado;
+    dados.MetodoRetornoCriacaoProcesso = [&](const TOryUtilsSystemDadosRetornoProcessoIOP& ARetorno) {
+        avisado = ARetorno;
+    };
+    const auto retorno = TOryUtilsSistema::CriarProcesso(dados);
+    ASSERT_TRUE(retorno->CriouProcesso);
+    EXPECT_EQ(*retorno, avisado);
+    EXPECT_NE(dados.IDProcesso, 0U);
+    EXPECT_EQ(retorno->InformacaoProcesso.IDProcesso, dados.IDProcesso);
+    EXPECT_NE(retorno->InformacaoProcesso.Processo, 0);
+    EXPECT_TRUE(TOryUtilsSistema::ProcessoEstahRodando(dados.IDProcesso, u"")) << "the limit of the wait has passed";
+    EXPECT_TRUE(TOryUtilsSistema::FinalizouProcessoPeloPID(dados.IDProcesso).Status);
+
+    dados.Comando = u"este-programa-nao-existe";
+    EXPECT_FALSE(TOryUtilsSistema::CriarProcesso(dados)->CriouProcesso);
+    EXPECT_FALSE(avisado.CriouProcesso) << "a failure is told too";
+}
+
+TEST(Comandos, ModoAdministradorDesligado) {
+    static bool desabilitadas = false;
+    TOryUtilsSistema sistema;
+    EXPECT_TRUE(sistema.GetAtivarExecucaoComandosModoAdministrador());
+    sistema.SetAtivarExecucaoComandosModoAdministrador(false);
+    const TPastaTemporaria pasta;
+    const TAoProcessarMensagens restaura([] {});
+    CosturaInterface().DesabilitarJanelas = [] {
+        desabilitadas = true;
+        return std::shared_ptr<void>(&desabilitadas, [](void*) { desabilitadas = false; });
+    };
+    TOryUtilsSystemDadosComandoModoAdministradorIOP dados;
+    dados.Aplicacao = Testes::ProgramaAuxiliar().u16string();
+    dados.Parametros = u"criar \"um arquivo\"";
+    dados.Diretorio = pasta.Texto();
+    dados.BloquearTela = true;
+    std::uint32_t id = 0;
+    dados.MetodoRetornoCriacaoProcesso = [&](const TOryUtilsSystemDadosRetornoProcessoModoAdminIOP& ARetorno) {
+        EXPECT_TRUE(ARetorno.CriouProcesso);
+        EXPECT_FALSE(desabilitadas) << "it is told before the wait";
+        id = ARetorno.IDProcesso;
+    };
+    EXPECT_TRUE(sistema.ExecutouComandoModoAdministrador(dados));
+    EXPECT_TRUE(std::filesystem::exists(pasta / "um arquivo")) << "waited for, in the working folder";
+    EXPECT_FALSE(desabilitadas);
+    EXPECT_NE(id, 0U);
+    EXPECT_EQ(dados.IDProcesso, id);
+
+    EXPECT_TRUE(
+        sistema.ExecutouComandoModoAdministrador(nullptr, dados.Aplicacao, u"criar outro", pasta.Texto(), true));
+    EXPECT_TRUE(std::filesystem::exists(pasta / "outro"));
+
+    dados.Parametros = u"dormir";
+    dados.TempoLimiteProcesso = 30;
+    bool bloqueadas = false;
+    {
+        const TAoProcessarMensagens ao_processar([&] { bloqueadas |= desabilitadas; });
+        CosturaInterface().DesabilitarJanelas = [] {
+            desabilitadas = true;
+            return std::shared_ptr<void>(&desabilitadas, [](void*) { desabilitadas = false; });
+        };
+        EXPECT_TRUE(sistema.ExecutouComandoModoAdministrador(dados));
+    }
+    EXPECT_FALSE(desabilitadas) << "the limit gives the windows back";
+    EXPECT_TRUE(TOryUtilsSistema::FinalizouProcessoPeloPID(dados.IDProcesso).Status);
+}
+
+}  // namespace
+}  // namespace OryUtils

@@ -1,0 +1,73 @@
+// The program that the tests of commands and processes start. It does what its first argument says:
+//   argumentos ...      prints each of the others on a line
+//   linhas N            prints N bytes in long lines
+//   arquivo NOME        prints the bytes of a file
+//   erro TEXTO          prints to standard error
+//   herdar              leaves behind a copy that prints when this one is gone
+//   morrer              prints a word and is killed
+//   criar NOME          makes a file
+//   parar A NOME B      prints A, waits until the file exists, prints B
+//   dormir              lives for a minute
+#include "Sistema.hpp"
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+namespace {
+
+void Escrever(const std::string& ATexto) {
+    std::fwrite(ATexto.data(), 1, ATexto.size(), stdout);
+    std::fflush(stdout);
+}
+
+void EscreverLinhas(std::size_t AQuantidade) {
+    std::string bloco;
+    while (bloco.size() < 64000) bloco += std::string(999, static_cast<char>('a' + bloco.size() / 1000 % 26)) + '\n';
+    for (; AQuantidade >= bloco.size(); AQuantidade -= bloco.size()) std::fwrite(bloco.data(), 1, bloco.size(), stdout);
+    std::fwrite(bloco.data(), 1, AQuantidade, stdout);
+}
+
+bool Existe(const std::string& ANome) { return std::ifstream(ANome).good(); }
+
+}  // namespace
+
+int main(int AQuantidade, char** AArgumentos) {
+    const std::vector<std::string> argumentos(AArgumentos + 1, AArgumentos + AQuantidade);
+    if (argumentos.empty()) return 2;
+    Sistema::PrepararSaida();
+    const std::string& acao = argumentos[0];
+    if (acao == "argumentos") {
+        for (std::size_t i = 1; i < argumentos.size(); ++i) Escrever('[' + argumentos[i] + "]\n");
+    } else if (acao == "linhas") {
+        EscreverLinhas(std::stoul(argumentos[1]));
+    } else if (acao == "arquivo") {
+        std::ifstream arquivo(argumentos[1], std::ios::binary);
+        Escrever({std::istreambuf_iterator<char>(arquivo), {}});
+    } else if (acao == "erro") {
+        std::fputs(argumentos[1].c_str(), stderr);
+    } else if (acao == "herdar") {
+        Escrever("pai\n");
+        Sistema::GerarHerdeiro("herdado");
+    } else if (acao == "herdado") {
+        Sistema::EsperarPai();
+        Escrever("filho\n");
+    } else if (acao == "morrer") {
+        Escrever("antes");
+        Sistema::Morrer();
+    } else if (acao == "criar") {
+        std::ofstream(argumentos[1]) << "feito";
+    } else if (acao == "parar") {
+        Escrever(argumentos[1] + '\n');
+        while (!Existe(argumentos[2])) Sistema::EsperarUmPouco();
+        Escrever(argumentos[3] + '\n');
+    } else if (acao == "dormir") {
+        for (int i = 0; i < 60000; ++i) Sistema::EsperarUmPouco();
+    }
+    return 0;
+}
