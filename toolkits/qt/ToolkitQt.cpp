@@ -87,12 +87,21 @@ void TToolkitQt::ProcessarMensagens() {
 TTamanho TToolkitQt::MedirTexto(std::u16string_view ATexto, int ALarguraMaxima) const {
     Exigir();
     if (ATexto.empty()) return {};
+    const QString texto = ParaQt(ATexto);
+    const int quebra = Qt::AlignLeft | Qt::AlignTop | (ALarguraMaxima > 0 ? Qt::TextWordWrap : 0);
     const QRectF espaco(0, 0, ALarguraMaxima > 0 ? ALarguraMaxima : QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    const int quebra = ALarguraMaxima > 0 ? Qt::TextWordWrap : 0;
-    const QRectF medida =
-        QFontMetricsF(QApplication::font()).boundingRect(espaco, Qt::AlignLeft | Qt::AlignTop | quebra, ParaQt(ATexto));
+    const QRectF medida = QFontMetricsF(QApplication::font()).boundingRect(espaco, quebra, texto);
     // Letters have fractions of a pixel: in a label of the width cut to whole ones the last word would wrap.
-    return {static_cast<int>(std::ceil(medida.width())) + 1, static_cast<int>(std::ceil(medida.height()))};
+    TTamanho tamanho{static_cast<int>(std::ceil(medida.width())) + 1, static_cast<int>(std::ceil(medida.height()))};
+    if (ALarguraMaxima <= 0) return tamanho;
+    // Blanks at the end of a line count for the wrapping but not for the width: a label that narrow may wrap again.
+    const auto medirAltura = [&](int ALargura) {
+        const QRect rotulo(0, 0, ALargura, QWIDGETSIZE_MAX);
+        return QFontMetrics(QApplication::font()).boundingRect(rotulo, quebra, texto).height();
+    };
+    if (medirAltura(tamanho.Largura) > tamanho.Altura) tamanho.Largura = std::max(tamanho.Largura, ALarguraMaxima);
+    tamanho.Altura = std::max(tamanho.Altura, medirAltura(tamanho.Largura));
+    return tamanho;
 }
 
 int TToolkitQt::GetTamanhoFonte() const {
