@@ -106,9 +106,7 @@ std::u16string OryMsg::InputBox(std::u16string_view ATitulo, std::u16string_view
 }
 
 bool OryMsg::InputQuery(std::u16string_view ATitulo, std::u16string_view APergunta, std::u16string& AValor) {
-    auto resposta = ExecutarFormularioEntrada(ATitulo, APergunta, AValor, Textos());
-    if (resposta) AValor = *std::move(resposta);
-    return resposta.has_value();
+    return ExecutarFormularioEntrada(ATitulo, APergunta, AValor, Textos());
 }
 
 std::u16string OryMsg::BrowseDialog(std::u16string_view ATitulo, std::u16string_view APastaInicial) {

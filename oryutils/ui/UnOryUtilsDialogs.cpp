@@ -130,9 +130,7 @@ std::u16string TOryUtilsDialogs::InputBox(std::u16string_view ATitulo, std::u16s
 }
 
 bool TOryUtilsDialogs::InputQuery(std::u16string_view ATitulo, std::u16string_view APergunta, std::u16string& AValor) {
-    auto resposta = ExecutarFormularioEntrada(ATitulo, APergunta, AValor, TextosDialogos());
-    if (resposta) AValor = *std::move(resposta);
-    return resposta.has_value();
+    return ExecutarFormularioEntrada(ATitulo, APergunta, AValor, TextosDialogos());
 }
 
 std::u16string TOryUtilsDialogs::BuscarArquivoSelecionado(std::u16string_view APastaInicial) {

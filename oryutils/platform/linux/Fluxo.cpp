@@ -44,20 +44,6 @@ int Descritor(std::intptr_t AAlca) { return static_cast<int>(AAlca); }
 
 }  // namespace
 
-TFluxo::TFluxo(TFluxo&& AOutro) noexcept
-    : FAlca(std::exchange(AOutro.FAlca, CNenhum)), FDono(std::exchange(AOutro.FDono, false)) {}
-
-TFluxo& TFluxo::operator=(TFluxo&& AOutro) noexcept {
-    if (this != &AOutro) {
-        Fechar();
-        FAlca = std::exchange(AOutro.FAlca, CNenhum);
-        FDono = std::exchange(AOutro.FDono, false);
-    }
-    return *this;
-}
-
-TFluxo::~TFluxo() { Fechar(); }
-
 TFluxo TFluxo::EntradaPadrao() noexcept {
     TFluxo fluxo;
     fluxo.FAlca = STDIN_FILENO;

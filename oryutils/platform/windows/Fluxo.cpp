@@ -56,20 +56,6 @@ constexpr std::size_t CMaiorParte = 1u << 20;
 
 }  // namespace
 
-TFluxo::TFluxo(TFluxo&& AOutro) noexcept
-    : FAlca(std::exchange(AOutro.FAlca, CNenhum)), FDono(std::exchange(AOutro.FDono, false)) {}
-
-TFluxo& TFluxo::operator=(TFluxo&& AOutro) noexcept {
-    if (this != &AOutro) {
-        Fechar();
-        FAlca = std::exchange(AOutro.FAlca, CNenhum);
-        FDono = std::exchange(AOutro.FDono, false);
-    }
-    return *this;
-}
-
-TFluxo::~TFluxo() { Fechar(); }
-
 TFluxo TFluxo::EntradaPadrao() noexcept {
     TFluxo fluxo;
     fluxo.FAlca = reinterpret_cast<std::intptr_t>(::GetStdHandle(STD_INPUT_HANDLE));

@@ -23,8 +23,8 @@ TBotao& AdicionarBotao(TFormulario& AFormulario, TMsgDlgBtn ATipo, const TTextos
 
 }  // namespace
 
-std::optional<std::u16string> ExecutarFormularioEntrada(std::u16string_view ATitulo, std::u16string_view APergunta,
-                                                        std::u16string_view AValor, const TTextosDialogos& ATextos) {
+bool ExecutarFormularioEntrada(std::u16string_view ATitulo, std::u16string_view APergunta, std::u16string& AValor,
+                               const TTextosDialogos& ATextos) {
     const TToolkit& toolkit = ExigirToolkit();
     const TUnidades unidades(toolkit);
     const TTamanho area = BuscarAreaUtil(toolkit);
@@ -68,8 +68,9 @@ std::optional<std::u16string> ExecutarFormularioEntrada(std::u16string_view ATit
     cancelar.SetRetangulo({esquerda + largura + espaco, topo, largura, alturaBotao});
     formulario.SetTamanhoCliente(util + 2 * margem, topo + alturaBotao + margemVertical);
 
-    if (formulario.ExecutarModal() != mrOk) return std::nullopt;
-    return edicao.GetTexto();
+    if (formulario.ExecutarModal() != mrOk) return false;
+    AValor = edicao.GetTexto();
+    return true;
 }
 
 }  // namespace OryUtils
