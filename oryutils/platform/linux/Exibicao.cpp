@@ -47,7 +47,7 @@ bool RespondeWayland() {
 }  // namespace
 
 std::string BuscarVariavelDeAmbiente(const char* ANome) {
-    const char* valor = std::getenv(ANome);
+    const char* valor = ::secure_getenv(ANome);
     return valor ? valor : "";
 }
 
