@@ -257,6 +257,15 @@ void EscreverJson(std::string& ASaida, const TListaDeTextos& AValor) {
     ASaida += ']';
 }
 
+void EscreverJson(std::string& ASaida, const std::vector<int>& AValor) {
+    ASaida += '[';
+    for (std::size_t i = 0; i < AValor.size(); ++i) {
+        if (i) ASaida += ',';
+        EscreverJson(ASaida, std::int64_t{AValor[i]});
+    }
+    ASaida += ']';
+}
+
 void EscreverJson(std::string& ASaida, const std::optional<TListaDeTextos>& AValor) {
     if (!AValor) {
         ASaida += "null";

@@ -54,6 +54,7 @@ void EscreverJson(std::string& ASaida, Extended AValor);
 void EscreverJson(std::string& ASaida, TDateTime AValor);
 void EscreverJson(std::string& ASaida, const std::u16string& AValor);
 void EscreverJson(std::string& ASaida, const TListaDeTextos& AValor);
+void EscreverJson(std::string& ASaida, const std::vector<int>& AValor);
 void EscreverJson(std::string& ASaida, const std::optional<TListaDeTextos>& AValor);
 void EscreverJson(std::string& ASaida, const OryTypes::TResultStatus& AValor);
 void EscreverJson(std::string& ASaida, const Variant& AValor);
@@ -180,7 +181,7 @@ struct TTipoJson<TListaDeTextos> : TPorValor<TListaDeTextos> {
     static TListaDeTextos Ler(const TJson& AValor) { return LerLista(AValor, Nome); }
 };
 
-/// Lists of numbers and of Booleans; arguments only.
+/// Lists of numbers and of Booleans; as results, those of int only.
 template <typename T>
 requires std::is_arithmetic_v<T>
 struct TTipoJson<std::vector<T>> : TPorValor<std::vector<T>> {

@@ -30,6 +30,7 @@ std::span<const TOperacao> BuscarOperacoesDeRegistros() noexcept;
 std::span<const TOperacao> BuscarOperacoesDeDatas() noexcept;
 std::span<const TOperacao> BuscarOperacoesDeSql() noexcept;
 std::span<const TOperacao> BuscarOperacoesDeNumeros() noexcept;
+std::span<const TOperacao> BuscarOperacoesDeArquivos() noexcept;
 
 /// The tables of all rooms.
 std::span<const std::span<const TOperacao>> BuscarOperacoes() noexcept;

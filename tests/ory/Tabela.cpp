@@ -19,6 +19,7 @@ constexpr const char* CCabecalhos[] = {
     "dates/OryUtilsDatas.hpp",
     "registry_numbers/OryUtilsValidacoes.hpp",
     "registry_numbers/UnOryUtilsValidacoesClasseIE.hpp",
+    "files/OryUtilsFiles.hpp",
     "sql/UnOryUtilsClasseFiltroSql.hpp",
     "sql/UnOryUtilsClasseManipulacaoSQL.hpp",
 };
@@ -27,6 +28,7 @@ constexpr const char* CPrecisaDeControle = "works on a control of a form";
 constexpr const char* CPassoDoConversor = "a step on a converter; BuscarValorPorExtenso gives the words";
 constexpr const char* CPassoDoFiltro = "a step on a filter; MontarFiltroSql gives its text";
 constexpr const char* CPassoDoComando = "a step on a statement; SepararBlocosSQL gives both parts";
+constexpr const char* CPassoDoArquivo = "a step on a file's data; ory versao shows them";
 constexpr const char* CPassoDoObjeto = "a step on an IE object; ValidouIE gives the verdict";
 
 // Public operations that programs cannot call, each with its reason.
@@ -95,6 +97,34 @@ const std::map<std::string, std::string> CForaDaTabela{
     {"GetSQLPrincipal", CPassoDoComando},
     {"GetSQLAdicional", CPassoDoComando},
     {"Limpar", CPassoDoComando},
+    {"AbrirArquivo", "opens a window"},
+    {"AlterouDataHoraArquivo", "changes a file"},
+    {"SetArquivo", CPassoDoArquivo},
+    {"GetArquivo", CPassoDoArquivo},
+    {"CarregaDados", CPassoDoArquivo},
+    {"Adiciona", CPassoDoArquivo},
+    {"Localiza", CPassoDoArquivo},
+    {"GetItems", CPassoDoArquivo},
+    {"GetNomeCompanhia", CPassoDoArquivo},
+    {"GetDescricao", CPassoDoArquivo},
+    {"GetNomeInterno", CPassoDoArquivo},
+    {"GetLegalCopyright", CPassoDoArquivo},
+    {"GetLegalTrademarks", CPassoDoArquivo},
+    {"GetNomeOriginal", CPassoDoArquivo},
+    {"GetNomeProduto", CPassoDoArquivo},
+    {"GetVersaoProduto", CPassoDoArquivo},
+    {"GetComentarios", CPassoDoArquivo},
+    {"GetVersaoMinimaBanco", CPassoDoArquivo},
+    {"GetVersaoMaximaConversao", CPassoDoArquivo},
+    {"GetNaoLiberarPacote", CPassoDoArquivo},
+    {"GetVersao", CPassoDoArquivo},
+    {"BuscarVersaoArquivoIni", CPassoDoArquivo},
+    {"GetNome", CPassoDoArquivo},
+    {"GetTamanho", CPassoDoArquivo},
+    {"GetTamanhoFormatado", CPassoDoArquivo},
+    {"GetExtensao", CPassoDoArquivo},
+    {"GetData", CPassoDoArquivo},
+    {"GetDataModificacao", CPassoDoArquivo},
 };
 
 // Entries that join several calls and so have a name of their own.
@@ -138,7 +168,8 @@ std::set<std::string> BuscarOperacoesDeclaradas(const std::string& ATexto) {
         const bool depoisDeTipo = antes.size() > 1 && antes.back() == ' ' && !antes.ends_with(" explicit ") &&
                                   (EhDeNome(antes[antes.size() - 2]) || EhFimDeTipo(antes[antes.size() - 2]));
         const std::size_t fecha = ATexto.find(')', abre);
-        const bool nome = inicio < abre && std::isupper(static_cast<unsigned char>(ATexto[inicio])) != 0;
+        const bool nome = inicio < abre && (std::isupper(static_cast<unsigned char>(ATexto[inicio])) != 0 ||
+                                            ATexto.compare(inicio, 3, "isA") == 0);
         if (nome && depoisDeTipo && fecha != std::string::npos &&
             EhFimDeDeclaracao(std::string_view(ATexto).substr(fecha + 1)))
             nomes.insert(ATexto.substr(inicio, abre - inicio));

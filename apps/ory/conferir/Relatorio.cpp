@@ -2,6 +2,7 @@
 
 #include "oryutils/runtime/Utf.hpp"
 
+#include "TextoNaTela.hpp"
 #include "operacoes/Json.hpp"
 
 #include <algorithm>
@@ -10,39 +11,9 @@
 namespace Ory {
 namespace {
 
-constexpr std::string_view CVerde = "\x1b[32m";
-constexpr std::string_view CVermelho = "\x1b[31m";
-constexpr std::string_view CNegrito = "\x1b[1m";
-constexpr std::string_view CNormal = "\x1b[0m";
-
-std::size_t ContarCaracteres(std::string_view ATexto) {
-    return static_cast<std::size_t>(std::count_if(
-        ATexto.begin(), ATexto.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
-}
-
-/// A value of the file as it may be shown: no controls (they could drive the terminal), no more than AMaior characters.
+/// A value of the file as it may be shown.
 std::string Mostrar(std::string_view AValor, TCodificacao ACodificacao, std::size_t AMaior) {
-    std::u16string texto = OryUtils::DeUtf8(DecodificarParaUtf8(AValor, ACodificacao));
-    for (char16_t& c : texto) {
-        const bool direcao =
-            (c >= 0x200E && c <= 0x200F) || (c >= 0x2028 && c <= 0x202E) || (c >= 0x2066 && c <= 0x2069);
-        if (c < 0x20 || (c >= 0x7F && c < 0xA0) || direcao) c = u'·';
-    }
-    if (texto.size() > AMaior) {
-        texto.resize(AMaior);
-        texto.back() = u'…';
-    }
-    return OryUtils::ParaUtf8(texto);
-}
-
-std::string ADireita(std::string_view ATexto, std::size_t ALargura) {
-    const std::size_t tamanho = ContarCaracteres(ATexto);
-    return std::string(ALargura > tamanho ? ALargura - tamanho : 0, ' ') + std::string(ATexto);
-}
-
-std::string AEsquerda(std::string_view ATexto, std::size_t ALargura) {
-    const std::size_t tamanho = ContarCaracteres(ATexto);
-    return std::string(ATexto) + std::string(ALargura > tamanho ? ALargura - tamanho : 0, ' ');
+    return ParaATela(OryUtils::DeUtf8(DecodificarParaUtf8(AValor, ACodificacao)), AMaior);
 }
 
 /// Of the filled ones, cut to one decimal: 100,0% means all of them.

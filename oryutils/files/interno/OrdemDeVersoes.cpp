@@ -14,6 +14,8 @@ namespace {
 constexpr int CBitsDaParte = 16;
 constexpr int CPartes = 4;
 
+constexpr bool EhSeparador(char16_t ACaractere) noexcept { return ACaractere == u'.' || ACaractere == u','; }
+
 std::optional<TChaveDeVersao> LerParte(std::u16string_view AParte) noexcept {
     const auto valor = TentarTextoParaInt64(AParte);
     if (!valor || *valor != static_cast<std::int32_t>(*valor)) return {};
@@ -25,8 +27,9 @@ std::optional<TChaveDeVersao> TentarBuscarChave(std::u16string_view AVersao) noe
     AVersao = Aparar(AVersao);
     TChaveDeVersao chave = 0;
     for (int parte = 1; parte < CPartes; ++parte) {
-        const std::size_t ponto = AVersao.find_first_of(u".,");
-        if (ponto == AVersao.npos) break;
+        const auto ponto =
+            static_cast<std::size_t>(std::find_if(AVersao.begin(), AVersao.end(), EhSeparador) - AVersao.begin());
+        if (ponto == AVersao.size()) break;
         const auto valor = LerParte(AVersao.substr(0, ponto));
         if (!valor) return {};
         chave |= *valor << CBitsDaParte * (CPartes - parte);
@@ -53,7 +56,9 @@ bool NuncaEhComparada(const std::vector<std::u16string>& AVersoes, std::size_t A
 struct TPosicao {
     TChaveDeVersao Chave;
     std::size_t Indice;
-    auto operator<=>(const TPosicao&) const = default;
+    bool operator<(const TPosicao& AOutra) const noexcept {
+        return Chave != AOutra.Chave ? Chave < AOutra.Chave : Indice < AOutra.Indice;
+    }
 };
 
 }  // namespace

@@ -1,0 +1,227 @@
+#include "versao/Versao.hpp"
+
+#include "oryutils/files/OryUtilsFiles.hpp"
+#include "oryutils/platform/DadosDoArquivo.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/runtime/FormatoDataHora.hpp"
+#include "oryutils/runtime/Utf.hpp"
+
+#include "TextoNaTela.hpp"
+#include "operacoes/Conversao.hpp"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <array>
+
+namespace Ory {
+namespace {
+
+using OryUtils::DeUtf8;
+using OryUtils::ParaUtf8;
+using OryUtils::TArquivoInfo;
+using OryUtils::TOryUtilsFiles;
+
+/// What a file says, in the order of the card and of the JSON object.
+struct TDado {
+    std::string_view Nome;    // in JSON
+    std::string_view Rotulo;  // on the card
+    std::u16string (TArquivoInfo::*Buscar)() const;
+};
+constexpr std::array CDados{
+    TDado{"versao", "Versão", &TArquivoInfo::GetVersao},
+    TDado{"nome_produto", "Produto", &TArquivoInfo::GetNomeProduto},
+    TDado{"versao_produto", "Versão do produto", &TArquivoInfo::GetVersaoProduto},
+    TDado{"descricao", "Descrição", &TArquivoInfo::GetDescricao},
+    TDado{"nome_companhia", "Companhia", &TArquivoInfo::GetNomeCompanhia},
+    TDado{"nome_interno", "Nome interno", &TArquivoInfo::GetNomeInterno},
+    TDado{"nome_original", "Nome original", &TArquivoInfo::GetNomeOriginal},
+    TDado{"legal_copyright", "Direitos autorais", &TArquivoInfo::GetLegalCopyright},
+    TDado{"legal_trademarks", "Marcas", &TArquivoInfo::GetLegalTrademarks},
+    TDado{"comentarios", "Comentários", &TArquivoInfo::GetComentarios},
+    TDado{"versao_minima_banco", "Versão mínima do banco", &TArquivoInfo::GetVersaoMinimaBanco},
+    TDado{"versao_maxima_conversao", "Versão máxima de conversão", &TArquivoInfo::GetVersaoMaximaConversao},
+};
+
+constexpr std::size_t CMaiorTexto = 500;
+
+std::string EscreverData(OryUtils::TDateTime AData) {
+    return AData == 0 ? "" : ParaUtf8(OryUtils::FormatarDataHora(u"dd/mm/yyyy hh:nn:ss", AData));
+}
+
+TArquivoInfo Ler(const std::string& AArquivo) {
+    TArquivoInfo info;
+    info.SetArquivo(DeUtf8(AArquivo));
+    return info;
+}
+
+void EscreverCartao(const TArquivoInfo& AInfo, TAmbiente& AAmbiente) {
+    std::vector<std::pair<std::string_view, std::string>> linhas;
+    for (const TDado& dado : CDados) linhas.emplace_back(dado.Rotulo, ParaATela((AInfo.*dado.Buscar)(), CMaiorTexto));
+    if (AInfo.GetNaoLiberarPacote()) linhas.emplace_back("Liberação", "retida");
+    linhas.emplace_back("Tamanho", ParaUtf8(AInfo.GetTamanhoFormatado()));
+    linhas.emplace_back("Modificado em", EscreverData(AInfo.GetDataModificacao()));
+    std::erase_if(linhas, [](const auto& l) { return l.second.empty(); });
+    std::size_t largura = 0;
+    for (const auto& [rotulo, valor] : linhas) largura = std::max(largura, ContarCaracteres(rotulo));
+    const auto cor = [&](std::string_view ACor) { return AAmbiente.Cores ? ACor : std::string_view(); };
+    std::string saida(cor(CNegrito));
+    saida += ParaATela(AInfo.GetNome(), CMaiorTexto);
+    saida.append(cor(CNormal)) += '\n';
+    for (const auto& [rotulo, valor] : linhas) saida += "  " + AEsquerda(rotulo, largura) + "  " + valor + "\n";
+    AAmbiente.Saida.Escrever(saida);
+}
+
+/// The end of a name says more than its beginning.
+std::string EncurtarNaFrente(const std::string& ANome, std::size_t AMaior) {
+    std::u16string nome = DeUtf8(ANome);
+    if (nome.size() > AMaior) nome = u"…" + nome.substr(nome.size() - AMaior + 1);
+    return ParaATela(nome, AMaior);
+}
+
+using TLinhaDaTabela = std::array<std::string, 5>;
+
+void EscreverTabela(const std::vector<TArquivoInfo>& AInfos, TAmbiente& AAmbiente) {
+    constexpr std::size_t CColunaDoTamanho = 2;
+    constexpr std::size_t CMaiorNome = 36;
+    constexpr std::size_t CMenorProduto = 12;
+    std::vector<TLinhaDaTabela> tabela{{"arquivo", "versão", "tamanho", "modificado em", "produto"}};
+    for (const TArquivoInfo& info : AInfos) {
+        const std::string versao = ParaATela(info.GetVersao(), CMaiorNome);
+        tabela.push_back({EncurtarNaFrente(ParaUtf8(info.GetArquivo()), CMaiorNome), versao.empty() ? "-" : versao,
+                          ParaUtf8(info.GetTamanhoFormatado()), EscreverData(info.GetDataModificacao()),
+                          ParaATela(info.GetNomeProduto(), CMaiorTexto)});
+    }
+    TLinhaDaTabela::size_type ultima = tabela.front().size() - 1;
+    std::array<std::size_t, std::tuple_size_v<TLinhaDaTabela>> larguras{};
+    std::size_t ocupado = 2 * ultima;
+    for (std::size_t i = 0; i < ultima; ++i) {
+        for (const TLinhaDaTabela& linha : tabela) larguras[i] = std::max(larguras[i], ContarCaracteres(linha[i]));
+        ocupado += larguras[i];
+    }
+    const auto disponivel = static_cast<std::size_t>(std::max(AAmbiente.Largura, 0));
+    const std::size_t resto = std::max(disponivel, ocupado + CMenorProduto) - ocupado;
+    const auto cor = [&](std::string_view ACor) { return AAmbiente.Cores ? ACor : std::string_view(); };
+    std::string saida;
+    for (TLinhaDaTabela& linha : tabela) {
+        const bool titulo = &linha == &tabela.front();
+        std::string texto;
+        for (std::size_t i = 0; i < ultima; ++i)
+            texto +=
+                (i == CColunaDoTamanho ? ADireita(linha[i], larguras[i]) : AEsquerda(linha[i], larguras[i])) + "  ";
+        texto += ParaATela(DeUtf8(linha[ultima]), resto);
+        texto.erase(texto.find_last_not_of(' ') + 1);
+        saida.append(titulo ? cor(CNegrito) : std::string_view()).append(texto);
+        saida.append(titulo ? cor(CNormal) : std::string_view()) += '\n';
+    }
+    AAmbiente.Saida.Escrever(saida);
+}
+
+void EscreverData(std::string& ASaida, std::string_view ANome, OryUtils::TDateTime AData) {
+    ASaida.append(",\"").append(ANome) += "\":";
+    if (AData == 0)
+        ASaida += "null";
+    else
+        EscreverJson(ASaida, AData);
+}
+
+std::string DescreverEmJson(const TArquivoInfo& AInfo) {
+    std::string saida = R"({"arquivo":)";
+    EscreverTextoJson(saida, AInfo.GetArquivo());
+    saida += R"(,"nome":)";
+    EscreverTextoJson(saida, AInfo.GetNome());
+    for (const TDado& dado : CDados) {
+        saida.append(",\"").append(dado.Nome) += "\":";
+        EscreverTextoJson(saida, (AInfo.*dado.Buscar)());
+    }
+    saida += R"(,"nao_liberar_pacote":)";
+    EscreverJson(saida, AInfo.GetNaoLiberarPacote());
+    saida += R"(,"extensao":)";
+    EscreverTextoJson(saida, AInfo.GetExtensao());
+    saida += R"(,"tamanho":)" + ParaUtf8(AInfo.GetTamanho());
+    EscreverData(saida, "data", AInfo.GetData());
+    EscreverData(saida, "data_modificacao", AInfo.GetDataModificacao());
+    return saida + "}";
+}
+
+void EscreverEmJson(const std::vector<TArquivoInfo>& AInfos, TAmbiente& AAmbiente) {
+    AAmbiente.Saida.Escrever("[");
+    for (const TArquivoInfo& info : AInfos)
+        AAmbiente.Saida.Escrever((&info == &AInfos.front() ? "" : ",\n ") + DescreverEmJson(info));
+    AAmbiente.Saida.Escrever("]\n");
+}
+
+/// A text of digits, points and commas is a version itself; any other names a file.
+std::u16string LerVersao(const std::string& ATexto) {
+    const std::u16string texto = DeUtf8(ATexto);
+    if (texto.find_first_not_of(u" 0123456789.,") == texto.npos) return texto;
+    if (!OryUtils::Plataforma::ExisteArquivo(texto)) throw EFalha(ATexto + " não é uma versão nem um arquivo");
+    const std::u16string versao = TOryUtilsFiles::BuscarVersaoArquivo(texto);
+    if (versao.empty()) throw EFalha(ATexto + " não tem versão");
+    return versao;
+}
+
+int Comparar(const TPedidoDeVersao& APedido, TAmbiente& AAmbiente) {
+    if (!APedido.Arquivos.empty()) throw EFalha("--comparar leva só as duas versões");
+    const std::u16string a = LerVersao(APedido.Comparar[0]);
+    const std::u16string b = LerVersao(APedido.Comparar[1]);
+    std::string_view resposta = "igual";
+    TStatusDeVersao status = svIgual;
+    switch (TOryUtilsFiles::CompararVersao(a, b)) {
+        case OryUtils::fsMajor:
+            resposta = "maior";
+            status = svMaior;
+            break;
+        case OryUtils::fsMinor:
+            resposta = "menor";
+            status = svMenor;
+            break;
+        default:
+            break;
+    }
+    std::string saida(resposta);
+    if (APedido.Json) {
+        saida = R"({"a":)";
+        EscreverTextoJson(saida, a);
+        saida += R"(,"b":)";
+        EscreverTextoJson(saida, b);
+        saida.append(R"(,"resultado":")").append(resposta) += "\"}";
+    }
+    AAmbiente.Saida.Escrever(saida + "\n");
+    return status;
+}
+
+}  // namespace
+
+void DescreverVersao(CLI::App& AComando, TPedidoDeVersao& APedido) {
+    AComando.add_option("ARQUIVO", APedido.Arquivos, "executáveis, bibliotecas, .ini e .html; um só mostra tudo");
+    AComando.add_option("--comparar", APedido.Comparar, "A B: duas versões, ou arquivos que têm uma")->expected(2);
+    AComando.add_flag("--json", APedido.Json, "em JSON: uma lista com tudo o que cada arquivo diz");
+    AComando.footer(
+        "Saída do programa: 0 certo, 2 algum arquivo não foi encontrado ou a chamada está errada.\n"
+        "Com --comparar escreve igual, maior ou menor (A em relação a B): 0 igual, 1 maior, 3 menor, 2 falha.\n\n"
+        "Exemplos:\n"
+        "  ory versao Folha.exe\n"
+        "  ory versao Folha.exe Calculo.dll pagina.html\n"
+        "  ory versao --comparar Folha.exe 7.2.0.15");
+}
+
+int MostrarVersao(const TPedidoDeVersao& APedido, TAmbiente& AAmbiente) {
+    if (!APedido.Comparar.empty()) return Comparar(APedido, AAmbiente);
+    if (APedido.Arquivos.empty()) throw EFalha("falta o arquivo; veja ory versao --ajuda");
+    std::vector<TArquivoInfo> infos;
+    for (const std::string& arquivo : APedido.Arquivos)
+        if (OryUtils::Plataforma::ExisteArquivo(DeUtf8(arquivo)))
+            infos.push_back(Ler(arquivo));
+        else
+            AAmbiente.Erro.Escrever("ory: arquivo não encontrado: " + arquivo + "\n");
+    if (APedido.Json)
+        EscreverEmJson(infos, AAmbiente);
+    else if (APedido.Arquivos.size() > 1 && !infos.empty())
+        EscreverTabela(infos, AAmbiente);
+    else if (!infos.empty())
+        EscreverCartao(infos.front(), AAmbiente);
+    return infos.size() == APedido.Arquivos.size() ? stTudoCerto : stFalha;
+}
+
+}  // namespace Ory
