@@ -1,5 +1,8 @@
 #include "oryutils/platform/Arquivos.hpp"
+#include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 #include "oryutils/runtime/Formatos.hpp"
+#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/text/OryUtilsStrings.hpp"
 
 #include "Apoio.hpp"
 #include "conferir/Conferencia.hpp"
@@ -10,7 +13,9 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -247,6 +252,30 @@ TEST(Conferir, ReescreveComVereditoENumeroFormatado) {
         const OryUtils::TFormatosTemporarios formatos(OryUtils::BuscarFormatosBrasileiros());
         Ory::ConferirCsv(entrada, &saida, {.Limites = {.Bloco = 8}});
         EXPECT_EQ(saida.Texto, caso.Esperado) << caso.Porque;
+    }
+}
+
+// CNPJ and CPF are written from byte to byte: as the library writes them, whatever stands between their characters.
+TEST(Conferir, FormatosDeByteAByteSaoOsDaBiblioteca) {
+    using OryUtils::TOryUtilsStrings;
+    const auto semente = std::random_device{}();
+    SCOPED_TRACE(testing::Message() << "seed " << semente);
+    std::mt19937 gerador(semente);
+    for (int i = 0; i < 20'000; ++i) {
+        std::string campo = std::vector<std::string>{"", "12.345.678/0001-9", "123.456.789-1", "1122233300018",
+                                                     "5299822472"}[gerador() % 5];
+        for (auto n = gerador() % 4; n > 0; --n)
+            campo.insert(gerador() % (campo.size() + 1), 1, "0123456789./- abZ"[gerador() % 17]);
+        // No blank at either end: the field loses those.
+        campo = (i % 2 || campo.starts_with(' ') ? "1" : "") + campo + '5';
+        const std::u16string texto = OryUtils::DeUtf8(campo);
+        std::string cnpj, cpf;
+        Ory::EscreverFormatado(cnpj, Ory::tcCnpj, campo);
+        Ory::EscreverFormatado(cpf, Ory::tcCpf, campo);
+        EXPECT_EQ(cnpj, OryUtils::ParaUtf8(OryUtils::FormatarCnpjAlfanumerico(texto))) << campo;
+        EXPECT_EQ(cpf, OryUtils::ParaUtf8(TOryUtilsStrings::FormatarInscricaoFederal(
+                           OryTypes::tiCPF, TOryUtilsStrings::ExtrairSomenteNumeros(texto))))
+            << campo;
     }
 }
 

@@ -202,6 +202,50 @@ void EscreverInscricao(std::string& ASaida, OryUtils::TTipoInscricao ATipo, std:
                        ATipo, TOryUtilsStrings::ExtrairSomenteNumeros(TTextoDeCampo(ACampo).Get())));
 }
 
+bool EstahNaForma(std::string_view ACampo, std::string_view AForma) {
+    return std::equal(ACampo.begin(), ACampo.end(), AForma.begin(), AForma.end(),
+                      [](char c, char lugar) { return lugar == '0' ? c >= '0' && c <= '9' : c == lugar; });
+}
+
+/// ACaracteres in the places that AForma has for them.
+void EscreverNaForma(std::string& ASaida, std::string_view ACaracteres, std::string_view AForma) {
+    for (const char lugar : AForma) {
+        ASaida += lugar == '0' ? ACaracteres.front() : lugar;
+        if (lugar == '0') ACaracteres.remove_prefix(1);
+    }
+}
+
+// CNPJ and CPF are most of what files hold: written from byte to byte, as the library writes them.
+
+void EscreverCnpj(std::string& ASaida, std::string_view ACampo) {
+    namespace Digitos = OryUtils::DigitosCpfCnpj;
+    if (EstahNaForma(ACampo, Digitos::CCnpjFormatado)) {
+        ASaida += ACampo;
+        return;
+    }
+    const auto cnpj = Digitos::LimparCnpjAlfanumerico(ACampo);
+    if (cnpj.Motivo == OryUtils::mrNenhum)
+        return EscreverNaForma(ASaida, {cnpj.Texto.data(), cnpj.Texto.size()}, Digitos::CCnpjFormatado);
+    Juntar(ASaida, TOryUtilsValidacoes::FormatarCnpjAlfanumerico(TTextoDeCampo(ACampo).Get()));
+}
+
+void EscreverCpf(std::string& ASaida, std::string_view ACampo) {
+    namespace Digitos = OryUtils::DigitosCpfCnpj;
+    if (EstahNaForma(ACampo, Digitos::CCpfFormatado)) {
+        ASaida += ACampo;
+        return;
+    }
+    std::array<char, CTamanhoCpf> digitos;
+    std::size_t quantos = 0;
+    for (const char c : ACampo) {
+        if (c < '0' || c > '9') continue;
+        if (quantos == CTamanhoCpf) return EscreverInscricao(ASaida, OryTypes::tiCPF, ACampo);
+        digitos[quantos++] = c;
+    }
+    if (quantos < CTamanhoCpf) return EscreverInscricao(ASaida, OryTypes::tiCPF, ACampo);
+    EscreverNaForma(ASaida, {digitos.data(), digitos.size()}, Digitos::CCpfFormatado);
+}
+
 }  // namespace
 
 std::optional<TTipoColuna> BuscarTipo(std::string_view ANome) {
@@ -250,12 +294,12 @@ void EscreverFormatado(std::string& ASaida, TTipoColuna ATipo, std::string_view 
     if (EhColunaDeCampo(ATipo)) return EscreverCampoFormatado(ASaida, ATipo, campo);
     switch (ATipo) {
         case tcCnpj:
-            return Juntar(ASaida, TOryUtilsValidacoes::FormatarCnpjAlfanumerico(TTextoDeCampo(campo).Get()));
+            return EscreverCnpj(ASaida, campo);
         case tcDocumento:
-            if (BuscarInscricaoDoDocumento(campo) != OryTypes::tiCPF) return EscreverFormatado(ASaida, tcCnpj, campo);
+            if (BuscarInscricaoDoDocumento(campo) != OryTypes::tiCPF) return EscreverCnpj(ASaida, campo);
             [[fallthrough]];
         case tcCpf:
-            return EscreverInscricao(ASaida, OryTypes::tiCPF, campo);
+            return EscreverCpf(ASaida, campo);
         case tcCei:
             return EscreverInscricao(ASaida, OryTypes::tiCEI, campo);
         case tcCno:

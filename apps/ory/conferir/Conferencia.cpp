@@ -6,13 +6,15 @@
 #include "conferir/Esteira.hpp"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 #include <string_view>
 
 namespace Ory {
 namespace {
 
-constexpr std::string_view CVereditos[] = {"vazio", "valido", "invalido"};
+// In the order of TVeredito.
+constexpr std::array<std::string_view, 3> CVereditos{"vazio", "valido", "invalido"};
 constexpr std::size_t CMaisColunas = 65536;
 constexpr std::size_t CMaisDesiguais = 1000;  // kept at most, whatever is asked for
 
@@ -31,6 +33,7 @@ struct TPlano {
     std::optional<std::size_t> PosicaoDaUf{};
     std::string Uf{};
     bool Reescrever = false;
+    std::array<std::string, CVereditos.size()> Vereditos{};  // as written behind a record, between delimiters
     std::size_t Mostrar = 0;
 };
 
@@ -103,9 +106,7 @@ void ConferirRegistro(const TPlano& APlano, const TLeitorDeRegistros& ALeitor, T
         const TVeredito veredito = Conferir(coluna.Tipo, valor, uf);
         ContarVeredito(AParcial.Colunas[i], veredito, linha, valor, APlano.Mostrar);
         if (!APlano.Reescrever) continue;
-        AParcial.Saida += APlano.Delimitador;
-        AParcial.Saida += CVereditos[veredito];
-        AParcial.Saida += APlano.Delimitador;
+        AParcial.Saida += APlano.Vereditos[veredito];
         if (veredito != veValido) continue;
         if (!EhColunaDeCampo(coluna.Tipo)) {
             EscreverFormatado(AParcial.Saida, coluna.Tipo, valor);
@@ -253,6 +254,8 @@ TResumo ConferirCsv(TEntrada& AEntrada, TSaida* ASaida, const TOpcoesDeConferenc
     TPlano plano;
     plano.Delimitador = AOpcoes.Delimitador ? AOpcoes.Delimitador : DetectarDelimitador(inicio);
     plano.Reescrever = ASaida != nullptr;
+    for (std::size_t i = 0; i < CVereditos.size(); ++i)
+        ((plano.Vereditos[i] = plano.Delimitador) += CVereditos[i]) += plano.Delimitador;
     plano.Mostrar = std::min(AOpcoes.Mostrar, CMaisDesiguais);
     TCortadorDeRegistros cortador(plano.Delimitador);
 
