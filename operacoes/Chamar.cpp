@@ -1,3 +1,5 @@
+#include "oryutils/registry_numbers/UnOryUtilsFormatacoes.hpp"
+#include "oryutils/runtime/Costura.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 
 #include "operacoes/Vinculo.hpp"
@@ -62,6 +64,11 @@ std::span<const std::span<const TOperacao>> BuscarOperacoes() noexcept {
                                     BuscarOperacoesDeDatas(),   BuscarOperacoesDeSql(),
                                     BuscarOperacoesDeNumeros(), BuscarOperacoesDeArquivos()};
     return tabelas;
+}
+
+void PrepararProcesso() {
+    OryUtils::GOryUtilsFormatacoes->GetFormatoPadraoDatasEValores().Configurar();
+    OryUtils::CosturaInterface() = OryUtils::BuscarCosturaPadrao();
 }
 
 const TOperacao* BuscarOperacao(std::string_view ANome) noexcept {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <string>
 #include <string_view>
@@ -38,6 +39,13 @@ std::span<const std::span<const TOperacao>> BuscarOperacoes() noexcept;
 const TOperacao* BuscarOperacao(std::string_view ANome) noexcept;
 /// "ValidouCnpjCpf(TTipoInscricao, texto): lógico", in UTF-8.
 std::string DescreverOperacao(const TOperacao& AOperacao);
+
+/// What a process does before its first call: Brazilian formats whatever the machine's, and messages on stderr instead
+/// of dialogs.
+void PrepararProcesso();
+
+/// The longest request that programs may send; the interfaces refuse a longer one.
+inline constexpr std::size_t CMaiorRequisicao = std::size_t{16} << 20;
 
 /// Answers one request of the protocol, both JSON in UTF-8 without a line end:
 ///   {"op":"ValidouCnpjCpf","args":[1,"11222333000181"]}  ->  {"resultado":true}

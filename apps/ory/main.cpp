@@ -1,15 +1,12 @@
 #include "oryutils/platform/Terminal.hpp"
-#include "oryutils/registry_numbers/UnOryUtilsFormatacoes.hpp"
-#include "oryutils/runtime/Costura.hpp"
 
 #include "Comando.hpp"
+#include "operacoes/Operacoes.hpp"
 
 int main(int AQuantidade, char** AArgumentos) {
     using namespace OryUtils::Plataforma;
     const TTerminalUtf8 terminal;
-    // Brazilian formats whatever the machine's, and messages on stderr instead of dialogs.
-    OryUtils::GOryUtilsFormatacoes->GetFormatoPadraoDatasEValores().Configurar();
-    OryUtils::CosturaInterface() = OryUtils::BuscarCosturaPadrao();
+    Ory::PrepararProcesso();
 
     Ory::TEntradaDeFluxo entrada(TFluxo::EntradaPadrao(), "a entrada padrão");
     Ory::TSaidaDeFluxo saida(TFluxo::SaidaPadrao(), "a saída padrão");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Ambiente.hpp"
+#include "operacoes/Operacoes.hpp"
 
 #include <cstddef>
 #include <span>
@@ -14,12 +15,10 @@ namespace Ory {
 TStatus ChamarUma(const std::string& AOperacao, std::span<const std::string> AArgumentos, bool AJson,
                   TAmbiente& AAmbiente);
 
-/// The longest request line; a longer one is skipped and answered with an error.
-inline constexpr std::size_t CMaiorRequisicao = std::size_t{16} << 20;
-
 /// `ory chamar --lote`: a JSON request a line, a JSON answer a line, in the same order. The answers are flushed at the
 /// end of input and whenever reading on would have to wait, so a program may ask and wait for each answer. A mark of
-/// UTF-8 at the start is ignored. Every line gets an answer, the broken ones an error.
+/// UTF-8 at the start is ignored. Every line gets an answer, the broken ones and those longer than
+/// AMaiorRequisicao an error.
 void ChamarEmLote(TEntrada& AEntrada, TSaida& ASaida, std::size_t AMaiorRequisicao = CMaiorRequisicao);
 
 /// `ory operacoes`: every operation with its signature, a line each, or as a JSON list.

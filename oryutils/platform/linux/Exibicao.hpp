@@ -1,20 +1,18 @@
 #pragma once
 
-#include "oryutils/OryExport.hpp"
-
 #include <string>
 
 namespace OryUtils::Plataforma {
 
 /// Whether a window could be shown now: the X server that DISPLAY names accepts a connection, or the Wayland socket
 /// does. A variable left over from a session that has ended is no display.
-ORY_API bool PossuiExibicao();
+bool PossuiExibicao();
 
 /// Folder of the program or library that holds this code, without a final "/"; empty when the system does not tell.
 /// Never relative to the current folder.
-ORY_API std::string BuscarPastaDoModulo();
+std::string BuscarPastaDoModulo();
 
 /// Value of an environment variable; empty when it is not set.
-ORY_API std::string BuscarVariavelDeAmbiente(const char* ANome);
+std::string BuscarVariavelDeAmbiente(const char* ANome);
 
 }  // namespace OryUtils::Plataforma

@@ -30,7 +30,7 @@ struct TDigitosDecimais {
 };
 
 /// Rounds AValor, positive and finite, to AQuantidade (1 to 18) significant digits: the exact value, halves up.
-ORY_API TDigitosDecimais SepararDigitos(Extended AValor, int AQuantidade) noexcept;
+TDigitosDecimais SepararDigitos(Extended AValor, int AQuantidade) noexcept;
 
 /// A positive number as its text shows it: Digitos, a whole number of 15 digits, times 10 to (Ordem - 14).
 struct TQuinzeDigitos {
@@ -39,7 +39,7 @@ struct TQuinzeDigitos {
 };
 
 /// Rounds AValor, positive and finite, to 15 significant digits: the exact value, halves up.
-ORY_API TQuinzeDigitos SepararQuinzeDigitosLongo(Extended AValor) noexcept;
+TQuinzeDigitos SepararQuinzeDigitosLongo(Extended AValor) noexcept;
 
 inline constexpr Extended CPrimeiroDe15Digitos = 1e14L;
 inline constexpr Extended CPrimeiroDe16Digitos = 1e15L;
