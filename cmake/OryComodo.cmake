@@ -9,6 +9,10 @@ if(NOT WIN32 AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # A unique symbol, as the standard library's templates bring along, would keep the library loaded for ever.
   target_compile_options(ory_opcoes INTERFACE -fno-gnu-unique)
 endif()
+if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+  # The tables of powers that the compiler works out take more steps than it allows by itself.
+  target_compile_options(ory_opcoes INTERFACE -fconstexpr-steps=100000000)
+endif()
 if(ORY_AVISOS_SAO_ERROS)
   target_compile_options(ory_opcoes INTERFACE -Werror)
 endif()
