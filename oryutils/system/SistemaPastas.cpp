@@ -1,0 +1,88 @@
+#include "oryutils/platform/Pastas.hpp"
+#include "oryutils/platform/PastasDoSistema.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/runtime/Registro.hpp"
+#include "oryutils/system/OryUtilsSystem.hpp"
+#include "oryutils/system/interno/RegrasDePastas.hpp"
+
+namespace OryUtils {
+namespace {
+
+std::u16string MontarVizinha(std::u16string_view ANome) {
+    return Sistema::MontarPastaVizinha(TOryUtilsSistema::BuscarPastaAplicacao(), ANome,
+                                       Plataforma::BuscarSeparadorDePastas());
+}
+
+// A text of the machine's settings; empty when it is missing, of another kind or may not be read.
+std::u16string LerDaMaquina(std::u16string_view AChave, std::u16string_view AValor) {
+    try {
+        TRegistry registro(arLeitura);
+        registro.SetRootKey(crLocalMachine);
+        return registro.OpenKey(AChave, false) ? registro.ReadString(AValor) : std::u16string();
+    } catch (const ERegistryException&) {
+        return {};
+    }
+}
+
+}  // namespace
+
+std::u16string TOryUtilsSistema::BuscarPastaAplicacao() {
+    return Sistema::BuscarPastaDoPrograma(Plataforma::BuscarCaminhoDoExecutavel(),
+                                          Plataforma::BuscarSeparadorDePastas());
+}
+
+std::u16string TOryUtilsSistema::BuscarPastaConfiguracaoFormularios() {
+    const std::u16string pasta = BuscarPastaAplicacao() + u"ConfigsTemp";
+    Plataforma::CriarPasta(pasta);
+    return pasta + Plataforma::BuscarSeparadorDePastas();
+}
+
+std::u16string TOryUtilsSistema::BuscarPastaPadraoLogSistema() {
+    const std::u16string pasta = BuscarPastaAplicacao() + u"LogSistema";
+    Plataforma::CriarPasta(pasta);
+    return pasta;
+}
+
+std::u16string TOryUtilsSistema::BuscarPastaOryApps() { return MontarVizinha(u"OryApps"); }
+
+std::u16string TOryUtilsSistema::BuscarPastaOryDados() { return MontarVizinha(u"OryDados"); }
+
+std::u16string TOryUtilsSistema::BuscarPastaOryAppsAjuda() {
+    return MontarVizinha(u"OryApps_Ajuda") + Plataforma::BuscarSeparadorDePastas();
+}
+
+std::u16string TOryUtilsSistema::BuscarPastaOryEventosServer() { return MontarVizinha(u"OryEventosServer"); }
+
+std::u16string TOryUtilsSistema::BuscarPastaArquivoDeProgramas() {
+    const std::u16string pasta = LerDaMaquina(u"\\Software\\Microsoft\\Windows\\CurrentVersion", u"ProgramFilesDir");
+    return pasta.empty() ? Plataforma::BuscarPastaDeProgramasPadrao() : pasta;
+}
+
+std::u16string TOryUtilsSistema::BuscarPastaMeusDocumentos() {
+    const auto pasta = Plataforma::BuscarPastaDeDocumentos();
+    if (!pasta) throw Exception(u"Não foi possível identificar o local da pasta Meus Documentos.");
+    return *pasta;
+}
+
+std::u16string TOryUtilsSistema::BuscarPastaSystemWindows() { return Plataforma::BuscarPastaDoSistema(); }
+
+std::u16string TOryUtilsSistema::BuscarPastaTempWindows() { return Plataforma::BuscarPastaTemporaria(); }
+
+std::u16string TOryUtilsSistema::BuscarUnidadeInstalacaoWindows() { return Plataforma::BuscarUnidadeDoSistema(); }
+
+std::u16string TOryUtilsSistema::BuscarPastaInstalacaoVelmar(TVersaoVelmar AVersao) {
+    if (AVersao != VdVelmarXE) return {};
+    return LerDaMaquina(u"Software\\Embarcadero\\BDS\\8.0", u"RootDir");
+}
+
+TInformacoesVelmar TOryUtilsSistema::BuscarInformacoesVelmar(TVersaoVelmar AVersao) {
+    const std::u16string raiz = BuscarPastaInstalacaoVelmar(AVersao);
+    return {raiz, raiz + u"\\bin", raiz + u"\\lib\\win32\\release"};
+}
+
+std::u16string TOryUtilsSistema::BuscarCaminhoArquivoConfiguracaoForms() {
+    return BuscarPastaConfiguracaoFormularios() +
+           Sistema::MontarNomeConfiguracaoForms(BuscarNomeComputador(), BuscarNomeUsuarioLogadoNoWindows());
+}
+
+}  // namespace OryUtils
