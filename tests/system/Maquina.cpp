@@ -1,0 +1,141 @@
+// Rules of the machine that need no machine.
+#include "oryutils/runtime/Formatos.hpp"
+#include "oryutils/system/OryUtilsSystem.hpp"
+#include "oryutils/system/interno/RegrasDeDiscos.hpp"
+#include "oryutils/system/interno/RegrasDePastas.hpp"
+#include "oryutils/system/interno/RegrasDeTeclado.hpp"
+#include "oryutils/system/interno/VersaoDoWindows.hpp"
+
+#include "text/Apoio.hpp"
+
+#include <limits>
+
+using namespace OryUtils;
+
+namespace {
+
+TEST(Maquina, VersaoDoWindows) {
+    struct TCaso {
+        Plataforma::TVersaoDoSistema Versao;
+        TVersaoWindows Esperada;
+        const char* Porque;
+    };
+    const TCaso casos[] = {
+        {{1, 4, 0, u""}, vwWin95, ""},
+        {{1, 4, 10, u""}, vwWin98, "no second character"},
+        {{1, 4, 10, u"A"}, vwWin98, "the first one does not count"},
+        {{1, 4, 10, u" A "}, vwWin98SE, "second edition"},
+        {{1, 4, 10, u" a"}, vwWin98, "a small letter"},
+        {{1, 4, 90, u" A"}, vwWinME, ""},
+        {{1, 4, 1, u""}, vwUnknown, "unknown 9x"},
+        {{1, 3, 0, u""}, vwUnknown, "unknown 9x"},
+        {{2, 3, 51, u""}, vwWinNT, ""},
+        {{2, 4, 0, u""}, vwWinNT, "the numbers of Windows 95"},
+        {{2, 5, 0, u"Service Pack 4"}, vwWin2000, ""},
+        {{2, 5, 1, u""}, vwWinXP, ""},
+        {{2, 5, 2, u""}, vwUnknown, "server of XP's time"},
+        {{2, 6, 0, u""}, vwWinVista, ""},
+        {{2, 6, 3, u""}, vwWinVista, "every version 6"},
+        {{2, 10, 0, u""}, vwUnknown, "version 10"},
+        {{0, 6, 1, u""}, vwUnknown, "another platform"},
+        {{3, 4, 0, u""}, vwUnknown, "another platform"},
+    };
+    for (const TCaso& caso : casos)
+        EXPECT_EQ(Sistema::ClassificarVersao(caso.Versao), caso.Esperada)
+            << caso.Versao.Plataforma << ' ' << caso.Versao.Maior << '.' << caso.Versao.Menor << ' ' << caso.Porque;
+    EXPECT_EQ(CVetorVersaoWindows[vwWinVista], u"Windows Vista/7 ou superior");
+}
+
+TEST(Maquina, FormatarBytes) {
+    constexpr std::int64_t CMaior = std::numeric_limits<std::int64_t>::max();
+    Testes::TSorteio sorteio;
+    std::vector<std::int64_t> valores{0, 1, 1023, 1024, 1025, -1, -1023, -1024, -1025, CMaior, -CMaior - 1};
+    for (int i = 0; i < 1000; ++i)
+        valores.push_back((std::int64_t{sorteio.Numero(-1 << 30, 1 << 30)} << 32) + sorteio.Numero(0, 1 << 30));
+    for (const std::int64_t valor : valores) {
+        std::int64_t divisor = 1;
+        for (const TFormatoBytes formato : {fbBytes, fbKilobytes, fbMegabytes, fbGigabytes, fbTerabytes}) {
+            EXPECT_EQ(TOryUtilsSistema::FormatarBytes(valor, formato), valor / divisor) << sorteio.Semente();
+            divisor *= 1024;
+        }
+    }
+    for (const int desconhecido : {-1, 5, std::numeric_limits<int>::max()})
+        EXPECT_EQ(TOryUtilsSistema::FormatarBytes(CMaior, static_cast<TFormatoBytes>(desconhecido)), CMaior);
+}
+
+TEST(Maquina, EspacoLivre) {
+    const TOryUtilsSystemInfoDiscoRigidoIOP disco{30, 100, u"DADOS %s", fbGigabytes, u"D"};
+    const std::u16string detalhes =
+        u"Informações detalhadas da unidade: \r\n\r\nUnidade: D \r\nNome: DADOS %s \r\nEspaço total: 100 GB\r\nEspaço "
+        u"livre: 30 GB\r\nEspaço usado: 70 GB";
+    EXPECT_EQ(disco.GetInformacoesDetalhadas(), detalhes);
+    EXPECT_EQ(Sistema::ConferirEspacoLivre(disco, 30), TResultStatus{}) << "equal is enough";
+    EXPECT_EQ(Sistema::ConferirEspacoLivre(disco, -1), TResultStatus{});
+    EXPECT_EQ(Sistema::ConferirEspacoLivre(disco, 31),
+              (TResultStatus{false,
+                             u"A unidade << D >> não possui espaço suficiente.\r\nEspaço requisitado: 31 "
+                             u"GB.\r\n\r\n" +
+                                 detalhes}));
+    const std::int64_t muito = std::int64_t{1} << 40;  // its low 32 bits are zero
+    EXPECT_FALSE(Sistema::ConferirEspacoLivre(disco, muito).Status);
+}
+
+TEST(Maquina, IndiceDaUnidade) {
+    constexpr std::pair<std::u16string_view, int> CCasos[] = {{u"A", 1},    {u"c", 3}, {u"Z", 26}, {u"C:", 3},
+                                                              {u"D:\\", 4}, {u"", 0},  {u"1", 0},  {u"[", 0},
+                                                              {u"AB", 0},   {u"/", 0}, {u"š", 0}};
+    for (const auto& [unidade, indice] : CCasos)
+        EXPECT_EQ(TOryUtilsSistema::BuscarIndiceUnidadeDisco(unidade), indice) << ParaUtf8(unidade);
+}
+
+TEST(Maquina, VarToIntDef) {
+    const TFormatosTemporarios formatos(BuscarFormatosBrasileiros());
+    const std::pair<Variant, int> casos[] = {
+        {12, 12},           {std::int64_t{2147483648}, -7},
+        {u" -3", -3},       {u"", -7},
+        {u"3x", -7},        {TNulo{}, -7},
+        {Variant(), -7},    {true, -7},
+        {2.0, 2},           {2.5, -7},
+        {TMoeda::De(8), 8}, {std::vector<Variant>{1}, -7},
+    };
+    for (const auto& [valor, esperado] : casos)
+        EXPECT_EQ(VarToIntDef(valor, -7), esperado) << "row " << &valor - &casos[0].first;
+}
+
+TEST(Maquina, PastasVizinhas) {
+    struct TCaso {
+        std::u16string_view Executavel, Aplicacao, Vizinha;
+        char16_t Separador;
+        const char* Porque;
+    };
+    const TCaso casos[] = {
+        {u"C:\\ory\\bin\\p.exe", u"C:\\ory\\bin\\", u"C:\\ory\\OryApps", u'\\', "beside the application"},
+        {u"C:\\bin\\p.exe", u"C:\\bin\\", u"C:\\OryApps", u'\\', "below the drive"},
+        {u"C:\\p.exe", u"C:\\", u"OryApps", u'\\', "nothing above: relative, as the rule of the folder above has it"},
+        {u"/opt/ory/bin/p", u"/opt/ory/bin/", u"/opt/ory/OryApps", u'/', ""},
+        {u"/opt/a\\b/bin/p", u"/opt/a\\b/bin/", u"/opt/a\\b/OryApps", u'/', "the other system's separator is a letter"},
+        {u"/app/p", u"/app/", u"/OryApps", u'/', "the root has no name"},
+        {u"/p", u"/", u"/OryApps", u'/', "nothing is above the root"},
+    };
+    for (const TCaso& caso : casos) {
+        EXPECT_EQ(Sistema::BuscarPastaDoPrograma(caso.Executavel, caso.Separador), caso.Aplicacao) << caso.Porque;
+        EXPECT_EQ(Sistema::MontarPastaVizinha(caso.Aplicacao, u"OryApps", caso.Separador), caso.Vizinha) << caso.Porque;
+    }
+    EXPECT_EQ(Sistema::MontarNomeConfiguracaoForms(u"PC1", u"ana"), u"FP_PC1_ana.ini");
+    EXPECT_EQ(Sistema::MontarNomeConfiguracaoForms(u"%s", u"a%d"), u"FP_%s_a%d.ini");
+}
+
+TEST(Maquina, OrdemDasTeclas) {
+    const auto descrever = [](TShiftState AShift, bool AEstendida) {
+        std::string texto;
+        for (const Plataforma::TEventoDeTecla& e : Sistema::MontarPressionamento(0x41, AShift, AEstendida))
+            texto += (e.Soltar ? "-" : "+") + std::to_string(e.Tecla) + (e.Estendida ? "e " : " ");
+        return texto;
+    };
+    EXPECT_EQ(descrever({}, false), "+65 -65 ");
+    EXPECT_EQ(descrever({}, true), "+65e -65e ");
+    EXPECT_EQ(descrever({ssAlt, ssShift, ssCtrl}, true), "+17 +16 +18 +65e -65e -18 -16 -17 ");
+    EXPECT_EQ(descrever({ssAlt, ssCtrl}, false), "+17 +18 +65 -65 -18 -17 ");
+}
+
+}  // namespace

@@ -1,0 +1,226 @@
+// The machine's facts beside what the system itself says, and the system's tables read from texts.
+#include "oryutils/platform/Discos.hpp"
+#include "oryutils/platform/Pastas.hpp"
+#include "oryutils/platform/Rede.hpp"
+#include "oryutils/platform/linux/PastaDeDocumentos.hpp"
+#include "oryutils/platform/linux/TabelaDeMontagens.hpp"
+#include "oryutils/platform/linux/TabelasDeRede.hpp"
+#include "oryutils/system/OryUtilsSystem.hpp"
+
+#include "system/Ambiente.hpp"
+#include "text/Apoio.hpp"
+
+#include <arpa/inet.h>
+#include <filesystem>
+#include <fstream>
+#include <ifaddrs.h>
+#include <map>
+#include <net/if.h>
+#include <netdb.h>
+#include <pwd.h>
+#include <sys/socket.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+using namespace OryUtils;
+using namespace OryUtils::Plataforma;
+using Testes::TLista;
+
+namespace {
+
+using S = TOryUtilsSistema;
+
+TEST(MaquinaLinux, Nomes) {
+    char nome[256] = {};
+    ASSERT_EQ(::gethostname(nome, sizeof nome), 0);
+    EXPECT_EQ(ParaUtf8(S::BuscarNomeComputador()), nome);
+    const passwd* conta = ::getpwuid(::geteuid());
+    EXPECT_EQ(ParaUtf8(GetNomeUsuarioLogadoNoWindows()), conta ? conta->pw_name : "Desconhecido");
+    EXPECT_EQ(GetWindowsVersion(), vwUnknown);
+}
+
+TEST(MaquinaLinux, Enderecos) {
+    // Every own IPv4 address, and the interface that has it.
+    std::map<std::string, std::string> enderecos;
+    bool temRede = false;
+    ifaddrs* lista = nullptr;
+    ASSERT_EQ(::getifaddrs(&lista), 0);
+    for (const ifaddrs* i = lista; i; i = i->ifa_next) {
+        if (!i->ifa_addr || i->ifa_addr->sa_family != AF_INET) continue;
+        char texto[NI_MAXHOST] = {};
+        ::getnameinfo(i->ifa_addr, sizeof(sockaddr_in), texto, sizeof texto, nullptr, 0, NI_NUMERICHOST);
+        enderecos[texto] = i->ifa_name;
+        temRede |= (i->ifa_flags & (IFF_LOOPBACK | IFF_UP)) == IFF_UP;
+    }
+    ::freeifaddrs(lista);
+
+    const std::string local = ParaUtf8(S::BuscarIPLocal());
+    EXPECT_TRUE(enderecos.contains(local) || local.starts_with("127.")) << local;
+    if (temRede) {
+        EXPECT_FALSE(local.starts_with("127.")) << local;
+        std::string mac;
+        std::ifstream("/sys/class/net/" + enderecos[local] + "/address") >> mac;
+        std::replace(mac.begin(), mac.end(), ':', '-');
+        for (const std::u16string& nome : {DeUtf8(local), std::u16string(u"localhost"), std::u16string(u"127.0.0.1")}) {
+            EXPECT_EQ(ParaUtf8(GetMacAddress2(nome)), mac) << ParaUtf8(nome);
+            EXPECT_EQ(ParaUtf8(GetEnderecoMac(nome)), mac) << ParaUtf8(nome);
+        }
+    }
+    EXPECT_TRUE(S::EhIPLocal(DeUtf8(local), false));
+    EXPECT_TRUE(S::EhIPLocal(S::BuscarNomeComputador(), false));
+    EXPECT_FALSE(S::EhIPLocal(u"192.0.2.254", false));
+    EXPECT_EQ(S::BuscarIPPeloNomeComputador(u"127.0.0.3"), u"127.0.0.3");
+    EXPECT_EQ(S::BuscarIPPeloNomeComputador(u"localhost"), u"127.0.0.1");
+    EXPECT_EQ(S::BuscarIPPeloNomeComputador(u""), DeUtf8(local));
+    EXPECT_EQ(S::BuscarIPPeloNomeComputador(std::u16string_view(u"localhost\0x", 11)), u"");
+    sockaddr_in volta{};
+    volta.sin_family = AF_INET;
+    volta.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    char nome[NI_MAXHOST] = {};
+    ::getnameinfo(reinterpret_cast<sockaddr*>(&volta), sizeof volta, nome, sizeof nome, nullptr, 0, NI_NAMEREQD);
+    EXPECT_EQ(ParaUtf8(S::BuscarNomeComputadorPeloIP(u"127.0.0.1")), nome);
+    for (const char16_t* texto : {u"", u"nada", u"1.2.3.4.5", u"255.255.255.255"}) {
+        EXPECT_EQ(S::BuscarNomeComputadorPeloIP(texto), u"");
+        EXPECT_EQ(GetMacAddress2(texto), u"");
+    }
+}
+
+TEST(MaquinaLinux, Discos) {
+    struct statvfs raiz {};
+    ASSERT_EQ(::statvfs("/", &raiz), 0);
+    const auto total = static_cast<std::int64_t>(raiz.f_blocks * raiz.f_frsize);
+    for (const char16_t* unidade : {u"C", u"c:", u"C:\\", u"/", u"/etc"}) {
+        const auto disco = S::BuscarInformacoesDiscoRigido(unidade, fbBytes);
+        EXPECT_EQ(disco->EspacoTotal, total) << ParaUtf8(unidade);
+        EXPECT_GT(disco->EspacoTotal, disco->EspacoLivre);
+        EXPECT_EQ(disco->Unidade, unidade);
+        EXPECT_NE(disco->NomeVolume, u"");
+    }
+    const TLista unidades = S::BuscarListaDrivesComputador();
+    ASSERT_FALSE(unidades.empty());
+    EXPECT_EQ(unidades.front(), u"/");
+    for (std::size_t i = 0; i < std::min<std::size_t>(unidades.size(), 24); ++i) {
+        const std::u16string letra(1, static_cast<char16_t>(u'C' + i));
+        struct statvfs dados {};
+        ASSERT_EQ(::statvfs(ParaUtf8(unidades[i]).c_str(), &dados), 0);
+        EXPECT_EQ(BuscarEspacoEmDisco(letra).value().Total, dados.f_blocks * dados.f_frsize) << ParaUtf8(unidades[i]);
+    }
+    for (const char16_t* unidade : {u"", u"A", u"1", u"/nao/existe", u"CD"}) {
+        const auto disco = S::BuscarInformacoesDiscoRigido(unidade, fbBytes);
+        EXPECT_EQ(disco->EspacoTotal, 0) << ParaUtf8(unidade);
+        EXPECT_EQ(disco->NomeVolume, u"Não identificado");
+        EXPECT_EQ(S::BuscarQuantidadeEspacoLivreEmDisco(unidade, fbBytes), 0);
+        EXPECT_FALSE(S::ValidouEspacoLivreEmDisco(unidade, 1, fbBytes).Status);
+    }
+    EXPECT_TRUE(S::ValidouEspacoLivreEmDisco(u"C", 0, fbTerabytes).Status);
+}
+
+TEST(MaquinaLinux, Pastas) {
+    const std::string executavel = std::filesystem::read_symlink("/proc/self/exe").parent_path().string();
+    EXPECT_EQ(ParaUtf8(GetApplicationPath()), executavel + "/");
+    const std::string acima = std::filesystem::path(executavel).parent_path().string();
+    EXPECT_EQ(ParaUtf8(OryUtils::BuscarPastaOryApps()), acima + "/OryApps");
+    EXPECT_EQ(ParaUtf8(S::BuscarPastaOryAppsAjuda()), acima + "/OryApps_Ajuda/");
+    EXPECT_EQ(ParaUtf8(S::BuscarPastaOryDados()), acima + "/OryDados");
+    EXPECT_EQ(ParaUtf8(S::BuscarPastaOryEventosServer()), acima + "/OryEventosServer");
+    EXPECT_EQ(GetWindowsDrive(), u"/");
+    EXPECT_TRUE(ExistePasta(GetWindowsSystemDir()));
+
+    const std::string temporaria = Testes::BuscarVariavel("TMPDIR");
+    const std::pair<const char*, const char*> casos[] = {
+        {"/var/tmp//", "/var/tmp"}, {"", "/tmp"}, {"tmp", "/tmp"}, {"/", "/"}};
+    for (const auto& [valor, pasta] : casos) {
+        Testes::DefinirVariavel("TMPDIR", valor);
+        EXPECT_EQ(ParaUtf8(GetPastaTempWindows()), pasta);
+    }
+    Testes::DefinirVariavel("TMPDIR", temporaria);
+}
+
+TEST(MaquinaLinux, PastaDeDocumentos) {
+    struct TCaso {
+        const char *Texto, *Pasta, *Porque;
+    };
+    constexpr TCaso CCasos[] = {
+        {"", "", "no file"},
+        {"XDG_DESKTOP_DIR=\"$HOME/Mesa\"\n# XDG_DOCUMENTS_DIR=\"/x\"\n", "", "another folder, a remark"},
+        {"  XDG_DOCUMENTS_DIR=\"$HOME/Meus Documentos\"\n", "/home/ana/Meus Documentos", "below the home folder"},
+        {"XDG_DOCUMENTS_DIR=\"/dados/\\\"doc\\\"\"", "/dados/\"doc\"", "quotes in the name, no line end"},
+        {"XDG_DOCUMENTS_DIR=\"$HOME\"\n", "/home/ana", "the home folder itself"},
+        {"XDG_DOCUMENTS_DIR=\"$HOMEX/a\"\nXDG_DOCUMENTS_DIR=\"a\"\n", "", "no full path"},
+        {"XDG_DOCUMENTS_DIR=\"/a\"\nXDG_DOCUMENTS_DIR=\"/b\"\n", "/b", "the last one holds"},
+        {"XDG_DOCUMENTS_DIR=\"/a\\", "/a\\", "cut off"},
+    };
+    for (const TCaso& caso : CCasos)
+        EXPECT_EQ(LerPastaDeDocumentos(caso.Texto, "/home/ana"), caso.Pasta) << caso.Porque;
+
+    const std::string inicio = Testes::BuscarVariavel("HOME");
+    const std::string configuracoes = Testes::BuscarVariavel("XDG_CONFIG_HOME");
+    Testes::DefinirVariavel("XDG_CONFIG_HOME", "/nao/existe");
+    Testes::DefinirVariavel("HOME", "/home/ana/");
+    EXPECT_EQ(GetPastaMeusDocumentos(), u"/home/ana/Documents");
+    Testes::DefinirVariavel("HOME", inicio);
+    Testes::DefinirVariavel("XDG_CONFIG_HOME", configuracoes);
+}
+
+TEST(MaquinaLinux, TabelaDeMontagens) {
+    const char* tabela =
+        "22 27 0:21 / /proc rw,relatime - proc proc rw\n"
+        "27 1 254:0 / / rw - ext4 /dev/vda rw\n"
+        "40 27 8:2 / /mnt/dados\\040do\\134x rw shared:1 master:2 - xfs /dev/sda2 rw\n"
+        "41 27 8:3 / /boot rw - vfat /dev/sda3 rw\n"
+        "42 27 8:2 /sub /srv rw - xfs /dev/sda2 rw\n"
+        "43 27 7:1 / /snap/core ro - squashfs /dev/loop1 ro\n"
+        "44 27 0:50 / /mnt/rede rw - nfs4 servidor:/x rw\n"
+        "45 27 0:51 / /tmp rw - tmpfs tmpfs rw\n"
+        "46 27 254:0 /etc/hosts /etc/hosts rw - ext4 /dev/vda rw\n"
+        "sobra\n47 27 8:9 / /cortada rw - ext4\n";
+    const std::vector<TMontagem> esperadas{
+        {"/", "/dev/vda"}, {"/boot", "/dev/sda3"}, {"/mnt/dados do\\x", "/dev/sda2"}, {"/mnt/rede", "servidor:/x"}};
+    EXPECT_EQ(LerTabelaDeMontagens(tabela), esperadas);
+    const std::vector<TMontagem> nenhuma{{"/", ""}};
+    EXPECT_EQ(LerTabelaDeMontagens(""), nenhuma);
+    const std::vector<TMontagem> sobreposta{{"/", "overlay"}};
+    EXPECT_EQ(LerTabelaDeMontagens("1 1 0:1 / / rw - rootfs rootfs rw\n2 1 0:2 / / rw - overlay overlay rw"),
+              sobreposta);
+}
+
+TEST(MaquinaLinux, TabelasDeRede) {
+    constexpr std::string_view CVizinhos =
+        "IP address       HW type     Flags       HW address            Mask     Device\n"
+        "192.0.2.1        0x1         0x2         02:fc:00:00:00:05     *        eth0\n"
+        "192.0.2.7        0x1         0x0         00:00:00:00:00:00     *        eth0\n"
+        "192.0.2.8        0x20        0x2         02:fc:00:00:00:08     *        ib0\n"
+        "192.0.2.9        0x1         0x6         0a:0B:0c:0d:0e:ff     *        eth0";
+    const auto procurar = [&](const char16_t* AIP) { return ProcurarVizinho(CVizinhos, LerEnderecoIP(AIP).value()); };
+    EXPECT_EQ(procurar(u"192.0.2.1"), (TEnderecoMac{2, 0xFC, 0, 0, 0, 5}));
+    EXPECT_EQ(procurar(u"192.0.2.9"), (TEnderecoMac{10, 11, 12, 13, 14, 255})) << "a permanent entry";
+    EXPECT_EQ(procurar(u"192.0.2.7"), std::nullopt) << "asked for and not answered yet";
+    EXPECT_EQ(procurar(u"192.0.2.8"), std::nullopt) << "another kind of network";
+    EXPECT_EQ(procurar(u"192.0.2.2"), std::nullopt);
+
+    constexpr std::string_view CRotas =
+        "Iface\tDestination\tGateway \tFlags\tRefCnt\tUse\tMetric\tMask\t\tMTU\tWindow\tIRTT\n"
+        "wlan0\t00000000\t0101A8C0\t0003\t0\t0\t600\t00000000\t0\t0\t0\n"
+        "eth0\t00000000\t010200C0\t0003\t0\t0\t100\t00000000\t0\t0\t0\n"
+        "down0\t00000000\t010200C0\t0002\t0\t0\t0\t00000000\t0\t0\t0\n"
+        "eth0\t000200C0\t00000000\t0001\t0\t0\t0\t00FFFFFF\t0\t0\t0\n"
+        "eth0\t0000000A\t010200C0\t0003\t0\t0\t0\t000000FF\t0\t0\t0\n";
+    EXPECT_EQ(BuscarInterfacePadrao(CRotas), "eth0");
+    EXPECT_EQ(BuscarInterfacePadrao(CRotas.substr(0, CRotas.find('\n'))), "");
+    EXPECT_TRUE(EstahNoEnlace(CRotas, {192, 0, 2, 77}));
+    EXPECT_FALSE(EstahNoEnlace(CRotas, {192, 0, 3, 77})) << "by the gateway";
+    EXPECT_FALSE(EstahNoEnlace(CRotas, {10, 1, 2, 3})) << "a route with a gateway of its own";
+}
+
+TEST(MaquinaLinux, SemExibicaoNaoHaTeclado) {
+    const std::string exibicao = Testes::BuscarVariavel("DISPLAY");
+    for (const char* nenhuma : {"", ":9797"}) {
+        Testes::DefinirVariavel("DISPLAY", nenhuma);
+        SimularPressionamentoTecla(0x41, {ssCtrl}, false);
+        EXPECT_FALSE(S::TeclaEstahPressionada(0x41));
+        EXPECT_EQ(S::BuscarTempoInatividadeSistema(), 0u);
+    }
+    Testes::DefinirVariavel("DISPLAY", exibicao);
+}
+
+}  // namespace

@@ -1,0 +1,18 @@
+#include "system/Ambiente.hpp"
+
+#include "oryutils/platform/windows/Windows.hpp"
+
+#include <vector>
+
+namespace Testes {
+
+std::string BuscarVariavel(const std::string& ANome) {
+    std::vector<char> valor(32768);
+    return {valor.data(), ::GetEnvironmentVariableA(ANome.c_str(), valor.data(), static_cast<DWORD>(valor.size()))};
+}
+
+void DefinirVariavel(const std::string& ANome, const std::string& AValor) {
+    ::SetEnvironmentVariableA(ANome.c_str(), AValor.c_str());
+}
+
+}  // namespace Testes

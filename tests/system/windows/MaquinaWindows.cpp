@@ -1,0 +1,146 @@
+// The machine's facts beside what the system itself says, and keys seen by a real window.
+#include "oryutils/platform/Pastas.hpp"
+#include "oryutils/platform/windows/Windows.hpp"
+#include "oryutils/system/OryUtilsSystem.hpp"
+#include "oryutils/system/interno/VersaoDoWindows.hpp"
+
+#include "text/Apoio.hpp"
+
+#include <filesystem>
+#include <shlobj.h>
+
+using namespace OryUtils;
+using namespace OryUtils::Plataforma;
+using Testes::TLista;
+
+namespace {
+
+using S = TOryUtilsSistema;
+
+TEST(MaquinaWindows, NomesEVersao) {
+    wchar_t texto[512];
+    DWORD tamanho = 512;
+    ASSERT_TRUE(::GetComputerNameW(texto, &tamanho));
+    EXPECT_EQ(S::BuscarNomeComputador(), DeWide(texto));
+    tamanho = 512;
+    ASSERT_TRUE(::GetUserNameW(texto, &tamanho));
+    EXPECT_EQ(GetNomeUsuarioLogadoNoWindows(), DeWide(texto));
+    OSVERSIONINFOW versao{};
+    versao.dwOSVersionInfoSize = sizeof versao;
+    ASSERT_TRUE(::GetVersionExW(&versao));
+    const TVersaoWindows esperada = versao.dwMajorVersion == 6 ? vwWinVista : vwUnknown;
+    if (versao.dwMajorVersion >= 6) EXPECT_EQ(GetWindowsVersion(), esperada) << versao.dwMajorVersion;
+}
+
+TEST(MaquinaWindows, Enderecos) {
+    const std::u16string local = S::BuscarIPLocal();
+    EXPECT_EQ(S::BuscarIPPeloNomeComputador(S::BuscarNomeComputador()), local);
+    EXPECT_EQ(S::BuscarIPPeloNomeComputador(u"127.0.0.3"), u"127.0.0.3");
+    EXPECT_EQ(S::BuscarIPPeloNomeComputador(std::u16string(1000, u'x')), u"");
+    EXPECT_TRUE(S::EhIPLocal(local, false));
+    EXPECT_FALSE(S::EhIPLocal(u"192.0.2.254", false));
+    // Equal: two answers that differ would have been looked into further.
+    EXPECT_EQ(GetEnderecoMac(u"127.0.0.1"), GetMacAddress2(u"localhost"));
+    for (const char16_t* texto : {u"", u"nada", u"1.2.3.4.5"}) {
+        EXPECT_EQ(S::BuscarNomeComputadorPeloIP(texto), u"");
+        EXPECT_EQ(GetMacAddress2(texto), u"");
+    }
+}
+
+TEST(MaquinaWindows, Discos) {
+    ULARGE_INTEGER livre{}, total{};
+    ASSERT_TRUE(::GetDiskFreeSpaceExW(L"C:\\", &livre, &total, nullptr));
+    for (const char16_t* unidade : {u"C", u"c", u"C:", u"C:\\"}) {
+        const auto disco = S::BuscarInformacoesDiscoRigido(unidade, fbBytes);
+        EXPECT_EQ(disco->EspacoTotal, static_cast<std::int64_t>(total.QuadPart)) << ParaUtf8(unidade);
+        EXPECT_GT(disco->EspacoTotal, disco->EspacoLivre);
+        EXPECT_GT(disco->EspacoLivre, 0);
+    }
+    wchar_t rotulo[MAX_PATH + 1] = {};
+    ::GetVolumeInformationW(L"C:\\", rotulo, MAX_PATH, nullptr, nullptr, nullptr, nullptr, 0);
+    const std::u16string nome(Aparar(DeWide(rotulo)));
+    EXPECT_EQ(S::BuscarInformacoesDiscoRigido(u"C", fbBytes)->NomeVolume, nome.empty() ? u"Não identificado" : nome);
+    const TLista unidades = S::BuscarListaDrivesComputador();
+    const DWORD mapa = ::GetLogicalDrives();
+    TLista esperadas;
+    for (int i = 0; i < 26; ++i)
+        if (mapa >> i & 1) esperadas.push_back(std::u16string(1, static_cast<char16_t>(u'A' + i)) + u":\\");
+    EXPECT_EQ(unidades, esperadas);
+    for (const char16_t* unidade : {u"", u"1", u"\\\\servidor\\x", u"CD"}) {
+        const auto disco = S::BuscarInformacoesDiscoRigido(unidade, fbBytes);
+        EXPECT_EQ(disco->EspacoTotal, 0) << ParaUtf8(unidade);
+        EXPECT_EQ(disco->NomeVolume, u"Não identificado");
+        EXPECT_FALSE(S::ValidouEspacoLivreEmDisco(unidade, 1, fbBytes).Status);
+    }
+}
+
+TEST(MaquinaWindows, Pastas) {
+    wchar_t texto[MAX_PATH + 1];
+    ASSERT_TRUE(::GetSystemDirectoryW(texto, MAX_PATH));
+    EXPECT_EQ(GetWindowsSystemDir(), DeWide(texto));
+    ASSERT_TRUE(::GetWindowsDirectoryW(texto, MAX_PATH));
+    EXPECT_EQ(GetWindowsDrive(), DeWide(texto).substr(0, 2));
+    ASSERT_TRUE(::GetTempPathW(MAX_PATH, texto));
+    EXPECT_EQ(GetPastaTempWindows() + u"\\", DeWide(texto));
+    ASSERT_TRUE(::SHGetSpecialFolderPathW(nullptr, texto, CSIDL_PERSONAL, FALSE));
+    EXPECT_EQ(GetPastaMeusDocumentos(), DeWide(texto));
+    ASSERT_TRUE(::SHGetSpecialFolderPathW(nullptr, texto, CSIDL_PROGRAM_FILES, FALSE));
+    EXPECT_EQ(GetPastaArquivoDeProgramas(), DeWide(texto));
+
+    ASSERT_TRUE(::GetModuleFileNameW(nullptr, texto, MAX_PATH));
+    const std::filesystem::path pasta = std::filesystem::path(texto).parent_path();
+    EXPECT_EQ(GetApplicationPath(), pasta.u16string() + u"\\");
+    EXPECT_EQ(OryUtils::BuscarPastaOryApps(), pasta.parent_path().u16string() + u"\\OryApps");
+    EXPECT_EQ(S::BuscarPastaOryAppsAjuda(), pasta.parent_path().u16string() + u"\\OryApps_Ajuda\\");
+}
+
+/// What a window of the system sees of the keyboard: "+17/29 -65/30e": the key, its scan code, the extended flag.
+std::string& Teclas() {
+    static std::string teclas;
+    return teclas;
+}
+LRESULT CALLBACK AnotarTecla(HWND AJanela, UINT AMensagem, WPARAM ATecla, LPARAM ADados) {
+    const bool abaixou = AMensagem == WM_KEYDOWN || AMensagem == WM_SYSKEYDOWN;
+    if (abaixou || AMensagem == WM_KEYUP || AMensagem == WM_SYSKEYUP) {
+        Teclas() += (abaixou ? "+" : "-") + std::to_string(ATecla) + "/" + std::to_string(ADados >> 16 & 0xFF) +
+                    (ADados & (1 << 24) ? "e " : " ");
+        return 0;
+    }
+    return ::DefWindowProcW(AJanela, AMensagem, ATecla, ADados);
+}
+
+TEST(MaquinaWindows, UmaJanelaVeAsTeclasSimuladas) {
+    WNDCLASSW classe{};
+    classe.lpfnWndProc = AnotarTecla;
+    classe.hInstance = ::GetModuleHandleW(nullptr);
+    classe.lpszClassName = L"OryTeclas";
+    ::RegisterClassW(&classe);
+    const HWND janela = ::CreateWindowExW(WS_EX_TOPMOST, L"OryTeclas", L"", WS_POPUP | WS_VISIBLE, 0, 0, 100, 100,
+                                          nullptr, nullptr, classe.hInstance, nullptr);
+    if (!janela) GTEST_SKIP() << "no window can be created here: run under a display";
+    ::SetForegroundWindow(janela);
+    ::SetFocus(janela);
+    const auto simular = [&](std::uint16_t ATecla, TShiftState AShift, bool AEstendida, int AEventos) {
+        Teclas().clear();
+        SimularPressionamentoTecla(ATecla, AShift, AEstendida);
+        MSG mensagem{};
+        for (int vez = 0; vez < 5000 && std::count(Teclas().begin(), Teclas().end(), ' ') < AEventos; ++vez) {
+            ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 1, QS_ALLINPUT);
+            while (::PeekMessageW(&mensagem, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageW(&mensagem);
+        }
+        return Teclas();
+    };
+    EXPECT_EQ(simular(0x41, {}, false, 2), "+65/30 -65/30 ");
+    EXPECT_EQ(simular(0x41, {ssAlt, ssShift, ssCtrl}, false, 8),
+              "+17/29 +16/42 +18/56 +65/30 -65/30 -18/56 -16/42 -17/29 ");
+    EXPECT_EQ(simular(VK_LEFT, {}, true, 2), "+37/75e -37/75e ");
+    EXPECT_EQ(simular(VK_LEFT, {}, false, 2), "+37/75 -37/75 ");
+    EXPECT_FALSE(S::TeclaEstahPressionada(VK_CONTROL));
+    ::keybd_event(VK_CONTROL, 29, 0, 0);
+    EXPECT_TRUE(S::TeclaEstahPressionada(VK_CONTROL));
+    ::keybd_event(VK_CONTROL, 29, KEYEVENTF_KEYUP, 0);
+    EXPECT_FALSE(S::TeclaEstahPressionada(VK_CONTROL));
+    ::DestroyWindow(janela);
+}
+
+}  // namespace
