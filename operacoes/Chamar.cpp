@@ -60,9 +60,9 @@ TJson DeLinhaDeComando(const TParametro& AParametro, const std::string& ATexto) 
 }  // namespace
 
 std::span<const std::span<const TOperacao>> BuscarOperacoes() noexcept {
-    static const std::array tabelas{BuscarOperacoesDeTexto(),   BuscarOperacoesDeRegistros(),
-                                    BuscarOperacoesDeDatas(),   BuscarOperacoesDeSql(),
-                                    BuscarOperacoesDeNumeros(), BuscarOperacoesDeArquivos()};
+    static const std::array tabelas{
+        BuscarOperacoesDeTexto(),   BuscarOperacoesDeRegistros(), BuscarOperacoesDeDatas(),  BuscarOperacoesDeSql(),
+        BuscarOperacoesDeNumeros(), BuscarOperacoesDeArquivos(),  BuscarOperacoesDeSistema()};
     return tabelas;
 }
 

@@ -32,6 +32,7 @@ std::span<const TOperacao> BuscarOperacoesDeDatas() noexcept;
 std::span<const TOperacao> BuscarOperacoesDeSql() noexcept;
 std::span<const TOperacao> BuscarOperacoesDeNumeros() noexcept;
 std::span<const TOperacao> BuscarOperacoesDeArquivos() noexcept;
+std::span<const TOperacao> BuscarOperacoesDeSistema() noexcept;
 
 /// The tables of all rooms.
 std::span<const std::span<const TOperacao>> BuscarOperacoes() noexcept;

@@ -6,6 +6,7 @@
 #include "conferir/Conferir.hpp"
 #include "mensagem/Mensagem.hpp"
 #include "numeros/Numeros.hpp"
+#include "sistema/Sistema.hpp"
 #include "versao/Versao.hpp"
 
 #include <CLI/CLI.hpp>
@@ -235,6 +236,8 @@ int ExecutarLinhaDeComando(std::span<const std::string> AArgumentos, TAmbiente& 
     comandos.Incluir("formula", "calcula uma fórmula e mostra a expressão resolvida", DescreverFormula, MostrarFormula);
     comandos.Incluir("extenso", "escreve valores por extenso", DescreverExtenso, MostrarExtenso);
     comandos.Incluir("versao", "mostra o que arquivos dizem de si, ou compara versões", DescreverVersao, MostrarVersao);
+    comandos.Incluir("sistema", "mostra a máquina: nomes, endereços, discos e pastas", DescreverSistema,
+                     MostrarSistema);
     aplicativo.require_subcommand(0, 1);
 
     std::vector<std::string> invertidos(AArgumentos.rbegin(), AArgumentos.rend());

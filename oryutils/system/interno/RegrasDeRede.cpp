@@ -49,6 +49,16 @@ std::vector<std::u16string> ListarEnderecosDaSaidaARP(const std::vector<std::u16
     return enderecos;
 }
 
+std::vector<std::u16string> ListarEnderecosDaSaidaARP(std::u16string_view ASaida) {
+    std::vector<std::u16string> linhas;
+    while (!ASaida.empty()) {
+        const std::size_t fim = std::min(ASaida.find_first_of(u"\r\n"), ASaida.size());
+        linhas.emplace_back(ASaida.substr(0, fim));
+        ASaida.remove_prefix(std::min(fim + 1, ASaida.size()));
+    }
+    return ListarEnderecosDaSaidaARP(linhas);
+}
+
 std::vector<std::u16string> BuscarListaIPLocalViaARP(const TExecutorDeComando& AExecutor) {
     std::vector<std::u16string> linhas;
     AExecutor(CComandoArp, linhas);

@@ -11,6 +11,8 @@ namespace OryUtils::Sistema {
 
 /// The machine's own addresses in the lines of an "arp -a": of each line with a ":", the first word behind it.
 std::vector<std::u16string> ListarEnderecosDaSaidaARP(const std::vector<std::u16string>& ALinhas);
+/// The same of a text of several lines.
+std::vector<std::u16string> ListarEnderecosDaSaidaARP(std::u16string_view ASaida);
 std::vector<std::u16string> BuscarListaIPLocalViaARP(const TExecutorDeComando& AExecutor);
 
 /// The first 17 characters from the first two characters followed by "-" on, trimmed, in upper case.

@@ -1,0 +1,149 @@
+#include "sistema/Sistema.hpp"
+
+#include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/system/OryUtilsSystem.hpp"
+
+#include "Tabela.hpp"
+#include "TextoNaTela.hpp"
+#include "operacoes/Json.hpp"
+
+#include <CLI/CLI.hpp>
+
+namespace Ory {
+namespace {
+
+using S = OryUtils::TOryUtilsSistema;
+using OryUtils::TFormatoBytes;
+
+constexpr std::size_t CMaiorTexto = 200;
+
+struct TPergunta {
+    const char* Nome;
+    std::u16string (*Responder)();
+};
+constexpr TPergunta CMaquina[] = {
+    {"computador", S::BuscarNomeComputador},
+    {"usuario", S::BuscarNomeUsuarioLogadoNoWindows},
+    {"windows", [] { return std::u16string(OryUtils::CVetorVersaoWindows[S::BuscarVersaoWindows()]); }},
+    {"ip", S::BuscarIPLocal},
+    {"mac", [] { return S::BuscarEnderecoMac(u"localhost"); }},
+};
+constexpr TPergunta CPastas[] = {
+    {"aplicacao", S::BuscarPastaAplicacao},    {"documentos", S::BuscarPastaMeusDocumentos},
+    {"temporaria", S::BuscarPastaTempWindows}, {"programas", S::BuscarPastaArquivoDeProgramas},
+    {"sistema", S::BuscarPastaSystemWindows},  {"instalacao", S::BuscarUnidadeInstalacaoWindows},
+    {"oryapps", S::BuscarPastaOryApps},        {"orydados", S::BuscarPastaOryDados},
+};
+
+// How the names of the questions are shown to people.
+constexpr std::pair<std::string_view, std::string_view> CTitulos[] = {
+    {"computador", "Computador"}, {"usuario", "Usuário"},       {"windows", "Windows"},
+    {"ip", "Endereço IP"},        {"mac", "Endereço MAC"},      {"aplicacao", "Aplicação"},
+    {"documentos", "Documentos"}, {"temporaria", "Temporária"}, {"programas", "Programas"},
+    {"sistema", "Sistema"},       {"instalacao", "Instalação"}, {"oryapps", "OryApps"},
+    {"orydados", "OryDados"},
+};
+
+std::string BuscarTitulo(std::string_view ANome) {
+    for (const auto& [nome, titulo] : CTitulos)
+        if (nome == ANome) return std::string(titulo);
+    return std::string(ANome);
+}
+
+void Perguntar(std::span<const TPergunta> APerguntas, std::vector<TRetratoDoSistema::TItem>& AItens,
+               TRetratoDoSistema& ARetrato) {
+    for (const TPergunta& pergunta : APerguntas) {
+        std::optional<std::u16string> resposta;
+        try {
+            resposta = pergunta.Responder();
+        } catch (const OryUtils::Exception& erro) {
+            ARetrato.Erros.push_back(erro.GetMensagem());
+        }
+        if (resposta && resposta->empty()) resposta.reset();
+        AItens.emplace_back(pergunta.Nome, std::move(resposta));
+    }
+}
+
+/// In the largest unit in which there is at least ten of it.
+std::string EscreverEspaco(std::int64_t ABytes) {
+    int formato = OryUtils::fbBytes;
+    while (formato < OryUtils::fbTerabytes && S::FormatarBytes(ABytes, static_cast<TFormatoBytes>(formato + 1)) >= 10)
+        ++formato;
+    return std::to_string(S::FormatarBytes(ABytes, static_cast<TFormatoBytes>(formato))) + " " +
+           OryUtils::ParaUtf8(OryUtils::CVetorFormatoBytes[static_cast<std::size_t>(formato)]);
+}
+
+std::string EscreverItens(const std::vector<TRetratoDoSistema::TItem>& AItens) {
+    std::vector<std::vector<std::string>> linhas;
+    for (const auto& [nome, valor] : AItens)
+        linhas.push_back({BuscarTitulo(nome), valor ? ParaATela(*valor, CMaiorTexto) : "-"});
+    return EscreverTabela(linhas, 2);
+}
+
+void EscreverItensJson(std::string& ASaida, const std::vector<TRetratoDoSistema::TItem>& AItens) {
+    ASaida += '{';
+    for (const auto& [nome, valor] : AItens) {
+        if (ASaida.back() != '{') ASaida += ',';
+        EscreverTextoJson(ASaida, std::string_view(nome));
+        ASaida += ':';
+        if (valor)
+            EscreverTextoJson(ASaida, *valor);
+        else
+            ASaida += "null";
+    }
+    ASaida += '}';
+}
+
+}  // namespace
+
+void DescreverSistema(CLI::App& AComando, TPedidoDeSistema& APedido) {
+    AComando.add_flag("--json", APedido.Json, "em JSON, espaços em bytes");
+    AComando.footer("Saída do programa: 0 certo, 1 faltou alguma resposta do sistema.");
+}
+
+TRetratoDoSistema TirarRetrato() {
+    TRetratoDoSistema retrato;
+    Perguntar(CMaquina, retrato.Maquina, retrato);
+    for (const std::u16string& unidade : S::BuscarListaDrivesComputador()) {
+        const auto disco = S::BuscarInformacoesDiscoRigido(unidade, OryUtils::fbBytes);
+        retrato.Discos.push_back({unidade, disco->NomeVolume, disco->EspacoTotal, disco->EspacoLivre});
+    }
+    Perguntar(CPastas, retrato.Pastas, retrato);
+    return retrato;
+}
+
+std::string EscreverRetrato(const TRetratoDoSistema& ARetrato) {
+    std::vector<std::vector<std::string>> discos{{"Unidade", "Volume", "Total", "Livre", "Usado"}};
+    for (const TRetratoDoSistema::TDisco& disco : ARetrato.Discos)
+        discos.push_back({ParaATela(disco.Unidade, CMaiorTexto), ParaATela(disco.Volume, CMaiorTexto),
+                          EscreverEspaco(disco.Total), EscreverEspaco(disco.Livre),
+                          EscreverEspaco(disco.Total - disco.Livre)});
+    return EscreverItens(ARetrato.Maquina) + "\n" + EscreverTabela(discos, 2) + "\n" + EscreverItens(ARetrato.Pastas);
+}
+
+std::string EscreverRetratoJson(const TRetratoDoSistema& ARetrato) {
+    std::string saida = R"({"maquina":)";
+    EscreverItensJson(saida, ARetrato.Maquina);
+    saida += R"(,"discos":[)";
+    for (const TRetratoDoSistema::TDisco& disco : ARetrato.Discos) {
+        if (saida.back() != '[') saida += ',';
+        saida += R"({"unidade":)";
+        EscreverTextoJson(saida, disco.Unidade);
+        saida += R"(,"volume":)";
+        EscreverTextoJson(saida, disco.Volume);
+        saida += R"(,"total":)" + std::to_string(disco.Total) + R"(,"livre":)" + std::to_string(disco.Livre) + "}";
+    }
+    saida += R"(],"pastas":)";
+    EscreverItensJson(saida, ARetrato.Pastas);
+    return saida + "}";
+}
+
+int MostrarSistema(const TPedidoDeSistema& APedido, TAmbiente& AAmbiente) {
+    const TRetratoDoSistema retrato = TirarRetrato();
+    AAmbiente.Saida.Escrever(APedido.Json ? EscreverRetratoJson(retrato) + "\n" : EscreverRetrato(retrato));
+    for (const std::u16string& erro : retrato.Erros) AAmbiente.Erro.Escrever(OryUtils::ParaUtf8(erro) + "\n");
+    return retrato.Erros.empty() ? stTudoCerto : stInvalido;
+}
+
+}  // namespace Ory
