@@ -1,5 +1,6 @@
 #include "sistema/Sistema.hpp"
 
+#include "oryutils/runtime/Utf.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 
 #include "Apoio.hpp"

@@ -69,7 +69,7 @@ TEST(ArpDoSistema, EnderecoMacNoTexto) {
         {u"ab-", u"AB-", "the text ends early"},
         {u"Data-base", u"TA-BASE", "any two characters, letters too"},
         {u"1 a-\r\n-b-\r\nxy-z", u"XY-Z", "a blank and a hyphen are no half; lines are parted"},
-        {u"00-1a-2b-3c     12345", u"00-1A-2B-3C", "blanks at the end of the seventeen"},
+        {u"00-1a-2b-3c      12345", u"00-1A-2B-3C", "blanks at the end of the seventeen"},
         {u"00-1a\r\n2b-3c", u"00-1A\r\n2B-3C", "the seventeen go on over the line end"},
         {u"00-1a-2b-3c-4d-5e-6f", u"00-1A-2B-3C-4D-5E", "and no further"},
     };

@@ -1,8 +1,8 @@
 // The machine's facts beside what the system itself says, and keys seen by a real window.
 #include "oryutils/platform/Pastas.hpp"
 #include "oryutils/platform/windows/Windows.hpp"
+#include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
-#include "oryutils/system/interno/VersaoDoWindows.hpp"
 
 #include "text/Apoio.hpp"
 
@@ -28,13 +28,14 @@ TEST(MaquinaWindows, NomesEVersao) {
     OSVERSIONINFOW versao{};
     versao.dwOSVersionInfoSize = sizeof versao;
     ASSERT_TRUE(::GetVersionExW(&versao));
-    const TVersaoWindows esperada = versao.dwMajorVersion == 6 ? vwWinVista : vwUnknown;
-    if (versao.dwMajorVersion >= 6) EXPECT_EQ(GetWindowsVersion(), esperada) << versao.dwMajorVersion;
+    ASSERT_GE(versao.dwMajorVersion, 6u) << "older than the compiler allows";
+    EXPECT_EQ(GetWindowsVersion(), versao.dwMajorVersion == 6 ? vwWinVista : vwUnknown) << versao.dwMajorVersion;
 }
 
 TEST(MaquinaWindows, Enderecos) {
     const std::u16string local = S::BuscarIPLocal();
-    EXPECT_EQ(S::BuscarIPPeloNomeComputador(S::BuscarNomeComputador()), local);
+    EXPECT_EQ(S::BuscarIPPeloNomeComputador(u""), local) << "the empty name is this machine";
+    EXPECT_NE(S::BuscarIPPeloNomeComputador(S::BuscarNomeComputador()), u"");
     EXPECT_EQ(S::BuscarIPPeloNomeComputador(u"127.0.0.3"), u"127.0.0.3");
     EXPECT_EQ(S::BuscarIPPeloNomeComputador(std::u16string(1000, u'x')), u"");
     EXPECT_TRUE(S::EhIPLocal(local, false));
