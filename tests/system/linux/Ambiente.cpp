@@ -10,7 +10,10 @@ std::string BuscarVariavel(const std::string& ANome) {
 }
 
 void DefinirVariavel(const std::string& ANome, const std::string& AValor) {
-    ::setenv(ANome.c_str(), AValor.c_str(), 1);
+    if (AValor.empty())
+        ::unsetenv(ANome.c_str());
+    else
+        ::setenv(ANome.c_str(), AValor.c_str(), 1);
 }
 
 }  // namespace Testes

@@ -12,7 +12,7 @@ std::string BuscarVariavel(const std::string& ANome) {
 }
 
 void DefinirVariavel(const std::string& ANome, const std::string& AValor) {
-    ::SetEnvironmentVariableA(ANome.c_str(), AValor.c_str());
+    ::SetEnvironmentVariableA(ANome.c_str(), AValor.empty() ? nullptr : AValor.c_str());
 }
 
 }  // namespace Testes
