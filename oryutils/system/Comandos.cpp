@@ -2,7 +2,6 @@
 #include "oryutils/platform/Processos.hpp"
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
-#include "oryutils/system/interno/Executor.hpp"
 #include "oryutils/system/interno/SaidaDeComando.hpp"
 
 #include <array>
@@ -40,22 +39,31 @@ void LerSaida(TProcessoCapturado& AProcesso, Sistema::TSaidaDeComando& ASaida) {
     ASaida.FecharParte();
 }
 
-}  // namespace
-
-void TOryUtilsSistema::ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando,
-                                                 std::vector<std::u16string>& ASaida) {
+void Executar(std::u16string_view ALinhaDeComando, Sistema::TDestinoDaSaida& ADestino) {
     const std::unique_ptr<TProcessoCapturado> processo = TProcessoCapturado::Iniciar(ALinhaDeComando);
     if (!processo) return;
     Plataforma::TDecodificadorAnsi decodificador;
-    Sistema::TSaidaDeComando saida(ASaida, [&](std::string_view ABytes) { return decodificador.Decodificar(ABytes); });
+    Sistema::TSaidaDeComando saida(ADestino,
+                                   [&](std::string_view ABytes) { return decodificador.Decodificar(ABytes); });
     LerSaida(*processo, saida);
     while (Plataforma::EsperarProcesso(processo->GetProcesso(), Plataforma::CEsperaSemLimite, true) !=
            Plataforma::epTerminou)
         ProcessarMensagens();
 }
 
+}  // namespace
+
+void TOryUtilsSistema::ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando,
+                                                 std::vector<std::u16string>& ASaida) {
+    Sistema::TSaidaEmLista lista(ASaida);
+    Executar(ALinhaDeComando, lista);
+}
+
 std::u16string TOryUtilsSistema::ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando) {
-    return Sistema::BuscarTextoDoComando(Sistema::ExecutorDoSistema(), ALinhaDeComando);
+    std::u16string texto;
+    Sistema::TSaidaEmTexto destino(texto);
+    Executar(ALinhaDeComando, destino);
+    return texto;
 }
 
 std::unique_ptr<TOryUtilsSystemDadosRetornoProcessoIOP> TOryUtilsSistema::CriarProcesso(

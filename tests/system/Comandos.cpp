@@ -73,7 +73,8 @@ TEST(Comandos, CemMegabytes) {
     std::string bloco;
     while (bloco.size() < 64000) bloco += std::string(999, static_cast<char>('a' + bloco.size() / 1000 % 26)) + '\n';
     TLinhas esperado;
-    Sistema::TSaidaDeComando saida(esperado, [](std::string_view) { return std::u16string(); });
+    Sistema::TSaidaEmLista lista(esperado);
+    Sistema::TSaidaDeComando saida(lista, [](std::string_view) { return std::u16string(); });
     for (std::size_t resto = CBytes; resto > 0; resto -= std::min(resto, bloco.size()))
         saida.Receber(std::string_view(bloco).substr(0, resto));
     saida.FecharParte();

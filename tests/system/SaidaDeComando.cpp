@@ -82,7 +82,12 @@ TEST(SaidaDeComando, IgualAoLacoDe255BytesQueJuntaTudoDeNovo) {
         while (saida.size() < tamanho) saida += so_brancos ? pedacos[2 + ate(6)] : pedacos[ate(variedade)];
         TLinhas esperado = iniciais[ate(std::size(iniciais) - 1)];
         TLinhas obtido = esperado;
-        TSaidaDeComando alvo(obtido, [](std::string_view ABytes) { return DeUtf8(ABytes); });
+        TSaidaEmLista lista(obtido);
+        TSaidaDeComando alvo(lista, [](std::string_view ABytes) { return DeUtf8(ABytes); });
+        std::u16string texto = JuntarLinhas(obtido);
+        TSaidaEmTexto destino(texto);
+        TSaidaDeComando em_texto(destino, [](std::string_view ABytes) { return DeUtf8(ABytes); });
+        const bool vazia = obtido.empty();
         // Several outputs with pauses in between, each handed over in pieces.
         for (std::string_view resto = saida; !resto.empty();) {
             std::string_view parte = resto.substr(0, 1 + ate(900));
@@ -91,11 +96,14 @@ TEST(SaidaDeComando, IgualAoLacoDe255BytesQueJuntaTudoDeNovo) {
             while (!parte.empty()) {
                 const std::size_t bytes = std::min(1 + ate(400), parte.size());
                 alvo.Receber(parte.substr(0, bytes));
+                em_texto.Receber(parte.substr(0, bytes));
                 parte.remove_prefix(bytes);
             }
             alvo.FecharParte();
+            em_texto.FecharParte();
         }
         ASSERT_EQ(obtido, esperado) << "seed " << semente << ", round " << rodada;
+        if (vazia) ASSERT_EQ(texto, JuntarLinhas(esperado)) << "seed " << semente << ", round " << rodada;
     }
 }
 

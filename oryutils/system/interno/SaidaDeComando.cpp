@@ -1,5 +1,6 @@
 #include "oryutils/system/interno/SaidaDeComando.hpp"
 
+#include "oryutils/platform/Memoria.hpp"
 #include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/Utf.hpp"
 #include "oryutils/system/interno/Executor.hpp"
@@ -7,6 +8,8 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <exception>
+#include <utility>
 
 namespace OryUtils::Sistema {
 namespace {
@@ -25,21 +28,89 @@ void PercorrerLinhas(std::u16string_view ATexto, TAcao AAcao) {
     }
 }
 
-// Widens ABytes while they are ASCII; false when one is not. Eight at a time, as the compiler makes of it.
-bool AlargarAscii(std::string_view ABytes, char16_t* ADestino) {
-    unsigned char todos = 0;
-    for (std::size_t i = 0; i < ABytes.size(); ++i) {
-        const auto byte = static_cast<unsigned char>(ABytes[i]);
-        todos |= byte;
-        ADestino[i] = byte;
+constexpr std::size_t CBloco = 16;
+/// A chunk and its text, with room for whole blocks.
+constexpr std::size_t CEspaco = (TSaidaDeComando::CTamanhoDaParte + CBloco - 1) / CBloco * CBloco;
+
+// Widens CEspaco bytes a block at a time, which the compiler turns into few instructions; false when one is not ASCII.
+bool AlargarAscii(const std::array<char, CEspaco>& ABytes, std::array<char16_t, CEspaco>& ATexto) {
+    std::array<unsigned char, CBloco> todos{};
+    for (std::size_t bloco = 0; bloco < CEspaco; bloco += CBloco)
+        for (std::size_t i = 0; i < CBloco; ++i) {
+            const auto byte = static_cast<unsigned char>(ABytes[bloco + i]);
+            todos[i] = static_cast<unsigned char>(todos[i] | byte);
+            ATexto[bloco + i] = byte;
+        }
+    return std::ranges::all_of(todos, [](unsigned char AByte) { return AByte < 0x80; });
+}
+
+// As PercorrerLinhas, with the line feeds looked up among the bytes of the text, which is quicker.
+template <typename TAcao>
+void PercorrerLinhasAscii(const char* ABytes, std::u16string_view ATexto, TAcao AAcao) {
+    while (const void* quebra = std::memchr(ABytes, '\n', ATexto.size())) {
+        const auto tamanho = static_cast<std::size_t>(static_cast<const char*>(quebra) - ABytes);
+        const bool com_retorno = tamanho > 0 && ABytes[tamanho - 1] == '\r';
+        const std::size_t linha = com_retorno ? tamanho - 1 : tamanho;
+        if (std::memchr(ABytes, '\r', linha))
+            PercorrerLinhas(ATexto.substr(0, linha), AAcao);
+        else
+            AAcao(ATexto.substr(0, linha));
+        ABytes += tamanho + 1;
+        ATexto.remove_prefix(tamanho + 1);
     }
-    return todos < 0x80;
+    if (std::memchr(ABytes, '\r', ATexto.size()))
+        PercorrerLinhas(ATexto, AAcao);
+    else
+        AAcao(ATexto);
 }
 
 }  // namespace
 
-TSaidaDeComando::TSaidaDeComando(std::vector<std::u16string>& ALinhas, TDecodificador ADecodificador)
-    : FLinhas(ALinhas), FDecodificador(std::move(ADecodificador)) {
+void TSaidaEmLista::Continuar(std::u16string_view ATexto) {
+    Abrir();
+    if (FLinhas.empty())
+        FLinhas.emplace_back(ATexto);
+    else
+        FLinhas.back().append(ATexto);
+}
+
+// A list does not tell a text that ends with a line break from one that does not: setting it drops the break.
+void TSaidaEmLista::ParteVazia() {
+    Abrir();
+    if (!FLinhas.empty() && FLinhas.back().empty()) FLinhas.pop_back();
+}
+
+void TSaidaEmLista::Abrir() {
+    if (std::exchange(FAberta, true)) return;
+    const auto possui_quebra = [](const std::u16string& ALinha) { return std::ranges::any_of(ALinha, EhQuebra); };
+    if (std::ranges::none_of(FLinhas, possui_quebra)) return;
+    std::vector<std::u16string> linhas;
+    PercorrerLinhas(JuntarLinhas(FLinhas), [&](std::u16string_view ALinha) { linhas.emplace_back(ALinha); });
+    FLinhas = std::move(linhas);
+}
+
+void TSaidaEmTexto::Continuar(std::u16string_view ATexto) {
+    ReservarParaParte();
+    FTexto.append(ATexto);
+}
+
+void TSaidaEmTexto::ReservarParaParte() {
+    constexpr std::size_t CMaiorParte = 3 * TSaidaDeComando::CTamanhoDaParte;  // all of it line breaks
+    constexpr std::size_t CTextoLongo = 1 << 20;
+    if (FTexto.capacity() < CTextoLongo || FTexto.capacity() - FTexto.size() >= CMaiorParte) return;
+    std::u16string maior;
+    try {
+        maior.reserve(FTexto.capacity() * Plataforma::BuscarFatorDeCrescimento());
+    } catch (const std::exception&) {
+        return;  // it grows as far as it needs to
+    }
+    Plataforma::AnunciarPreenchimento(maior.data(), maior.capacity() * sizeof(char16_t));
+    maior.append(FTexto);
+    FTexto.swap(maior);
+}
+
+TSaidaDeComando::TSaidaDeComando(TDestinoDaSaida& ADestino, TDecodificador ADecodificador)
+    : FDestino(ADestino), FDecodificador(std::move(ADecodificador)) {
     FResto.reserve(CTamanhoDaParte);
 }
 
@@ -62,43 +133,32 @@ void TSaidaDeComando::FecharParte() {
 
 void TSaidaDeComando::ReceberParte(std::string_view ABytes) {
     ABytes = ABytes.substr(0, ABytes.find('\0'));
-    std::array<char16_t, CTamanhoDaParte> ascii;
-    if (AlargarAscii(ABytes, ascii.data()))
-        AnexarAparado(Aparar({ascii.data(), ABytes.size()}));
-    else
-        AnexarAparado(Aparar(FDecodificador(ABytes)));
-}
-
-void TSaidaDeComando::AnexarAparado(std::u16string_view ATexto) {
-    if (!FAberta) AbrirLinhas();
-    if (ATexto.empty()) {
-        // A list does not tell a text that ends with a line break from one that does not: reading it drops the break.
-        if (!FLinhas.empty() && FLinhas.back().empty()) FLinhas.pop_back();
-        return;
-    }
     bool primeira = true;
-    PercorrerLinhas(ATexto, [&](std::u16string_view ALinha) {
-        if (primeira && !FLinhas.empty())
-            FLinhas.back().append(ALinha);
+    const auto anexar = [&](std::u16string_view ALinha) {
+        if (std::exchange(primeira, false))
+            FDestino.Continuar(ALinha);
         else
-            FLinhas.emplace_back(ALinha);
-        primeira = false;
-    });
-}
-
-// Line breaks inside the caller's items count from the first chunk on.
-void TSaidaDeComando::AbrirLinhas() {
-    FAberta = true;
-    const auto possui_quebra = [](const std::u16string& ALinha) { return std::ranges::any_of(ALinha, EhQuebra); };
-    if (std::ranges::none_of(FLinhas, possui_quebra)) return;
-    std::vector<std::u16string> linhas;
-    PercorrerLinhas(JuntarLinhas(FLinhas), [&](std::u16string_view ALinha) { linhas.emplace_back(ALinha); });
-    FLinhas = std::move(linhas);
+            FDestino.NovaLinha(ALinha);
+    };
+    std::array<char, CEspaco> bytes{};
+    std::array<char16_t, CEspaco> texto;
+    std::memcpy(bytes.data(), ABytes.data(), ABytes.size());
+    if (AlargarAscii(bytes, texto)) {
+        const std::u16string_view aparado = Aparar({texto.data(), ABytes.size()});
+        if (aparado.empty()) return FDestino.ParteVazia();
+        PercorrerLinhasAscii(bytes.data() + (aparado.data() - texto.data()), aparado, anexar);
+    } else {
+        const std::u16string decodificado = FDecodificador(ABytes);
+        const std::u16string_view aparado = Aparar(decodificado);
+        if (aparado.empty()) return FDestino.ParteVazia();
+        PercorrerLinhas(aparado, anexar);
+    }
 }
 
 std::vector<std::u16string> LinhasDaSaidaDeComando(std::string_view ABytes) {
     std::vector<std::u16string> linhas;
-    TSaidaDeComando saida(linhas, [](std::string_view AParte) { return DeUtf8(AParte); });
+    TSaidaEmLista lista(linhas);
+    TSaidaDeComando saida(lista, [](std::string_view AParte) { return DeUtf8(AParte); });
     saida.Receber(ABytes);
     saida.FecharParte();
     return linhas;

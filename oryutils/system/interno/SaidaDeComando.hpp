@@ -9,6 +9,46 @@
 
 namespace OryUtils::Sistema {
 
+/// Where the lines of a command's output go.
+class TDestinoDaSaida {
+public:
+    virtual ~TDestinoDaSaida() = default;
+    /// Goes on with the last line, or begins the first one.
+    virtual void Continuar(std::u16string_view ATexto) = 0;
+    virtual void NovaLinha(std::u16string_view ATexto) = 0;
+    /// A chunk of which nothing was left.
+    virtual void ParteVazia() = 0;
+};
+
+/// Goes on with the lines of a list, which must outlive this.
+class TSaidaEmLista final : public TDestinoDaSaida {
+public:
+    explicit TSaidaEmLista(std::vector<std::u16string>& ALinhas) : FLinhas(ALinhas) {}
+    void Continuar(std::u16string_view ATexto) override;
+    void NovaLinha(std::u16string_view ATexto) override { FLinhas.emplace_back(ATexto); }
+    void ParteVazia() override;
+
+private:
+    void Abrir();
+
+    std::vector<std::u16string>& FLinhas;
+    bool FAberta = false;  // line breaks inside the caller's items have become lines
+};
+
+/// One text, with CR LF between the lines.
+class TSaidaEmTexto final : public TDestinoDaSaida {
+public:
+    explicit TSaidaEmTexto(std::u16string& ATexto) : FTexto(ATexto) {}
+    void Continuar(std::u16string_view ATexto) override;
+    void NovaLinha(std::u16string_view ATexto) override { FTexto.append(u"\r\n").append(ATexto); }
+    void ParteVazia() override {}
+
+private:
+    void ReservarParaParte();
+
+    std::u16string& FTexto;
+};
+
 /// What a command prints, taken in chunks of 255 bytes. Each chunk ends at its first zero byte, is turned into text by
 /// itself and trimmed; the list's text, its lines with CR LF between them, becomes the old text followed by the chunk.
 /// The text is never put together again for that: all chunks cost time linear in their bytes.
@@ -18,25 +58,20 @@ public:
     static constexpr std::size_t CTamanhoDaParte = 255;
     using TDecodificador = std::function<std::u16string(std::string_view)>;
 
-    /// Appends to ALinhas, which must outlive this. ADecodificador reads the chunks that are not plain ASCII.
-    TSaidaDeComando(std::vector<std::u16string>& ALinhas, TDecodificador ADecodificador);
+    /// ADecodificador reads the chunks that are not plain ASCII.
+    TSaidaDeComando(TDestinoDaSaida& ADestino, TDecodificador ADecodificador);
 
     /// Takes the whole chunks of what is left from before and ABytes; the rest is kept for what comes next.
     void Receber(std::string_view ABytes);
     /// The producer has paused or ended: what was kept is a chunk of its own.
     void FecharParte();
-    /// Whether something is kept.
-    bool PossuiResto() const noexcept { return !FResto.empty(); }
 
 private:
     void ReceberParte(std::string_view ABytes);
-    void AnexarAparado(std::u16string_view ATexto);
-    void AbrirLinhas();
 
-    std::vector<std::u16string>& FLinhas;
+    TDestinoDaSaida& FDestino;
     TDecodificador FDecodificador;
     std::string FResto;
-    bool FAberta = false;  // the last line of the list is the one that the next chunk goes on with
 };
 
 /// The lines of what a command printed at once, its bytes being UTF-8.

@@ -1,0 +1,160 @@
+// Commands and processes beside what one would write by hand: the start of the program true beside popen (by its path:
+// to the shell, "true" is no program), also with 1 GiB in use;
+// 100 MB of output, text included, beside a bare loop of reads of 255 bytes; the list of 1,000 processes beside ps -e.
+
+#include "oryutils/system/OryUtilsSystem.hpp"
+
+#include <benchmark/benchmark.h>
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <spawn.h>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+using OryUtils::TOryUtilsSistema;
+
+constexpr std::size_t CMegabytes = 100;
+
+/// 1 GiB, every page of it touched.
+class TMemoria {
+public:
+    TMemoria() : FMemoria(std::size_t{1} << 30, 'x') { benchmark::DoNotOptimize(FMemoria.data()); }
+
+private:
+    std::vector<char> FMemoria;
+};
+
+/// 100 MB of text lines in a file of the memory disk.
+class TArquivo {
+public:
+    TArquivo() {
+        std::FILE* arquivo = std::fopen(FNome, "wb");
+        const std::string linha = "  Interface: 192.168.0.10 --- 0x4   00-1a-2b-3c-4d-5e     dinamico   sala 3 \r\n";
+        for (std::size_t i = 0; i < CMegabytes * 1'000'000 / linha.size(); ++i) std::fputs(linha.c_str(), arquivo);
+        std::fclose(arquivo);
+    }
+    ~TArquivo() { std::remove(FNome); }
+    TArquivo(const TArquivo&) = delete;
+    TArquivo& operator=(const TArquivo&) = delete;
+    static constexpr const char* FNome = "/dev/shm/ory_bench_saida";
+    static constexpr const char* FComando = "cat /dev/shm/ory_bench_saida";
+};
+
+/// 1,000 processes that do nothing.
+class TMilProcessos {
+public:
+    TMilProcessos() {
+        char programa[] = "sleep";
+        char tempo[] = "600";
+        char* argumentos[] = {programa, tempo, nullptr};
+        for (int i = 0; i < 1000; ++i) {
+            pid_t pid = 0;
+            if (::posix_spawnp(&pid, programa, nullptr, nullptr, argumentos, environ) == 0) FFilhos.push_back(pid);
+        }
+    }
+    ~TMilProcessos() {
+        for (const pid_t pid : FFilhos) ::kill(pid, SIGKILL);
+        for (const pid_t pid : FFilhos) ::waitpid(pid, nullptr, 0);
+    }
+    TMilProcessos(const TMilProcessos&) = delete;
+    TMilProcessos& operator=(const TMilProcessos&) = delete;
+
+private:
+    std::vector<pid_t> FFilhos;
+};
+
+void IniciarPelaBiblioteca(benchmark::State& AEstado) {
+    std::vector<std::u16string> linhas;
+    for (auto _ : AEstado) TOryUtilsSistema::ExecutarComandoComRetorno(u"/bin/true", linhas);
+    AEstado.SetItemsProcessed(AEstado.iterations());
+}
+
+void IniciarPorPopen(benchmark::State& AEstado) {
+    char linha[256];
+    for (auto _ : AEstado) {
+        std::FILE* comando = ::popen("/bin/true", "r");
+        while (std::fgets(linha, sizeof linha, comando)) {
+        }
+        ::pclose(comando);
+    }
+    AEstado.SetItemsProcessed(AEstado.iterations());
+}
+
+void Iniciar_Biblioteca(benchmark::State& AEstado) { IniciarPelaBiblioteca(AEstado); }
+void Iniciar_Popen(benchmark::State& AEstado) { IniciarPorPopen(AEstado); }
+void IniciarCom1GiB_Biblioteca(benchmark::State& AEstado) {
+    const TMemoria memoria;
+    IniciarPelaBiblioteca(AEstado);
+}
+void IniciarCom1GiB_Popen(benchmark::State& AEstado) {
+    const TMemoria memoria;
+    IniciarPorPopen(AEstado);
+}
+
+void Capturar_Biblioteca(benchmark::State& AEstado) {
+    const TArquivo arquivo;
+    const std::string comando = TArquivo::FComando;
+    for (auto _ : AEstado)
+        benchmark::DoNotOptimize(
+            TOryUtilsSistema::ExecutarComandoComRetorno(std::u16string(comando.begin(), comando.end())));
+    AEstado.SetItemsProcessed(AEstado.iterations());
+}
+
+void CapturarEmLista_Biblioteca(benchmark::State& AEstado) {
+    const TArquivo arquivo;
+    const std::string comando = TArquivo::FComando;
+    for (auto _ : AEstado) {
+        std::vector<std::u16string> linhas;
+        TOryUtilsSistema::ExecutarComandoComRetorno(std::u16string(comando.begin(), comando.end()), linhas);
+        benchmark::DoNotOptimize(linhas.data());
+    }
+    AEstado.SetItemsProcessed(AEstado.iterations());
+}
+
+// The bytes are read and forgotten.
+void CapturarPorRead255(benchmark::State& AEstado) {
+    const TArquivo arquivo;
+    char parte[255];
+    for (auto _ : AEstado) {
+        std::FILE* comando = ::popen(TArquivo::FComando, "r");
+        while (::read(::fileno(comando), parte, sizeof parte) > 0) benchmark::DoNotOptimize(parte);
+        ::pclose(comando);
+    }
+    AEstado.SetItemsProcessed(AEstado.iterations());
+}
+void Capturar_Read255(benchmark::State& AEstado) { CapturarPorRead255(AEstado); }
+void CapturarEmLista_Read255(benchmark::State& AEstado) { CapturarPorRead255(AEstado); }
+
+void ListarMil_Biblioteca(benchmark::State& AEstado) {
+    const TMilProcessos processos;
+    for (auto _ : AEstado) benchmark::DoNotOptimize(TOryUtilsSistema::BuscarListaDeProcessosWindows(u""));
+    AEstado.SetItemsProcessed(AEstado.iterations());
+}
+
+void ListarMil_PsE(benchmark::State& AEstado) {
+    const TMilProcessos processos;
+    for (auto _ : AEstado) benchmark::DoNotOptimize(std::system("ps -e >/dev/null"));
+    AEstado.SetItemsProcessed(AEstado.iterations());
+}
+
+BENCHMARK(Iniciar_Biblioteca)->UseRealTime();
+BENCHMARK(Iniciar_Popen)->UseRealTime();
+BENCHMARK(IniciarCom1GiB_Biblioteca)->UseRealTime();
+BENCHMARK(IniciarCom1GiB_Popen)->UseRealTime();
+BENCHMARK(Capturar_Biblioteca)->UseRealTime();
+BENCHMARK(Capturar_Read255)->UseRealTime();
+BENCHMARK(CapturarEmLista_Biblioteca)->UseRealTime();
+BENCHMARK(CapturarEmLista_Read255)->UseRealTime();
+BENCHMARK(ListarMil_Biblioteca)->UseRealTime();
+BENCHMARK(ListarMil_PsE)->UseRealTime();
+
+}  // namespace
+
+BENCHMARK_MAIN();

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cstddef>
+
+namespace OryUtils::Plataforma {
+
+/// Tells the system that a long piece of memory is about to be filled from one end to the other. A wish: nothing
+/// depends on it but the time that filling takes.
+void AnunciarPreenchimento(void* AInicio, std::size_t ABytes) noexcept;
+
+/// How many times as much a long text may ask for when it has to grow: much where the system gives memory only once it
+/// is filled, so that the text seldom moves; little where what is asked for counts at once.
+std::size_t BuscarFatorDeCrescimento() noexcept;
+
+}  // namespace OryUtils::Plataforma

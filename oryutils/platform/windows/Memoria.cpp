@@ -1,0 +1,9 @@
+#include "oryutils/platform/Memoria.hpp"
+
+namespace OryUtils::Plataforma {
+
+void AnunciarPreenchimento(void*, std::size_t) noexcept {}
+
+std::size_t BuscarFatorDeCrescimento() noexcept { return 2; }
+
+}  // namespace OryUtils::Plataforma
