@@ -103,7 +103,9 @@ TEST(SaidaDeComando, IgualAoLacoDe255BytesQueJuntaTudoDeNovo) {
             em_texto.FecharParte();
         }
         ASSERT_EQ(obtido, esperado) << "seed " << semente << ", round " << rodada;
-        if (vazia) ASSERT_EQ(texto, JuntarLinhas(esperado)) << "seed " << semente << ", round " << rodada;
+        if (vazia) {
+            ASSERT_EQ(texto, JuntarLinhas(esperado)) << "seed " << semente << ", round " << rodada;
+        }
     }
 }
 
