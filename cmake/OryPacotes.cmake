@@ -26,13 +26,13 @@ set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/oryutils)
 set(exata "(= ${PROJECT_VERSION})")
 
-# ory_pacote(componente nome secao resumo detalhe [dependencias])
-macro(ory_pacote componente nome secao resumo detalhe)
+# ory_pacote(componente nome secao descricao [dependencias])     the one line above the description is the project's
+macro(ory_pacote componente nome secao descricao)
   string(TOUPPER ${componente} maiusculo)
   list(APPEND CPACK_COMPONENTS_ALL ${componente})
   set(CPACK_DEBIAN_${maiusculo}_PACKAGE_NAME ${nome})
   set(CPACK_DEBIAN_${maiusculo}_PACKAGE_SECTION ${secao})
-  set(CPACK_DEBIAN_${maiusculo}_DESCRIPTION "${resumo}\n${detalhe}")
+  set(CPACK_DEBIAN_${maiusculo}_DESCRIPTION "${descricao}")
   set(CPACK_DEBIAN_${maiusculo}_PACKAGE_DEPENDS "${ARGN}")
   # The documents of a package stand where Debian looks for them.
   install(FILES ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md
@@ -40,23 +40,23 @@ macro(ory_pacote componente nome secao resumo detalhe)
 endmacro()
 
 set(CPACK_COMPONENTS_ALL)
-ory_pacote(bibliotecas liboryutils${ORY_ABI} libs "${PROJECT_DESCRIPTION}"
+ory_pacote(bibliotecas liboryutils${ORY_ABI} libs
   "Text, dates, check digits of CPF, CNPJ and state registrations, amounts in\nwords, formulas, SQL filters, dialogs in Portuguese: the shared library, and\nits interface for C.")
 # The loader's list of libraries is made again when these come and go.
 set(CPACK_DEBIAN_BIBLIOTECAS_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/deb/triggers)
 set(CPACK_DEBIAN_QT_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/deb/triggers)
 set(CPACK_DEBIAN_BIBLIOTECAS_PACKAGE_SUGGESTS liboryutils-qt${ORY_ABI})
-ory_pacote(desenvolvimento liboryutils-dev libdevel "${PROJECT_DESCRIPTION} (development)"
-  "Headers, static library, CMake and pkg-config files." "liboryutils${ORY_ABI} ${exata}")
+ory_pacote(desenvolvimento liboryutils-dev libdevel
+  "For development: headers, static library, CMake and pkg-config files." "liboryutils${ORY_ABI} ${exata}")
 if(TARGET OryUtilsQt)
-  ory_pacote(qt liboryutils-qt${ORY_ABI} libs "${PROJECT_DESCRIPTION} (Qt 6 toolkit)"
-    "The dialogs of OryUtils on Qt 6 Widgets; loaded by programs that show some." "liboryutils${ORY_ABI} ${exata}")
-  ory_pacote(qt_desenvolvimento liboryutils-qt-dev libdevel "${PROJECT_DESCRIPTION} (Qt 6 toolkit, development)"
-    "Headers and CMake files of the Qt 6 toolkit."
+  ory_pacote(qt liboryutils-qt${ORY_ABI} libs
+    "Qt 6 toolkit: the dialogs of OryUtils on Qt 6 Widgets; loaded by programs\nthat show some." "liboryutils${ORY_ABI} ${exata}")
+  ory_pacote(qt_desenvolvimento liboryutils-qt-dev libdevel
+    "For development with Qt 6: headers and CMake files of the toolkit."
     "liboryutils-dev ${exata}, liboryutils-qt${ORY_ABI} ${exata}, qt6-base-dev")
 endif()
 if(TARGET ory)
-  ory_pacote(ferramentas oryutils-tools utils "${PROJECT_DESCRIPTION} (command)"
+  ory_pacote(ferramentas oryutils-tools utils
     "The command ory: checks the registry numbers of customer files and calls any\nvalue operation of OryUtils.")
 endif()
 include(CPack)
