@@ -131,7 +131,9 @@ public:
     static std::vector<std::u16string> BuscarListaIPLocalViaARP();
     /// The first of them, or empty.
     static std::u16string BuscarIPLocalViaARP();
-    /// MAC address of the machine of that address, "00-1a-2b-3c-4d-5e"; empty when not told.
+    /// MAC address of the machine of that address, "00-1a-2b-3c-4d-5e"; empty when not told. Two equal answers of
+    /// BuscarEnderecoMac2 stand, also when both are empty; otherwise the adapters and, for another machine,
+    /// BuscarEnderecoMacViaARP are asked. Raises as BuscarIPLocal.
     static std::u16string BuscarEnderecoMac(std::u16string_view AIP);
     /// The same by one question to the network.
     static std::u16string BuscarEnderecoMac2(std::u16string_view AIP);
@@ -147,7 +149,9 @@ public:
 
     // Disks.
 
-    /// Facts of a drive ("C"), amounts in the unit AFormato.
+    /// Facts of a drive, amounts in the unit AFormato; 0 and "Não identificado" for a drive that is missing or empty.
+    /// AUnidade  its letter, with or without ":" and what follows. (Linux) "C" is "/", "D" and on the other entries of
+    ///           BuscarListaDrivesComputador; a path that starts with "/" is accepted too
     static std::unique_ptr<TOryUtilsSystemInfoDiscoRigidoIOP> BuscarInformacoesDiscoRigido(std::u16string_view AUnidade,
                                                                                            TFormatoBytes AFormato);
     /// Free space of the drive in the unit AFormato.
@@ -157,19 +161,21 @@ public:
                                                    TFormatoBytes AFormato);
     /// ABytes divided by 1024 once per step of AFormato above fbBytes; what is left is dropped.
     static std::int64_t FormatarBytes(std::int64_t ABytes, TFormatoBytes AFormato);
-    /// Roots of the drives, "C:\".
+    /// Roots of the drives, "C:\". (Linux) Where disks and file servers are mounted, "/" first.
     static std::vector<std::u16string> BuscarListaDrivesComputador();
-    /// Number of a drive: A is 1, B is 2.
+    /// Number of a drive: A is 1, B is 2; 0 for what is no letter.
     static int BuscarIndiceUnidadeDisco(std::u16string_view AUnidade);
 
     // Keyboard and idle time.
 
-    /// Milliseconds since the user last touched keyboard or mouse.
+    /// Milliseconds since the user last touched keyboard or mouse. (Linux) As the X server tells; 0 without a display.
     static std::uint32_t BuscarTempoInatividadeSistema();
-    /// Presses and releases a key with the modifiers of AShift held.
+    /// Presses and releases a key with the modifiers of AShift held. (Linux) Through the X server's XTEST extension;
+    /// nothing happens without a display.
     /// ATecla  virtual-key code as on Windows;  ATeclaEstendida  with the flag of the extended keys
     static void SimularPressionamentoTecla(std::uint16_t ATecla, TShiftState AShift, bool ATeclaEstendida);
-    /// True when the key is down.
+    /// True when the key is down; the numbers of Shift, Ctrl and Alt mean the left and the right one. (Linux) False
+    /// without a display.
     static bool TeclaEstahPressionada(std::uint16_t ATecla);
 
     /// The variant's text as an integer, or APadrao when it is none.
