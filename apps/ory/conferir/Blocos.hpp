@@ -11,7 +11,8 @@
 namespace Ory {
 
 struct TLimites {
-    std::size_t Bloco = std::size_t{1} << 20;      // bytes read before a block is handed on
+    // Bytes read before a block is handed on: few enough to be still in the cache of the one who works on it.
+    std::size_t Bloco = std::size_t{256} << 10;
     std::size_t Registro = std::size_t{16} << 20;  // the longest record accepted
 };
 
