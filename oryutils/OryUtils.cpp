@@ -5,6 +5,7 @@
 #include "oryutils/files/OryUtilsFiles.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 #include "oryutils/registry_numbers/UnOryUtilsFormatacoes.hpp"
+#include "oryutils/system/OryUtilsRegistry.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
 #include "oryutils/text/UnOryUtilsMatematica.hpp"
@@ -29,11 +30,17 @@ constexpr TUnidade UnidadeDe() {
 
 // In starting order; they stop in the opposite one.
 constexpr std::array CUnidades{
-    UnidadeDe<GOryUtilsStrings>(),    UnidadeDe<GOryUtilsMatematica>(),
-    UnidadeDe<GOryUtilsDatas>(),      UnidadeDe<GOryUtilsSistema>(),
-    UnidadeDe<GOryUtilsValidacoes>(), UnidadeDe<GOryUtilsFormatacoes>(),
-    UnidadeDe<GOryUtilsControls>(),   UnidadeDe<GOryUtilsClasses>(),
-    UnidadeDe<GOryUtilsDialogs>(),    TUnidade{IniciarInterface, FinalizarInterface},
+    UnidadeDe<GOryUtilsStrings>(),
+    UnidadeDe<GOryUtilsMatematica>(),
+    UnidadeDe<GOryUtilsDatas>(),
+    UnidadeDe<GOryUtilsSistema>(),
+    UnidadeDe<GOryUtilsRegistro>(),
+    UnidadeDe<GOryUtilsValidacoes>(),
+    UnidadeDe<GOryUtilsFormatacoes>(),
+    UnidadeDe<GOryUtilsControls>(),
+    UnidadeDe<GOryUtilsClasses>(),
+    UnidadeDe<GOryUtilsDialogs>(),
+    TUnidade{IniciarInterface, FinalizarInterface},
 };
 
 // Not constinit: the mutex of mingw-w64 has no constant initializer.

@@ -66,6 +66,10 @@ public:
     const char* GetNomeDaClasse() const noexcept override { return "EVariantTypeCastError"; }
 };
 
+/// The message of the exception that a catch clause is handling: that of an Exception, what() of another one, and
+/// nothing for what is no std::exception.
+ORY_API std::u16string BuscarMensagemDaExcecaoAtual();
+
 /// Raises EAbort.
 [[noreturn]] ORY_API void Abort();
 

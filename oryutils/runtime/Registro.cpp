@@ -72,6 +72,7 @@ bool TRegistry::KeyExists(std::u16string_view AChave) const {
 }
 
 bool TRegistry::DeleteKey(std::u16string_view AChave) {
+    if (Plataforma::Interno::NormalizarCaminho(AChave).empty()) return Deu(Plataforma::erNomeInvalido);
     // The key above is opened by itself, so that its view of the registry holds for what is deleted.
     const std::u16string caminho = BuscarCaminhoCompleto(AChave);
     const std::size_t barra = caminho.rfind(u'\\');

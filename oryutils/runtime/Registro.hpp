@@ -53,7 +53,7 @@ public:
     /// Raises "Falha ao criar a chave %s".
     void CreateKey(std::u16string_view AChave);
     bool KeyExists(std::u16string_view AChave) const;
-    /// Deletes the key and all below it. False when it is missing or may not be deleted.
+    /// Deletes the key and all below it. False when it is missing or may not be deleted, and for the current key ("").
     bool DeleteKey(std::u16string_view AChave);
     bool ValueExists(std::u16string_view AValor) const;
     /// False when the value is missing or may not be deleted.

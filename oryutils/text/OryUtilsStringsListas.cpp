@@ -1,12 +1,10 @@
 // Lists, arrays and delimited text.
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/runtime/Utf.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
 #include "oryutils/text/interno/Busca.hpp"
 
 #include <algorithm>
-#include <exception>
 
 namespace OryUtils {
 namespace {
@@ -79,12 +77,8 @@ std::optional<std::vector<std::u16string>> TOryUtilsStrings::ConverterTextoComDe
     std::u16string_view ATexto, std::u16string_view ADelimitador) {
     try {
         return Dividir(ATexto, ADelimitador);
-    } catch (const Exception& falha) {
-        MostrarFalhaDaDivisao(falha.GetMensagem());
-    } catch (const std::exception& falha) {
-        MostrarFalhaDaDivisao(DeUtf8(falha.what()));
     } catch (...) {
-        MostrarFalhaDaDivisao({});
+        MostrarFalhaDaDivisao(BuscarMensagemDaExcecaoAtual());
     }
     return std::nullopt;
 }

@@ -50,7 +50,9 @@ private:
 
 // True when the last line of ATexto asks to go on in the next.
 bool TerminaEmEmenda(std::u16string_view ATexto) {
-    while (!ATexto.empty() && (EhEspaco(ATexto.back()) || EhFimDeLinha(ATexto.back()))) ATexto.remove_suffix(1);
+    if (ATexto.ends_with(u'\n')) ATexto.remove_suffix(1);
+    if (ATexto.ends_with(u'\r')) ATexto.remove_suffix(1);
+    while (!ATexto.empty() && EhEspaco(ATexto.back())) ATexto.remove_suffix(1);
     return ATexto.ends_with(u'\\');
 }
 

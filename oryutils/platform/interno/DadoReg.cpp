@@ -12,7 +12,7 @@ namespace {
 constexpr std::u16string_view CInteiro = u"dword:";
 constexpr std::u16string_view CBinario = u"hex:";
 constexpr std::u16string_view COutroTipo = u"hex(";
-constexpr std::size_t CMaiorColuna = 77;  // room for a comma and the backslash
+constexpr std::size_t CMaiorColuna = 76;  // room for a byte, its comma and the backslash
 constexpr std::size_t CMaisDigitos = 8;
 
 int ValorDoDigito(char16_t ACaractere) {

@@ -1,0 +1,122 @@
+// Any text of an exported registry file and any edit: what is written reads back, and all else stays as it was.
+#include "oryutils/platform/interno/ArquivoReg.hpp"
+
+#include "oryutils/platform/Caixa.hpp"
+#include "oryutils/platform/interno/NomesRegistro.hpp"
+#include "oryutils/platform/interno/Unidades.hpp"
+
+#include "Comum.hpp"
+
+#include <map>
+
+using namespace OryUtils;
+using Plataforma::TDadoRegistro;
+using Plataforma::Interno::TArquivoReg;
+
+namespace {
+
+using TConteudo = std::map<std::u16string, std::map<std::u16string, TDadoRegistro>>;
+
+// Every value of every key, by lower-case names.
+void Ler(const TArquivoReg& AArquivo, const std::u16string& AChave, TConteudo& AConteudo, int ANivel = 0) {
+    Fuzz::Exigir(AArquivo.ExisteChave(AChave));
+    auto& valores = AConteudo[MinusculaDe(AChave)];
+    for (const auto& nome : AArquivo.ListarValores(AChave)) {
+        const auto dado = AArquivo.Ler(AChave, nome);
+        Fuzz::Exigir(dado.has_value());
+        valores[MinusculaDe(nome)] = *dado;
+    }
+    if (ANivel < 6)
+        for (const auto& nome : AArquivo.ListarSubchaves(AChave))
+            Ler(AArquivo, AChave + u"\\" + nome, AConteudo, ANivel + 1);
+}
+
+const std::u16string CRaiz = u"HKEY_LOCAL_MACHINE";
+
+TConteudo LerTudo(const TArquivoReg& AArquivo) {
+    TConteudo conteudo;
+    Ler(AArquivo, CRaiz, conteudo);
+    return conteudo;
+}
+
+// Pieces that such files are made of, and any character.
+std::u16string MontarTexto(Fuzz::TEntrada& AEntrada) {
+    static constexpr std::u16string_view CPedacos[] = {u"\r\n",
+                                                       u"\n",
+                                                       u"[HKEY_LOCAL_MACHINE\\a]\r\n",
+                                                       u"[-HKEY_LOCAL_MACHINE\\a",
+                                                       u"\\b]\r\n",
+                                                       u"\"n\"=",
+                                                       u"@=",
+                                                       u"dword:",
+                                                       u"hex:",
+                                                       u"hex(7):",
+                                                       u"00,1",
+                                                       u",",
+                                                       u"\\\n",
+                                                       u"\\",
+                                                       u"\"",
+                                                       u"-\r\n",
+                                                       u"; x",
+                                                       u"[HKEY_LOCAL_MACHINE\\a\\b"};
+    std::u16string texto = u"Windows Registry Editor Version 5.00\r\n";
+    for (int n = AEntrada.Byte(); n > 0 && !AEntrada.Acabou(); --n) {
+        const std::uint8_t qual = AEntrada.Byte();
+        if (qual < 200)
+            texto += CPedacos[qual % std::size(CPedacos)];
+        else
+            texto += AEntrada.Texto(6);
+    }
+    return texto;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
+    static_cast<void>(TArquivoReg::DeBytes({reinterpret_cast<const char*>(ABytes), ATamanho}));
+    Fuzz::TEntrada entrada(ABytes, ATamanho);
+    auto arquivo = TArquivoReg::DeBytes("\xFF\xFE" + Plataforma::Interno::BytesDeUnidades(MontarTexto(entrada)));
+    if (!arquivo) return 0;
+    for (int passos = 0; passos < 4; ++passos) {
+        TConteudo esperado = LerTudo(*arquivo);
+        static constexpr std::u16string_view CChaves[] = {u"\\a", u"\\A\\b", u"", u"\\a\\b\\c", u"\\n"};
+        const std::u16string chave = CRaiz + std::u16string(CChaves[entrada.Byte() % std::size(CChaves)]);
+        std::u16string nome = entrada.Byte() % 2 ? u"N" : entrada.Texto(4);
+        if (!Plataforma::Interno::EhNomeDeValorValido(nome)) nome.clear();
+        const bool existia = esperado.contains(MinusculaDe(chave));
+        const auto acima = [&] {
+            for (std::size_t barra = chave.find(u'\\'); barra < chave.size(); barra = chave.find(u'\\', barra + 1))
+                esperado.try_emplace(MinusculaDe(chave.substr(0, barra)));
+            esperado.try_emplace(MinusculaDe(chave));
+        };
+        switch (entrada.Byte() % 4) {
+            case 0: {
+                TDadoRegistro dado{entrada.Byte() % 5u, {}};
+                for (int n = entrada.Byte() % 40; n > 0; --n) dado.Bytes += static_cast<char>(entrada.Byte());
+                arquivo->Gravar(chave, nome, dado);
+                acima();
+                esperado[MinusculaDe(chave)][MinusculaDe(nome)] = dado;
+                break;
+            }
+            case 1:
+                Fuzz::Exigir(arquivo->ExcluirValor(chave, nome) ==
+                             (existia && esperado[MinusculaDe(chave)].erase(MinusculaDe(nome)) == 1));
+                break;
+            case 2:
+                arquivo->CriarChave(chave);
+                acima();
+                break;
+            default:
+                Fuzz::Exigir(arquivo->ExcluirChave(chave) == (existia && chave != CRaiz));
+                if (chave != CRaiz)
+                    std::erase_if(esperado, [&](const auto& AItem) {
+                        return AItem.first == MinusculaDe(chave) || AItem.first.starts_with(MinusculaDe(chave) + u"\\");
+                    });
+        }
+        Fuzz::Exigir(LerTudo(*arquivo) == esperado);
+        // What was written is a file again.
+        const auto relido = TArquivoReg::DeBytes(arquivo->ParaBytes());
+        Fuzz::Exigir(relido && LerTudo(*relido) == esperado);
+    }
+    return 0;
+}

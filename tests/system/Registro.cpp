@@ -1,0 +1,293 @@
+// The settings of the registry: what is written is read back without the library (LerDoSistema).
+#include "oryutils/runtime/Caixa.hpp"
+#include "oryutils/runtime/Formatos.hpp"
+#include "oryutils/system/OryUtilsRegistry.hpp"
+#include "oryutils/system/interno/CotaObjetosGDI.hpp"
+
+#include "system/RegistroDeTeste.hpp"
+
+#include <bit>
+#include <random>
+
+using namespace OryUtils;
+using Teste::CChave;
+using Teste::LerDoSistema;
+using Teste::TRegistro;
+using Teste::TValorPreservado;
+
+namespace {
+
+using TLista = std::vector<std::u16string>;
+
+constexpr std::u16string_view CRun = u"Software\\Microsoft\\Windows\\CurrentVersion\\Run";
+constexpr std::u16string_view CAmbiente = u"SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Environment";
+constexpr std::u16string_view CGDI = u"Software\\Microsoft\\Windows NT\\CurrentVersion\\Windows";
+constexpr std::u16string_view CControle = u"SYSTEM\\CurrentControlSet\\Control";
+constexpr std::u16string_view CVariavel = u"ORYUTILS_TESTE_LISTA";
+
+void Falhou(const TResultStatus& AResultado, std::u16string_view AMensagem, const char* APorque) {
+    EXPECT_FALSE(AResultado.Status) << APorque;
+    EXPECT_EQ(AResultado.Mensagem, AMensagem) << APorque;
+}
+
+TEST_F(TRegistro, EscreveCadaTipoComoOSistemaOLe) {
+    enum TCor { cVerde, cAzul };
+    enum class TForma { Redonda };
+    const struct {
+        TValorRegistro Valor;
+        std::u16string_view Esperado;
+        const char* Porque;
+    } casos[] = {
+        {8080, u"dword:00001f90", "integer"},
+        {-1, u"dword:ffffffff", "negative integer"},
+        {std::int64_t{0x1'0000'0002}, u"dword:00000002", "64 bits taken as 32"},
+        {std::uint8_t{255}, u"dword:000000ff", "a byte is an integer, not a character"},
+        {1.5, u"hex:00,00,00,00,00,00,f8,3f", "double"},
+        {-0.25f, u"hex:00,00,00,00,00,00,d0,bf", "float"},
+        {1.5L, u"hex:00,00,00,00,00,00,f8,3f", "the extended float as a double"},
+        {TMoeda{125'000}, u"hex:00,00,00,00,00,00,29,40", "money is a floating kind: 12.5"},
+        {TDateTime(0.5), u"hex:00,00,00,00,00,00,e0,3f", "a date is a floating kind"},
+        {u"C:\\Arquivos \"x\"", u"\"C:\\\\Arquivos \\\"x\\\"\"", "text"},
+        {std::u16string(), u"\"\"", "empty text"},
+        {u"%PATH%;São João \xD83D\xDE00", u"\"%PATH%;São João \xD83D\xDE00\"", "never expandable"},
+        {u'ç', u"\"ç\"", "character"},
+        {'x', u"\"x\"", "8-bit character"},
+        {true, u"", "a Boolean is not written"},
+        {cAzul, u"", "an enumeration is not written"},
+        {TForma::Redonda, u"", "a scoped one neither"},
+        {TNulo(), u"", "null"},
+        {std::vector<Variant>{1, 2}, u"", "an array"},
+    };
+    TOryUtilsRegistro registro;
+    for (const auto& caso : casos) {
+        EXPECT_EQ(registro.AdicionouValor(crLocalMachine, CChave, caso.Valor, u"Valor"), TResultStatus())
+            << caso.Porque;
+        EXPECT_EQ(LerDoSistema(CChave, u"Valor"), caso.Esperado) << caso.Porque;
+        EXPECT_EQ(registro.ExisteValor(crLocalMachine, CChave, u"vALOR"), !caso.Esperado.empty()) << caso.Porque;
+        EXPECT_EQ(registro.ExcluiuValor(crLocalMachine, CChave, u"VALOR").Status, !caso.Esperado.empty())
+            << caso.Porque;
+    }
+}
+
+TEST_F(TRegistro, LeDeVoltaORecusaOutroTipo) {
+    TOryUtilsRegistro registro;
+    for (const int inteiro : {0, 1, -1, INT32_MAX, INT32_MIN}) {
+        registro.AdicionarValor(crLocalMachine, CChave, inteiro, u"i");
+        EXPECT_EQ(registro.GetChave(crLocalMachine, CChave).ReadInteger(u"i"), inteiro);
+    }
+    for (const double numero : {0.0, -0.1, 1e300}) {
+        registro.AdicionarValor(crLocalMachine, CChave, numero, u"f");
+        EXPECT_EQ(registro.GetChave(crLocalMachine, CChave).ReadFloat(u"f"), numero);
+    }
+    for (const std::u16string texto : {u"", u"linha 1\r\nlinha 2", u"\t;=[]@\"\\", u"\xD800 só"}) {
+        registro.AdicionarValor(crLocalMachine, CChave, texto, u"s");
+        EXPECT_EQ(registro.GetValorRegistro(crLocalMachine, CChave, u"s"), texto);
+    }
+    EXPECT_EQ(registro.GetValorRegistro(crLocalMachine, CChave, u"falta"), u"");
+    EXPECT_EQ(registro.GetValorRegistro(crLocalMachine, u"Nao\\Existe", u"s"), u"");
+
+    const auto mensagem = [](auto AAcao) -> std::u16string {
+        try {
+            AAcao();
+        } catch (const ERegistryException& falha) {
+            return falha.GetMensagem();
+        }
+        return u"";
+    };
+    TRegistry& acessor = registro.GetChave(crLocalMachine, CChave);
+    EXPECT_EQ(mensagem([&] { acessor.ReadString(u"i"); }), u"Tipo de dado inválido para 'i'");
+    EXPECT_EQ(mensagem([&] { acessor.ReadInteger(u"s"); }), u"Tipo de dado inválido para 's'");
+    EXPECT_EQ(mensagem([&] { acessor.ReadFloat(u"i"); }), u"Tipo de dado inválido para 'i'");
+    EXPECT_EQ(mensagem([&] { acessor.ReadInteger(u"falta"); }), u"Falha ao obter dados de 'falta'");
+    EXPECT_EQ(mensagem([&] { registro.GetValorRegistro(crLocalMachine, CChave, u"i"); }),
+              u"Tipo de dado inválido para 'i'");
+    EXPECT_FALSE(registro.GetChave(crLocalMachine, u"").GetCurrentPath().size()) << "the root itself opens";
+}
+
+TEST_F(TRegistro, FalhasDizemChaveEValor) {
+    const TFormatosTemporarios formatos(BuscarFormatosBrasileiros());
+    TOryUtilsRegistro registro;
+    const struct {
+        TValorRegistro Valor;
+        std::u16string_view Texto;
+    } casos[] = {{u"um texto", u"um texto"},
+                 {std::int64_t{1} << 40, u"1099511627776"},
+                 {1.5, u"1,5"},
+                 {TDateTime(45000.0), u"15/03/2023"},
+                 {u'x', u"x"}};
+    for (const auto& caso : casos)
+        Falhou(registro.AdicionouValor(crLocalMachine, u"Software\\Nao\\Existe", caso.Valor, u"Nome"),
+               u"Erro ao adicionar valor no registro do Windows.\r\nChave: Software\\Nao\\Existe\r\nValor: " +
+                   std::u16string(caso.Texto) + u"\r\n\r\nErro ocorrido: \r\n\r\nFalha ao definir dados para 'Nome'",
+               "a missing key is not created, and Valor is the content");
+    EXPECT_EQ(registro.AdicionouValor(crLocalMachine, u"Software\\Nao\\Existe", true, u"Nome"), TResultStatus());
+    EXPECT_FALSE(registro.ExisteChave(crLocalMachine, u"Software", u"Nao"));
+
+    Falhou(registro.ExcluiuValor(crLocalMachine, CChave, u"Nome"),
+           u"Erro ao excluir valor do registro do Windows.\r\nChave: Software\\OryUtilsTeste\r\nValor: Nome",
+           "a missing value");
+    const std::u16string motivo = Plataforma::BuscarTextoDoErroRegistro(Plataforma::erNaoExiste);
+    EXPECT_FALSE(motivo.empty());
+    Falhou(registro.ExcluiuChave(crLocalMachine, CChave, u"Sub"),
+           u"Não foi possível excluir a chave/valor << Sub >>.\r\nErro ocorrido: \r\n\r\n" + motivo, "a missing key");
+    Falhou(
+        registro.ExcluiuProgramaInicializacaoWindows(u"OryUtils %s Teste"),
+        u"Não foi possível excluir a configuração de auto início da aplicação com o Windows.\r\n\r\nErro ocorrido: "
+        u"\r\n\r\nErro ao excluir valor do registro do Windows.\r\nChave: "
+        u"Software\\Microsoft\\Windows\\CurrentVersion\\Run\r\nValor: OryUtils %s Teste.\r\n\r\nEm algumas versões do "
+        u"Windows, o acesso à configurações de registradores necessita que a aplicação possua privilégios de "
+        u"administrador.\r\n\r\nExecute a aplicação em modo administrador e tente novamente.",
+        "a missing entry");
+    const std::u16string longo(16384, u'n');
+    Falhou(registro.AdicionouProgramaInicializacaoWindows(longo, u"x.exe"),
+           u"Não foi possível configurar aplicação para iniciar automaticamente com o Windows.\r\n\r\nAplicação: " +
+               longo + u" \r\n\r\nErro ocorrido: \r\n\r\nFalha ao definir dados para '" + longo +
+               u"'.\r\n\r\nEm algumas versões do Windows, o acesso à configurações de registradores necessita que a "
+               u"aplicação possua privilégios de administrador.\r\n\r\nExecute a aplicação em modo administrador e "
+               u"tente novamente.",
+           "a name that the registry does not take");
+}
+
+TEST_F(TRegistro, ChavesNuncaCaemNaRaiz) {
+    TOryUtilsRegistro registro;
+    registro.CriarChave(crLocalMachine, CChave, u"A\\B");
+    EXPECT_TRUE(registro.ExisteChave(crLocalMachine, CChave, u"a\\b"));
+    registro.AdicionarValor(crLocalMachine, u"\\Software\\OryUtilsTeste\\A\\B\\", 1, u"v");
+    EXPECT_EQ(LerDoSistema(u"Software\\OryUtilsTeste\\A\\B", u"v"), u"dword:00000001");
+
+    EXPECT_FALSE(registro.ExisteChave(crLocalMachine, u"Nao\\Existe", u"Software"));
+    registro.CriarChave(crLocalMachine, u"Nao\\Existe", u"OryUtilsTeste");
+    EXPECT_FALSE(registro.ExisteChave(crLocalMachine, u"", u"OryUtilsTeste"));
+    EXPECT_FALSE(registro.ExcluiuChave(crLocalMachine, u"Nao\\Existe", u"Software").Status);
+    EXPECT_TRUE(registro.ExisteChave(crLocalMachine, u"", u"Software"));
+    EXPECT_FALSE(registro.ExcluiuChave(crLocalMachine, CChave, u"").Status);
+
+    TRegistry& acessor = registro.GetChave(crLocalMachine, CChave);
+    EXPECT_TRUE(acessor.EstahAberta());
+    EXPECT_EQ(acessor.GetKeyNames(), TLista{u"A"});
+    EXPECT_EQ(acessor.GetAccess(), 0xF013Fu);
+    EXPECT_TRUE(registro.ExisteValor(crLocalMachine, u"Software\\OryUtilsTeste\\A\\B", u"v"))
+        << "a key left open is not where the next path starts";
+    EXPECT_FALSE(acessor.EstahAberta());
+
+    EXPECT_EQ(registro.ExcluiuChave(crLocalMachine, CChave, u"A"), TResultStatus()) << "with all below it";
+    EXPECT_FALSE(registro.ExisteChave(crLocalMachine, CChave, u"A"));
+    EXPECT_TRUE(registro.ExisteChave(crLocalMachine, u"Software", u"OryUtilsTeste"));
+}
+
+TEST_F(TRegistro, AcessorAbreCaminhosRelativos) {
+    TRegistry acessor;
+    acessor.SetRootKey(crLocalMachine);
+    ASSERT_TRUE(acessor.OpenKey(u"\\Software\\OryUtilsTeste\\X", true));
+    ASSERT_TRUE(acessor.OpenKey(u"Y", true));
+    EXPECT_EQ(acessor.GetCurrentPath(), u"Software\\OryUtilsTeste\\X\\Y");
+    EXPECT_FALSE(acessor.OpenKey(u"Falta", false));
+    EXPECT_EQ(acessor.GetUltimoErro(), Plataforma::erNaoExiste);
+    EXPECT_EQ(acessor.GetCurrentPath(), u"Software\\OryUtilsTeste\\X\\Y") << "what does not open changes nothing";
+    acessor.WriteInteger(u"", 7);
+    EXPECT_EQ(acessor.GetValueNames(), TLista{u""}) << "the default value";
+    EXPECT_TRUE(acessor.KeyExists(u"\\Software\\OryUtilsTeste\\X"));
+    EXPECT_FALSE(acessor.KeyExists(u"Software"));
+    acessor.SetRootKey(crCurrentUser);
+    EXPECT_FALSE(acessor.EstahAberta());
+    EXPECT_THROW(acessor.WriteInteger(u"x", 1), ERegistryException);
+    EXPECT_EQ(acessor.GetUltimoErro(), Plataforma::erAlcaInvalida);
+    EXPECT_THROW(acessor.CreateKey(std::u16string(256, u'k')), ERegistryException);
+}
+
+TEST_F(TRegistro, VariaveisDeAmbienteComListas) {
+    const struct {
+        const char16_t* Antes;  // null: no such variable
+        TLista Itens;
+        std::u16string_view Somada, Subtraida;
+    } casos[] = {
+        {u"A", {u"C:\\x", u"  ", u"C:\\y"}, u"A;C:\\x;C:\\y", u"A"},
+        {u"", {u"C:\\x", u"  ", u"C:\\y"}, u";C:\\x;C:\\y", u""},
+        {nullptr, {u" C:\\x "}, u"; C:\\x ", u""},
+        {u"C:\\x;B;c:\\x", {u"c:\\X "}, u"C:\\x;B;c:\\x;c:\\X ", u"B"},
+        {u" a ;b;;A;", {u"A"}, u" a ;b;;A;;A", u"b;"},
+        {u"a;;b", {u""}, u"a;;b", u"a;b"},
+        {u"ÇÃO;b", {u"ção"}, u"ÇÃO;b;ção", u"b"},
+        {u"x", {}, u"x", u"x"},
+    };
+    TOryUtilsRegistro registro;
+    TValorPreservado variavel(CAmbiente, CVariavel);
+    const auto repor = [&](const char16_t* ATexto) {
+        if (ATexto)
+            registro.AdicionarValor(crLocalMachine, CAmbiente, ATexto, CVariavel);
+        else
+            variavel.Excluir();
+    };
+    for (const auto& caso : casos) {
+        repor(caso.Antes);
+        EXPECT_EQ(registro.AdicionouValorVariavelAmbiente(CVariavel, caso.Itens), TResultStatus());
+        EXPECT_EQ(registro.BuscarValorVariavelAmbiente(CVariavel), caso.Somada);
+        repor(caso.Antes);
+        EXPECT_EQ(registro.ExcluiuValorVariavelAmbiente(CVariavel, caso.Itens), TResultStatus());
+        EXPECT_EQ(registro.BuscarValorVariavelAmbiente(CVariavel), caso.Subtraida);
+    }
+
+    variavel.Gravar({Plataforma::tdrTextoExpansivel, std::string("%\0A\0%\0\0\0", 8)});
+    EXPECT_EQ(registro.AdicionouValorVariavelAmbiente(CVariavel, {u"b"}), TResultStatus());
+    EXPECT_EQ(LerDoSistema(CAmbiente, CVariavel), u"\"%A%;b\"") << "what was expandable is so no more";
+
+    variavel.Gravar({Plataforma::tdrInteiro, std::string("\1\0\0\0", 4)});
+    for (const TResultStatus& resultado : {registro.AdicionouValorVariavelAmbiente(CVariavel, {u"a", u"b"}),
+                                           registro.ExcluiuValorVariavelAmbiente(CVariavel, {u"a", u"b"})})
+        Falhou(resultado,
+               u"Erro ao adicionar valor no registro do Windows.\r\nChave: " + std::u16string(CAmbiente) +
+                   u"\r\nValor: a;b\r\n\r\nErro ocorrido: \r\n\r\nTipo de dado inválido para 'ORYUTILS_TESTE_LISTA'",
+               "a variable that is no text stays");
+    EXPECT_EQ(LerDoSistema(CAmbiente, CVariavel), u"dword:00000001");
+}
+
+TEST_F(TRegistro, InicioAutomatico) {
+    TOryUtilsRegistro registro;
+    const TValorPreservado entrada(CRun, u"OryUtilsTeste");
+    EXPECT_EQ(registro.AdicionouProgramaInicializacaoWindows(u"OryUtilsTeste", u"\"C:\\App\\a.exe\" -s"),
+              TResultStatus());
+    EXPECT_EQ(LerDoSistema(CRun, u"OryUtilsTeste"), u"\"\\\"C:\\\\App\\\\a.exe\\\" -s\"");
+    EXPECT_EQ(registro.ExcluiuProgramaInicializacaoWindows(u"OryUtilsTeste"), TResultStatus());
+    EXPECT_EQ(LerDoSistema(CRun, u"OryUtilsTeste"), u"");
+    EXPECT_FALSE(registro.ExcluiuProgramaInicializacaoWindows(u"OryUtilsTeste").Status);
+}
+
+TEST_F(TRegistro, CotaDeObjetosGDI) {
+    const auto mensagem = [](std::u16string_view AMaior) {
+        return u"Valor cota objetos GDI inválido.\r\nValores permitidos entre 256 e " + std::u16string(AMaior) + u".";
+    };
+    for (int versao = vwUnknown; versao <= vwWinVista; ++versao) {
+        const bool windows2000 = versao == vwWin2000;
+        const int maior = windows2000 ? 16384 : 65536;
+        for (const int valor : {INT32_MIN, -256, 0, 255, 256, maior, maior + 1, INT32_MAX}) {
+            const auto resultado = Interno::ValidarCotaObjetosGDI(valor, static_cast<TVersaoWindows>(versao));
+            if (valor >= 256 && valor <= maior)
+                EXPECT_EQ(resultado, TResultStatus()) << valor;
+            else
+                Falhou(resultado, mensagem(windows2000 ? u"16384" : u"65536"), "out of bounds");
+        }
+    }
+    TOryUtilsRegistro registro;
+    TValorPreservado cota(CGDI, u"GDIProcessHandleQuota");
+    cota.Excluir();
+    Falhou(registro.AlterouCotaLimiteObjetosGDI(255), mensagem(u"65536"), "nothing is written");
+    EXPECT_EQ(LerDoSistema(CGDI, u"GDIProcessHandleQuota"), u"");
+    try {
+        registro.BuscarValorCotaLimiteObjetosGDI();
+        FAIL() << "there is no quota to read";
+    } catch (const ERegistryException& falha) {
+        EXPECT_EQ(falha.GetMensagem(), u"Falha ao obter dados de 'GDIProcessHandleQuota'");
+    }
+    EXPECT_EQ(registro.AlterouCotaLimiteObjetosGDI(65536), TResultStatus());
+    EXPECT_EQ(LerDoSistema(CGDI, u"GDIProcessHandleQuota"), u"dword:00010000");
+    EXPECT_EQ(registro.BuscarValorCotaLimiteObjetosGDI(), u"65536");
+}
+
+TEST_F(TRegistro, TempoDeInicioDosServicos) {
+    TOryUtilsRegistro registro;
+    const TValorPreservado tempo(CControle, u"ServicesPipeTimeout");
+    EXPECT_EQ(registro.AtualizouTimeoutInicializacaoServico(180'000), TResultStatus());
+    EXPECT_EQ(LerDoSistema(CControle, u"ServicesPipeTimeout"), u"dword:0002bf20");
+}
+
+}  // namespace

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "oryutils/runtime/Registro.hpp"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// What the tests of the registry share on both systems.
+namespace Teste {
+
+inline constexpr std::u16string_view CChave = u"Software\\OryUtilsTeste";
+
+/// (Linux) points the store to an empty folder of this test; it goes with the object. (Windows) nothing.
+class TRegistroIsolado {
+public:
+    TRegistroIsolado();
+    ~TRegistroIsolado();
+    TRegistroIsolado(const TRegistroIsolado&) = delete;
+    TRegistroIsolado& operator=(const TRegistroIsolado&) = delete;
+
+    std::string Pasta{};  // Linux
+};
+
+/// A value below HKEY_LOCAL_MACHINE as an exported file shows it ("dword:00000001"), read without the library: by the
+/// system's own calls in the 64-bit view, or on Linux from the store's file. "" when it is missing.
+std::u16string LerDoSistema(std::u16string_view AChave, std::u16string_view AValor);
+
+/// Puts a value of the machine back as it was, missing included.
+class TValorPreservado {
+public:
+    TValorPreservado(std::u16string_view AChave, std::u16string_view AValor) : FValor(AValor) {
+        FChave.Abrir(OryUtils::crLocalMachine, AChave, OryUtils::arTotal, false);
+        OryUtils::Plataforma::TDadoRegistro dado;
+        if (FChave.Ler(FValor, dado) == OryUtils::Plataforma::erNenhum) FAntigo = dado;
+    }
+    ~TValorPreservado() {
+        if (FAntigo)
+            FChave.Gravar(FValor, *FAntigo);
+        else
+            FChave.ExcluirValor(FValor);
+    }
+    TValorPreservado(const TValorPreservado&) = delete;
+    TValorPreservado& operator=(const TValorPreservado&) = delete;
+
+    void Excluir() { FChave.ExcluirValor(FValor); }
+    void Gravar(const OryUtils::Plataforma::TDadoRegistro& ADado) { FChave.Gravar(FValor, ADado); }
+
+private:
+    OryUtils::Plataforma::TChaveRegistro FChave{};
+    std::u16string FValor;
+    std::optional<OryUtils::Plataforma::TDadoRegistro> FAntigo{};
+};
+
+/// An empty key HKEY_LOCAL_MACHINE\Software\OryUtilsTeste for each test.
+class TRegistro : public testing::Test {
+protected:
+    TRegistro() {
+        Acessor.SetRootKey(OryUtils::crLocalMachine);
+        Acessor.DeleteKey(CChave);
+        Acessor.CreateKey(CChave);
+    }
+    ~TRegistro() override {
+        Acessor.CloseKey();
+        Acessor.DeleteKey(CChave);
+    }
+
+    TRegistroIsolado Isolado{};
+    OryUtils::TRegistry Acessor{};
+};
+
+}  // namespace Teste

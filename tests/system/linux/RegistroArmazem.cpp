@@ -1,0 +1,274 @@
+// The store's files: writers that are killed, writers at once, who may read, where they live, what damage does.
+#include "oryutils/platform/interno/ArquivoReg.hpp"
+#include "oryutils/platform/interno/Unidades.hpp"
+#include "oryutils/runtime/NumeroTexto.hpp"
+#include "oryutils/system/OryUtilsRegistry.hpp"
+
+#include "system/RegistroDeTeste.hpp"
+
+#include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <spawn.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+using namespace OryUtils;
+using Teste::CChave;
+
+namespace {
+
+// The program of programas/Gravador.cpp, its output in a pipe.
+class TGravador {
+public:
+    TGravador(const std::string& APrefixo, long APrimeiro, long AQuantos, long ANomes, long ATamanho) {
+        std::string partes[] = {ORY_GRAVADOR,
+                                APrefixo,
+                                std::to_string(APrimeiro),
+                                std::to_string(AQuantos),
+                                std::to_string(ANomes),
+                                std::to_string(ATamanho)};
+        std::vector<char*> argumentos;
+        for (std::string& parte : partes) argumentos.push_back(parte.data());
+        argumentos.push_back(nullptr);
+        int tubo[2];
+        if (::pipe2(tubo, O_CLOEXEC) != 0) return;
+        posix_spawn_file_actions_t acoes;
+        ::posix_spawn_file_actions_init(&acoes);
+        ::posix_spawn_file_actions_adddup2(&acoes, tubo[1], STDOUT_FILENO);
+        if (::posix_spawn(&FProcesso, ORY_GRAVADOR, &acoes, nullptr, argumentos.data(), environ) != 0) FProcesso = -1;
+        ::posix_spawn_file_actions_destroy(&acoes);
+        ::close(tubo[1]);
+        FSaida = ::fdopen(tubo[0], "r");
+    }
+    ~TGravador() {
+        if (FSaida) std::fclose(FSaida);
+    }
+    TGravador(const TGravador&) = delete;
+    TGravador& operator=(const TGravador&) = delete;
+
+    bool Iniciou() const { return FProcesso > 0; }
+    /// The next number that it says to have written; none at the end.
+    std::optional<long> LerConfirmacao() {
+        long numero = 0;
+        if (std::fscanf(FSaida, "%ld", &numero) == 1) return numero;
+        return {};
+    }
+    void Matar() { ::kill(FProcesso, SIGKILL); }
+    int Esperar() {
+        int estado = 0;
+        ::waitpid(FProcesso, &estado, 0);
+        return estado;
+    }
+
+private:
+    pid_t FProcesso = -1;
+    std::FILE* FSaida = nullptr;
+};
+
+std::u16string TextoDe(long ANumero, std::size_t ATamanho) {
+    std::u16string texto;
+    while (texto.size() < ATamanho) texto += InteiroParaTexto(ANumero) + u' ';
+    return texto;
+}
+
+class TArmazem : public Teste::TRegistro {
+protected:
+    std::string BuscarArquivo() const { return Isolado.Pasta + "/HKEY_LOCAL_MACHINE.reg"; }
+    std::string LerArquivo() const {
+        std::ifstream arquivo(BuscarArquivo(), std::ios::binary);
+        return {std::istreambuf_iterator<char>(arquivo), {}};
+    }
+    void EscreverArquivo(const std::string& ABytes) const {
+        std::ofstream(BuscarArquivo(), std::ios::binary) << ABytes;
+    }
+};
+
+TEST_F(TArmazem, MilGravadoresMortosNaoEstragamNada) {
+    constexpr long CNomes = 8;
+    constexpr std::size_t CTamanho = 3000;
+    const unsigned semente = std::random_device()();
+    SCOPED_TRACE(semente);
+    std::mt19937 sorteio(semente);
+    const std::string nota = Plataforma::Interno::BytesDeUnidades(u"; nota de quem administra\r\n");
+    EscreverArquivo(LerArquivo() + nota);
+
+    long escrito = -1;
+    std::vector<std::u16string> esperados(CNomes);
+    int mortosNoMeio = 0;
+    for (int rodada = 0; rodada < 1000; ++rodada) {
+        TGravador gravador("v", escrito + 1, 1'000'000, CNomes, CTamanho);
+        ASSERT_TRUE(gravador.Iniciou());
+        const auto confirmar = [&](std::optional<long> ANumero) {
+            if (ANumero) escrito = *ANumero;
+            if (ANumero) esperados[static_cast<std::size_t>(escrito % CNomes)] = TextoDe(escrito, CTamanho);
+            return ANumero.has_value();
+        };
+        for (auto i = sorteio() % 3 + 1; i > 0; --i) ASSERT_TRUE(confirmar(gravador.LerConfirmacao()));
+        for (volatile auto espera = sorteio() % 400'000; espera > 0;) espera = espera - 1;
+        gravador.Matar();
+        gravador.Esperar();
+        while (confirmar(gravador.LerConfirmacao())) {
+        }
+        mortosNoMeio += std::filesystem::exists(BuscarArquivo() + ".novo");
+
+        TRegistry leitor(arLeitura);
+        leitor.SetRootKey(crLocalMachine);
+        ASSERT_TRUE(leitor.OpenKey(CChave, false));
+        for (long nome = 0; nome < CNomes; ++nome) {
+            auto& esperado = esperados[static_cast<std::size_t>(nome)];
+            const std::u16string texto = leitor.ReadString(u"v" + InteiroParaTexto(nome));
+            // Killed between the write and its confirmation: all of the new text, or all of the old.
+            if (nome == (escrito + 1) % CNomes && texto == TextoDe(escrito + 1, CTamanho)) esperado = texto;
+            ASSERT_EQ(texto, esperado) << "round " << rodada;
+        }
+    }
+    EXPECT_GT(mortosNoMeio, 0) << "some must have been writing when they were killed";
+    EXPECT_NE(LerArquivo().find(nota), std::string::npos);
+}
+
+TEST_F(TArmazem, OitoGravadoresAoMesmoTempoNaoPerdemNada) {
+    constexpr long CQuantos = 50;
+    {
+        std::vector<std::unique_ptr<TGravador>> gravadores;
+        for (char c = 'a'; c < 'i'; ++c)
+            gravadores.push_back(std::make_unique<TGravador>(std::string(1, c), 0, CQuantos, CQuantos, 40));
+        for (const auto& gravador : gravadores) {
+            while (gravador->LerConfirmacao()) {
+            }
+            EXPECT_EQ(gravador->Esperar(), 0);
+        }
+    }
+    ASSERT_TRUE(Acessor.OpenKey(CChave, false));
+    for (char16_t c = u'a'; c < u'i'; ++c)
+        for (long i = 0; i < CQuantos; ++i)
+            ASSERT_EQ(Acessor.ReadString(std::u16string(1, c) + InteiroParaTexto(i)), TextoDe(i, 40));
+    EXPECT_EQ(Acessor.GetValueNames().size(), 8u * CQuantos);
+}
+
+mode_t BuscarModo(const std::string& AArquivo) {
+    struct stat dados {};
+    return ::stat(AArquivo.c_str(), &dados) == 0 ? dados.st_mode & 07777 : 0;
+}
+
+TEST_F(TArmazem, CadaRaizTemSeuArquivoESuasPermissoes) {
+    namespace fs = std::filesystem;
+    const std::string pasta = Isolado.Pasta + "/a/b";
+    for (const mode_t mascara : {mode_t{0}, mode_t{077}}) {
+        fs::remove_all(Isolado.Pasta + "/a");
+        ::setenv("ORYUTILS_REGISTRO", pasta.c_str(), 1);
+        const mode_t anterior = ::umask(mascara);
+        TOryUtilsRegistro registro;
+        registro.AdicionarValor(crLocalMachine, u"Software", 1, u"x");
+        registro.AdicionarValor(crCurrentUser, u"Software", 1, u"x");
+        ::umask(anterior);
+        EXPECT_EQ(BuscarModo(pasta), 0755u);
+        EXPECT_EQ(BuscarModo(pasta + "/HKEY_LOCAL_MACHINE.reg"), 0644u);
+        EXPECT_EQ(BuscarModo(pasta + "/HKEY_CURRENT_USER.reg"), 0600u);
+        EXPECT_EQ(BuscarModo(pasta + "/HKEY_LOCAL_MACHINE.reg.trava"), 0600u);
+    }
+    // The user's folder, as the variables tell it; a relative one counts as none.
+    ::unsetenv("ORYUTILS_REGISTRO");
+    const std::string casa = Isolado.Pasta + "/casa";
+    fs::create_directory(casa);
+    const char* antes = std::getenv("HOME");
+    const std::string casaDeAntes = antes ? antes : "/";
+    const char* configAntes = std::getenv("XDG_CONFIG_HOME");
+    const std::string config = configAntes ? configAntes : "";
+    ::setenv("HOME", casa.c_str(), 1);
+    for (const auto& [variavel, esperada] : {std::pair{casa + "/xdg", casa + "/xdg/oryutils"},
+                                             std::pair{std::string("rel"), casa + "/.config/oryutils"}}) {
+        ::setenv("XDG_CONFIG_HOME", variavel.c_str(), 1);
+        TOryUtilsRegistro().AdicionarValor(crCurrentUser, u"Software", 1, u"x");
+        EXPECT_EQ(BuscarModo(esperada), 0700u);
+        EXPECT_EQ(BuscarModo(esperada + "/HKEY_CURRENT_USER.reg"), 0600u);
+    }
+    ::setenv("HOME", casaDeAntes.c_str(), 1);
+    configAntes ? ::setenv("XDG_CONFIG_HOME", config.c_str(), 1) : ::unsetenv("XDG_CONFIG_HOME");
+    ::setenv("ORYUTILS_REGISTRO", Isolado.Pasta.c_str(), 1);
+}
+
+TEST_F(TArmazem, QuemNaoPodeGravarSoLe) {
+    if (::geteuid() != 0) GTEST_SKIP() << "needs another user to act as";
+    ASSERT_EQ(::chmod(Isolado.Pasta.c_str(), 0755), 0);
+    ASSERT_EQ(::seteuid(65534), 0);
+    TOryUtilsRegistro registro;
+    TRegistry leitor(arLeitura);
+    leitor.SetRootKey(crLocalMachine);
+    const bool le = leitor.OpenKey(CChave, false);
+    TRegistry completo;
+    completo.SetRootKey(crLocalMachine);
+    const bool abre = completo.OpenKey(CChave, false);
+    const auto motivo = completo.GetUltimoErro();
+    const auto resultado = registro.AdicionouValor(crLocalMachine, CChave, 1, u"x");
+    const auto tempo = registro.AtualizouTimeoutInicializacaoServico(1);
+    ASSERT_EQ(::seteuid(0), 0);
+    EXPECT_TRUE(le);
+    EXPECT_FALSE(abre) << "all rights are not to be had, as on Windows";
+    EXPECT_EQ(motivo, Plataforma::erAcessoNegado);
+    EXPECT_FALSE(resultado.Status);
+    EXPECT_EQ(tempo.Mensagem,
+              u"Não foi possível atualizar a configuração de timeout de inicialização de serviços "
+              u"ServicesPipeTimeout.\r\n\r\nEm algumas versões do Windows, o acesso à configurações de registradores "
+              u"necessita que a aplicação possua privilégios de administrador.\r\n\r\nExecute a aplicação em modo "
+              u"administrador e tente novamente.");
+}
+
+TEST_F(TArmazem, ArquivoEstragadoFicaComoEsta) {
+    TOryUtilsRegistro registro;
+    for (const std::string& bytes : {std::string("lixo"), LerArquivo() + "x", std::string(1000, '\0')}) {
+        EscreverArquivo(bytes);
+        TRegistry acessor;
+        acessor.SetRootKey(crLocalMachine);
+        EXPECT_FALSE(acessor.OpenKey(CChave, true));
+        EXPECT_EQ(acessor.GetUltimoErro(), Plataforma::erCorrompido);
+        EXPECT_FALSE(registro.AdicionouValor(crLocalMachine, CChave, 1, u"x").Status);
+        EXPECT_FALSE(registro.ExcluiuChave(crLocalMachine, u"Software", u"OryUtilsTeste").Status);
+        EXPECT_EQ(registro.GetValorRegistro(crLocalMachine, CChave, u"x"), u"");
+        EXPECT_EQ(LerArquivo(), bytes);
+    }
+    std::filesystem::resize_file(BuscarArquivo(), (64u << 20) + 2);
+    EXPECT_FALSE(Acessor.OpenKey(CChave, false));
+    EXPECT_EQ(Acessor.GetUltimoErro(), Plataforma::erArquivoGrande);
+    std::filesystem::resize_file(BuscarArquivo(), 0);
+    EXPECT_TRUE(Acessor.OpenKey(u"Software\\Microsoft\\Windows\\CurrentVersion\\Run", false)) << "empty: born again";
+}
+
+TEST_F(TArmazem, ArmazemNasceComAsChavesDeTodoWindows) {
+    std::filesystem::remove(BuscarArquivo());
+    TRegistry leitor(arLeitura);
+    leitor.SetRootKey(crLocalMachine);
+    for (const std::u16string_view chave :
+         {u"Software\\Microsoft\\Windows\\CurrentVersion\\Run", u"SYSTEM\\CurrentControlSet\\Control",
+          u"SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Environment",
+          u"Software\\Microsoft\\Windows NT\\CurrentVersion\\Windows"})
+        EXPECT_TRUE(leitor.KeyExists(chave));
+    ASSERT_TRUE(leitor.OpenKey(u"\\Software\\Microsoft\\Windows\\CurrentVersion", false));
+    EXPECT_EQ(leitor.ReadString(u"ProgramFilesDir"), u"/opt");
+    EXPECT_FALSE(std::filesystem::exists(BuscarArquivo())) << "reading writes nothing";
+    EXPECT_THROW(leitor.WriteInteger(u"x", 1), ERegistryException) << "opened for reading";
+
+    TRegistry acessor;
+    acessor.SetRootKey(crClassesRoot);
+    acessor.CreateKey(u".ory");
+    acessor.SetRootKey(crLocalMachine);
+    EXPECT_TRUE(acessor.KeyExists(u"Software\\Classes\\.ory"));
+    acessor.SetRootKey(crUsers);
+    EXPECT_FALSE(acessor.OpenKey(u"", false)) << "there are no other users' keys";
+}
+
+TEST_F(TArmazem, ChaveExcluidaPorOutroNaoVolta) {
+    ASSERT_TRUE(Acessor.OpenKey(CChave, false));
+    TOryUtilsRegistro().ExcluiuChave(crLocalMachine, u"Software", u"OryUtilsTeste");
+    EXPECT_THROW(Acessor.WriteInteger(u"x", 1), ERegistryException);
+    EXPECT_EQ(Acessor.GetUltimoErro(), Plataforma::erChaveExcluida);
+    EXPECT_FALSE(Acessor.ValueExists(u"x"));
+}
+
+}  // namespace

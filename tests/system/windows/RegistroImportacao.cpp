@@ -1,0 +1,81 @@
+// The system's own registry editor takes what the settings store writes, and the store reads what it exports.
+#include "oryutils/platform/interno/ArquivoReg.hpp"
+#include "oryutils/platform/interno/Unidades.hpp"
+#include "oryutils/platform/windows/Windows.hpp"
+
+#include "system/RegistroDeTeste.hpp"
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+using namespace OryUtils;
+using Plataforma::TDadoRegistro;
+using Plataforma::Interno::BytesDeUnidades;
+using Plataforma::Interno::TArquivoReg;
+using Teste::TRegistro;
+
+namespace {
+
+void ExecutarRegedit(std::u16string AArgumentos) {
+    std::u16string comando = u"regedit.exe " + AArgumentos;
+    STARTUPINFOW inicio{};
+    inicio.cb = sizeof inicio;
+    PROCESS_INFORMATION processo{};
+    ASSERT_TRUE(::CreateProcessW(nullptr, Plataforma::ParaWide(comando.data()), nullptr, nullptr, FALSE, 0, nullptr,
+                                 nullptr, &inicio, &processo));
+    ::WaitForSingleObject(processo.hProcess, INFINITE);
+    ::CloseHandle(processo.hThread);
+    ::CloseHandle(processo.hProcess);
+}
+
+TEST_F(TRegistro, EditorDoSistemaImportaEExporta) {
+    const std::u16string chave = u"HKEY_LOCAL_MACHINE\\" + std::u16string(Teste::CChave) + u"\\São [1]\\\xD83D\xDE00";
+    const std::u16string abaixo = chave.substr(chave.find(u'\\') + 1);
+    const auto texto = [](std::u16string_view ATexto) { return BytesDeUnidades(std::u16string(ATexto) + u'\0'); };
+    const std::pair<std::u16string, TDadoRegistro> valores[] = {
+        {u"", {Plataforma::tdrTexto, texto(u"valor padrão")}},
+        {u"texto \"x\" = \\", {Plataforma::tdrTexto, texto(u"C:\\Programas \"x\"; [y] @ \xD83D\xDE00")}},
+        {u"vazio", {Plataforma::tdrTexto, texto(u"")}},
+        {u"linhas", {Plataforma::tdrTexto, texto(u"a\r\nb\tc")}},
+        {u"expansível", {Plataforma::tdrTextoExpansivel, texto(u"%PATH%")}},
+        {u"lista", {Plataforma::tdrListaDeTextos, texto(std::u16string(u"um\0dois\0", 8))}},
+        {u"inteiro", {Plataforma::tdrInteiro, std::string("\xFE\xFF\xFF\xFF", 4)}},
+        {u"longo", {Plataforma::tdrInteiro64, std::string("\1\2\3\4\5\6\7\x88", 8)}},
+        {u"binário", {Plataforma::tdrBinario, std::string(300, '\x5A')}},
+        {u"nada", {Plataforma::tdrNenhum, ""}},
+    };
+    TArquivoReg arquivo;
+    arquivo.CriarChave(chave);
+    for (const auto& [nome, dado] : valores) arquivo.Gravar(chave, nome, dado);
+    const auto pasta = std::filesystem::temp_directory_path();
+    const auto caminho = pasta / "oryutils-teste.reg";
+    std::ofstream(caminho, std::ios::binary) << arquivo.ParaBytes();
+    ExecutarRegedit(u"/S \"" + caminho.u16string() + u"\"");
+
+    Plataforma::TChaveRegistro aberta;
+    ASSERT_EQ(aberta.Abrir(crLocalMachine, abaixo, arLeitura, false), Plataforma::erNenhum);
+    for (const auto& [nome, esperado] : valores) {
+        TDadoRegistro dado;
+        EXPECT_EQ(aberta.Ler(nome, dado), Plataforma::erNenhum);
+        EXPECT_EQ(dado, esperado) << std::filesystem::path(nome).string();
+    }
+    std::vector<std::u16string> nomes;
+    aberta.ListarValores(nomes);
+    EXPECT_EQ(nomes.size(), std::size(valores));
+
+    std::filesystem::remove(caminho);
+    ExecutarRegedit(u"/E \"" + caminho.u16string() + u"\" \"HKEY_LOCAL_MACHINE\\" + std::u16string(Teste::CChave) +
+                    u"\"");
+    std::ifstream exportado(caminho, std::ios::binary);
+    const auto lido = TArquivoReg::DeBytes(std::string{std::istreambuf_iterator<char>(exportado), {}});
+    exportado.close();
+    std::filesystem::remove(caminho);
+    ASSERT_TRUE(lido.has_value());
+    for (const auto& [nome, esperado] : valores) {
+        // Editors differ in how they export a text of several lines, some of them so that nothing can read it.
+        if (nome != u"linhas") EXPECT_EQ(lido->Ler(chave, nome), esperado) << std::filesystem::path(nome).string();
+    }
+}
+
+}  // namespace
