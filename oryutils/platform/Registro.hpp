@@ -57,7 +57,8 @@ enum TTipoDadoRegistro : std::uint32_t {
     tdrInteiro64 = 11,
 };
 
-/// A value as the registry keeps it. Texts are UTF-16LE with their terminators, integers little-endian.
+/// A value as the registry keeps it. Texts are UTF-16LE with their terminators (Windows may add one that is missing),
+/// integers little-endian.
 struct TDadoRegistro {
     std::uint32_t Tipo = tdrNenhum;
     std::string Bytes{};

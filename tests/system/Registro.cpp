@@ -268,6 +268,8 @@ TEST_F(TRegistro, CotaDeObjetosGDI) {
         }
     }
     TOryUtilsRegistro registro;
+    registro.CriarChave(crLocalMachine, u"Software\\Microsoft\\Windows NT\\CurrentVersion",
+                        u"Windows");  // Wine lacks it
     TValorPreservado cota(CGDI, u"GDIProcessHandleQuota");
     cota.Excluir();
     Falhou(registro.AlterouCotaLimiteObjetosGDI(255), mensagem(u"65536"), "nothing is written");

@@ -41,14 +41,14 @@ public:
         static constexpr std::uint32_t CTipos[] = {0, 1, 1, 1, 2, 3, 4, 5, 7, 11, 0x1234};
         TDadoRegistro dado{Um(CTipos), {}};
         const std::size_t tamanho = Numero(5) == 0 ? Numero(400) : Numero(12);
-        for (std::size_t i = 0; i < tamanho; ++i) dado.Bytes += static_cast<char>(Numero(256));
-        // Most texts are texts.
-        if (dado.Tipo == Plataforma::tdrTexto && Numero(4) != 0) {
-            dado.Bytes.clear();
-            for (std::size_t i = Numero(40); i > 0; --i)
-                dado.Bytes.append({static_cast<char>(Numero(90) + 35), static_cast<char>(Numero(8) == 0 ? 1 : 0)});
-            dado.Bytes.append(2, '\0');
-        }
+        const bool texto = dado.Tipo == 1 || dado.Tipo == 2 || dado.Tipo == 7;
+        if (!texto)
+            for (std::size_t i = 0; i < tamanho; ++i) dado.Bytes += static_cast<char>(Numero(256));
+        // Texts are terminated, and most of them fit between quotes.
+        for (std::size_t i = texto ? tamanho : 0; i > 0; --i)
+            dado.Bytes.append({static_cast<char>(Numero(60) == 0 ? 7 : Numero(90) + 35),
+                               static_cast<char>(Numero(8) == 0 ? Numero(256) : 0)});
+        if (texto) dado.Bytes.append(2, '\0');
         if (dado.Tipo == Plataforma::tdrInteiro && Numero(4) != 0) dado.Bytes.resize(4);
         return dado;
     }

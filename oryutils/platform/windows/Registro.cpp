@@ -94,9 +94,10 @@ TErroRegistro TChaveRegistro::Ler(std::u16string_view AValor, TDadoRegistro& ADa
 TErroRegistro TChaveRegistro::Gravar(std::u16string_view AValor, const TDadoRegistro& ADado) {
     if (!FDados) return erAlcaInvalida;
     if (!Interno::EhNomeDeValorValido(AValor)) return erNomeInvalido;
+    // The system may look for a terminator behind a text that has none.
+    const std::string bytes = ADado.Bytes + std::string(sizeof(wchar_t), '\0');
     return De(::RegSetValueExW(FDados->Chave, ParaWide(std::u16string(AValor)), 0, ADado.Tipo,
-                               reinterpret_cast<const BYTE*>(ADado.Bytes.data()),
-                               static_cast<DWORD>(ADado.Bytes.size())));
+                               reinterpret_cast<const BYTE*>(bytes.data()), static_cast<DWORD>(ADado.Bytes.size())));
 }
 
 TErroRegistro TChaveRegistro::ExcluirValor(std::u16string_view AValor) {
