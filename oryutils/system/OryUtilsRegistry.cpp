@@ -15,7 +15,7 @@
 namespace OryUtils {
 namespace {
 
-using namespace Interno;
+using namespace Sistema;
 
 constexpr std::u16string_view CSeparadorDaLista = u";";
 

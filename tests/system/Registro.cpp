@@ -260,7 +260,7 @@ TEST_F(TRegistro, CotaDeObjetosGDI) {
         const bool windows2000 = versao == vwWin2000;
         const int maior = windows2000 ? 16384 : 65536;
         for (const int valor : {INT32_MIN, -256, 0, 255, 256, maior, maior + 1, INT32_MAX}) {
-            const auto resultado = Interno::ValidarCotaObjetosGDI(valor, static_cast<TVersaoWindows>(versao));
+            const auto resultado = Sistema::ValidarCotaObjetosGDI(valor, static_cast<TVersaoWindows>(versao));
             if (valor >= 256 && valor <= maior)
                 EXPECT_EQ(resultado, TResultStatus()) << valor;
             else

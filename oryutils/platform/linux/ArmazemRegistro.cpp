@@ -1,5 +1,6 @@
 #include "oryutils/platform/linux/ArmazemRegistro.hpp"
 
+#include "oryutils/platform/PastasDoSistema.hpp"
 #include "oryutils/platform/interno/Unidades.hpp"
 
 #include <array>
@@ -36,7 +37,6 @@ constexpr std::array CChavesDoUsuario{
     u"HKEY_CURRENT_USER\\Environment",
 };
 constexpr std::u16string_view CChaveDosProgramas = u"HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion";
-constexpr std::u16string_view CPastaDeProgramas{u"/opt\0", 5};
 
 class TDescritor {
 public:
@@ -126,7 +126,8 @@ TArquivoReg CriarArmazemNovo(std::string_view ARaiz) {
         return arquivo;
     }
     for (const char16_t* chave : CChavesDaMaquina) arquivo.CriarChave(chave);
-    arquivo.Gravar(CChaveDosProgramas, u"ProgramFilesDir", {tdrTexto, BytesDeUnidades(CPastaDeProgramas)});
+    arquivo.Gravar(CChaveDosProgramas, u"ProgramFilesDir",
+                   {tdrTexto, BytesDeUnidades(BuscarPastaDeProgramasPadrao() + u'\0')});
     return arquivo;
 }
 
