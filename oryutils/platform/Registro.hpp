@@ -43,7 +43,7 @@ enum TErroRegistro : std::uint32_t {
     erChaveExcluida = 1018,
 };
 
-/// What the system says about AErro, in Portuguese on Linux and in the language of Windows there.
+/// What the system says about AErro, without the final point: in Portuguese on Linux, in the language of Windows there.
 ORY_API std::u16string BuscarTextoDoErroRegistro(TErroRegistro AErro);
 
 /// Kinds of a value, numbered as the system numbers them; others may be read.

@@ -1,5 +1,6 @@
 #include "oryutils/platform/Processos.hpp"
 
+#include "oryutils/platform/ErroDoSistema.hpp"
 #include "oryutils/platform/Utf.hpp"
 #include "oryutils/platform/linux/Filhos.hpp"
 
@@ -10,7 +11,6 @@
 #include <cerrno>
 #include <charconv>
 #include <csignal>
-#include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
 #include <malloc.h>
@@ -205,7 +205,7 @@ TFimDeProcesso TerminarProcesso(std::uint32_t AID, std::u16string& AErro) {
     const TAlcaDeProcesso alca(AbrirPidfd(pid));
     if (!PodeTerminar(pid) || (alca && Terminou(alca.Get()))) return fpNaoAberto;
     if (EnviarMorte(alca, pid)) return fpTerminado;
-    AErro = DeUtf8(std::strerror(errno));
+    AErro = DescreverErroDoSistema(static_cast<std::uint32_t>(errno));
     return fpErro;
 }
 

@@ -25,17 +25,17 @@ struct TTextoDoErro {
     std::u16string_view Texto;
 };
 constexpr std::array CTextosDosErros{
-    TTextoDoErro{erNenhum, u"A operação foi concluída com êxito."},
-    TTextoDoErro{erNaoExiste, u"A chave ou o valor não existe."},
-    TTextoDoErro{erAcessoNegado, u"Acesso negado."},
-    TTextoDoErro{erAlcaInvalida, u"A chave não está aberta."},
-    TTextoDoErro{erFalhaDeGravacao, u"O arquivo de ajustes não pôde ser gravado."},
-    TTextoDoErro{erNomeInvalido, u"O nome da chave ou do valor é inválido."},
-    TTextoDoErro{erDiscoCheio, u"Não há espaço suficiente no disco."},
-    TTextoDoErro{erArquivoGrande, u"O arquivo de ajustes é grande demais."},
-    TTextoDoErro{erCorrompido, u"O arquivo de ajustes não está no formato de registro exportado."},
-    TTextoDoErro{erFalhaDeLeitura, u"O arquivo de ajustes não pôde ser lido."},
-    TTextoDoErro{erChaveExcluida, u"A chave foi excluída."},
+    TTextoDoErro{erNenhum, u"A operação foi concluída com êxito"},
+    TTextoDoErro{erNaoExiste, u"A chave ou o valor não existe"},
+    TTextoDoErro{erAcessoNegado, u"Acesso negado"},
+    TTextoDoErro{erAlcaInvalida, u"A chave não está aberta"},
+    TTextoDoErro{erFalhaDeGravacao, u"O arquivo de ajustes não pôde ser gravado"},
+    TTextoDoErro{erNomeInvalido, u"O nome da chave ou do valor é inválido"},
+    TTextoDoErro{erDiscoCheio, u"Não há espaço suficiente no disco"},
+    TTextoDoErro{erArquivoGrande, u"O arquivo de ajustes é grande demais"},
+    TTextoDoErro{erCorrompido, u"O arquivo de ajustes não está no formato de registro exportado"},
+    TTextoDoErro{erFalhaDeLeitura, u"O arquivo de ajustes não pôde ser lido"},
+    TTextoDoErro{erChaveExcluida, u"A chave foi excluída"},
 };
 
 // The roots that are keys of the machine.
@@ -165,7 +165,7 @@ TErroRegistro TChaveRegistro::ListarValores(std::vector<std::u16string>& ANomes)
 std::u16string BuscarTextoDoErroRegistro(TErroRegistro AErro) {
     for (const TTextoDoErro& texto : CTextosDosErros)
         if (texto.Erro == AErro) return std::u16string(texto.Texto);
-    return u"Erro desconhecido.";
+    return u"Erro desconhecido";
 }
 
 }  // namespace OryUtils::Plataforma

@@ -1,6 +1,7 @@
 #include "oryutils/platform/Processos.hpp"
 
 #include "oryutils/platform/BibliotecaDinamica.hpp"
+#include "oryutils/platform/ErroDoSistema.hpp"
 #include "oryutils/platform/windows/Windows.hpp"
 
 #include <optional>
@@ -43,17 +44,6 @@ void PercorrerProcessos(DWORD AConteudo, TAcao AAcao) {
 }
 
 std::u16string SemPasta(std::u16string ANome) { return ANome.substr(ANome.find_last_of(u"\\/:") + 1); }
-
-std::u16string BuscarTextoDoErro(DWORD AErro) {
-    wchar_t* texto = nullptr;
-    const DWORD tamanho =
-        ::FormatMessageW(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
-                         nullptr, AErro, 0, reinterpret_cast<wchar_t*>(&texto), 0, nullptr);
-    std::u16string resultado = DeWide({texto ? texto : L"", tamanho});
-    ::LocalFree(texto);
-    while (!resultado.empty() && resultado.back() <= u' ') resultado.pop_back();
-    return resultado;
-}
 
 }  // namespace
 
@@ -129,7 +119,7 @@ TFimDeProcesso TerminarProcesso(std::uint32_t AID, std::u16string& AErro) {
     const TAlca processo(::OpenProcess(PROCESS_TERMINATE, FALSE, AID));
     if (!processo) return fpNaoAberto;
     if (::TerminateProcess(processo.Get(), 0)) return fpTerminado;
-    AErro = BuscarTextoDoErro(::GetLastError());
+    AErro = DescreverErroDoSistema(::GetLastError());
     return fpErro;
 }
 

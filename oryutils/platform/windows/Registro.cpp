@@ -1,5 +1,6 @@
 #include "oryutils/platform/Registro.hpp"
 
+#include "oryutils/platform/ErroDoSistema.hpp"
 #include "oryutils/platform/interno/NomesRegistro.hpp"
 #include "oryutils/platform/windows/Windows.hpp"
 
@@ -126,15 +127,6 @@ TErroRegistro TChaveRegistro::ListarValores(std::vector<std::u16string>& ANomes)
     });
 }
 
-std::u16string BuscarTextoDoErroRegistro(TErroRegistro AErro) {
-    wchar_t* texto = nullptr;
-    const DWORD tamanho =
-        ::FormatMessageW(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
-                         nullptr, static_cast<DWORD>(AErro), 0, reinterpret_cast<wchar_t*>(&texto), 0, nullptr);
-    const std::unique_ptr<wchar_t, decltype(&::LocalFree)> memoria(texto, ::LocalFree);
-    std::u16string resultado = DeWide({texto, tamanho});
-    while (!resultado.empty() && resultado.back() <= u' ') resultado.pop_back();
-    return resultado;
-}
+std::u16string BuscarTextoDoErroRegistro(TErroRegistro AErro) { return DescreverErroDoSistema(AErro); }
 
 }  // namespace OryUtils::Plataforma
