@@ -1,3 +1,4 @@
+#include "oryutils/system/OryUtilsRegistry.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 #include "oryutils/system/interno/RegrasDeRede.hpp"
 
@@ -28,6 +29,7 @@ constexpr auto COperacoes = Ordenar(std::array{
     Operacao<C::FormatarBytes>("FormatarBytes"),
     Operacao<InformacoesDetalhadas>("InformacoesDetalhadas"),
     Operacao<ListaIPLocalDaSaidaARP>("ListaIPLocalDaSaidaARP"),
+    Operacao<OryUtils::TOryUtilsRegistro::ValidouValorLimiteCotaObjetosGDI>("ValidouValorLimiteCotaObjetosGDI"),
     Operacao<C::VarToIntDef>("VarToIntDef"),
 });
 // clang-format on

@@ -26,6 +26,7 @@ constexpr const char* CCabecalhos[] = {
 
 // Most of what they declare asks the machine or changes it and is not callable; what is callable is declared here.
 constexpr const char* CCabecalhosDaMaquina[] = {
+    "system/OryUtilsRegistry.hpp",
     "system/OryUtilsSystem.hpp",
 };
 
@@ -36,8 +37,30 @@ constexpr const char* CPassoDoComando = "a step on a statement; SepararBlocosSQL
 constexpr const char* CPassoDoArquivo = "a step on a file's data; ory versao shows them";
 constexpr const char* CPassoDoObjeto = "a step on an IE object; ValidouIE gives the verdict";
 
+constexpr const char* CMexeNosAjustes = "reads or changes the settings of the machine";
+
 // Public operations that programs cannot call, each with its reason.
 const std::map<std::string, std::string> CForaDaTabela{
+    {"Inicializar", CMexeNosAjustes},
+    {"GetChave", CMexeNosAjustes},
+    {"GetValorRegistro", CMexeNosAjustes},
+    {"ExisteChave", CMexeNosAjustes},
+    {"ExisteValor", CMexeNosAjustes},
+    {"CriarChave", CMexeNosAjustes},
+    {"AdicionouValor", CMexeNosAjustes},
+    {"AdicionarValor", CMexeNosAjustes},
+    {"ExcluiuValor", CMexeNosAjustes},
+    {"ExcluirValor", CMexeNosAjustes},
+    {"ExcluirRegistro", CMexeNosAjustes},
+    {"ExcluiuChave", CMexeNosAjustes},
+    {"AdicionouProgramaInicializacaoWindows", CMexeNosAjustes},
+    {"ExcluiuProgramaInicializacaoWindows", CMexeNosAjustes},
+    {"BuscarValorVariavelAmbiente", CMexeNosAjustes},
+    {"AdicionouValorVariavelAmbiente", CMexeNosAjustes},
+    {"ExcluiuValorVariavelAmbiente", CMexeNosAjustes},
+    {"AlterouCotaLimiteObjetosGDI", CMexeNosAjustes},
+    {"BuscarValorCotaLimiteObjetosGDI", CMexeNosAjustes},
+    {"AtualizouTimeoutInicializacaoServico", CMexeNosAjustes},
     {"ValidouCampo", CPrecisaDeControle},
     {"ValidarCampo", CPrecisaDeControle},
     {"TratarResultadoValidacao", CPrecisaDeControle},
