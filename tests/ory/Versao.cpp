@@ -9,6 +9,8 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+
 namespace {
 
 using OryUtils::ParaUtf8;
@@ -58,6 +60,22 @@ TEST_F(Versao, VariosArquivosEmTabela) {
     EXPECT_EQ(saida.substr(0, 12), "arquivo     ");
     EXPECT_NE(saida.find("Folha.exe  7.2.0.15      1 KB  15/11/2026 12:00:00  Folha de Pa"), saida.npos) << saida;
     EXPECT_NE(saida.find("Página.html  7,2,0,16  25 bytes  15/11/2026 12:00:00\n"), saida.npos) << saida;
+}
+
+TEST_F(Versao, NomesComCuringas) {
+    Pasta.Gravar(u"folhas.dll", "");
+    const std::string pasta = ParaUtf8(Pasta.Nome(u""));
+    const auto contar = [&](const char* APadrao) {
+        const std::string saida = Rodar({"versao", "--json", pasta + APadrao}).Saida;
+        return saida == "[]\n" ? 0 : std::count(saida.begin(), saida.end(), '\n');
+    };
+    EXPECT_EQ(contar("*"), 3);
+    EXPECT_EQ(contar("FOLHA*.*"), 2);
+    EXPECT_EQ(contar("*ol*a?.*l*"), 1);
+    EXPECT_EQ(contar("?olha.exe*"), 1);
+    EXPECT_EQ(contar("?folha.exe"), 0);
+    EXPECT_EQ(contar("*.ex"), 0);
+    EXPECT_EQ(Rodar({"versao", "/nao/existe/*.exe"}).Status, 2);
 }
 
 TEST_F(Versao, Json) {

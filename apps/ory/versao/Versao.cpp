@@ -2,8 +2,9 @@
 
 #include "oryutils/files/OryUtilsFiles.hpp"
 #include "oryutils/platform/DadosDoArquivo.hpp"
-#include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/runtime/Caixa.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
+#include "oryutils/runtime/NomeDeArquivo.hpp"
 #include "oryutils/runtime/Utf.hpp"
 
 #include "TextoNaTela.hpp"
@@ -13,6 +14,8 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
+#include <system_error>
 
 namespace Ory {
 namespace {
@@ -49,9 +52,52 @@ std::string EscreverData(OryUtils::TDateTime AData) {
     return AData == 0 ? "" : ParaUtf8(OryUtils::FormatarDataHora(u"dd/mm/yyyy hh:nn:ss", AData));
 }
 
-TArquivoInfo Ler(const std::string& AArquivo) {
+/// "*" stands for any characters, "?" for one.
+bool Combina(std::u16string_view APadrao, std::u16string_view ATexto) {
+    std::size_t p = 0, t = 0;
+    std::size_t asterisco = APadrao.npos, retomada = 0;
+    while (t < ATexto.size()) {
+        if (p < APadrao.size() && APadrao[p] == u'*') {
+            asterisco = p++;
+            retomada = t;
+        } else if (p < APadrao.size() && (APadrao[p] == u'?' || APadrao[p] == ATexto[t])) {
+            ++p;
+            ++t;
+        } else if (asterisco != APadrao.npos) {
+            p = asterisco + 1;
+            t = ++retomada;
+        } else {
+            return false;
+        }
+    }
+    return APadrao.find_first_not_of(u'*', p) == APadrao.npos;
+}
+
+/// The files that a name with "*" or "?" stands for, in order: not every shell puts them there itself. Any other name
+/// stands for itself, and so does one that nothing matches.
+std::vector<std::u16string> Expandir(const std::string& AArquivo) {
+    const std::u16string nome = DeUtf8(AArquivo);
+    const std::u16string padrao = OryUtils::MinusculaDe(OryUtils::ExtrairNomeDoArquivo(nome));
+    std::vector<std::u16string> arquivos;
+    if (padrao.find_first_of(u"*?") != padrao.npos && !OryUtils::Plataforma::ExisteArquivo(nome)) {
+        const std::u16string pasta(OryUtils::ExtrairPastaDoArquivo(nome));
+        std::error_code erro;
+        for (const auto& entrada : std::filesystem::directory_iterator(pasta.empty() ? u"." : pasta, erro)) {
+            // By way of UTF-8: a name that is not well-formed is no reason to stop.
+            const std::u8string bytes = entrada.path().filename().u8string();
+            const std::u16string achado = DeUtf8({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+            if (entrada.is_regular_file(erro) && Combina(padrao, OryUtils::MinusculaDe(achado)))
+                arquivos.push_back(pasta + achado);
+        }
+        std::sort(arquivos.begin(), arquivos.end());
+    }
+    if (arquivos.empty()) arquivos.push_back(nome);
+    return arquivos;
+}
+
+TArquivoInfo Ler(std::u16string_view AArquivo) {
     TArquivoInfo info;
-    info.SetArquivo(DeUtf8(AArquivo));
+    info.SetArquivo(AArquivo);
     return info;
 }
 
@@ -202,7 +248,7 @@ void DescreverVersao(CLI::App& AComando, TPedidoDeVersao& APedido) {
         "Com --comparar escreve igual, maior ou menor (A em relação a B): 0 igual, 1 maior, 3 menor, 2 falha.\n\n"
         "Exemplos:\n"
         "  ory versao Folha.exe\n"
-        "  ory versao Folha.exe Calculo.dll pagina.html\n"
+        "  ory versao *.dll *.exe\n"
         "  ory versao --comparar Folha.exe 7.2.0.15");
 }
 
@@ -210,18 +256,22 @@ int MostrarVersao(const TPedidoDeVersao& APedido, TAmbiente& AAmbiente) {
     if (!APedido.Comparar.empty()) return Comparar(APedido, AAmbiente);
     if (APedido.Arquivos.empty()) throw EFalha("falta o arquivo; veja ory versao --ajuda");
     std::vector<TArquivoInfo> infos;
-    for (const std::string& arquivo : APedido.Arquivos)
-        if (OryUtils::Plataforma::ExisteArquivo(DeUtf8(arquivo)))
-            infos.push_back(Ler(arquivo));
-        else
-            AAmbiente.Erro.Escrever("ory: arquivo não encontrado: " + arquivo + "\n");
+    std::size_t pedidos = 0;
+    for (const std::string& pedido : APedido.Arquivos)
+        for (const std::u16string& arquivo : Expandir(pedido)) {
+            ++pedidos;
+            if (OryUtils::Plataforma::ExisteArquivo(arquivo))
+                infos.push_back(Ler(arquivo));
+            else
+                AAmbiente.Erro.Escrever("ory: arquivo não encontrado: " + ParaUtf8(arquivo) + "\n");
+        }
     if (APedido.Json)
         EscreverEmJson(infos, AAmbiente);
-    else if (APedido.Arquivos.size() > 1 && !infos.empty())
+    else if (pedidos > 1 && !infos.empty())
         EscreverTabela(infos, AAmbiente);
     else if (!infos.empty())
         EscreverCartao(infos.front(), AAmbiente);
-    return infos.size() == APedido.Arquivos.size() ? stTudoCerto : stFalha;
+    return infos.size() == pedidos ? stTudoCerto : stFalha;
 }
 
 }  // namespace Ory

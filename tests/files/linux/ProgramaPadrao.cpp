@@ -27,4 +27,16 @@ TEST(ProgramaPadrao, UmProgramaRecebeOsParametros) {
     EXPECT_FALSE(C::AbrirArquivo(quebrado)) << "the system could not start it";
 }
 
+TEST(ArquivosEspeciais, UmCanoSemEscritorNaoFazEsperar) {
+    const TPastaTemporaria pasta;
+    for (const auto* nome : {u"cano.exe", u"cano.ini"}) {
+        ASSERT_EQ(::mkfifo((pasta.Caminho() / nome).c_str(), 0600), 0);
+        TArquivoInfo info;
+        info.SetArquivo(pasta.Nome(nome));
+        EXPECT_EQ(info.GetVersao(), u"");
+        EXPECT_EQ(info.GetNome(), nome);
+        EXPECT_EQ(info.GetData(), 0.0) << "not opened";
+    }
+}
+
 }  // namespace
