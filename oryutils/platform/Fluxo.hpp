@@ -21,6 +21,16 @@ enum TErroFluxo : int {
     efOutro,
 };
 
+/// Tells a file and its state from others: two equal marks mean that nobody has put another file in its place or
+/// written to it, as far as the file system's clock can tell.
+struct TMarcaDeArquivo {
+    std::uint64_t Volume = 0;
+    std::uint64_t Indice = 0;  // of the file in its volume
+    std::uint64_t Tamanho = 0;
+    std::int64_t Tempo = 0;  // last writing, in the system's own units
+    bool operator==(const TMarcaDeArquivo&) const = default;
+};
+
 /// An open file or a standard stream, as bytes: nothing is buffered or translated. Names are UTF-8 on Windows and the
 /// system's own bytes on Linux. Closes what it opened when it goes; the standard streams stay open.
 class TFluxo {
@@ -37,6 +47,10 @@ public:
     TErroFluxo AbrirParaLer(const std::string& ANome);
     /// Creates a file that must not exist yet, for writing.
     TErroFluxo CriarNovo(const std::string& ANome);
+    /// Creates a file, or empties the one that is there, for writing. Others may read it meanwhile.
+    TErroFluxo CriarOuEsvaziar(const std::string& ANome);
+    /// Opens an existing file for writing behind its end. Others may read it meanwhile.
+    TErroFluxo AbrirParaAcrescentar(const std::string& ANome);
     /// Also tells of what the system could only now not write. A closed stream gives efNenhum.
     TErroFluxo Fechar() noexcept;
 
@@ -47,6 +61,10 @@ public:
 
     /// Bytes of a file; none when the stream is not a file.
     std::optional<std::uint64_t> BuscarTamanho() const noexcept;
+    /// The mark of a file; none when the system does not tell.
+    std::optional<TMarcaDeArquivo> BuscarMarca() const noexcept;
+    /// The mark that a file just written to will have once it is closed.
+    std::optional<TMarcaDeArquivo> FixarMarca() noexcept;
     bool EhTerminal() const noexcept;
     /// True when Ler would have to wait for whoever writes the other end.
     bool LerEsperaria() const noexcept;

@@ -1,5 +1,6 @@
 #include "oryutils/platform/Utf.hpp"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -113,6 +114,24 @@ std::u16string DeWindows1252(std::string_view ATexto) {
     for (const char c : ATexto) {
         const auto byte = static_cast<unsigned char>(c);
         resultado += byte >= 0x80 && byte < 0xA0 ? CWindows1252[byte - 0x80u] : static_cast<char16_t>(byte);
+    }
+    return resultado;
+}
+
+std::string ParaWindows1252(std::u16string_view ATexto) {
+    std::string resultado;
+    resultado.reserve(ATexto.size());
+    for (std::size_t i = 0; i < ATexto.size(); ++i) {
+        const char16_t c = ATexto[i];
+        if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) {
+            resultado += static_cast<char>(c);
+            continue;
+        }
+        const auto achado = std::find(CWindows1252.begin(), CWindows1252.end(), c);
+        resultado += achado == CWindows1252.end() ? '?' : static_cast<char>(0x80 + (achado - CWindows1252.begin()));
+        const bool par = c >= 0xD800 && c <= 0xDBFF && i + 1 < ATexto.size() && ATexto[i + 1] >= 0xDC00 &&
+                         ATexto[i + 1] <= 0xDFFF;
+        if (par) ++i;  // one character, one "?"
     }
     return resultado;
 }

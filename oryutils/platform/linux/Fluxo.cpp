@@ -42,6 +42,11 @@ TErroFluxo DeErrno(int AErro) {
 
 int Descritor(std::intptr_t AAlca) { return static_cast<int>(AAlca); }
 
+TMarcaDeArquivo DeDados(const struct stat& ADados) {
+    return {ADados.st_dev, ADados.st_ino, static_cast<std::uint64_t>(ADados.st_size),
+            std::int64_t{ADados.st_mtim.tv_sec} * 1'000'000'000 + ADados.st_mtim.tv_nsec};
+}
+
 }  // namespace
 
 TFluxo TFluxo::EntradaPadrao() noexcept {
@@ -85,6 +90,24 @@ TErroFluxo TFluxo::CriarNovo(const std::string& ANome) {
     return efNenhum;
 }
 
+TErroFluxo TFluxo::CriarOuEsvaziar(const std::string& ANome) {
+    Fechar();
+    const int alca = ::open(ANome.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    if (alca < 0) return DeErrno(errno);
+    FAlca = alca;
+    FDono = true;
+    return efNenhum;
+}
+
+TErroFluxo TFluxo::AbrirParaAcrescentar(const std::string& ANome) {
+    Fechar();
+    const int alca = ::open(ANome.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC);
+    if (alca < 0) return DeErrno(errno);
+    FAlca = alca;
+    FDono = true;
+    return efNenhum;
+}
+
 TErroFluxo TFluxo::Fechar() noexcept {
     const int alca = Descritor(std::exchange(FAlca, CNenhum));
     if (!std::exchange(FDono, false)) return efNenhum;
@@ -117,6 +140,15 @@ std::optional<std::uint64_t> TFluxo::BuscarTamanho() const noexcept {
     if (::fstat(Descritor(FAlca), &dados) != 0 || !S_ISREG(dados.st_mode)) return {};
     return static_cast<std::uint64_t>(dados.st_size);
 }
+
+std::optional<TMarcaDeArquivo> TFluxo::BuscarMarca() const noexcept {
+    struct stat dados {};
+    if (::fstat(Descritor(FAlca), &dados) != 0 || !S_ISREG(dados.st_mode)) return {};
+    return DeDados(dados);
+}
+
+// A write has changed the time already; closing does not.
+std::optional<TMarcaDeArquivo> TFluxo::FixarMarca() noexcept { return BuscarMarca(); }
 
 bool TFluxo::EhTerminal() const noexcept { return ::isatty(Descritor(FAlca)) == 1; }
 

@@ -51,8 +51,9 @@ bool EhPasta(const std::wstring& ANome) {
     return atributos != INVALID_FILE_ATTRIBUTES && (atributos & FILE_ATTRIBUTE_DIRECTORY);
 }
 
-// One call of the system takes a 32-bit count; big writes to a pipe or a console go in parts.
+// One call of the system takes a 32-bit count; big writes to a pipe or a console go in parts, to a file in one piece.
 constexpr std::size_t CMaiorParte = 1u << 20;
+constexpr std::size_t CMaiorParteDeArquivo = 1u << 30;
 
 }  // namespace
 
@@ -99,6 +100,31 @@ TErroFluxo TFluxo::CriarNovo(const std::string& ANome) {
     return efNenhum;
 }
 
+TErroFluxo TFluxo::CriarOuEsvaziar(const std::string& ANome) {
+    Fechar();
+    const std::wstring nome = ParaLargo(ANome);
+    const HANDLE alca = ::CreateFileW(nome.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_ALWAYS,
+                                      FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (alca == INVALID_HANDLE_VALUE) {
+        const DWORD erro = ::GetLastError();
+        return EhPasta(nome) ? efEhPasta : DeErroDoSistema(erro);
+    }
+    FAlca = reinterpret_cast<std::intptr_t>(alca);
+    FDono = true;
+    return efNenhum;
+}
+
+TErroFluxo TFluxo::AbrirParaAcrescentar(const std::string& ANome) {
+    Fechar();
+    const HANDLE alca = ::CreateFileW(ParaLargo(ANome).c_str(),
+                                      FILE_APPEND_DATA | FILE_READ_ATTRIBUTES | FILE_WRITE_ATTRIBUTES | SYNCHRONIZE,
+                                      FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (alca == INVALID_HANDLE_VALUE) return DeErroDoSistema(::GetLastError());
+    FAlca = reinterpret_cast<std::intptr_t>(alca);
+    FDono = true;
+    return efNenhum;
+}
+
 TErroFluxo TFluxo::Fechar() noexcept {
     const std::intptr_t alca = std::exchange(FAlca, CNenhum);
     if (!std::exchange(FDono, false)) return efNenhum;
@@ -117,9 +143,11 @@ std::size_t TFluxo::Ler(std::span<char> ADestino, TErroFluxo& AErro) noexcept {
 }
 
 TErroFluxo TFluxo::Escrever(std::string_view ABytes) noexcept {
+    const bool arquivo = ABytes.size() > CMaiorParte && ::GetFileType(Alca(FAlca)) == FILE_TYPE_DISK;
+    const std::size_t parte = arquivo ? CMaiorParteDeArquivo : CMaiorParte;
     while (!ABytes.empty()) {
         DWORD escritos = 0;
-        const auto quantidade = static_cast<DWORD>(std::min(ABytes.size(), CMaiorParte));
+        const auto quantidade = static_cast<DWORD>(std::min(ABytes.size(), parte));
         if (!::WriteFile(Alca(FAlca), ABytes.data(), quantidade, &escritos, nullptr))
             return DeErroDoSistema(::GetLastError());
         if (escritos == 0) return efOutro;
@@ -132,6 +160,24 @@ std::optional<std::uint64_t> TFluxo::BuscarTamanho() const noexcept {
     LARGE_INTEGER tamanho{};
     if (::GetFileType(Alca(FAlca)) != FILE_TYPE_DISK || !::GetFileSizeEx(Alca(FAlca), &tamanho)) return {};
     return static_cast<std::uint64_t>(tamanho.QuadPart);
+}
+
+std::optional<TMarcaDeArquivo> TFluxo::BuscarMarca() const noexcept {
+    BY_HANDLE_FILE_INFORMATION dados{};
+    if (::GetFileType(Alca(FAlca)) != FILE_TYPE_DISK || !::GetFileInformationByHandle(Alca(FAlca), &dados)) return {};
+    const auto juntar = [](DWORD AAlta, DWORD ABaixa) { return std::uint64_t{AAlta} << 32 | ABaixa; };
+    return TMarcaDeArquivo{
+        dados.dwVolumeSerialNumber, juntar(dados.nFileIndexHigh, dados.nFileIndexLow),
+        juntar(dados.nFileSizeHigh, dados.nFileSizeLow),
+        static_cast<std::int64_t>(juntar(dados.ftLastWriteTime.dwHighDateTime, dados.ftLastWriteTime.dwLowDateTime))};
+}
+
+// The system may set the time of a write only when the file is closed; a time set by hand it leaves alone.
+std::optional<TMarcaDeArquivo> TFluxo::FixarMarca() noexcept {
+    FILETIME agora{};
+    ::GetSystemTimeAsFileTime(&agora);
+    if (!::SetFileTime(Alca(FAlca), nullptr, nullptr, &agora)) return {};
+    return BuscarMarca();
 }
 
 bool TFluxo::EhTerminal() const noexcept {

@@ -1,0 +1,215 @@
+#include "oryutils/files/UnOryUtilsArquivoLog.hpp"
+
+#include "oryutils/files/OryUtilsFiles.hpp"
+#include "oryutils/files/interno/AmbienteDoLog.hpp"
+#include "oryutils/files/interno/CodificacaoDoLog.hpp"
+#include "oryutils/files/interno/GravadorDoLog.hpp"
+#include "oryutils/files/interno/LinhasDoLog.hpp"
+#include "oryutils/platform/DadosDoArquivo.hpp"
+#include "oryutils/platform/Fluxo.hpp"
+#include "oryutils/platform/Utf.hpp"
+#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/runtime/Costura.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/runtime/FormatoDataHora.hpp"
+#include "oryutils/runtime/Modelo.hpp"
+#include "oryutils/runtime/NomeDeArquivo.hpp"
+#include "oryutils/runtime/NumeroTexto.hpp"
+
+#include <optional>
+#include <utility>
+
+namespace OryUtils {
+namespace {
+
+const std::u16string CSeparador(78, u'*');
+
+bool EhVazio(std::u16string_view ATexto) { return Aparar(ATexto).empty(); }
+
+/// The bytes of a file; none when it is not there or cannot be read.
+std::optional<std::string> LerArquivo(std::u16string_view AArquivo) {
+    Plataforma::TFluxo fluxo;
+    if (AArquivo.find(u'\0') != AArquivo.npos || fluxo.AbrirParaLer(ParaUtf8(AArquivo)) != Plataforma::efNenhum)
+        return {};
+    std::string bytes;
+    std::size_t lidos = 0;
+    Plataforma::TErroFluxo erro = Plataforma::efNenhum;
+    // One byte more than the file is said to have, so that its end is met without another turn.
+    bytes.resize(static_cast<std::size_t>(fluxo.BuscarTamanho().value_or(0)) + 1);
+    while (const std::size_t parte = fluxo.Ler({bytes.data() + lidos, bytes.size() - lidos}, erro)) {
+        lidos += parte;
+        if (lidos == bytes.size()) bytes.resize(2 * lidos);
+    }
+    bytes.resize(lidos);
+    return erro == Plataforma::efNenhum ? std::optional(std::move(bytes)) : std::nullopt;
+}
+
+/// True for the time of a scope.
+class TLigado {
+public:
+    explicit TLigado(bool& AMarca) : FMarca(AMarca) { FMarca = true; }
+    ~TLigado() { FMarca = false; }
+    TLigado(const TLigado&) = delete;
+    TLigado& operator=(const TLigado&) = delete;
+
+private:
+    bool& FMarca;
+};
+
+}  // namespace
+
+TOryUtilsArquivoLog::TOryUtilsArquivoLog(std::u16string_view AArquivoLog)
+    : TOryUtilsArquivoLog(AArquivoLog, BuscarAmbienteDoSistema()) {}
+
+TOryUtilsArquivoLog::TOryUtilsArquivoLog(std::u16string_view AArquivoLog, TAmbienteDoLog& AAmbiente)
+    : FAmbiente(AAmbiente),
+      FLog(std::make_unique<TLinhasDoLog>()),
+      FGravador(std::make_unique<TGravadorDoLog>()),
+      FDataControleLog(BuscarParteData(AAmbiente.BuscarAgora())),
+      FFormatos(FormatSettings()) {
+    SetArquivoLog(AArquivoLog);
+}
+
+TOryUtilsArquivoLog::~TOryUtilsArquivoLog() = default;
+
+void TOryUtilsArquivoLog::IniciarLog() {
+    if (FLogIniciado) return;
+    FLogIniciado = true;
+    if (FUsarArquivoLogExistente)
+        CarregarArquivo();
+    else
+        Limpar();
+    AdicionarMensagem(u"Início do processo", clBlue);
+    AdicionarMensagem(u"Aplicação executora: " + FAmbiente.BuscarAplicacao(), clBlue);
+    AdicionarMensagem(u"Versão: " + FAmbiente.BuscarVersao(), clBlue);
+    AdicionarMensagem(u"IP: " + FAmbiente.BuscarIP(), clBlue);
+    AdicionarMensagem(u"Nome da máquina: " + FAmbiente.BuscarNomeDaMaquina(), clBlue);
+    AdicionarSeparador();
+}
+
+void TOryUtilsArquivoLog::Adicionar(std::u16string_view AMensagem, TColor ACor) {
+    AtualizarArquivoLog();
+    IniciarLog();
+    AdicionarMensagem(AMensagem, ACor);
+}
+
+void TOryUtilsArquivoLog::AdicionarSeparador() { Adicionar(CSeparador, clWindowText); }
+
+void TOryUtilsArquivoLog::AdicionarEspacoEmBranco(int AQuantidade) {
+    for (int i = 0; i < AQuantidade; ++i) FLog->Adicionar({});
+}
+
+void TOryUtilsArquivoLog::InserirTexto(std::u16string_view ATexto, int AIndice, TColor /*ACor*/) {
+    if (EhVazio(ATexto)) return;
+    std::u16string texto(ATexto);
+    IniciarLog();
+    if (AIndice < 0 || static_cast<std::size_t>(AIndice) > FLog->GetQuantidade())
+        throw EListError(u"Índice fora dos limites da lista (" + InteiroParaTexto(AIndice) + u")");
+    FLog->Inserir(static_cast<std::size_t>(AIndice), std::move(texto));
+}
+
+void TOryUtilsArquivoLog::FinalizarLog() {
+    AdicionarMensagem(CSeparador, clWindowText);
+    AdicionarMensagem(u"Fim do processo", clBlue);
+    AdicionarMensagem({}, clWindowText);
+    SalvarArquivoLog();
+    if (FTipoPeriodicidade == tplDiario) AtualizarDataModificacaoLogFechamento(FDataControleLog);
+    const std::u16string pasta(ExtrairPastaDoArquivo(FArquivoLog));  // the event may change the name
+    FOnAposFinalizarLog(this, pasta);
+    FLogIniciado = false;
+}
+
+void TOryUtilsArquivoLog::Limpar() { FLog->Limpar(); }
+
+void TOryUtilsArquivoLog::ExibirLog() {
+    if (Plataforma::ExisteArquivo(FArquivoLog))
+        TOryUtilsFiles::AbrirArquivo(FArquivoLog);
+    else
+        CosturaInterface().Alerta(PreencherModelo(u"Arquivo %s não encontrado.", {FArquivoLog}));
+}
+
+void TOryUtilsArquivoLog::SetArquivoLog(std::u16string_view AValor) {
+    if (EhVazio(FNomeArquivoLogSemFormatacao)) FNomeArquivoLogSemFormatacao = ExtrairNomeDoArquivo(AValor);
+    FArquivoLog = FormatarNomeArquivoLog(AValor);
+}
+
+std::u16string TOryUtilsArquivoLog::GetTexto() const { return FLog->GetTexto(); }
+
+void TOryUtilsArquivoLog::SetTipoPeriodicidade(TTipoPeriodicidadeLog AValor) {
+    FTipoPeriodicidade = AValor;
+    SetArquivoLog(std::u16string(FArquivoLog));
+}
+
+TCodificacaoLog TOryUtilsArquivoLog::GetCodificacao() const noexcept { return FLog->GetCodificacao(); }
+
+void TOryUtilsArquivoLog::SetCodificacao(TCodificacaoLog AValor) { FLog->SetCodificacao(AValor); }
+
+std::u16string TOryUtilsArquivoLog::FormatarNomeArquivoLog(std::u16string_view ANomeDado, std::u16string_view AValor,
+                                                           TTipoPeriodicidadeLog ATipoPeriodicidade, TDateTime AData) {
+    const std::u16string nome =
+        TOryUtilsFiles::ExtrairNomeDoArquivoSemExtensao(EhVazio(ANomeDado) ? AValor : ANomeDado);
+    if (EhVazio(nome)) return {};
+    std::u16string resultado(ExtrairPastaDoArquivo(AValor));
+    if (resultado.ends_with(u':')) resultado += u'\\';  // a drive without a delimiter
+    resultado += nome;
+    if (ATipoPeriodicidade == tplDiario) resultado += FormatarDataHora(u"'_'dd'_'mm'_'yyyy", AData);
+    return resultado += u".log";
+}
+
+std::u16string TOryUtilsArquivoLog::FormatarNomeArquivoLog(std::u16string_view ANome) const {
+    return FormatarNomeArquivoLog(FNomeArquivoLogSemFormatacao, ANome, FTipoPeriodicidade, FDataControleLog);
+}
+
+void TOryUtilsArquivoLog::AdicionarMensagem(std::u16string_view AMensagem, TColor ACor) {
+    std::u16string linha;
+    if (FFormatoMensagem == tfmComDataHora && !EhVazio(AMensagem)) linha = BuscarCarimbo();
+    linha += AMensagem;
+    FLog->Adicionar(linha);
+    CosturaInterface().ProcessarMensagens();
+    ValidarEventoOnStatus(linha, ACor);
+    if (FSalvarAutomaticamente) SalvarArquivoLog();
+}
+
+void TOryUtilsArquivoLog::AtualizarArquivoLog() {
+    // The footer lets messages be processed, and what they log still belongs to the day that ends.
+    if (FMudandoDeDia) return;
+    const TDateTime hoje = BuscarParteData(FAmbiente.BuscarAgora());
+    if (hoje == FDataControleLog) return;
+    const TLigado mudando(FMudandoDeDia);
+    FinalizarLog();
+    FLogIniciado = false;
+    FDataControleLog = hoje;
+    SetArquivoLog(std::u16string(FArquivoLog));
+    Limpar();
+}
+
+void TOryUtilsArquivoLog::CarregarArquivo() {
+    if (EhVazio(FArquivoLog)) return;
+    if (const auto bytes = LerArquivo(FArquivoLog)) FLog->Substituir(SepararLinhas(*bytes, GetCodificacao()));
+}
+
+void TOryUtilsArquivoLog::SalvarArquivoLog() {
+    if (EhVazio(FArquivoLog)) return;
+    FGravador->Gravar(FArquivoLog, FLog->BuscarTextoPronto(), FModoGravacao, FAmbiente);
+}
+
+void TOryUtilsArquivoLog::ValidarEventoOnStatus(std::u16string_view AStatus, TColor ACor) {
+    FOnStatus(this, AStatus, ACor);
+}
+
+void TOryUtilsArquivoLog::AtualizarDataModificacaoLogFechamento(TDateTime AData) {
+    if (EhVazio(FArquivoLog)) return;
+    TOryUtilsFiles::AlterouDataHoraArquivo(FArquivoLog, AData);
+    FGravador->AceitarNovaData();
+}
+
+// Lines come in bursts; those of one instant share the text.
+const std::u16string& TOryUtilsArquivoLog::BuscarCarimbo() {
+    const TDateTime agora = FAmbiente.BuscarAgora();
+    if (FCarimbo.empty() || agora != FInstanteDoCarimbo)
+        FCarimbo = FormatarDataHora(u"'['ddddd tt']: '", agora, FFormatos);
+    FInstanteDoCarimbo = agora;
+    return FCarimbo;
+}
+
+}  // namespace OryUtils

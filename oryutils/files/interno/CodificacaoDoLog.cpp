@@ -1,0 +1,61 @@
+#include "oryutils/files/interno/CodificacaoDoLog.hpp"
+
+#include "oryutils/platform/TextoDoSistema.hpp"
+#include "oryutils/platform/Utf.hpp"
+
+#include <algorithm>
+
+namespace OryUtils {
+namespace {
+
+std::string Codificar(std::u16string_view ATexto, TCodificacaoLog ACodificacao) {
+    switch (ACodificacao) {
+        case clUtf8:
+            return ParaUtf8(ATexto);
+        case clWindows1252:
+            return ParaWindows1252(ATexto);
+        default:
+            return Plataforma::ParaTextoDoSistema(ATexto);
+    }
+}
+
+std::u16string Decodificar(std::string_view ABytes, TCodificacaoLog ACodificacao) {
+    switch (ACodificacao) {
+        case clUtf8:
+            return DeUtf8(ABytes);
+        case clWindows1252:
+            return DeWindows1252(ABytes);
+        default:
+            return Plataforma::DeTextoDoSistema(ABytes);
+    }
+}
+
+}  // namespace
+
+void AcrescentarCodificado(std::string& ADestino, std::u16string_view ATexto, TCodificacaoLog ACodificacao) {
+    // Every encoding here holds ASCII as it is, and most of a log is ASCII.
+    const auto resto = std::find_if(ATexto.begin(), ATexto.end(), [](char16_t c) { return c >= 0x80; });
+    const std::size_t ascii = static_cast<std::size_t>(resto - ATexto.begin());
+    const std::size_t antes = ADestino.size();
+    ADestino.resize(antes + ascii);
+    std::transform(ATexto.begin(), resto, ADestino.begin() + static_cast<std::ptrdiff_t>(antes),
+                   [](char16_t c) { return static_cast<char>(c); });
+    if (ascii < ATexto.size()) ADestino += Codificar(ATexto.substr(ascii), ACodificacao);
+}
+
+std::vector<std::u16string> SepararLinhas(std::string_view ABytes, TCodificacaoLog ACodificacao) {
+    constexpr std::string_view CMarcaUtf8 = "\xEF\xBB\xBF";
+    if (ABytes.starts_with(CMarcaUtf8) && Decodificar(CMarcaUtf8, ACodificacao) == u"\uFEFF")
+        ABytes.remove_prefix(CMarcaUtf8.size());
+    std::vector<std::u16string> linhas;
+    // No byte of a longer character of any ANSI code page, nor of UTF-8, is a CR or an LF.
+    while (!ABytes.empty()) {
+        const std::size_t fim = std::min(ABytes.find_first_of("\r\n"), ABytes.size());
+        linhas.push_back(Decodificar(ABytes.substr(0, fim), ACodificacao));
+        ABytes.remove_prefix(fim);
+        ABytes.remove_prefix(ABytes.starts_with("\r\n") ? 2 : ABytes.empty() ? 0 : 1);
+    }
+    return linhas;
+}
+
+}  // namespace OryUtils

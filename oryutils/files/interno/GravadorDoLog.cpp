@@ -1,0 +1,79 @@
+#include "oryutils/files/interno/GravadorDoLog.hpp"
+
+#include "oryutils/files/OryUtilsFiles.hpp"
+#include "oryutils/files/interno/AmbienteDoLog.hpp"
+#include "oryutils/platform/Pastas.hpp"
+#include "oryutils/platform/Utf.hpp"
+#include "oryutils/runtime/NomeDeArquivo.hpp"
+
+namespace OryUtils {
+namespace {
+
+using namespace Plataforma;
+
+void CriarPastaQueFalta(std::u16string_view AArquivo) {
+    const std::u16string_view pasta = ExtrairPastaDoArquivo(AArquivo);
+    if (!pasta.empty() && !TOryUtilsFiles::ExisteDiretorio(pasta)) CriarPasta(pasta);
+}
+
+}  // namespace
+
+bool TGravadorDoLog::Gravar(std::u16string_view AArquivo, const TTextoPronto& ATexto, TModoGravacao AModo,
+                            TAmbienteDoLog& AAmbiente) {
+    constexpr int CTentativas = 14;
+    FPastaConferida = false;
+    for (int i = 1; i <= CTentativas; ++i) {
+        AAmbiente.AoTentarGravar(i);
+        if (Tentar(AArquivo, ATexto, AModo)) return true;
+        Esquecer();
+    }
+    return false;
+}
+
+bool TGravadorDoLog::Tentar(std::u16string_view AArquivo, const TTextoPronto& ATexto, TModoGravacao AModo) {
+    if (AArquivo.find(u'\0') != AArquivo.npos) return false;  // the system would end the name there
+    const bool acrescentar = AModo == mgAcrescentar;
+    if (acrescentar && FMarca && FArquivo == AArquivo && FGeracao == ATexto.Geracao) {
+        const TResultado resultado = Acrescentar(ATexto.Bytes.substr(FGravados));
+        if (resultado != reMudou) {
+            FGravados = ATexto.Bytes.size();
+            return resultado == reFeito;
+        }
+    }
+    FArquivo = AArquivo;
+    FGeracao = ATexto.Geracao;
+    FGravados = ATexto.Bytes.size();
+    if (!FPastaConferida) CriarPastaQueFalta(AArquivo);
+    FPastaConferida = true;
+    return Reescrever(ATexto.Bytes, acrescentar);
+}
+
+TGravadorDoLog::TResultado TGravadorDoLog::Acrescentar(std::string_view ABytes) {
+    TFluxo fluxo;
+    if (fluxo.AbrirParaAcrescentar(ParaUtf8(FArquivo)) != efNenhum || fluxo.BuscarMarca() != FMarca) return reMudou;
+    if (ABytes.empty()) return reFeito;
+    if (fluxo.Escrever(ABytes) != efNenhum) return reFalhou;
+    FMarca = fluxo.FixarMarca();
+    return fluxo.Fechar() == efNenhum ? reFeito : reFalhou;
+}
+
+bool TGravadorDoLog::Reescrever(std::string_view ABytes, bool AMarcar) {
+    FMarca.reset();
+    TFluxo fluxo;
+    if (fluxo.CriarOuEsvaziar(ParaUtf8(FArquivo)) != efNenhum) return false;
+    if (fluxo.Escrever(ABytes) != efNenhum) return false;
+    if (AMarcar) FMarca = fluxo.FixarMarca();
+    return fluxo.Fechar() == efNenhum;
+}
+
+void TGravadorDoLog::AceitarNovaData() {
+    if (!FMarca) return;
+    TFluxo fluxo;
+    if (fluxo.AbrirParaAcrescentar(ParaUtf8(FArquivo)) != efNenhum) return Esquecer();
+    std::optional<TMarcaDeArquivo> marca = fluxo.BuscarMarca();
+    if (!marca) return Esquecer();
+    FMarca->Tempo = marca->Tempo;
+    if (marca != FMarca) Esquecer();
+}
+
+}  // namespace OryUtils

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "oryutils/files/UnOryUtilsArquivoLogTypes.hpp"
+#include "oryutils/files/interno/LinhasDoLog.hpp"
+#include "oryutils/platform/Fluxo.hpp"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace OryUtils {
+
+class TAmbienteDoLog;
+
+/// Brings the file of a log up to date. Nothing raises on input or output.
+class TGravadorDoLog {
+public:
+    /// Makes AArquivo hold ATexto, in up to 14 attempts without a pause; the missing folders are created first. True
+    /// when it was done.
+    /// AModo  mgReescrever: the file is created or emptied, written in one piece and closed. mgAcrescentar: what is new
+    ///        is put behind the file's end when the file is what the last save left there; otherwise, and after any
+    ///        fault, as mgReescrever.
+    bool Gravar(std::u16string_view AArquivo, const TTextoPronto& ATexto, TModoGravacao AModo,
+                TAmbienteDoLog& AAmbiente);
+
+    /// Takes the file as it is now for what the last save left there, when nothing but its time has changed.
+    void AceitarNovaData();
+    /// The next save writes the whole text.
+    void Esquecer() noexcept { FMarca.reset(); }
+
+private:
+    enum TResultado : int { reFeito, reMudou, reFalhou };
+
+    bool Tentar(std::u16string_view AArquivo, const TTextoPronto& ATexto, TModoGravacao AModo);
+    TResultado Acrescentar(std::string_view ABytes);
+    bool Reescrever(std::string_view ABytes, bool AMarcar);
+
+    // What the last save left, while it may be continued.
+    std::optional<Plataforma::TMarcaDeArquivo> FMarca{};
+    std::u16string FArquivo{};
+    std::uint64_t FGeracao = 0;
+    std::size_t FGravados = 0;      // bytes
+    bool FPastaConferida = false;  // in the present save
+};
+
+}  // namespace OryUtils
