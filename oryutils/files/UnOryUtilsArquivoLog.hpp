@@ -27,8 +27,8 @@ class TLinhasDoLog;
 ///
 /// Example:  TOryUtilsArquivoLog log(u"C:\\Logs\\Importacao.txt");
 ///           log.SetTipoPeriodicidade(tplDiario);             // C:\Logs\Importacao_15_11_2026.log
-///           log.Adicionar(u"Cliente 1520 importado", clBlue);  // header first, then "[15/11/2026 14:07:05]: Cliente..."
-///           log.FinalizarLog();                              // footer, and the file is written
+///           log.Adicionar(u"Cliente 1520 importado", clBlue);  // header first, then "[15/11/2026 14:07:05]:
+///           Cliente..." log.FinalizarLog();                              // footer, and the file is written
 class ORY_API TOryUtilsArquivoLog : public TObjeto {
 public:
     /// Takes the name of the file and touches nothing on the disk. AArquivoLog may have a folder and an extension, in

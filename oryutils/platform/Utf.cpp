@@ -129,8 +129,8 @@ std::string ParaWindows1252(std::u16string_view ATexto) {
         }
         const auto achado = std::find(CWindows1252.begin(), CWindows1252.end(), c);
         resultado += achado == CWindows1252.end() ? '?' : static_cast<char>(0x80 + (achado - CWindows1252.begin()));
-        const bool par = c >= 0xD800 && c <= 0xDBFF && i + 1 < ATexto.size() && ATexto[i + 1] >= 0xDC00 &&
-                         ATexto[i + 1] <= 0xDFFF;
+        const bool par =
+            c >= 0xD800 && c <= 0xDBFF && i + 1 < ATexto.size() && ATexto[i + 1] >= 0xDC00 && ATexto[i + 1] <= 0xDFFF;
         if (par) ++i;  // one character, one "?"
     }
     return resultado;

@@ -2,6 +2,7 @@
 
 #include "oryutils/runtime/DataHora.hpp"
 
+#include <cstddef>
 #include <string>
 
 namespace OryUtils {
@@ -21,6 +22,8 @@ public:
     virtual std::u16string BuscarNomeDaMaquina() = 0;
     /// Told before each attempt of a save, from 1.
     virtual void AoTentarGravar(int /*ATentativa*/) {}
+    /// Told of the bytes that an attempt is about to write.
+    virtual void AoEscrever(std::size_t /*ABytes*/) {}
 };
 
 /// The world as it is. Nothing raises: what the system does not tell is empty.

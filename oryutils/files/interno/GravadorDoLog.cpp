@@ -24,17 +24,18 @@ bool TGravadorDoLog::Gravar(std::u16string_view AArquivo, const TTextoPronto& AT
     FPastaConferida = false;
     for (int i = 1; i <= CTentativas; ++i) {
         AAmbiente.AoTentarGravar(i);
-        if (Tentar(AArquivo, ATexto, AModo)) return true;
+        if (Tentar(AArquivo, ATexto, AModo, AAmbiente)) return true;
         Esquecer();
     }
     return false;
 }
 
-bool TGravadorDoLog::Tentar(std::u16string_view AArquivo, const TTextoPronto& ATexto, TModoGravacao AModo) {
+bool TGravadorDoLog::Tentar(std::u16string_view AArquivo, const TTextoPronto& ATexto, TModoGravacao AModo,
+                            TAmbienteDoLog& AAmbiente) {
     if (AArquivo.find(u'\0') != AArquivo.npos) return false;  // the system would end the name there
     const bool acrescentar = AModo == mgAcrescentar;
     if (acrescentar && FMarca && FArquivo == AArquivo && FGeracao == ATexto.Geracao) {
-        const TResultado resultado = Acrescentar(ATexto.Bytes.substr(FGravados));
+        const TResultado resultado = Acrescentar(ATexto.Bytes.substr(FGravados), AAmbiente);
         if (resultado != reMudou) {
             FGravados = ATexto.Bytes.size();
             return resultado == reFeito;
@@ -45,22 +46,24 @@ bool TGravadorDoLog::Tentar(std::u16string_view AArquivo, const TTextoPronto& AT
     FGravados = ATexto.Bytes.size();
     if (!FPastaConferida) CriarPastaQueFalta(AArquivo);
     FPastaConferida = true;
-    return Reescrever(ATexto.Bytes, acrescentar);
+    return Reescrever(ATexto.Bytes, acrescentar, AAmbiente);
 }
 
-TGravadorDoLog::TResultado TGravadorDoLog::Acrescentar(std::string_view ABytes) {
+TGravadorDoLog::TResultado TGravadorDoLog::Acrescentar(std::string_view ABytes, TAmbienteDoLog& AAmbiente) {
     TFluxo fluxo;
     if (fluxo.AbrirParaAcrescentar(ParaUtf8(FArquivo)) != efNenhum || fluxo.BuscarMarca() != FMarca) return reMudou;
     if (ABytes.empty()) return reFeito;
+    AAmbiente.AoEscrever(ABytes.size());
     if (fluxo.Escrever(ABytes) != efNenhum) return reFalhou;
     FMarca = fluxo.FixarMarca();
     return fluxo.Fechar() == efNenhum ? reFeito : reFalhou;
 }
 
-bool TGravadorDoLog::Reescrever(std::string_view ABytes, bool AMarcar) {
+bool TGravadorDoLog::Reescrever(std::string_view ABytes, bool AMarcar, TAmbienteDoLog& AAmbiente) {
     FMarca.reset();
     TFluxo fluxo;
     if (fluxo.CriarOuEsvaziar(ParaUtf8(FArquivo)) != efNenhum) return false;
+    AAmbiente.AoEscrever(ABytes.size());
     if (fluxo.Escrever(ABytes) != efNenhum) return false;
     if (AMarcar) FMarca = fluxo.FixarMarca();
     return fluxo.Fechar() == efNenhum;

@@ -33,15 +33,16 @@ public:
 private:
     enum TResultado : int { reFeito, reMudou, reFalhou };
 
-    bool Tentar(std::u16string_view AArquivo, const TTextoPronto& ATexto, TModoGravacao AModo);
-    TResultado Acrescentar(std::string_view ABytes);
-    bool Reescrever(std::string_view ABytes, bool AMarcar);
+    bool Tentar(std::u16string_view AArquivo, const TTextoPronto& ATexto, TModoGravacao AModo,
+                TAmbienteDoLog& AAmbiente);
+    TResultado Acrescentar(std::string_view ABytes, TAmbienteDoLog& AAmbiente);
+    bool Reescrever(std::string_view ABytes, bool AMarcar, TAmbienteDoLog& AAmbiente);
 
     // What the last save left, while it may be continued.
     std::optional<Plataforma::TMarcaDeArquivo> FMarca{};
     std::u16string FArquivo{};
     std::uint64_t FGeracao = 0;
-    std::size_t FGravados = 0;      // bytes
+    std::size_t FGravados = 0;     // bytes
     bool FPastaConferida = false;  // in the present save
 };
 

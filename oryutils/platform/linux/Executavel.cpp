@@ -3,6 +3,7 @@
 #include "oryutils/platform/Utf.hpp"
 
 #include <climits>
+
 #include <unistd.h>
 
 namespace OryUtils::Plataforma {

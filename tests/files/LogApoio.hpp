@@ -1,0 +1,86 @@
+#pragma once
+
+#include "oryutils/files/UnOryUtilsArquivoLog.hpp"
+#include "oryutils/files/interno/AmbienteDoLog.hpp"
+#include "oryutils/platform/TextoDoSistema.hpp"
+#include "oryutils/runtime/Utf.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <random>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// A world whose clock stands until it is moved, and that counts what a save does.
+struct TAmbienteDeTeste final : OryUtils::TAmbienteDoLog {
+    OryUtils::TDateTime Agora = OryUtils::CodificarData(2026, 11, 15);
+    int Tentativas = 0;
+    std::size_t Bytes = 0;
+    std::function<void(int)> AoTentar{};
+
+    OryUtils::TDateTime BuscarAgora() override { return Agora; }
+    std::u16string BuscarAplicacao() override { return u"Importador.exe"; }
+    std::u16string BuscarVersao() override { return u"7.2.0.15"; }
+    std::u16string BuscarIP() override { return u"192.168.0.10"; }
+    std::u16string BuscarNomeDaMaquina() override { return u"SERVIDOR"; }
+    void AoTentarGravar(int ATentativa) override {
+        ++Tentativas;
+        if (AoTentar) AoTentar(ATentativa);
+    }
+    void AoEscrever(std::size_t ABytes) override { Bytes += ABytes; }
+
+    void Marcar(int AAno, int AMes, int ADia, int AHora = 0, int AMinuto = 0, int ASegundo = 0) {
+        Agora = OryUtils::CodificarData(AAno, AMes, ADia) + OryUtils::CodificarHora(AHora, AMinuto, ASegundo, 0);
+    }
+};
+
+/// A log with its seams open.
+struct TLogDeTeste : OryUtils::TOryUtilsArquivoLog {
+    using TOryUtilsArquivoLog::SalvarArquivoLog;
+    using TOryUtilsArquivoLog::TOryUtilsArquivoLog;
+};
+
+/// A folder of its own for each test, gone at its end.
+class TPastaDeTeste {
+public:
+    TPastaDeTeste() {
+        std::random_device sorteio;
+        do FPasta = std::filesystem::temp_directory_path() / ("ory_log_" + std::to_string(sorteio()));
+        while (!std::filesystem::create_directories(FPasta));
+    }
+    ~TPastaDeTeste() {
+        std::error_code erro;
+        std::filesystem::remove_all(FPasta, erro);
+    }
+    TPastaDeTeste(const TPastaDeTeste&) = delete;
+    TPastaDeTeste& operator=(const TPastaDeTeste&) = delete;
+
+    const std::filesystem::path& GetPasta() const { return FPasta; }
+    std::u16string Nome(std::string_view ANome) const { return (FPasta / ANome).u16string(); }
+
+private:
+    std::filesystem::path FPasta;
+};
+
+inline std::string LerBytes(const std::filesystem::path& AArquivo) {
+    std::ifstream arquivo(AArquivo, std::ios::binary);
+    return {std::istreambuf_iterator<char>(arquivo), {}};
+}
+
+inline void GravarBytes(const std::filesystem::path& AArquivo, std::string_view ABytes,
+                        std::ios::openmode AModo = std::ios::trunc) {
+    std::ofstream(AArquivo, std::ios::binary | std::ios::out | AModo) << std::string_view(ABytes);  // closed at once
+}
+
+/// The lines with the system's break behind each, in UTF-8: the file of a log in clUtf8.
+inline std::string JuntarLinhas(const std::vector<std::u16string>& ALinhas) {
+    const std::string quebra = OryUtils::ParaUtf8(OryUtils::Plataforma::BuscarQuebraDeLinha());
+    std::string texto;
+    for (const auto& linha : ALinhas) texto += OryUtils::ParaUtf8(linha) + quebra;
+    return texto;
+}

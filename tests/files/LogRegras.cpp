@@ -1,0 +1,366 @@
+#include "oryutils/files/OryUtilsFiles.hpp"
+#include "oryutils/runtime/Costura.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/runtime/FormatoDataHora.hpp"
+
+#include "LogApoio.hpp"
+
+namespace {
+
+using namespace OryUtils;
+
+const std::u16string CAsteriscos(78, u'*');
+
+class LogRegras : public testing::Test {
+protected:
+    std::u16string Carimbar(std::u16string_view AMensagem) const {
+        return FormatarDataHora(u"'['dd/mm/yyyy hh:nn:ss']: '", Ambiente.Agora) + std::u16string(AMensagem);
+    }
+    std::vector<std::u16string> Cabecalho() const {
+        return {Carimbar(u"Início do processo"),        Carimbar(u"Aplicação executora: Importador.exe"),
+                Carimbar(u"Versão: 7.2.0.15"),          Carimbar(u"IP: 192.168.0.10"),
+                Carimbar(u"Nome da máquina: SERVIDOR"), Carimbar(CAsteriscos)};
+    }
+    std::vector<std::u16string> Rodape() const { return {Carimbar(CAsteriscos), Carimbar(u"Fim do processo"), u""}; }
+    static std::vector<std::u16string> Somar(std::vector<std::vector<std::u16string>> APartes) {
+        std::vector<std::u16string> todas;
+        for (const auto& parte : APartes) todas.insert(todas.end(), parte.begin(), parte.end());
+        return todas;
+    }
+    /// GetTexto of those lines.
+    static std::u16string Texto(const std::vector<std::u16string>& ALinhas) {
+        std::u16string texto = DeUtf8(JuntarLinhas(ALinhas));
+        texto.resize(texto.size() - Plataforma::BuscarQuebraDeLinha().size());
+        return texto;
+    }
+
+    const TFormatosTemporarios Formatos{BuscarFormatosBrasileiros()};
+    const TPastaDeTeste Pasta;
+    TAmbienteDeTeste Ambiente;
+};
+
+TEST_F(LogRegras, NomeDoArquivo) {
+    struct TCaso {
+        const char16_t *Dado, *Valor;
+        TTipoPeriodicidadeLog Periodicidade;
+        const char16_t* Esperado;
+        const char* Porque;
+    };
+    constexpr TCaso CCasos[] = {
+        {u"", u"C:\\Logs\\Importacao.txt", tplDiario, u"C:\\Logs\\Importacao_15_11_2026.log", "day in the name"},
+        {u"", u"C:\\Logs\\Importacao.txt", tplUnico, u"C:\\Logs\\Importacao.log", "extension replaced"},
+        {u"Importacao.txt", u"D:\\Outra\\Nome.txt", tplUnico, u"D:\\Outra\\Importacao.log", "the first name wins"},
+        {u"  ", u"/var/log/a.b.log", tplUnico, u"/var/log/a.b.log",
+         "a blank name is none; only the last extension goes"},
+        {u"", u"rotina", tplUnico, u"rotina.log", "no folder: relative"},
+        {u"", u"C:rotina", tplUnico, u"C:\\rotina.log", "a drive gets its delimiter"},
+        {u"a", u"/tmp/", tplUnico, u"/tmp/a.log", "a folder alone"},
+        {u"", u"/tmp/.log", tplDiario, u"", "nothing but an extension: no file"},
+        {u"", u"/tmp/ .log", tplUnico, u"", "a blank name: no file"},
+        {u"", u"", tplDiario, u"", "nothing"},
+    };
+    for (const TCaso& c : CCasos)
+        EXPECT_EQ(TOryUtilsArquivoLog::FormatarNomeArquivoLog(c.Dado, c.Valor, c.Periodicidade,
+                                                              CodificarData(2026, 11, 15) + 0.99),
+                  c.Esperado)
+            << c.Porque;
+}
+
+TEST_F(LogRegras, OPrimeiroNomeFicaEAPeriodicidadeVaiEVem) {
+    TOryUtilsArquivoLog log(u"/logs/Importacao.txt", Ambiente);
+    log.SetArquivoLog(u"/outra/Nome.txt");
+    EXPECT_EQ(log.GetArquivoLog(), u"/outra/Importacao.log");
+    log.SetTipoPeriodicidade(tplDiario);
+    EXPECT_EQ(log.GetArquivoLog(), u"/outra/Importacao_15_11_2026.log");
+    log.SetTipoPeriodicidade(tplUnico);
+    EXPECT_EQ(log.GetArquivoLog(), u"/outra/Importacao.log");
+    TOryUtilsArquivoLog semNome(u"", Ambiente);
+    semNome.SetArquivoLog(u"/logs/Tarde.txt");
+    EXPECT_EQ(semNome.GetArquivoLog(), u"/logs/Tarde.log") << "a blank name does not win";
+}
+
+TEST_F(LogRegras, CabecalhoMensagensERodape) {
+    Ambiente.Marcar(2026, 11, 15, 14, 7, 5);
+    TLogDeTeste log(Pasta.Nome("a/b/Importacao.txt"), Ambiente);
+    log.Adicionar(u"primeira", clBlue);
+    auto linhas = Somar({Cabecalho(), {Carimbar(u"primeira")}});
+    EXPECT_EQ(log.GetTexto(), Texto(linhas));
+    log.Adicionar(u"   ", clBlue);
+    log.AdicionarEspacoEmBranco(2);
+    log.AdicionarEspacoEmBranco(-1);
+    log.SetFormatoMensagem(tfmSomenteTexto);
+    log.Adicionar(u"sem hora", clBlue);
+    log.SetFormatoMensagem(tfmComDataHora);
+    linhas = Somar({linhas, {u"   ", u"", u"", u"sem hora"}});
+    EXPECT_EQ(log.GetTexto(), Texto(linhas));
+    EXPECT_FALSE(std::filesystem::exists(Pasta.GetPasta() / "a")) << "nothing touches the disk before a save";
+    log.SetCodificacao(clUtf8);
+    log.FinalizarLog();
+    linhas = Somar({linhas, Rodape()});
+    EXPECT_EQ(LerBytes(Pasta.GetPasta() / "a/b/Importacao.log"), JuntarLinhas(linhas));
+    EXPECT_EQ(Ambiente.Tentativas, 1);
+    // A new run of the same object starts empty.
+    log.IniciarLog();
+    EXPECT_EQ(log.GetTexto(), Texto(Cabecalho()));
+}
+
+TEST_F(LogRegras, FinalizarSemInicioSoEscreveORodape) {
+    TLogDeTeste log(Pasta.Nome("x"), Ambiente);
+    log.SetCodificacao(clUtf8);
+    log.FinalizarLog();
+    EXPECT_EQ(LerBytes(Pasta.GetPasta() / "x.log"), JuntarLinhas(Rodape()));
+}
+
+TEST_F(LogRegras, SalvarSemLinhasDaUmaQuebra) {
+    TLogDeTeste log(Pasta.Nome("x"), Ambiente);
+    for (const TModoGravacao modo : {mgReescrever, mgAcrescentar}) {
+        log.SetModoGravacao(modo);
+        log.Limpar();
+        log.SalvarArquivoLog();
+        EXPECT_EQ(LerBytes(Pasta.GetPasta() / "x.log"), JuntarLinhas({u""}));
+        log.AdicionarEspacoEmBranco(1);
+        log.SalvarArquivoLog();
+        EXPECT_EQ(LerBytes(Pasta.GetPasta() / "x.log"), JuntarLinhas({u""})) << "one empty line looks the same";
+        log.AdicionarEspacoEmBranco(1);
+        log.SalvarArquivoLog();
+        EXPECT_EQ(LerBytes(Pasta.GetPasta() / "x.log"), JuntarLinhas({u"", u""}));
+    }
+}
+
+TEST_F(LogRegras, SalvaAposCadaMensagem) {
+    TLogDeTeste log(Pasta.Nome("x"), Ambiente);
+    log.SetSalvarAutomaticamente(true);
+    log.Adicionar(u"um", clBlue);
+    EXPECT_EQ(Ambiente.Tentativas, 7) << "six lines of header and the message";
+    log.InserirTexto(u"dois", 0, clBlue);
+    log.AdicionarEspacoEmBranco(1);
+    EXPECT_EQ(Ambiente.Tentativas, 7) << "these do not save";
+}
+
+TEST_F(LogRegras, InserirTexto) {
+    TOryUtilsArquivoLog log(u"", Ambiente);
+    log.InserirTexto(u" \t", 99, clBlue);
+    EXPECT_EQ(log.GetTexto(), u"") << "blank: not even a start";
+    log.InserirTexto(u"topo", 0, clBlue);
+    log.InserirTexto(u" fim ", 7, clBlue);
+    log.InserirTexto(u"meio", 1, clBlue);
+    auto linhas = Somar({{u"topo", u"meio"}, Cabecalho(), {u" fim "}});
+    EXPECT_EQ(log.GetTexto(), Texto(linhas));
+    EXPECT_THROW(log.InserirTexto(u"x", 10, clBlue), EListError);
+    EXPECT_THROW(log.InserirTexto(u"x", -1, clBlue), EListError);
+    EXPECT_EQ(log.GetTexto(), Texto(linhas));
+}
+
+/// Writes down what the events bring.
+struct TOuvinte {
+    struct TStatus {
+        std::u16string Linha;
+        TColor Cor;
+    };
+    std::vector<TStatus> Linhas{};
+    std::vector<std::u16string> Pastas{};
+    TObjeto* Quem = nullptr;
+    void AoMudar(TObjeto* ASender, std::u16string_view AStatus, TColor ACor) {
+        Quem = ASender;
+        Linhas.push_back({std::u16string(AStatus), ACor});
+    }
+    void AoFinalizar(TObjeto* ASender, std::u16string_view APasta) {
+        Quem = ASender;
+        Pastas.emplace_back(APasta);
+    }
+};
+
+TEST_F(LogRegras, Eventos) {
+    TOuvinte ouvinte;
+    TOryUtilsArquivoLog log(Pasta.Nome("sub/x.txt"), Ambiente);
+    log.SetOnStatus(TEventoOnStatusLog::De<&TOuvinte::AoMudar>(ouvinte));
+    log.SetOnAposFinalizarLog(TEventoAposFinalizarLog::De<&TOuvinte::AoFinalizar>(ouvinte));
+    log.Adicionar(u"oi", 0x00123456);
+    log.AdicionarEspacoEmBranco(3);
+    log.InserirTexto(u"nada", 0, clBlue);
+    log.Adicionar(u"  ", 7);
+    log.FinalizarLog();
+    const auto linhas = Somar({Cabecalho(), {Carimbar(u"oi"), u"  "}, Rodape()});
+    const TColor cores[] = {clBlue,     clBlue, clBlue,       clBlue, clBlue,      clWindowText,
+                            0x00123456, 7,      clWindowText, clBlue, clWindowText};
+    ASSERT_EQ(ouvinte.Linhas.size(), linhas.size());
+    for (std::size_t i = 0; i < linhas.size(); ++i) {
+        EXPECT_EQ(ouvinte.Linhas[i].Linha, linhas[i]);
+        EXPECT_EQ(ouvinte.Linhas[i].Cor, cores[i]) << i;
+    }
+    EXPECT_EQ(ouvinte.Pastas, std::vector{Pasta.Nome("sub/")});
+    EXPECT_EQ(ouvinte.Quem, &log);
+    EXPECT_EQ(clBlue, 0x00FF0000u);
+    EXPECT_EQ(clWindowText, 0xFF000008u);
+}
+
+TEST_F(LogRegras, ViradaDoDia) {
+    Ambiente.Marcar(2026, 11, 15, 23, 59, 59);
+    const auto cabecalho = Cabecalho();
+    const auto meia = Carimbar(u"antes");
+    TLogDeTeste log(Pasta.Nome("Dia.txt"), Ambiente);
+    log.SetCodificacao(clUtf8);
+    log.SetTipoPeriodicidade(tplDiario);
+    log.Adicionar(u"antes", clBlue);
+    Ambiente.Marcar(2026, 11, 16);
+    log.Adicionar(u"depois", clBlue);
+    const auto velho = Pasta.GetPasta() / "Dia_15_11_2026.log";
+    EXPECT_EQ(LerBytes(velho), JuntarLinhas(Somar({cabecalho, {meia}, Rodape()})))
+        << "the footer tells the hour it was";
+    EXPECT_EQ(log.GetTexto(), Texto(Somar({Cabecalho(), {Carimbar(u"depois")}})));
+    EXPECT_EQ(log.GetArquivoLog(), Pasta.Nome("Dia_16_11_2026.log"));
+    EXPECT_FALSE(std::filesystem::exists(Pasta.GetPasta() / "Dia_16_11_2026.log"));
+    Ambiente.Marcar(2026, 11, 17, 0, 30);
+    log.FinalizarLog();
+    // Finished after midnight, dated by the day that they record.
+    for (const int dia : {15, 16}) {
+        const std::u16string nome = Pasta.Nome("Dia_" + std::to_string(dia) + "_11_2026.log");
+        TArquivoInfo info;
+        info.SetArquivo(nome);
+        EXPECT_EQ(info.GetDataModificacao(), CodificarData(2026, 11, dia)) << dia;
+    }
+}
+
+TEST_F(LogRegras, ArquivoUnicoTambemTerminaNaViradaDoDia) {
+    TLogDeTeste log(Pasta.Nome("U"), Ambiente);
+    log.SetCodificacao(clUtf8);
+    log.Adicionar(u"ontem", clBlue);
+    Ambiente.Marcar(2026, 11, 16, 8);
+    log.Adicionar(u"hoje", clBlue);
+    const auto arquivo = Pasta.GetPasta() / "U.log";
+    EXPECT_NE(LerBytes(arquivo).find("ontem"), std::string::npos);
+    log.SalvarArquivoLog();
+    EXPECT_EQ(LerBytes(arquivo).find("ontem"), std::string::npos)
+        << "the day's text takes the place of the earlier one";
+    log.FinalizarLog();
+    log.SetUsarArquivoLogExistente(true);
+    Ambiente.Marcar(2026, 11, 17, 8);
+    log.Adicionar(u"amanhã", clBlue);
+    EXPECT_NE(log.GetTexto().find(u"hoje"), std::u16string::npos) << "with the existing file both days stay";
+}
+
+TEST_F(LogRegras, MudancaDeHorario) {
+    TLogDeTeste log(u"", Ambiente);
+    Ambiente.Marcar(2018, 11, 3, 23, 59, 59);
+    log.Adicionar(u"a", clBlue);
+    Ambiente.Marcar(2018, 11, 4, 1);  // clocks went forward: midnight never was
+    log.Adicionar(u"b", clBlue);
+    EXPECT_EQ(log.GetTexto(), Texto(Somar({Cabecalho(), {Carimbar(u"b")}})));
+    Ambiente.Marcar(2019, 2, 16, 23, 59, 59);
+    log.Adicionar(u"c", clBlue);
+    const auto linhas = Somar({Cabecalho(), {Carimbar(u"c")}});
+    Ambiente.Marcar(2019, 2, 16, 23);  // clocks went back an hour: the day is the same
+    log.Adicionar(u"d", clBlue);
+    EXPECT_EQ(log.GetTexto(), Texto(Somar({linhas, {Carimbar(u"d")}})));
+}
+
+TEST_F(LogRegras, AForeDaHoraEUmaSoEmTodoOLog) {
+    TOryUtilsArquivoLog log(u"", Ambiente);
+    TFormatSettings outros = BuscarFormatosBrasileiros();
+    outros.ShortDateFormat = u"yyyy-mm-dd";
+    const TFormatosTemporarios temporarios(outros);
+    log.Adicionar(u"x", clBlue);
+    EXPECT_TRUE(log.GetTexto().ends_with(u"[15/11/2026 00:00:00]: x")) << "midnight has its time too";
+}
+
+TEST_F(LogRegras, CarregaOArquivoExistenteComQualquerFimDeLinha) {
+    struct TCaso {
+        const char* Bytes;
+        std::vector<std::u16string> Linhas;
+        const char* Porque;
+    };
+    const TCaso casos[] = {
+        {"a\nb\n", {u"a", u"b"}, "LF"},
+        {"a\r\nb\r\n", {u"a", u"b"}, "CR LF"},
+        {"a\rb\r", {u"a", u"b"}, "CR"},
+        {"a\n\r\n\rb", {u"a", u"", u"", u"b"}, "mixed, the last one open"},
+        {"\n", {u""}, "one empty line"},
+        {"", {}, "nothing"},
+        {"\xEF\xBB\xBF"
+         "ação\n",
+         {u"ação"},
+         "the mark of an editor"},
+        {"meio \xC3", {u"meio \uFFFD"}, "cut inside a character by a kill"},
+    };
+    for (const TCaso& c : casos) {
+        GravarBytes(Pasta.GetPasta() / "E.log", c.Bytes);
+        TLogDeTeste log(Pasta.Nome("E"), Ambiente);
+        log.SetCodificacao(clUtf8);
+        log.SetUsarArquivoLogExistente(true);
+        log.IniciarLog();
+        EXPECT_EQ(log.GetTexto(), Texto(Somar({c.Linhas, Cabecalho()}))) << c.Porque;
+        log.SalvarArquivoLog();
+        EXPECT_EQ(LerBytes(Pasta.GetPasta() / "E.log"), JuntarLinhas(Somar({c.Linhas, Cabecalho()}))) << c.Porque;
+    }
+    std::filesystem::remove(Pasta.GetPasta() / "E.log");
+    TLogDeTeste log(Pasta.Nome("E"), Ambiente);
+    log.SetUsarArquivoLogExistente(true);
+    log.AdicionarEspacoEmBranco(1);
+    log.IniciarLog();
+    EXPECT_EQ(log.GetTexto(), Texto(Somar({{u""}, Cabecalho()}))) << "no file: the list stays as it is";
+}
+
+TEST_F(LogRegras, CodificacaoNuncaPara) {
+    const std::u16string texto = u"coração € \u4E2D \U0001F600 \xD800 fim";
+    struct TCaso {
+        TCodificacaoLog Codificacao;
+        std::string Esperado;
+    };
+    const TCaso casos[] = {
+        {clUtf8, ParaUtf8(texto)},
+        {clWindows1252, "cora\xE7\xE3o \x80 ? ? ? fim"},
+        {clPadrao, Plataforma::ParaTextoDoSistema(texto)},
+    };
+    const std::string quebra = ParaUtf8(Plataforma::BuscarQuebraDeLinha());
+    TLogDeTeste log(Pasta.Nome("C"), Ambiente);
+    log.SetModoGravacao(mgAcrescentar);
+    log.SetFormatoMensagem(tfmSomenteTexto);
+    log.IniciarLog();
+    log.Limpar();
+    log.Adicionar(texto, clBlue);
+    for (const TCaso& c : casos) {
+        log.SetCodificacao(c.Codificacao);
+        log.SalvarArquivoLog();
+        EXPECT_EQ(LerBytes(Pasta.GetPasta() / "C.log"), c.Esperado + quebra) << c.Codificacao;
+        EXPECT_EQ(log.GetTexto(), texto) << "the memory keeps what the file cannot";
+    }
+    // Every byte of Windows-1252 goes there and back.
+    std::string bytes;
+    for (int i = 1; i < 256; ++i)
+        if (i != '\r' && i != '\n') bytes += static_cast<char>(i);
+    EXPECT_EQ(ParaWindows1252(DeWindows1252(bytes)), bytes);
+}
+
+TEST_F(LogRegras, ExibirAvisaQuandoNaoHaArquivo) {
+    static std::u16string GAviso;
+    TCosturaInterface& costura = CosturaInterface();
+    const TCosturaInterface antes = costura;
+    costura.Alerta = [](std::u16string_view AMensagem) { GAviso = AMensagem; };
+    TOryUtilsArquivoLog(u"/nao/existe/100%s.txt", Ambiente).ExibirLog();
+    costura = antes;
+    EXPECT_EQ(GAviso, u"Arquivo /nao/existe/100%s.log não encontrado.");
+}
+
+/// A screen that logs while the log lets messages be processed.
+TEST_F(LogRegras, MensagemProcessadaNoRodapeFicaNoDiaQueTermina) {
+    static TLogDeTeste* GLog;
+    static int GRestam;
+    TLogDeTeste log(Pasta.Nome("R"), Ambiente);
+    log.SetCodificacao(clUtf8);
+    log.SetTipoPeriodicidade(tplDiario);
+    log.Adicionar(u"um", clBlue);
+    GLog = &log;
+    GRestam = 1;
+    TCosturaInterface& costura = CosturaInterface();
+    const TCosturaInterface antes = costura;
+    costura.ProcessarMensagens = [] {
+        if (GRestam-- > 0) GLog->Adicionar(u"do temporizador", clBlue);
+    };
+    Ambiente.Marcar(2026, 11, 16);
+    log.Adicionar(u"dois", clBlue);
+    costura = antes;
+    EXPECT_NE(LerBytes(Pasta.GetPasta() / "R_15_11_2026.log").find("do temporizador"), std::string::npos);
+    EXPECT_EQ(log.GetTexto(), Texto(Somar({Cabecalho(), {Carimbar(u"dois")}})));
+}
+
+}  // namespace
