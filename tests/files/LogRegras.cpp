@@ -1,4 +1,5 @@
-#include "oryutils/files/OryUtilsFiles.hpp"
+#include "oryutils/files/interno/DataDoArquivo.hpp"
+#include "oryutils/platform/DadosDoArquivo.hpp"
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
@@ -215,9 +216,9 @@ TEST_F(LogRegras, ViradaDoDia) {
     // Finished after midnight, dated by the day that they record.
     for (const int dia : {15, 16}) {
         const std::u16string nome = Pasta.Nome("Dia_" + std::to_string(dia) + "_11_2026.log");
-        TArquivoInfo info;
-        info.SetArquivo(nome);
-        EXPECT_EQ(info.GetDataModificacao(), CodificarData(2026, 11, dia)) << dia;
+        const auto dados = Plataforma::ProcurarArquivo(nome);
+        ASSERT_TRUE(dados);
+        EXPECT_EQ(Interno::BuscarDataEmpacotada(dados->UltimaGravacao), CodificarData(2026, 11, dia)) << dia;
     }
 }
 
@@ -254,7 +255,7 @@ TEST_F(LogRegras, MudancaDeHorario) {
     EXPECT_EQ(log.GetTexto(), Texto(Somar({linhas, {Carimbar(u"d")}})));
 }
 
-TEST_F(LogRegras, AForeDaHoraEUmaSoEmTodoOLog) {
+TEST_F(LogRegras, AFormaDaHoraEhUmaSoEmTodoOLog) {
     TOryUtilsArquivoLog log(u"", Ambiente);
     TFormatSettings outros = BuscarFormatosBrasileiros();
     outros.ShortDateFormat = u"yyyy-mm-dd";

@@ -1,0 +1,207 @@
+#include "LogApoio.hpp"
+
+namespace {
+
+using namespace OryUtils;
+namespace fs = std::filesystem;
+
+class LogFalhas : public testing::TestWithParam<TModoGravacao> {
+protected:
+    LogFalhas() {
+        Log.SetCodificacao(clUtf8), Log.SetModoGravacao(GetParam()), Log.SetFormatoMensagem(tfmSomenteTexto);
+    }
+    /// The file holds every line that the memory holds.
+    void ConferirArquivo(const fs::path& AArquivo) {
+        const std::string quebra = ParaUtf8(Plataforma::BuscarQuebraDeLinha());
+        EXPECT_EQ(LerBytes(AArquivo), ParaUtf8(Log.GetTexto()) + quebra);
+    }
+    int ContarTentativas() {
+        Ambiente.Tentativas = 0;
+        EXPECT_NO_THROW(Log.SalvarArquivoLog());
+        return Ambiente.Tentativas;
+    }
+
+    const TPastaDeTeste Pasta;
+    TAmbienteDeTeste Ambiente;
+    const fs::path Arquivo = Pasta.GetPasta() / "p" / "Falha.log";
+    TLogDeTeste Log{Arquivo.u16string(), Ambiente};
+};
+
+TEST_P(LogFalhas, FalhaConsertoERegravacao) {
+    struct TCaso {
+        std::function<void()> Estragar, Consertar;
+        const char* Porque;
+    };
+    const TCaso casos[] = {
+        {[&] { fs::remove_all(Pasta.GetPasta() / "p"), GravarBytes(Pasta.GetPasta() / "p", "um arquivo"); },
+         [&] { fs::remove(Pasta.GetPasta() / "p"); }, "a file where the folder should be"},
+        {[&] { fs::remove(Arquivo), fs::create_directories(Arquivo); }, [&] { fs::remove(Arquivo); },
+         "a folder in the place of the file"},
+        {[&] { fs::remove(Arquivo), fs::create_directories(Arquivo / "cheia"); }, [&] { fs::remove_all(Arquivo); },
+         "a folder with something in it"},
+    };
+    Log.Adicionar(u"começo", clBlue);
+    EXPECT_EQ(ContarTentativas(), 1) << "a missing folder is no fault: it is created";
+    for (const TCaso& c : casos) {
+        c.Estragar();
+        Log.Adicionar(u"durante a falha", clBlue);
+        EXPECT_EQ(ContarTentativas(), 14) << c.Porque;
+        EXPECT_NO_THROW(Log.FinalizarLog()) << c.Porque;
+        Log.Adicionar(u"de novo", clBlue);
+        EXPECT_EQ(ContarTentativas(), 14) << c.Porque;
+        c.Consertar();
+        EXPECT_EQ(ContarTentativas(), 1) << c.Porque;
+        ConferirArquivo(Arquivo);
+        // Mended between two attempts: the attempt behind it is the last.
+        c.Estragar();
+        Ambiente.AoTentar = [&](int ATentativa) {
+            if (ATentativa == 5) c.Consertar(), fs::create_directories(Arquivo.parent_path());
+        };
+        Log.Adicionar(u"mais uma", clBlue);
+        EXPECT_EQ(ContarTentativas(), 5) << c.Porque;
+        Ambiente.AoTentar = nullptr;
+        ConferirArquivo(Arquivo);
+    }
+}
+
+TEST_P(LogFalhas, NomeSemArquivo) {
+    for (const std::u16string_view nome : {u"", u"   ", u"/tmp/.log"}) {
+        TLogDeTeste log(nome, Ambiente);
+        log.SetModoGravacao(GetParam());
+        log.SetSalvarAutomaticamente(true);
+        log.Adicionar(u"só na memória", clBlue);
+        log.FinalizarLog();
+        EXPECT_TRUE(log.GetTexto().find(u"só na memória") != std::u16string::npos);
+        EXPECT_EQ(Ambiente.Tentativas, 0);
+    }
+    TLogDeTeste impossivel(Arquivo.parent_path().u16string() + std::u16string(u"/a\0b.txt", 8), Ambiente);
+    impossivel.FinalizarLog();
+    EXPECT_EQ(Ambiente.Tentativas, 14) << "a name with the character of code 0";
+    EXPECT_FALSE(fs::exists(Arquivo.parent_path() / "a"));
+}
+
+TEST_P(LogFalhas, ExistenteQueNaoSeLeDeixaALista) {
+    fs::create_directories(Arquivo);
+    Log.SetUsarArquivoLogExistente(true);
+    Log.AdicionarEspacoEmBranco(3);
+    EXPECT_NO_THROW(Log.IniciarLog());
+    EXPECT_TRUE(Log.GetTexto().starts_with(Plataforma::BuscarQuebraDeLinha()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Modos, LogFalhas, testing::Values(mgReescrever, mgAcrescentar));
+
+/// What happens to the file between two saves, early (the first appends) and late (after many).
+TEST(LogAcrescimo, SoContinuaOQueEleMesmoDeixou) {
+    struct TCaso {
+        std::function<void(const fs::path&)> Mexer;
+        bool Continua;
+        const char* Porque;
+    };
+    const auto mesmoTamanho = [](const fs::path& AArquivo) {
+        std::fstream(AArquivo, std::ios::binary | std::ios::in | std::ios::out).put('X');
+    };
+    const TCaso casos[] = {
+        {[](const fs::path&) {}, true, "nothing"},
+        {[](const fs::path& a) { LerBytes(a); }, true, "read"},
+        {[](const fs::path& a) { static_cast<void>(fs::file_size(a)), static_cast<void>(fs::last_write_time(a)); },
+         true, "looked at"},
+        {[](const fs::path& a) { GravarBytes(a, "mais", std::ios::app); }, false, "longer"},
+        {[](const fs::path& a) { fs::resize_file(a, fs::file_size(a) - 1); }, false, "shorter"},
+        {[](const fs::path& a) { fs::resize_file(a, 0); }, false, "emptied"},
+        {[](const fs::path& a) { fs::remove(a); }, false, "gone"},
+        {[](const fs::path& a) { fs::rename(a, a.string() + ".1"); }, false, "moved away"},
+        {[](const fs::path& a) { fs::copy_file(a, a.string() + ".2"), fs::rename(a.string() + ".2", a); }, false,
+         "another file of the same text"},
+        {[](const fs::path& a) { fs::rename(a.parent_path(), a.parent_path().string() + "_1"); }, false,
+         "folder moved"},
+        {[&](const fs::path& a) {
+             mesmoTamanho(a);
+             fs::last_write_time(a, fs::last_write_time(a) + std::chrono::seconds(3));
+         },
+         false, "same size, another time"},
+    };
+    const TFormatosTemporarios formatos(BuscarFormatosBrasileiros());
+    for (const TCaso& c : casos)
+        for (const int antes : {1, 100}) {
+            const TPastaDeTeste pasta;
+            TAmbienteDeTeste ambiente;
+            TLogDeTeste log(pasta.Nome("sub/A"), ambiente);
+            log.SetCodificacao(clUtf8);
+            log.SetModoGravacao(mgAcrescentar);
+            log.SetSalvarAutomaticamente(true);
+            for (int i = 0; i < antes; ++i) log.Adicionar(u"linha", clBlue);
+            const fs::path arquivo = pasta.GetPasta() / "sub" / "A.log";
+            const std::size_t tamanho = fs::file_size(arquivo);
+            EXPECT_EQ(ambiente.Bytes, tamanho);
+            c.Mexer(arquivo);
+            ambiente.Bytes = 0;
+            ambiente.Tentativas = 0;
+            log.Adicionar(u"depois", clBlue);
+            const std::string esperado = ParaUtf8(log.GetTexto()) + ParaUtf8(Plataforma::BuscarQuebraDeLinha());
+            EXPECT_EQ(LerBytes(arquivo), esperado) << c.Porque << ", after " << antes;
+            EXPECT_EQ(ambiente.Bytes, c.Continua ? esperado.size() - tamanho : esperado.size())
+                << c.Porque << ", after " << antes;
+            EXPECT_EQ(ambiente.Tentativas, 1) << c.Porque;
+            ambiente.Bytes = 0;
+            log.Adicionar(u"e depois", clBlue);
+            EXPECT_EQ(ambiente.Bytes, LerBytes(arquivo).size() - esperado.size()) << "then it goes on: " << c.Porque;
+        }
+}
+
+TEST(LogAcrescimo, TextoMudadoNoMeioRegravaTudo) {
+    struct TCaso {
+        std::function<void(TLogDeTeste&)> Mudar;
+        bool Continua;
+        const char* Porque;
+    };
+    const TCaso casos[] = {
+        {[](TLogDeTeste& l) { l.AdicionarEspacoEmBranco(2); }, true, "empty lines at the end"},
+        {[](TLogDeTeste& l) { l.InserirTexto(u"fim", 7, clBlue); }, true, "inserted at the end"},
+        {[](TLogDeTeste& l) { l.FinalizarLog(); }, true, "the footer"},
+        {[](TLogDeTeste& l) { l.InserirTexto(u"meio", 3, clBlue); }, false, "inserted in the middle"},
+        {[](TLogDeTeste& l) { l.SetCodificacao(clWindows1252); }, false, "another encoding"},
+        {[](TLogDeTeste& l) { l.Limpar(), l.AdicionarEspacoEmBranco(500); }, false, "emptied and longer again"},
+    };
+    for (const TCaso& c : casos) {
+        const TPastaDeTeste pasta;
+        TAmbienteDeTeste ambiente;
+        TLogDeTeste log(pasta.Nome("A"), ambiente);
+        log.SetCodificacao(clUtf8);
+        log.SetModoGravacao(mgAcrescentar);
+        log.SetTipoPeriodicidade(tplDiario);
+        log.Adicionar(u"linha", clBlue);
+        log.SalvarArquivoLog();
+        c.Mudar(log);
+        log.SalvarArquivoLog();
+        const std::size_t tamanho = fs::file_size(pasta.GetPasta() / "A_15_11_2026.log");
+        if (c.Continua)
+            EXPECT_EQ(ambiente.Bytes, tamanho) << c.Porque;
+        else
+            EXPECT_GT(ambiente.Bytes, tamanho) << c.Porque;
+    }
+}
+
+/// A process killed in the middle of a save leaves any part of the file; the next one lives with it.
+TEST(LogAcrescimo, QualquerPedacoDeUmArquivoSeContinua) {
+    const TPastaDeTeste pasta;
+    TAmbienteDeTeste ambiente;
+    TLogDeTeste antigo(pasta.Nome("M"), ambiente);
+    antigo.SetCodificacao(clUtf8);
+    antigo.Adicionar(u"ação \U0001F600", clBlue);
+    antigo.FinalizarLog();
+    const auto arquivo = pasta.GetPasta() / "M.log";
+    const std::string inteiro = LerBytes(arquivo);
+    for (std::size_t corte = 0; corte <= inteiro.size(); ++corte) {
+        GravarBytes(arquivo, inteiro.substr(0, corte));
+        TLogDeTeste novo(pasta.Nome("M"), ambiente);
+        novo.SetCodificacao(clUtf8);
+        novo.SetUsarArquivoLogExistente(true);
+        novo.Adicionar(u"continua", clBlue);
+        novo.SalvarArquivoLog();
+        ASSERT_EQ(LerBytes(arquivo), ParaUtf8(novo.GetTexto()) + ParaUtf8(Plataforma::BuscarQuebraDeLinha())) << corte;
+        const std::u16string antes = DeUtf8(inteiro.substr(0, inteiro.substr(0, corte).rfind('\n') + 1));
+        ASSERT_TRUE(novo.GetTexto().starts_with(antes)) << corte;
+    }
+}
+
+}  // namespace

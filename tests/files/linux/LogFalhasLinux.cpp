@@ -1,0 +1,106 @@
+#include "../LogApoio.hpp"
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace OryUtils;
+
+/// A file may have so many bytes while this lives. The signal of it is ignored, so that a write fails as on a full
+/// disk.
+class TLimiteDeTamanho {
+public:
+    explicit TLimiteDeTamanho(rlim_t ABytes) {
+        ::getrlimit(RLIMIT_FSIZE, &FAntes);
+        const rlimit limite{ABytes, FAntes.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limite);
+        FSinal = std::signal(SIGXFSZ, SIG_IGN);
+    }
+    ~TLimiteDeTamanho() {
+        ::setrlimit(RLIMIT_FSIZE, &FAntes);
+        std::signal(SIGXFSZ, FSinal);
+    }
+    TLimiteDeTamanho(const TLimiteDeTamanho&) = delete;
+    TLimiteDeTamanho& operator=(const TLimiteDeTamanho&) = delete;
+
+private:
+    rlimit FAntes{};
+    void (*FSinal)(int) = nullptr;
+};
+
+class LogFalhasLinux : public testing::TestWithParam<TModoGravacao> {
+protected:
+    const TPastaDeTeste Pasta;
+    TAmbienteDeTeste Ambiente;
+    const std::filesystem::path Arquivo = Pasta.GetPasta() / "Cheio.log";
+};
+
+TEST_P(LogFalhasLinux, DiscoCheio) {
+    TLogDeTeste log(Arquivo.u16string(), Ambiente);
+    log.SetModoGravacao(GetParam());
+    for (int i = 0; i < 60; ++i) log.Adicionar(u"uma linha que já cabia no disco", clBlue);
+    log.SalvarArquivoLog();
+    {
+        const TLimiteDeTamanho limite(std::filesystem::file_size(Arquivo) + 20);
+        log.Adicionar(u"uma linha que não cabe mais", clBlue);
+        Ambiente.Tentativas = 0;
+        EXPECT_NO_THROW(log.SalvarArquivoLog());
+        EXPECT_EQ(Ambiente.Tentativas, 14);
+    }
+    log.Adicionar(u"há espaço de novo", clBlue);
+    Ambiente.Tentativas = 0;
+    Ambiente.Bytes = 0;
+    log.SalvarArquivoLog();
+    EXPECT_EQ(Ambiente.Tentativas, 1);
+    EXPECT_EQ(LerBytes(Arquivo), ParaUtf8(log.GetTexto()) + "\n");
+    EXPECT_EQ(Ambiente.Bytes, LerBytes(Arquivo).size()) << "after a fault the whole is written";
+}
+
+TEST_P(LogFalhasLinux, PastaEmQueNinguemGrava) {
+    // Not even root creates a file there.
+    TLogDeTeste log(u"/proc/ory/Log.txt", Ambiente);
+    log.SetModoGravacao(GetParam());
+    EXPECT_NO_THROW(log.FinalizarLog());
+    EXPECT_EQ(Ambiente.Tentativas, 14);
+    EXPECT_NE(log.GetTexto().find(u"Fim do processo"), std::u16string::npos);
+}
+
+TEST_P(LogFalhasLinux, MortoNoMeioDaGravacao) {
+    // The system itself kills a child whose write crosses the limit: the file ends where it got to.
+    constexpr rlim_t CLimite = 1500;
+    const pid_t filho = ::fork();
+    if (filho == 0) {
+        const rlimit limite{CLimite, CLimite};
+        ::setrlimit(RLIMIT_FSIZE, &limite);
+        const rlimit semDespejo{0, 0};
+        ::setrlimit(RLIMIT_CORE, &semDespejo);
+        std::signal(SIGXFSZ, SIG_DFL);
+        TLogDeTeste log(Arquivo.u16string(), Ambiente);
+        log.SetModoGravacao(GetParam());
+        log.SetSalvarAutomaticamente(true);
+        for (int i = 0; i < 100; ++i) log.Adicionar(u"até morrer", clBlue);
+        ::_exit(0);
+    }
+    int estado = 0;
+    ASSERT_EQ(::waitpid(filho, &estado, 0), filho);
+    ASSERT_TRUE(WIFSIGNALED(estado) && WTERMSIG(estado) == SIGXFSZ);
+    const std::string pedaco = LerBytes(Arquivo);
+    ASSERT_EQ(pedaco.size(), CLimite);
+    ASSERT_NE(pedaco.back(), '\n');
+
+    TLogDeTeste log(Arquivo.u16string(), Ambiente);
+    log.SetUsarArquivoLogExistente(true);
+    log.SetModoGravacao(GetParam());
+    log.Adicionar(u"o processo seguinte", clBlue);
+    log.SalvarArquivoLog();
+    const std::string texto = LerBytes(Arquivo);
+    EXPECT_TRUE(texto.starts_with(pedaco + "\n"));
+    EXPECT_EQ(texto, ParaUtf8(log.GetTexto()) + "\n");
+}
+
+INSTANTIATE_TEST_SUITE_P(Modos, LogFalhasLinux, testing::Values(mgReescrever, mgAcrescentar));
+
+}  // namespace

@@ -1,0 +1,57 @@
+#include "oryutils/platform/windows/Windows.hpp"
+
+#include "../LogApoio.hpp"
+
+namespace {
+
+using namespace OryUtils;
+
+/// Another program has the file open and shares it as told.
+class TAbertoPorOutro {
+public:
+    TAbertoPorOutro(const std::filesystem::path& AArquivo, DWORD APartilha)
+        : FAlca(::CreateFileW(AArquivo.c_str(), GENERIC_READ, APartilha, nullptr, OPEN_EXISTING, 0, nullptr)) {}
+    ~TAbertoPorOutro() { ::CloseHandle(FAlca); }
+    TAbertoPorOutro(const TAbertoPorOutro&) = delete;
+    TAbertoPorOutro& operator=(const TAbertoPorOutro&) = delete;
+    bool EstahAberto() const { return FAlca != INVALID_HANDLE_VALUE; }
+
+private:
+    HANDLE FAlca;
+};
+
+class LogFalhasWindows : public testing::TestWithParam<TModoGravacao> {};
+
+TEST_P(LogFalhasWindows, AbertoPorOutroSemPartilhar) {
+    const TPastaDeTeste pasta;
+    TAmbienteDeTeste ambiente;
+    const auto arquivo = pasta.GetPasta() / "Preso.log";
+    TLogDeTeste log(arquivo.u16string(), ambiente);
+    log.SetCodificacao(clUtf8);
+    log.SetModoGravacao(GetParam());
+    log.Adicionar(u"livre", clBlue);
+    log.SalvarArquivoLog();
+    const std::string antes = LerBytes(arquivo);
+    for (const DWORD partilha : {DWORD{0}, DWORD{FILE_SHARE_READ}}) {
+        const TAbertoPorOutro outro(arquivo, partilha);
+        ASSERT_TRUE(outro.EstahAberto());
+        log.Adicionar(u"preso", clBlue);
+        ambiente.Tentativas = 0;
+        EXPECT_NO_THROW(log.SalvarArquivoLog());
+        EXPECT_EQ(ambiente.Tentativas, 14) << partilha;
+    }
+    EXPECT_EQ(LerBytes(arquivo), antes);
+    ambiente.Tentativas = 0;
+    log.SalvarArquivoLog();
+    EXPECT_EQ(ambiente.Tentativas, 1);
+    EXPECT_EQ(LerBytes(arquivo), ParaUtf8(log.GetTexto()) + "\r\n");
+    // A reader that lets others write does not stop the log.
+    const TAbertoPorOutro leitor(arquivo, FILE_SHARE_READ | FILE_SHARE_WRITE);
+    log.Adicionar(u"com um leitor", clBlue);
+    log.SalvarArquivoLog();
+    EXPECT_EQ(ambiente.Tentativas, 2);
+}
+
+INSTANTIATE_TEST_SUITE_P(Modos, LogFalhasWindows, testing::Values(mgReescrever, mgAcrescentar));
+
+}  // namespace
