@@ -1,4 +1,5 @@
 #include "oryutils/files/OryUtilsFiles.hpp"
+#include "oryutils/files/UnOryUtilsArquivoLog.hpp"
 
 #include "operacoes/Vinculo.hpp"
 
@@ -6,6 +7,9 @@ namespace Ory {
 namespace {
 
 using C = OryUtils::TOryUtilsFiles;
+using OryUtils::TOryUtilsArquivoLog;
+
+using FNomeDoLog = std::u16string(std::u16string_view, std::u16string_view, OryUtils::TTipoPeriodicidadeLog, TDateTime);
 
 std::vector<int> DividirVersao(std::u16string_view AVersao) {
     std::uint16_t maior = 0, menor = 0, release = 0, build = 0;
@@ -36,6 +40,7 @@ constexpr auto COperacoes = Ordenar(std::array{
     Operacao<C::ExisteDiretorio>("ExisteDiretorio"),
     Operacao<C::ExtrairNomeDoArquivoSemExtensao>("ExtrairNomeDoArquivoSemExtensao"),
     Operacao<C::FormatarTamanhoArquivo>("FormatarTamanhoArquivo"),
+    Operacao<Sobrecarga<FNomeDoLog>(TOryUtilsArquivoLog::FormatarNomeArquivoLog)>("FormatarNomeArquivoLog"),
     Operacao<OryUtils::GetVersionFromINI>("GetVersionFromINI"),
     Operacao<OryUtils::GetExtensionFromFile>("GetExtensionFromFile"),
 

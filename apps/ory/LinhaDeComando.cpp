@@ -4,6 +4,7 @@
 
 #include "chamar/Chamadas.hpp"
 #include "conferir/Conferir.hpp"
+#include "log/Log.hpp"
 #include "mensagem/Mensagem.hpp"
 #include "numeros/Numeros.hpp"
 #include "sistema/Sistema.hpp"
@@ -96,6 +97,7 @@ void DescreverConferir(CLI::App& AComando, TOpcoesDeConferir& AOpcoes) {
                       "a primeira linha já é dado; as colunas vão pela posição: --coluna 2=cnpj");
     AComando.add_option("--saida", pedido.Saida,
                         "grava o arquivo de novo com veredito e número formatado de cada coluna conferida");
+    AComando.add_option("--log", pedido.Log, "escreve um log da conferência; a extensão passa a ser .log");
     AComando.add_flag("--json", pedido.Json, "resumo em JSON");
     AComando.add_option("--mostrar", pedido.Opcoes.Mostrar, "quantos inválidos mostrar por coluna (padrão: 5)");
     AComando.add_option("--vereditos", AOpcoes.Vereditos,
@@ -235,6 +237,7 @@ int ExecutarLinhaDeComando(std::span<const std::string> AArgumentos, TAmbiente& 
                      MostrarMensagem);
     comandos.Incluir("formula", "calcula uma fórmula e mostra a expressão resolvida", DescreverFormula, MostrarFormula);
     comandos.Incluir("extenso", "escreve valores por extenso", DescreverExtenso, MostrarExtenso);
+    comandos.Incluir("log", "escreve um log de processo com as linhas da entrada", DescreverLog, EscreverLog);
     comandos.Incluir("versao", "mostra o que arquivos dizem de si, ou compara versões", DescreverVersao, MostrarVersao);
     comandos.Incluir("sistema", "mostra a máquina: nomes, endereços, discos e pastas", DescreverSistema,
                      MostrarSistema);

@@ -190,7 +190,7 @@ void TOryUtilsArquivoLog::CarregarArquivo() {
 
 void TOryUtilsArquivoLog::SalvarArquivoLog() {
     if (EhVazio(FArquivoLog)) return;
-    FGravador->Gravar(FArquivoLog, FLog->BuscarTextoPronto(), FModoGravacao, FAmbiente);
+    FSalvo = FGravador->Gravar(FArquivoLog, FLog->BuscarTextoPronto(), FModoGravacao, FAmbiente);
 }
 
 void TOryUtilsArquivoLog::ValidarEventoOnStatus(std::u16string_view AStatus, TColor ACor) {

@@ -95,6 +95,8 @@ public:
     /// Encoding in which the file is written and loaded; clPadrao at first. A character that it lacks becomes "?" in
     /// the file (Texto keeps it).
     void SetCodificacao(TCodificacaoLog AValor);
+    /// False when the last save failed: the file lacks what the memory holds. True before the first save.
+    bool EstahSalvo() const noexcept { return FSalvo; }
     const TEventoOnStatusLog& GetOnStatus() const noexcept { return FOnStatus; }
     /// Called for each line that Adicionar, IniciarLog and FinalizarLog add.
     void SetOnStatus(const TEventoOnStatusLog& AValor) noexcept { FOnStatus = AValor; }
@@ -134,6 +136,7 @@ private:
     TTipoFormatoMensagem FFormatoMensagem = tfmComDataHora;
     TModoGravacao FModoGravacao = mgReescrever;
     bool FMudandoDeDia = false;
+    bool FSalvo = true;
     TFormatSettings FFormatos;
     TDateTime FInstanteDoCarimbo{-1};
     std::u16string FCarimbo{};

@@ -22,6 +22,7 @@ constexpr const char* CCabecalhos[] = {
     "files/OryUtilsFiles.hpp",
     "sql/UnOryUtilsClasseFiltroSql.hpp",
     "sql/UnOryUtilsClasseManipulacaoSQL.hpp",
+    "files/UnOryUtilsArquivoLog.hpp",
 };
 
 // Most of what they declare asks the machine or changes it and is not callable; what is callable is declared here.
@@ -38,6 +39,7 @@ constexpr const char* CPassoDoArquivo = "a step on a file's data; ory versao sho
 constexpr const char* CPassoDoObjeto = "a step on an IE object; ValidouIE gives the verdict";
 
 constexpr const char* CMexeNosAjustes = "reads or changes the settings of the machine";
+constexpr const char* CPassoDoLog = "a step on a log; ory log writes one";
 
 // Public operations that programs cannot call, each with its reason.
 const std::map<std::string, std::string> CForaDaTabela{
@@ -153,6 +155,32 @@ const std::map<std::string, std::string> CForaDaTabela{
     {"GetExtensao", CPassoDoArquivo},
     {"GetData", CPassoDoArquivo},
     {"GetDataModificacao", CPassoDoArquivo},
+    {"IniciarLog", CPassoDoLog},
+    {"Adicionar", CPassoDoLog},
+    {"AdicionarSeparador", CPassoDoLog},
+    {"AdicionarEspacoEmBranco", CPassoDoLog},
+    {"InserirTexto", CPassoDoLog},
+    {"FinalizarLog", CPassoDoLog},
+    {"ExibirLog", CPassoDoLog},
+    {"GetArquivoLog", CPassoDoLog},
+    {"SetArquivoLog", CPassoDoLog},
+    {"GetUsarArquivoLogExistente", CPassoDoLog},
+    {"SetUsarArquivoLogExistente", CPassoDoLog},
+    {"GetTipoPeriodicidade", CPassoDoLog},
+    {"SetTipoPeriodicidade", CPassoDoLog},
+    {"GetFormatoMensagem", CPassoDoLog},
+    {"SetFormatoMensagem", CPassoDoLog},
+    {"GetSalvarAutomaticamente", CPassoDoLog},
+    {"SetSalvarAutomaticamente", CPassoDoLog},
+    {"GetModoGravacao", CPassoDoLog},
+    {"SetModoGravacao", CPassoDoLog},
+    {"GetCodificacao", CPassoDoLog},
+    {"SetCodificacao", CPassoDoLog},
+    {"GetOnStatus", CPassoDoLog},
+    {"SetOnStatus", CPassoDoLog},
+    {"GetOnAposFinalizarLog", CPassoDoLog},
+    {"SetOnAposFinalizarLog", CPassoDoLog},
+    {"EstahSalvo", CPassoDoLog},
 };
 
 // Entries that join several calls and so have a name of their own.
@@ -166,7 +194,7 @@ std::string LerCabecalho(const std::string& ANome) {
     bool publico = true;
     for (std::string linha; std::getline(arquivo, linha);) {
         linha = linha.substr(0, linha.find("//"));
-        if (linha.starts_with("private:")) publico = false;
+        if (linha.starts_with("private:") || linha.starts_with("protected:")) publico = false;
         if (linha.starts_with("};")) publico = true;
         if (publico) texto += linha + " ";
     }

@@ -1,17 +1,24 @@
 #include "conferir/Conferir.hpp"
 
+#include "oryutils/files/UnOryUtilsArquivoLog.hpp"
 #include "oryutils/platform/Arquivos.hpp"
+#include "oryutils/runtime/Utf.hpp"
 
 #include "conferir/Progresso.hpp"
 #include "conferir/Relatorio.hpp"
 
+#include <exception>
 #include <memory>
+#include <optional>
+#include <ranges>
 #include <utility>
 
 namespace Ory {
 namespace {
 
 using namespace OryUtils::Plataforma;
+
+constexpr int CLarguraDoLog = 100;
 
 /// The file that takes the place of ANome when it is finished, and goes when it is not.
 class TArquivoNovo {
@@ -51,9 +58,34 @@ private:
     std::unique_ptr<TSaidaDeFluxo> FSaida{};  // none when there is nothing to undo
 };
 
-}  // namespace
+/// The process log of a run; does nothing when none was asked for.
+class TLogDaConferencia {
+public:
+    explicit TLogDaConferencia(const std::string& AArquivo) {
+        if (AArquivo.empty()) return;
+        FLog.emplace(OryUtils::DeUtf8(AArquivo));
+        if (FLog->GetArquivoLog().empty()) throw EFalha("não há nome de arquivo em '" + AArquivo + "'");
+    }
 
-TStatus Conferir(const TPedidoDeConferencia& APedido, TAmbiente& AAmbiente) {
+    void Adicionar(std::string_view ATexto) {
+        if (!FLog) return;
+        for (const std::string_view linha : std::views::split(ATexto, '\n') | std::views::transform([](auto&& a) {
+                                                return std::string_view(a.begin(), a.end());
+                                            }))
+            FLog->Adicionar(OryUtils::DeUtf8(linha), OryUtils::clWindowText);
+    }
+    /// The footer and the file; false when it could not be written.
+    bool Finalizar() {
+        if (FLog) FLog->FinalizarLog();
+        return !FLog || FLog->EstahSalvo();
+    }
+    std::string GetArquivo() const { return OryUtils::ParaUtf8(FLog->GetArquivoLog()); }
+
+private:
+    std::optional<OryUtils::TOryUtilsArquivoLog> FLog{};
+};
+
+TStatus ConferirComLog(const TPedidoDeConferencia& APedido, TAmbiente& AAmbiente, TLogDaConferencia& ALog) {
     const bool entradaPadrao = APedido.Arquivo.empty() || APedido.Arquivo == "-";
     if (APedido.Arquivo.empty() && AAmbiente.EntradaEhTerminal)
         throw EFalha("falta o arquivo (ou \"-\" para a entrada padrão); veja ory conferir --ajuda");
@@ -79,6 +111,8 @@ TStatus Conferir(const TPedidoDeConferencia& APedido, TAmbiente& AAmbiente) {
         if (AAmbiente.Cores) opcoes.AoProgredir = nullptr;  // the verdicts themselves move on the terminal
         const TResumoDeVereditos resumo = EscreverVereditos(entrada, AAmbiente.Saida, *APedido.Vereditos, opcoes);
         progresso.Apagar();
+        ALog.Adicionar(EscreverQuantidade(resumo.Validos) + " válidos, " + EscreverQuantidade(resumo.Outros) +
+                       " inválidos ou vazios");
         return resumo.Outros ? stInvalido : stTudoCerto;
     }
 
@@ -90,10 +124,28 @@ TStatus Conferir(const TPedidoDeConferencia& APedido, TAmbiente& AAmbiente) {
     if (saida) saida->Concluir();
 
     const std::string nome = entradaPadrao ? "entrada padrão" : APedido.Arquivo;
+    if (!APedido.Log.empty()) ALog.Adicionar(EscreverRelatorio(resumo, nome, CLarguraDoLog, false));
     const bool cores = AAmbiente.Cores && !APedido.SemCores;
     AAmbiente.Saida.Escrever(APedido.Json ? EscreverRelatorioJson(resumo, nome)
                                           : EscreverRelatorio(resumo, nome, AAmbiente.Largura, cores));
     return resumo.EstahTudoValido() ? stTudoCerto : stInvalido;
+}
+
+}  // namespace
+
+TStatus Conferir(const TPedidoDeConferencia& APedido, TAmbiente& AAmbiente) {
+    TLogDaConferencia log(APedido.Log);
+    TStatus status = stFalha;
+    try {
+        log.Adicionar("Conferência de " + (APedido.Arquivo.empty() ? "entrada padrão" : APedido.Arquivo));
+        status = ConferirComLog(APedido, AAmbiente, log);
+    } catch (const std::exception& erro) {
+        log.Adicionar("Falha: " + std::string(erro.what()));
+        log.Finalizar();
+        throw;
+    }
+    if (!log.Finalizar()) throw EFalha("não foi possível gravar " + log.GetArquivo());
+    return status;
 }
 
 }  // namespace Ory

@@ -12,6 +12,7 @@ namespace Ory {
 struct TPedidoDeConferencia {
     std::string Arquivo{};  // "-" or empty: the standard input
     std::string Saida{};    // empty: none
+    std::string Log{};      // empty: none
     bool Json = false;
     bool SemCores = false;
     std::optional<TTipoColuna> Vereditos{};  // the bare stream
@@ -19,8 +20,8 @@ struct TPedidoDeConferencia {
 };
 
 /// Runs it and gives the exit status. A file named by Saida is written beside it under a temporary name and renamed
-/// when all went well, so it may be the input itself, and after a failure the old one stands. Raises EFalha,
-/// ESaidaFechada.
+/// when all went well, so it may be the input itself, and after a failure the old one stands. Log names a process log:
+/// what was asked, the report or the failure. Raises EFalha, ESaidaFechada.
 TStatus Conferir(const TPedidoDeConferencia& APedido, TAmbiente& AAmbiente);
 
 }  // namespace Ory

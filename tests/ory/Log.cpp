@@ -1,0 +1,108 @@
+#include "oryutils/runtime/Utf.hpp"
+
+#include "Apoio.hpp"
+#include "operacoes/Operacoes.hpp"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <random>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class Log : public testing::Test {
+protected:
+    Log() {
+        do Pasta = fs::temp_directory_path() / ("ory_cmd_log_" + std::to_string(std::random_device{}()));
+        while (!fs::create_directories(Pasta));
+    }
+    ~Log() override { fs::remove_all(Pasta); }
+
+    /// The lines of a file of the folder, without what ends them.
+    std::vector<std::string> Ler(const std::string& ANome) const {
+        std::vector<std::string> linhas;
+        std::ifstream arquivo(Pasta / ANome, std::ios::binary);
+        for (std::string linha; std::getline(arquivo, linha);) {
+            if (linha.ends_with('\r')) linha.pop_back();
+            linhas.push_back(linha);
+        }
+        return linhas;
+    }
+    std::string Nome(const std::string& ANome) const { return (Pasta / ANome).string(); }
+    static std::vector<std::string> Trecho(const std::vector<std::string>& ALinhas, std::size_t AInicio,
+                                           std::size_t AFim) {
+        return {ALinhas.begin() + static_cast<std::ptrdiff_t>(AInicio),
+                ALinhas.end() - static_cast<std::ptrdiff_t>(AFim)};
+    }
+
+    fs::path Pasta;
+    const std::string Asteriscos = std::string(78, '*');
+};
+
+TEST_F(Log, LinhasDaEntrada) {
+    const std::vector<std::string> opcoes{"log", Nome("a/Rotina.txt"), "--somente-texto", "--codificacao", "utf-8"};
+    EXPECT_EQ(Rodar(opcoes, "um\r\n\nação\ncora\xE7\xE3o").Status, 0);
+    const auto linhas = Ler("a/Rotina.log");
+    ASSERT_EQ(linhas.size(), 6u + 4 + 3);
+    EXPECT_EQ(linhas[0], "Início do processo");
+    EXPECT_TRUE(linhas[1].starts_with("Aplicação executora: testes_ory"));
+    EXPECT_EQ(Trecho(linhas, 5, 0),
+              (std::vector<std::string>{Asteriscos, "um", "", "ação", "coração", Asteriscos, "Fim do processo", ""}));
+    // Again: a new log, or the old one continued.
+    auto existente = opcoes;
+    existente.insert(existente.end(), {"--existente", "--acrescentar", "--eco"});
+    EXPECT_EQ(Rodar(existente, "dois\n").Saida, "dois\n");
+    EXPECT_EQ(Ler("a/Rotina.log").size(), linhas.size() + 10);
+    EXPECT_EQ(Rodar(opcoes, "").Status, 0);
+    EXPECT_EQ(Ler("a/Rotina.log").size(), 9u);
+}
+
+TEST_F(Log, DiarioComHora) {
+    EXPECT_EQ(Rodar({"log", Nome("D"), "--diario"}, "x\n").Status, 0);
+    ASSERT_EQ(std::distance(fs::directory_iterator(Pasta), {}), 1);
+    const std::string nome = fs::directory_iterator(Pasta)->path().filename().string();
+    std::string forma = nome;
+    std::replace_if(
+        forma.begin(), forma.end(), [](char c) { return c >= '0' && c <= '9'; }, '9');
+    EXPECT_EQ(forma, "D_99_99_9999.log");
+    EXPECT_TRUE(Ler(nome)[6].starts_with("[") && Ler(nome)[6].ends_with("]: x"));
+}
+
+TEST_F(Log, FalhasSaoDitas) {
+    EXPECT_EQ(Rodar({"log"}).Status, 2);
+    EXPECT_EQ(Rodar({"log", ".log"}).Status, 2) << "no name";
+    EXPECT_EQ(Rodar({"log", Nome("x"), "--codificacao", "ebcdic"}).Status, 2);
+    fs::create_directories(Pasta / "p.log");
+    const TRodada rodada = Rodar({"log", Nome("p")}, "x\n");
+    EXPECT_EQ(rodada.Status, 2);
+    EXPECT_NE(rodada.Erro.find("não foi possível gravar"), std::string::npos);
+}
+
+TEST_F(Log, DaConferencia) {
+    const std::string exemplo = std::string(ORY_PASTA_DO_PROJETO) + "/examples/clientes.csv";
+    const TRodada semLog = Rodar({"conferir", exemplo});
+    const TRodada comLog = Rodar({"conferir", exemplo, "--log", Nome("C")});
+    EXPECT_EQ(comLog.Status, semLog.Status);
+    EXPECT_EQ(comLog.Saida, semLog.Saida) << "the log changes nothing else";
+    const auto linhas = Ler("C.log");
+    const auto possui = [&](std::string_view ATexto) {
+        return std::any_of(linhas.begin(), linhas.end(), [&](const auto& l) { return l.find(ATexto) != l.npos; });
+    };
+    EXPECT_TRUE(possui("clientes.csv: 42 registros"));
+    EXPECT_TRUE(possui("11111111000192")) << "the offenders";
+    EXPECT_TRUE(possui("Fim do processo"));
+    EXPECT_EQ(Rodar({"conferir", Nome("nenhum.csv"), "--log", Nome("F")}).Status, 2);
+    ASSERT_EQ(Ler("F.log").size(), 11u);
+    EXPECT_NE(Ler("F.log")[7].find("Falha: "), std::string::npos);
+}
+
+TEST_F(Log, NomeComoRegra) {
+    EXPECT_EQ(Ory::Chamar(R"({"op":"FormatarNomeArquivoLog","args":["","C:\\Logs\\Importacao.txt",1,"2026-11-15"]})"),
+              R"({"resultado":"C:\\Logs\\Importacao_15_11_2026.log"})");
+}
+
+}  // namespace
