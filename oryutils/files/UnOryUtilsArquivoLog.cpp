@@ -113,6 +113,7 @@ void TOryUtilsArquivoLog::FinalizarLog() {
     AdicionarMensagem(u"Fim do processo", clBlue);
     AdicionarMensagem({}, clWindowText);
     SalvarArquivoLog();
+    FGravador->Soltar();
     if (FTipoPeriodicidade == tplDiario) AtualizarDataModificacaoLogFechamento(FDataControleLog);
     const std::u16string pasta(ExtrairPastaDoArquivo(FArquivoLog));  // the event may change the name
     FOnAposFinalizarLog(this, pasta);

@@ -90,6 +90,8 @@ public:
     /// mgReescrever, at first: each save writes the whole file anew (one open, one write, one close), so that saving
     /// after each of N messages writes N*N/2 lines. mgAcrescentar: a save writes only what is new, as long as the file
     /// is exactly what this log wrote last (same file, size and time); otherwise, and after any fault, the whole.
+    /// (Linux) After some such saves the file is kept open and watched until FinalizarLog, so that a save costs little
+    /// more than its write.
     void SetModoGravacao(TModoGravacao AValor) noexcept { FModoGravacao = AValor; }
     TCodificacaoLog GetCodificacao() const noexcept;
     /// Encoding in which the file is written and loaded; clPadrao at first. A character that it lacks becomes "?" in

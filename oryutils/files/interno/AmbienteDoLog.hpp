@@ -22,7 +22,7 @@ public:
     virtual std::u16string BuscarNomeDaMaquina() = 0;
     /// Told before each attempt of a save, from 1.
     virtual void AoTentarGravar(int /*ATentativa*/) {}
-    /// Told of the bytes that an attempt is about to write.
+    /// Told of the bytes that an attempt writes.
     virtual void AoEscrever(std::size_t /*ABytes*/) {}
 };
 

@@ -50,23 +50,52 @@ bool TGravadorDoLog::Tentar(std::u16string_view AArquivo, const TTextoPronto& AT
 }
 
 TGravadorDoLog::TResultado TGravadorDoLog::Acrescentar(std::string_view ABytes, TAmbienteDoLog& AAmbiente) {
+    if (!FVigiado.EstahVigiando()) return AcrescentarAbrindo(ABytes, AAmbiente);
+    bool mexido = false;
+    const bool feito = FVigiado.Acrescentar(ABytes, mexido);
+    if (!mexido) {
+        AAmbiente.AoEscrever(ABytes.size());
+        return feito ? reFeito : reFalhou;
+    }
+    // Somebody may only have read it.
+    Soltar();
+    return FMarca ? AcrescentarAbrindo(ABytes, AAmbiente) : reMudou;
+}
+
+TGravadorDoLog::TResultado TGravadorDoLog::AcrescentarAbrindo(std::string_view ABytes, TAmbienteDoLog& AAmbiente) {
+    constexpr int CAntesDeVigiar = 32;  // a watch pays for logs that save again and again
     TFluxo fluxo;
-    if (fluxo.AbrirParaAcrescentar(ParaUtf8(FArquivo)) != efNenhum || fluxo.BuscarMarca() != FMarca) return reMudou;
+    const std::string nome = ParaUtf8(FArquivo);
+    if (fluxo.AbrirParaAcrescentar(nome) != efNenhum || fluxo.BuscarMarca() != FMarca) return reMudou;
     if (ABytes.empty()) return reFeito;
     AAmbiente.AoEscrever(ABytes.size());
     if (fluxo.Escrever(ABytes) != efNenhum) return reFalhou;
     FMarca = fluxo.FixarMarca();
+    if (FMarca && ++FSeguidos >= CAntesDeVigiar) {
+        FSeguidos = 0;
+        if (FVigiado.Iniciar(fluxo, nome, *FMarca)) return reFeito;
+    }
     return fluxo.Fechar() == efNenhum ? reFeito : reFalhou;
 }
 
 bool TGravadorDoLog::Reescrever(std::string_view ABytes, bool AMarcar, TAmbienteDoLog& AAmbiente) {
-    FMarca.reset();
+    Esquecer();
     TFluxo fluxo;
     if (fluxo.CriarOuEsvaziar(ParaUtf8(FArquivo)) != efNenhum) return false;
     AAmbiente.AoEscrever(ABytes.size());
     if (fluxo.Escrever(ABytes) != efNenhum) return false;
     if (AMarcar) FMarca = fluxo.FixarMarca();
     return fluxo.Fechar() == efNenhum;
+}
+
+void TGravadorDoLog::Soltar() noexcept {
+    if (FVigiado.EstahVigiando()) FMarca = FVigiado.Parar();
+}
+
+void TGravadorDoLog::Esquecer() noexcept {
+    FVigiado.Fechar();
+    FMarca.reset();
+    FSeguidos = 0;
 }
 
 void TGravadorDoLog::AceitarNovaData() {

@@ -2,6 +2,7 @@
 
 #include "oryutils/files/UnOryUtilsArquivoLogTypes.hpp"
 #include "oryutils/files/interno/LinhasDoLog.hpp"
+#include "oryutils/platform/ArquivoVigiado.hpp"
 #include "oryutils/platform/Fluxo.hpp"
 
 #include <cstddef>
@@ -25,10 +26,12 @@ public:
     bool Gravar(std::u16string_view AArquivo, const TTextoPronto& ATexto, TModoGravacao AModo,
                 TAmbienteDoLog& AAmbiente);
 
+    /// Lets go of a file kept open; a later save may still continue it.
+    void Soltar() noexcept;
     /// Takes the file as it is now for what the last save left there, when nothing but its time has changed.
     void AceitarNovaData();
     /// The next save writes the whole text.
-    void Esquecer() noexcept { FMarca.reset(); }
+    void Esquecer() noexcept;
 
 private:
     enum TResultado : int { reFeito, reMudou, reFalhou };
@@ -36,14 +39,17 @@ private:
     bool Tentar(std::u16string_view AArquivo, const TTextoPronto& ATexto, TModoGravacao AModo,
                 TAmbienteDoLog& AAmbiente);
     TResultado Acrescentar(std::string_view ABytes, TAmbienteDoLog& AAmbiente);
+    TResultado AcrescentarAbrindo(std::string_view ABytes, TAmbienteDoLog& AAmbiente);
     bool Reescrever(std::string_view ABytes, bool AMarcar, TAmbienteDoLog& AAmbiente);
 
-    // What the last save left, while it may be continued.
+    // What the last save left, while it may be continued; stale while FVigiado keeps the file open.
     std::optional<Plataforma::TMarcaDeArquivo> FMarca{};
     std::u16string FArquivo{};
     std::uint64_t FGeracao = 0;
     std::size_t FGravados = 0;     // bytes
     bool FPastaConferida = false;  // in the present save
+    Plataforma::TArquivoVigiado FVigiado{};
+    int FSeguidos = 0;  // appends in a row that opened the file
 };
 
 }  // namespace OryUtils

@@ -1,0 +1,16 @@
+#include "oryutils/platform/ArquivoVigiado.hpp"
+
+namespace OryUtils::Plataforma {
+
+// The file would have to stay open, and others could neither rename nor replace it meanwhile.
+bool TArquivoVigiado::Iniciar(TFluxo& /*AFluxo*/, const std::string& /*ANome*/, const TMarcaDeArquivo& /*AMarca*/) {
+    return false;
+}
+bool TArquivoVigiado::Acrescentar(std::string_view /*ABytes*/, bool& AMexido) noexcept {
+    AMexido = true;
+    return false;
+}
+std::optional<TMarcaDeArquivo> TArquivoVigiado::Parar() noexcept { return {}; }
+void TArquivoVigiado::Fechar() noexcept {}
+
+}  // namespace OryUtils::Plataforma
