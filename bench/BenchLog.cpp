@@ -64,7 +64,7 @@ void LogReescrito_Biblioteca(benchmark::State& AEstado) { SalvarCadaLinha(AEstad
 
 void SpdlogCadaLinha(benchmark::State& AEstado, int ALinhas) {
     for (auto _ : AEstado) {
-        auto log = spdlog::basic_logger_st("bench", (GPasta / "spdlog.log").string(), true);
+        auto log = spdlog::basic_logger_mt("bench", (GPasta / "spdlog.log").string(), true);
         log->set_pattern("[%d/%m/%Y %H:%M:%S]: %v");
         log->flush_on(spdlog::level::info);
         for (int i = 0; i < ALinhas; ++i) log->info(CMensagem);

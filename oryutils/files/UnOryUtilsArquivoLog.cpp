@@ -163,7 +163,11 @@ std::u16string TOryUtilsArquivoLog::FormatarNomeArquivoLog(std::u16string_view A
 
 void TOryUtilsArquivoLog::AdicionarMensagem(std::u16string_view AMensagem, TColor ACor) {
     std::u16string linha;
-    if (FFormatoMensagem == tfmComDataHora && !EhVazio(AMensagem)) linha = BuscarCarimbo();
+    if (FFormatoMensagem == tfmComDataHora && !EhVazio(AMensagem)) {
+        const std::u16string& carimbo = BuscarCarimbo();
+        linha.reserve(carimbo.size() + AMensagem.size());
+        linha = carimbo;
+    }
     linha += AMensagem;
     FLog->Adicionar(linha);
     CosturaInterface().ProcessarMensagens();

@@ -3,29 +3,30 @@
 #include "oryutils/platform/Fluxo.hpp"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace OryUtils::Plataforma {
 
-/// A file kept open for writing behind its end, with a watch on what anybody else does to it: two cheap questions to
-/// the system before each write, where opening the file and comparing its mark costs several dear ones.
+/// A file kept open for writing behind its end, with a watch on what anybody else does to it: one cheap question to the
+/// system before each write, where opening the file and comparing its mark costs several dear ones.
 ///
-/// (Linux) Noticed at once: the file is opened, renamed, deleted, replaced, grows or shrinks; its folder is renamed.
-/// Noticed within a second: a folder further up is renamed. Not noticed: a program that already had the file open when
-/// the watch began overwrites it in place. Only on file systems of this machine. (Windows) Does not watch.
+/// (Linux) Only for a file that nobody else has open when the watch begins, on a file system of this machine. Noticed
+/// at once: the file is opened, renamed, deleted, replaced, or its folder renamed. Noticed within a second: a folder
+/// further up is renamed. (Windows) Does not watch.
 class TArquivoVigiado {
 public:
-    TArquivoVigiado() = default;
+    TArquivoVigiado();
     TArquivoVigiado(const TArquivoVigiado&) = delete;
     TArquivoVigiado& operator=(const TArquivoVigiado&) = delete;
-    ~TArquivoVigiado() { Fechar(); }
+    ~TArquivoVigiado();
 
     /// Takes over AFluxo, which AbrirParaAcrescentar opened on ANome and whose mark is AMarca. False, and AFluxo stays
     /// as it was, where the file cannot be watched.
     bool Iniciar(TFluxo& AFluxo, const std::string& ANome, const TMarcaDeArquivo& AMarca);
-    bool EstahVigiando() const noexcept { return FVigia >= 0; }
+    bool EstahVigiando() const noexcept { return FVigia != nullptr; }
     /// False when somebody may have touched the file since the last write, or ABytes could not be written; in the
     /// first case (AMexido) nothing was written.
     bool Acrescentar(std::string_view ABytes, bool& AMexido) noexcept;
@@ -34,11 +35,13 @@ public:
     void Fechar() noexcept;
 
 private:
+    struct TVigia;
+
     bool EstahIntacto() noexcept;
     std::optional<TMarcaDeArquivo> BuscarMarcaIntacta() const noexcept;
 
+    std::unique_ptr<TVigia> FVigia;
     TFluxo FFluxo{};
-    int FVigia = -1;
     std::string FNome{};
     TMarcaDeArquivo FMarca{};  // its time lies between the two below
     std::int64_t FTempoMenor = 0;

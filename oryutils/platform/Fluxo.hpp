@@ -61,13 +61,12 @@ public:
 
     /// Bytes of a file; none when the stream is not a file.
     std::optional<std::uint64_t> BuscarTamanho() const noexcept;
-    /// Moves to the end of a file and tells where that is; none when the stream is not a file. (Linux) Does not ask for
-    /// the file's time, which would make the next write dearer.
-    std::optional<std::uint64_t> IrAoFim() noexcept;
     /// The mark of a file; none when the system does not tell.
     std::optional<TMarcaDeArquivo> BuscarMarca() const noexcept;
     /// The mark that a file just written to will have once it is closed.
     std::optional<TMarcaDeArquivo> FixarMarca() noexcept;
+    /// The file descriptor or HANDLE, for other calls of the system; below zero when nothing is open.
+    std::intptr_t GetAlca() const noexcept { return FAlca; }
     bool EhTerminal() const noexcept;
     /// True when Ler would have to wait for whoever writes the other end.
     bool LerEsperaria() const noexcept;

@@ -2,14 +2,22 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
+#include <cerrno>
+#include <csignal>
+#include <cstring>
 #include <ctime>
+#include <fcntl.h>
 #include <linux/magic.h>
+#include <map>
+#include <mutex>
 #include <sys/inotify.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <sys/vfs.h>
 #include <unistd.h>
 #include <utility>
+#include <vector>
 
 namespace OryUtils::Plataforma {
 namespace {
@@ -36,22 +44,110 @@ std::int64_t BuscarRelogio(clockid_t ARelogio) {
     return std::int64_t{agora.tv_sec} * 1'000'000'000 + agora.tv_nsec;
 }
 
+/// True when nobody else has the file open, for whatever: only then every later change is preceded by an event. The
+/// system answers it by granting a lease, which is given back at once; SIGURG, which programs ignore, is what a program
+/// that opens the file in between would make the system send.
+bool EstahSoAqui(const TFluxo& AFluxo) {
+    const int alca = static_cast<int>(AFluxo.GetAlca());
+    if (::fcntl(alca, F_SETSIG, SIGURG) != 0 || ::fcntl(alca, F_SETLEASE, F_WRLCK) != 0) return false;
+    return ::fcntl(alca, F_SETLEASE, F_UNLCK) == 0;
+}
+
+/// What a watched file has been told of.
+struct TInscrito {
+    std::atomic_bool Mexido = false;
+    int Arquivo = -1;  // numbers of the two watches
+    int Pasta = -1;
+};
+
+/// The watches of the process share one queue of the system, which is dear to close and so stays open.
+class TObservador {
+public:
+    static TObservador& Get() {
+        static TObservador observador;
+        return observador;
+    }
+    TObservador(const TObservador&) = delete;
+    TObservador& operator=(const TObservador&) = delete;
+
+    bool Inscrever(const std::string& ANome, TInscrito& AInscrito) {
+        constexpr std::uint32_t CDoArquivo = IN_OPEN | IN_CLOSE_WRITE | IN_ATTRIB | IN_MOVE_SELF | IN_DELETE_SELF;
+        const std::lock_guard trava(FTrava);
+        AInscrito.Arquivo = Incluir(ANome, CDoArquivo, AInscrito);
+        AInscrito.Pasta = Incluir(BuscarPasta(ANome), IN_MOVE_SELF, AInscrito);
+        return AInscrito.Arquivo >= 0 && AInscrito.Pasta >= 0;
+    }
+    void Retirar(TInscrito& AInscrito) {
+        const std::lock_guard trava(FTrava);
+        for (const int vigia : {AInscrito.Arquivo, AInscrito.Pasta}) {
+            const auto achado = FInscritos.find(vigia);
+            if (achado == FInscritos.end()) continue;
+            std::erase(achado->second, &AInscrito);
+            if (!achado->second.empty()) continue;
+            FInscritos.erase(achado);
+            ::inotify_rm_watch(FAlca, vigia);
+        }
+    }
+    /// Hands out what has happened; false when the system does not tell.
+    bool Distribuir() {
+        int bytes = 0;
+        if (::ioctl(FAlca, FIONREAD, &bytes) != 0) return false;
+        return bytes == 0 || LerEventos();
+    }
+
+private:
+    TObservador() : FAlca(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC)) {}
+    ~TObservador() {
+        if (FAlca >= 0) ::close(FAlca);
+    }
+
+    int Incluir(const std::string& ANome, std::uint32_t AEventos, TInscrito& AInscrito) {
+        const int vigia = ::inotify_add_watch(FAlca, ANome.c_str(), AEventos);
+        if (vigia >= 0) FInscritos[vigia].push_back(&AInscrito);
+        return vigia;
+    }
+
+    bool LerEventos() {
+        const std::lock_guard trava(FTrava);
+        alignas(inotify_event) std::array<char, 4096> bloco;
+        for (ssize_t lidos = 0; (lidos = ::read(FAlca, bloco.data(), bloco.size())) > 0;)
+            for (std::size_t i = 0; i < static_cast<std::size_t>(lidos);) {
+                inotify_event evento{};
+                std::memcpy(&evento, bloco.data() + i, sizeof evento);
+                i += sizeof evento + evento.len;
+                for (const auto& [vigia, inscritos] : FInscritos)
+                    if (vigia == evento.wd || (evento.mask & IN_Q_OVERFLOW) != 0)
+                        for (TInscrito* inscrito : inscritos) inscrito->Mexido = true;
+            }
+        return errno == EAGAIN;
+    }
+
+    int FAlca;
+    std::mutex FTrava{};
+    std::map<int, std::vector<TInscrito*>> FInscritos{};
+};
+
 }  // namespace
+
+struct TArquivoVigiado::TVigia : TInscrito {
+    TVigia() = default;
+    TVigia(const TVigia&) = delete;
+    TVigia& operator=(const TVigia&) = delete;
+    ~TVigia() { TObservador::Get().Retirar(*this); }
+};
+
+TArquivoVigiado::TArquivoVigiado() = default;
+TArquivoVigiado::~TArquivoVigiado() = default;
 
 bool TArquivoVigiado::Iniciar(TFluxo& AFluxo, const std::string& ANome, const TMarcaDeArquivo& AMarca) {
     Fechar();
     if (!EhLocal(ANome)) return false;
-    FVigia = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
-    if (FVigia < 0) return false;
-    constexpr std::uint32_t CDoArquivo = IN_OPEN | IN_CLOSE_WRITE | IN_ATTRIB | IN_MOVE_SELF | IN_DELETE_SELF;
+    FVigia = std::make_unique<TVigia>();
     FNome = ANome;
     FMarca = AMarca;
     FTempoMenor = FTempoMaior = AMarca.Tempo;
     // The look at the file comes behind the watch: nothing falls between them.
-    const bool vigiando = ::inotify_add_watch(FVigia, ANome.c_str(), CDoArquivo) >= 0 &&
-                          ::inotify_add_watch(FVigia, BuscarPasta(ANome).c_str(), IN_MOVE_SELF) >= 0 &&
-                          BuscarMarcaIntacta();
-    if (!vigiando) {
+    if (!TObservador::Get().Inscrever(ANome, *FVigia) || !EstahSoAqui(AFluxo) || !BuscarMarcaIntacta()) {
         Fechar();
         return false;
     }
@@ -80,14 +176,12 @@ std::optional<TMarcaDeArquivo> TArquivoVigiado::Parar() noexcept {
 }
 
 void TArquivoVigiado::Fechar() noexcept {
-    if (FVigia >= 0) ::close(std::exchange(FVigia, -1));
+    FVigia.reset();
     FFluxo.Fechar();
 }
 
 bool TArquivoVigiado::EstahIntacto() noexcept {
-    int eventos = 0;
-    if (::ioctl(FVigia, FIONREAD, &eventos) != 0 || eventos > 0) return false;
-    if (FFluxo.IrAoFim() != FMarca.Tamanho) return false;
+    if (!TObservador::Get().Distribuir() || FVigia->Mexido) return false;
     const std::int64_t segundo = BuscarRelogio(CLOCK_REALTIME_COARSE) / 1'000'000'000;
     return std::exchange(FSegundo, segundo) == segundo || BuscarMarcaIntacta();
 }

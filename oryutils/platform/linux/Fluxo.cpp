@@ -141,11 +141,6 @@ std::optional<std::uint64_t> TFluxo::BuscarTamanho() const noexcept {
     return static_cast<std::uint64_t>(dados.st_size);
 }
 
-std::optional<std::uint64_t> TFluxo::IrAoFim() noexcept {
-    const off_t fim = ::lseek(Descritor(FAlca), 0, SEEK_END);
-    return fim < 0 ? std::nullopt : std::optional(static_cast<std::uint64_t>(fim));
-}
-
 std::optional<TMarcaDeArquivo> TFluxo::BuscarMarca() const noexcept {
     struct stat dados {};
     if (::fstat(Descritor(FAlca), &dados) != 0 || !S_ISREG(dados.st_mode)) return {};

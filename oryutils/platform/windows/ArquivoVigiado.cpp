@@ -2,6 +2,11 @@
 
 namespace OryUtils::Plataforma {
 
+struct TArquivoVigiado::TVigia {};
+
+TArquivoVigiado::TArquivoVigiado() = default;
+TArquivoVigiado::~TArquivoVigiado() = default;
+
 // The file would have to stay open, and others could neither rename nor replace it meanwhile.
 bool TArquivoVigiado::Iniciar(TFluxo& /*AFluxo*/, const std::string& /*ANome*/, const TMarcaDeArquivo& /*AMarca*/) {
     return false;

@@ -162,12 +162,6 @@ std::optional<std::uint64_t> TFluxo::BuscarTamanho() const noexcept {
     return static_cast<std::uint64_t>(tamanho.QuadPart);
 }
 
-std::optional<std::uint64_t> TFluxo::IrAoFim() noexcept {
-    LARGE_INTEGER fim{};
-    if (::GetFileType(Alca(FAlca)) != FILE_TYPE_DISK || !::SetFilePointerEx(Alca(FAlca), {}, &fim, FILE_END)) return {};
-    return static_cast<std::uint64_t>(fim.QuadPart);
-}
-
 std::optional<TMarcaDeArquivo> TFluxo::BuscarMarca() const noexcept {
     BY_HANDLE_FILE_INFORMATION dados{};
     if (::GetFileType(Alca(FAlca)) != FILE_TYPE_DISK || !::GetFileInformationByHandle(Alca(FAlca), &dados)) return {};
