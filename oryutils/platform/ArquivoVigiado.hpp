@@ -10,12 +10,12 @@
 
 namespace OryUtils::Plataforma {
 
-/// A file kept open for writing behind its end, with a watch on what anybody else does to it: one cheap question to the
-/// system before each write, where opening the file and comparing its mark costs several dear ones.
+/// A file kept open for writing behind its end, with a watch on what anybody else does to it: two cheap questions to
+/// the system before each write, where opening the file and comparing its mark costs several dear ones.
 ///
 /// (Linux) Only for a file that nobody else has open when the watch begins, on a file system of this machine. Noticed
-/// at once: the file is opened, renamed, deleted, replaced, or its folder renamed. Noticed within a second: a folder
-/// further up is renamed. (Windows) Does not watch.
+/// at once: the file is opened, cut, renamed, deleted, replaced, or its folder renamed. Noticed within a second: a
+/// folder further up is renamed. (Windows) Does not watch.
 class TArquivoVigiado {
 public:
     TArquivoVigiado();

@@ -182,6 +182,10 @@ void TArquivoVigiado::Fechar() noexcept {
 
 bool TArquivoVigiado::EstahIntacto() noexcept {
     if (!TObservador::Get().Distribuir() || FVigia->Mexido) return false;
+    // Cutting a file by its name opens nothing. The position tells the size without asking for the time, which would
+    // make the next write dearer.
+    const off_t fim = ::lseek(static_cast<int>(FFluxo.GetAlca()), 0, SEEK_END);
+    if (fim < 0 || static_cast<std::uint64_t>(fim) != FMarca.Tamanho) return false;
     const std::int64_t segundo = BuscarRelogio(CLOCK_REALTIME_COARSE) / 1'000'000'000;
     return std::exchange(FSegundo, segundo) == segundo || BuscarMarcaIntacta();
 }
