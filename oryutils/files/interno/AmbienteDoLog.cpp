@@ -2,18 +2,20 @@
 
 #include "oryutils/files/OryUtilsFiles.hpp"
 #include "oryutils/platform/Executavel.hpp"
-#include "oryutils/platform/Maquina.hpp"
-#include "oryutils/platform/Rede.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/NomeDeArquivo.hpp"
-#include "oryutils/runtime/NumeroTexto.hpp"
+#include "oryutils/system/OryUtilsSystem.hpp"
 
 namespace OryUtils {
 namespace {
 
-std::u16string EscreverEndereco(const Plataforma::TEnderecoIP& AEndereco) {
-    std::u16string texto;
-    for (const std::uint8_t parte : AEndereco) texto += (texto.empty() ? u"" : u".") + InteiroParaTexto(parte);
-    return texto;
+// A machine without a network or a name still writes its logs.
+std::u16string BuscarOuVazio(std::u16string (*ABuscar)()) {
+    try {
+        return ABuscar();
+    } catch (const Exception&) {
+        return {};
+    }
 }
 
 class TAmbienteDoSistema final : public TAmbienteDoLog {
@@ -25,16 +27,8 @@ public:
     std::u16string BuscarVersao() override {
         return TOryUtilsFiles::BuscarVersaoArquivo(Plataforma::BuscarArquivoExecutavel());
     }
-    // A machine without a network or a name still writes its logs.
-    std::u16string BuscarIP() override {
-        std::u16string erro;
-        const auto endereco = Plataforma::BuscarEnderecoDestaMaquina(erro);
-        return endereco ? EscreverEndereco(*endereco) : std::u16string();
-    }
-    std::u16string BuscarNomeDaMaquina() override {
-        std::uint32_t erro = 0;
-        return Plataforma::BuscarNomeDaMaquina(erro).value_or(u"");
-    }
+    std::u16string BuscarIP() override { return BuscarOuVazio(TOryUtilsSistema::BuscarIPLocal); }
+    std::u16string BuscarNomeDaMaquina() override { return BuscarOuVazio(TOryUtilsSistema::BuscarNomeComputador); }
 };
 
 }  // namespace
