@@ -90,16 +90,19 @@ TEST(Maquina, IndiceDaUnidade) {
 
 TEST(Maquina, VarToIntDef) {
     const TFormatosTemporarios formatos(BuscarFormatosBrasileiros());
-    const std::pair<Variant, int> casos[] = {
-        {12, 12},           {std::int64_t{2147483648}, -7},
-        {u" -3", -3},       {u"", -7},
-        {u"3x", -7},        {TNulo{}, -7},
-        {Variant(), -7},    {true, -7},
-        {2.0, 2},           {2.5, -7},
-        {TMoeda::De(8), 8}, {std::vector<Variant>{1}, -7},
-    };
-    for (const auto& [valor, esperado] : casos)
-        EXPECT_EQ(VarToIntDef(valor, -7), esperado) << "row " << &valor - &casos[0].first;
+    const auto converter = [](const Variant& AValor) { return VarToIntDef(AValor, -7); };
+    EXPECT_EQ(converter(12), 12);
+    EXPECT_EQ(converter(std::int64_t{2147483648}), -7) << "too large";
+    EXPECT_EQ(converter(u" -3"), -3);
+    EXPECT_EQ(converter(u""), -7);
+    EXPECT_EQ(converter(u"3x"), -7);
+    EXPECT_EQ(converter(TNulo{}), -7);
+    EXPECT_EQ(converter(Variant()), -7);
+    EXPECT_EQ(converter(true), -7) << "its text is a word";
+    EXPECT_EQ(converter(2.0), 2);
+    EXPECT_EQ(converter(2.5), -7);
+    EXPECT_EQ(converter(TMoeda::De(8)), 8);
+    EXPECT_EQ(converter(std::vector<Variant>(1, 1)), -7) << "an array has no text";
 }
 
 TEST(Maquina, PastasVizinhas) {
