@@ -1,6 +1,8 @@
+#include "oryutils/runtime/Utf.hpp"
 #include "oryutils/system/OryUtilsRegistry.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 #include "oryutils/system/interno/RegrasDeRede.hpp"
+#include "oryutils/system/interno/SaidaDeComando.hpp"
 
 #include "operacoes/Vinculo.hpp"
 
@@ -11,6 +13,11 @@ namespace Ory {
 namespace {
 
 using C = OryUtils::TOryUtilsSistema;
+
+// The command writes its text in UTF-8, at once.
+TListaDeTextos LinhasDaSaidaDeComando(std::u16string_view ASaida) {
+    return OryUtils::Sistema::LinhasDaSaidaDeComando(OryUtils::ParaUtf8(ASaida));
+}
 
 TListaDeTextos ListaIPLocalDaSaidaARP(std::u16string_view ASaida) {
     return OryUtils::Sistema::ListarEnderecosDaSaidaARP(ASaida);
@@ -28,6 +35,7 @@ constexpr auto COperacoes = Ordenar(std::array{
     Operacao<C::ExtrairEnderecoMACComandoARP>("ExtrairEnderecoMACComandoARP"),
     Operacao<C::FormatarBytes>("FormatarBytes"),
     Operacao<InformacoesDetalhadas>("InformacoesDetalhadas"),
+    Operacao<LinhasDaSaidaDeComando>("LinhasDaSaidaDeComando"),
     Operacao<ListaIPLocalDaSaidaARP>("ListaIPLocalDaSaidaARP"),
     Operacao<OryUtils::TOryUtilsRegistro::ValidouValorLimiteCotaObjetosGDI>("ValidouValorLimiteCotaObjetosGDI"),
     Operacao<C::VarToIntDef>("VarToIntDef"),

@@ -7,6 +7,7 @@
 #include "log/Log.hpp"
 #include "mensagem/Mensagem.hpp"
 #include "numeros/Numeros.hpp"
+#include "processos/Processos.hpp"
 #include "sistema/Sistema.hpp"
 #include "versao/Versao.hpp"
 
@@ -241,6 +242,7 @@ int ExecutarLinhaDeComando(std::span<const std::string> AArgumentos, TAmbiente& 
     comandos.Incluir("versao", "mostra o que arquivos dizem de si, ou compara versões", DescreverVersao, MostrarVersao);
     comandos.Incluir("sistema", "mostra a máquina: nomes, endereços, discos e pastas", DescreverSistema,
                      MostrarSistema);
+    comandos.Incluir("processos", "lista os processos da máquina", DescreverProcessos, MostrarProcessos);
     aplicativo.require_subcommand(0, 1);
 
     std::vector<std::string> invertidos(AArgumentos.rbegin(), AArgumentos.rend());

@@ -89,7 +89,8 @@ std::uint64_t TOryUtilsSistema::BuscarMemoriaUsadaEnderecoProcesso(const TAlcaDe
 
 std::u16string TOryUtilsSistema::BuscarMemoriaUsadaProcesso(std::u16string_view AProcesso) {
     const std::uint64_t bytes = BuscarMemoriaUsadaEnderecoProcesso(BuscarEnderecoMemoriaProcesso(AProcesso));
-    return FormatarNumero(u",.# KB", static_cast<Extended>(bytes / 1024));
+    const std::int64_t quilobytes = FormatarBytes(static_cast<std::int64_t>(bytes), fbKilobytes);
+    return FormatarNumero(u",.# KB", static_cast<Extended>(quilobytes));
 }
 
 void TOryUtilsSistema::LiberarMemoriaResidualProcesso() { Plataforma::LiberarMemoria(); }

@@ -45,6 +45,7 @@ TEST(Sistema, OperacoesPeloNome) {
          R"({"resultado":"0A-1B-2C-3D-4E-5F"})"},
         {R"({"op":"VarToIntDef","args":["12",7]})", R"({"resultado":12})"},
         {R"({"op":"VarToIntDef","args":[null,7]})", R"({"resultado":7})"},
+        {R"({"op":"LinhasDaSaidaDeComando","args":[" a\r\n b \nc\n"]})", R"({"resultado":["a"," b ","c"]})"},
         {R"({"op":"ListaIPLocalDaSaidaARP","args":["\r\nInterface: 10.0.0.2 --- 0x3\n 10.0.0.1\rInterface: 10.0.0.3"]})",
          R"({"resultado":["10.0.0.2","10.0.0.3"]})"},
         {R"({"op":"InformacoesDetalhadas","args":["C","X",10,4,3]})",

@@ -184,8 +184,9 @@ const std::map<std::string, std::string> CForaDaTabela{
 };
 
 // Entries that join several calls and so have a name of their own.
-const std::set<std::string> CCompostas{"CalcularFormula", "Base64", "MontarFiltroSql", "InformacoesDetalhadas",
-                                       "ListaIPLocalDaSaidaARP"};
+const std::set<std::string> CCompostas{"CalcularFormula",        "Base64",
+                                       "MontarFiltroSql",        "InformacoesDetalhadas",
+                                       "LinhasDaSaidaDeComando", "ListaIPLocalDaSaidaARP"};
 
 /// The header without its comments and without what a class keeps to itself.
 std::string LerCabecalho(const std::string& ANome) {
