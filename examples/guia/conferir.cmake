@@ -2,8 +2,10 @@
 #   cmake -DGUIA=FILE -DPASTA=FOLDER -P conferir.cmake
 #     each block of code below <!-- codigo: FILE part --> is the part of that file between two lines // [part], and
 #     every block of code or output has a line above it that says whose it is
-#   cmake ... -DNOME=name -DSISTEMA=linux -DPROGRAMA=FILE -DTRABALHO=FOLDER [-DEMULADOR=...] [-DARGUMENTOS=...] -P ...
-#     what the program prints is the block below <!-- saida: name --> or <!-- saida: name system -->
+#   cmake ... -DNOME=name -DSISTEMA=linux -DPROGRAMA=FILE -DTRABALHO=FOLDER [-DEMULADOR=...] [-DARGUMENTOS=...]
+#         [-DSTATUS=number] -P ...
+#     what the program prints is the block below <!-- saida: name --> or <!-- saida: name system -->, and it ends with
+#     that status, 0 where none is given
 cmake_minimum_required(VERSION 3.23)
 file(READ ${GUIA} guia)
 
@@ -48,7 +50,14 @@ endfunction()
 if(DEFINED NOME)
   file(REMOVE_RECURSE ${TRABALHO})
   file(MAKE_DIRECTORY ${TRABALHO})
-  execute_process(COMMAND ${EMULADOR} ${PROGRAMA} ${ARGUMENTOS} WORKING_DIRECTORY ${TRABALHO} OUTPUT_VARIABLE obtido)
+  execute_process(COMMAND ${EMULADOR} ${PROGRAMA} ${ARGUMENTOS} WORKING_DIRECTORY ${TRABALHO} OUTPUT_VARIABLE obtido
+                  RESULT_VARIABLE status)
+  if(NOT DEFINED STATUS)
+    set(STATUS 0)
+  endif()
+  if(NOT status STREQUAL STATUS)
+    message(FATAL_ERROR "${NOME} ended with ${status}:\n${obtido}")
+  endif()
   normalizar(obtido)
   buscar_bloco("<!-- saida: ${NOME} ${SISTEMA} -->" esperado)
   if(esperado STREQUAL "")
