@@ -2,6 +2,7 @@
 #   Example:  ...            an example, to the end of the comment
 #   AName  text              an argument; in the comment of a class or a group, an entry of a list
 #   Result: text             what is returned
+#   Failure: text            when it fails
 #   // Title.                alone above a blank line, inside a class: a section of its members
 #   member;  // text         the member's comment
 #   overloads, Get and Set   right below one another: the comment of the first one is everybody's
@@ -44,9 +45,9 @@ function escrever(lista,    i, texto, nome, codigo, recuo, margem, em_lista) {
         if (codigo) {
             if (margem < 0) margem = recuo
             print "/// " (recuo >= margem ? substr(texto, margem + 1) : texto)
-        } else if (recuo >= 2 && texto !~ /^ *- / && i > 1 && (bloco[i - 1] == "" || bloco[i - 1] ~ /^[^ ].*:$/)) {
-            # Lines set in below a blank line or a colon.
-            print "///\n/// @code{.cpp}"
+        } else if (recuo >= 2 && texto !~ /^ *- / && i > 1 && (bloco[i - 1] == "" || bloco[i - 1] ~ /^[^ -].*:$/ && bloco[i - 1] !~ /^[A-Z][a-z]+:  /)) {
+            # Lines set in below a blank line or a colon: code, or a table.
+            print "///\n/// @code{" (texto ~ /;( |$)/ && texto !~ /^ *[^ ] / ? ".cpp" : ".unparsed") "}"
             margem = recuo
             print "/// " substr(texto, margem + 1)
             codigo = 1
@@ -55,6 +56,8 @@ function escrever(lista,    i, texto, nome, codigo, recuo, margem, em_lista) {
             margem = RLENGTH < length(texto) ? RLENGTH : -1
             if (margem > 0) print "/// " substr(texto, margem + 1)
             codigo = 2
+        } else if (match(texto, /^Failure: */)) {
+            print "/// @par Failure\n/// " escapar(substr(texto, RLENGTH + 1))
         } else if (match(texto, /^Result: */)) {
             print "/// @return " escapar(substr(texto, RLENGTH + 1))
         } else if (match(texto, c ? "^[a-z]+  +[^ ]" : "^A[A-Z][A-Za-z]*  +[^ ]")) {

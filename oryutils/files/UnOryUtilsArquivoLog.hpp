@@ -26,9 +26,9 @@ class TLinhasDoLog;
 /// Destroying it neither finishes nor saves the log; call FinalizarLog first.
 ///
 /// Example:  TOryUtilsArquivoLog log(u"C:\\Logs\\Importacao.txt");
-///           log.SetTipoPeriodicidade(tplDiario);             // C:\Logs\Importacao_15_11_2026.log
-///           log.Adicionar(u"Cliente 1520 importado", clBlue);  // header first, then "[15/11/2026 14:07:05]:
-///           Cliente..." log.FinalizarLog();                              // footer, and the file is written
+///           log.SetTipoPeriodicidade(tplDiario);               // C:\Logs\Importacao_15_11_2026.log
+///           log.Adicionar(u"Cliente 1520 importado", clBlue);  // the header comes first
+///           log.FinalizarLog();                                // footer, and the file is written
 class ORY_API TOryUtilsArquivoLog : public TObjeto {
 public:
     /// Takes the name of the file and touches nothing on the disk. AArquivoLog may have a folder and an extension, in
