@@ -8,6 +8,7 @@
 #include "mensagem/Mensagem.hpp"
 #include "numeros/Numeros.hpp"
 #include "processos/Processos.hpp"
+#include "servico/Servico.hpp"
 #include "sistema/Sistema.hpp"
 #include "versao/Versao.hpp"
 
@@ -243,6 +244,7 @@ int ExecutarLinhaDeComando(std::span<const std::string> AArgumentos, TAmbiente& 
     comandos.Incluir("sistema", "mostra a máquina: nomes, endereços, discos e pastas", DescreverSistema,
                      MostrarSistema);
     comandos.Incluir("processos", "lista os processos da máquina", DescreverProcessos, MostrarProcessos);
+    comandos.Incluir("servico", "mostra o estado de um serviço do sistema", DescreverServico, MostrarServico);
     aplicativo.require_subcommand(0, 1);
 
     std::vector<std::string> invertidos(AArgumentos.rbegin(), AArgumentos.rend());

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "oryutils/OryExport.hpp"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace OryUtils::Plataforma {
+
+/// What the service manager tells of a service.
+struct TSituacaoServico {
+    /// 1 stopped, 2 start pending, 3 stop pending, 4 running, 5 continue pending, 6 pause pending, 7 paused.
+    std::uint32_t Estado = 0;
+    /// Counts up while the service is on its way.
+    std::uint32_t PontoDeVerificacao = 0;
+    /// How long the service asks to be left alone before the next question, in milliseconds.
+    std::uint32_t EsperaSugerida = 0;
+    /// False when there is certainly no process behind the service now.
+    bool TemProcesso = true;
+};
+
+/// A service opened with certain rights; closed with the object.
+class ORY_API TServico {
+public:
+    virtual ~TServico() = default;
+    TServico(const TServico&) = delete;
+    TServico& operator=(const TServico&) = delete;
+
+    /// Asks the service to start, without arguments.
+    virtual bool Iniciar() = 0;
+    /// Sends the stop control; the service stops in its own time.
+    virtual bool Parar() = 0;
+    /// Marks the service for deletion.
+    virtual bool Excluir() = 0;
+    virtual std::optional<TSituacaoServico> Consultar() = 0;
+    /// The id of the service's process, 0 when there is none or it cannot be told.
+    virtual std::uint32_t BuscarIDProcesso() = 0;
+
+protected:
+    TServico() = default;
+};
+
+enum TAcessoServico : int { asConsultar, asIniciar, asParar, asTotal };
+
+/// A connection to the service manager; closed with the object.
+class ORY_API TGerenciadorServicos {
+public:
+    virtual ~TGerenciadorServicos() = default;
+    TGerenciadorServicos(const TGerenciadorServicos&) = delete;
+    TGerenciadorServicos& operator=(const TGerenciadorServicos&) = delete;
+
+    /// Null when there is no such service or not that right.
+    virtual std::unique_ptr<TServico> AbrirServico(std::u16string_view ANome, TAcessoServico AAcesso) = 0;
+    /// Creates a service of its own process, started with the machine, its errors ignored; without group, dependencies
+    /// or account. Returns the creation's own value, 0 when it failed; the service is not left open.
+    virtual std::uintptr_t CriarServico(std::u16string_view ANome, std::u16string_view ANomeExibicao,
+                                        std::u16string_view AExecutavel) = 0;
+
+protected:
+    TGerenciadorServicos() = default;
+};
+
+enum TAcessoGerenciador : int { agConectar, agTotal };
+
+/// The service manager of AMaquina, the empty name meaning this one; null when it does not answer or refuses.
+/// (Windows) The Service Control Manager. (Linux) systemd, through systemctl; null where there is none, and for every
+/// other machine.
+ORY_API std::unique_ptr<TGerenciadorServicos> AbrirGerenciadorServicos(std::u16string_view AMaquina,
+                                                                       TAcessoGerenciador AAcesso);
+
+}  // namespace OryUtils::Plataforma

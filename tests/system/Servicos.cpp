@@ -1,0 +1,273 @@
+// The decisions of the service and firewall operations, with a service manager and a command runner that do as told.
+#include "oryutils/system/interno/Servicos.hpp"
+
+#include "oryutils/system/interno/ComandosServico.hpp"
+#include "oryutils/system/interno/Firewall.hpp"
+
+#include <gtest/gtest.h>
+
+#include <deque>
+
+using namespace OryUtils;
+using Sistema::TExecutorDeComando;
+using namespace Plataforma;
+
+namespace {
+
+std::u16string Estrelas() { return std::u16string(79, u'*'); }
+constexpr std::u16string_view CConselho = u"\r\n\r\nReinicie a aplicação em modo administrador e tente novamente.";
+
+/// Records the command and prints AResposta.
+TExecutorDeComando Responder(std::u16string& AComando, std::u16string AResposta) {
+    return [&AComando, AResposta](std::u16string_view ALinha, std::vector<std::u16string>& ASaida) {
+        AComando = ALinha;
+        if (!AResposta.empty()) ASaida.push_back(AResposta);
+    };
+}
+
+TEST(ConfiguracaoDeServico, ComandosEMensagens) {
+    std::u16string comando;
+    struct TCaso {
+        std::u16string Comando, Inicio;
+        TResultStatus (*Configurar)(const TExecutorDeComando&);
+    };
+    const TCaso casos[] = {
+        {u"sc failure \"Ory\" actions= restart/0/restart/0// reset= 240",
+         u"Não foi possível configurar a ação padrão de recuperação do serviço << Ory >>.\r\n\r\n",
+         [](const TExecutorDeComando& e) { return Sistema::ConfigurouAcaoPadraoRecuperacaoServico(e, u"Ory"); }},
+        {u"sc config Ory depend= Firebird",
+         u"Não foi possível configurar o serviço: << Firebird >>\r\n\r\ncomo dependência do serviço: << Ory "
+         u">>\r\n\r\n\r\n",
+         [](const TExecutorDeComando& e) { return Sistema::ConfigurouDependenciaServico(e, u"Ory", u"Firebird"); }},
+        {u"sc config \"Ory\" obj= \".\\ana\" password= \"a b\"",
+         u"Não foi possível configurar o usuário de logon para o serviço: << Ory >>.\r\n\r\n\r\n",
+         [](const TExecutorDeComando& e) {
+             return Sistema::ConfigurouUsuarioLogonServico(e, u"Ory", u".\\ana", u"a b");
+         }},
+        {u"sc config \"Ory\" start= delayed-auto error= normal",
+         u"Não foi possível configurar os dados adicionais do serviço << Ory >>.\r\n\r\n",
+         [](const TExecutorDeComando& e) {
+             return Sistema::ConfigurouDadosAdicionaisServico(e, u"Ory", {u"start= delayed-auto", u"error= normal"});
+         }},
+    };
+    for (const TCaso& caso : casos) {
+        EXPECT_EQ(caso.Configurar(Responder(comando, u"[SC] ChangeServiceConfig SUCCESS")), TResultStatus{});
+        EXPECT_EQ(comando, caso.Comando);
+        // A word of failure counts in any case and inside another word.
+        for (const char16_t* resposta : {u"[SC] OpenService FAILED 5", u"Acesso NEGADO.", u"aterroriza"}) {
+            const std::u16string mensagem = caso.Inicio + u"Erro ocorrido: \r\n\r\n" + Estrelas() + u"\r\n" + resposta +
+                                            u"\r\n" + Estrelas() + std::u16string(CConselho);
+            EXPECT_EQ(caso.Configurar(Responder(comando, resposta)), (TResultStatus{false, mensagem}));
+        }
+    }
+}
+
+TEST(ConfiguracaoDeServico, NenhumValorSaiDasAspas) {
+    struct TCaso {
+        std::u16string_view Valor, EntreAspas;
+    };
+    for (const auto& [valor, esperado] : {
+             TCaso{u"C:\\Program Files\\Ory\\x.exe", u"C:\\Program Files\\Ory\\x.exe"},
+             TCaso{u"C:\\Ory\\", u"C:\\Ory\\\\"},
+             TCaso{u"a\" start= disabled", u"a\\\" start= disabled"},
+             TCaso{u"a\\\"b\\\\", u"a\\\\\\\"b\\\\\\\\"},
+         })
+        EXPECT_EQ(Sistema::EscaparEntreAspas(valor), esperado);
+    EXPECT_EQ(Sistema::MontarComandoDependencia(u"a b", u"c\"d"), u"sc config \"a b\" depend= \"c\\\"d\"");
+}
+
+TEST(Firewall, ComandosDosDoisDialetos) {
+    const auto porta = [](Sistema::TDialetoFirewall d) {
+        return Sistema::MontarLiberacaoDePorta(d, tpTCP, 3050, u"FB");
+    };
+    const auto semPorta = [](Sistema::TDialetoFirewall d) { return Sistema::MontarExclusaoDePorta(d, tpUDP, 80); };
+    const auto programa = [](Sistema::TDialetoFirewall d) {
+        return Sistema::MontarLiberacaoDePrograma(d, u"C:\\a b.exe", u"Ory");
+    };
+    const auto semPrograma = [](Sistema::TDialetoFirewall d) {
+        return Sistema::MontarExclusaoDePrograma(d, u"C:\\a b.exe", u"Ory");
+    };
+    using Sistema::dfAntigo, Sistema::dfAvancado;
+    EXPECT_EQ(porta(dfAvancado),
+              u"netsh advfirewall firewall add rule name=\"FB\" dir=in action=allow protocol=TCP localport=3050");
+    EXPECT_EQ(porta(dfAntigo), u"netsh firewall set portopening TCP 3050 \"FB\"");
+    EXPECT_EQ(semPorta(dfAvancado), u"netsh advfirewall firewall delete rule name=all protocol=UDP localport=80");
+    EXPECT_EQ(semPorta(dfAntigo), u"netsh firewall delete portopening protocol=UDP port=80");
+    EXPECT_EQ(programa(dfAvancado),
+              u"netsh advfirewall firewall add rule name=\"Ory\" dir=in action=allow "
+              u"program=\"C:\\a b.exe\" enable=yes");
+    EXPECT_EQ(programa(dfAntigo), u"netsh firewall set allowedprogram \"C:\\a b.exe\" \"Ory\" ENABLE");
+    EXPECT_EQ(semPrograma(dfAvancado), u"netsh advfirewall firewall delete rule name=\"Ory\" program=\"C:\\a b.exe\"");
+    EXPECT_EQ(semPrograma(dfAntigo), u"netsh firewall delete allowedprogram \"C:\\a b.exe\"");
+    for (int versao = vwUnknown; versao <= vwWinVista; ++versao)
+        EXPECT_EQ(Sistema::DialetoDe(static_cast<TVersaoWindows>(versao)),
+                  versao == vwUnknown || versao == vwWinVista ? dfAvancado : dfAntigo);
+}
+
+TEST(Firewall, RespostasEMensagens) {
+    std::u16string comando;
+    using Sistema::dfAvancado;
+    for (const char16_t* resposta : {u"Ok.", u"tudo oK", u"Token"})
+        EXPECT_TRUE(Sistema::LiberouPorta(Responder(comando, resposta), dfAvancado, tpTCP, 1, u"x").Status);
+    const auto negar = Responder(comando, u"Acesso negado");
+    EXPECT_EQ(Sistema::LiberouPorta(negar, dfAvancado, tpTCP, 3050, u"x").Mensagem,
+              u"Não foi possível liberar a porta << 3050 >> no firewall do Windows.\r\n\r\nErro ocorrido: "
+              u"\r\n\r\nAcesso negado");
+    EXPECT_EQ(Sistema::ExcluiuPorta(negar, dfAvancado, tpTCP, 3050).Mensagem,
+              u"Não foi possível excluir a porta << 3050 >> do firewall do Windows.\r\n\r\nErro ocorrido: "
+              u"\r\n\r\nAcesso negado");
+    EXPECT_EQ(Sistema::LiberouPrograma(negar, dfAvancado, u"%s.exe", u"x").Mensagem,
+              u"Não foi possível liberar o programa << %s.exe >> no firewall do Windows.\r\n\r\nErro ocorrido: "
+              u"\r\n\r\nAcesso negado");
+    EXPECT_EQ(Sistema::ExcluiuPrograma(negar, dfAvancado, u"a.exe", u"x").Mensagem,
+              u"Não foi possível excluir o programa << a.exe >> do firewall do Windows.\r\n\r\nErro ocorrido: "
+              u"\r\n\r\nAcesso negado");
+    // A command that cannot be started prints nothing, and so opens nothing.
+    EXPECT_FALSE(Sistema::ExcluiuPrograma(Responder(comando, u""), dfAvancado, u"a.exe", u"x").Status);
+}
+
+/// What a scripted service answers, one situation a question; the last one stays.
+struct TRoteiro {
+    std::deque<std::optional<TSituacaoServico>> Situacoes{};
+    bool Aceita = true;
+    std::uintptr_t Criacao = 0x10000;
+    std::string Registro{};
+};
+
+class TServicoRoteirizado final : public TServico {
+public:
+    explicit TServicoRoteirizado(TRoteiro& ARoteiro) : FRoteiro(ARoteiro) {}
+    bool Iniciar() override { return Registrar("iniciar "); }
+    bool Parar() override { return Registrar("parar "); }
+    bool Excluir() override { return Registrar("excluir "); }
+    std::optional<TSituacaoServico> Consultar() override {
+        const auto situacao = FRoteiro.Situacoes.front();
+        if (FRoteiro.Situacoes.size() > 1) FRoteiro.Situacoes.pop_front();
+        return situacao;
+    }
+    std::uint32_t BuscarIDProcesso() override {
+        Registrar("id ");
+        return 0;
+    }
+
+private:
+    bool Registrar(const char* AFeito) {
+        FRoteiro.Registro += AFeito;
+        return FRoteiro.Aceita;
+    }
+    TRoteiro& FRoteiro;
+};
+
+class TGerenciadorRoteirizado final : public TGerenciadorServicos {
+public:
+    explicit TGerenciadorRoteirizado(TRoteiro& ARoteiro) : FRoteiro(ARoteiro) {}
+    std::unique_ptr<TServico> AbrirServico(std::u16string_view ANome, TAcessoServico) override {
+        return ANome == u"ausente" ? nullptr : std::make_unique<TServicoRoteirizado>(FRoteiro);
+    }
+    std::uintptr_t CriarServico(std::u16string_view, std::u16string_view, std::u16string_view) override {
+        return FRoteiro.Criacao;
+    }
+
+private:
+    TRoteiro& FRoteiro;
+};
+
+Sistema::TAbrirGerenciador Abrir(TRoteiro& ARoteiro) {
+    return [&ARoteiro](std::u16string_view AMaquina, TAcessoGerenciador) -> std::unique_ptr<TGerenciadorServicos> {
+        if (AMaquina == u"longe") return nullptr;
+        return std::make_unique<TGerenciadorRoteirizado>(ARoteiro);
+    };
+}
+
+const Sistema::TAbrirGerenciador CSemGerenciador = [](auto...) { return nullptr; };
+
+TEST(Servicos, InstalacaoComparaOValorDaCriacao) {
+    TRoteiro roteiro;
+    const auto instalar = [&](std::uintptr_t AValor) {
+        roteiro.Criacao = AValor;
+        return Sistema::InstalouServico(Abrir(roteiro), u"Ory", u"Ory", u"/ory");
+    };
+    EXPECT_TRUE(instalar(0).Status) << "a failed creation answers 0 and so reports success";
+    EXPECT_TRUE(instalar(0x10000).Status);
+    EXPECT_EQ(instalar(5).Mensagem, u"Não existem permissões de acesso para instalar o serviço.");
+    EXPECT_EQ(instalar(6).Mensagem, u"Ponteiro de identifidação do serviço é inválido.");
+    for (const std::uintptr_t valor : {87, 123, 1057, 1059, 1073, 1078}) EXPECT_FALSE(instalar(valor).Status);
+
+    const std::u16string semGerenciador =
+        u"Não foi possível abrir o SC Manager (Gerenciador de serviços do Windows).\r\n\r\nTente executar o processo "
+        u"como administrador, se o problema persistir entre em contatocom o suporte técnico.";
+    EXPECT_EQ(Sistema::InstalouServico(CSemGerenciador, u"a", u"b", u"c").Mensagem, semGerenciador);
+    EXPECT_EQ(Sistema::DesinstalouServico(CSemGerenciador, u"a"), (TResultStatus{false, semGerenciador}));
+}
+
+TEST(Servicos, RemocaoNaoContaAsFalhasDoServico) {
+    TRoteiro roteiro;
+    roteiro.Aceita = false;
+    EXPECT_TRUE(Sistema::DesinstalouServico(Abrir(roteiro), u"Ory").Status);
+    EXPECT_EQ(roteiro.Registro, "parar excluir ");
+    EXPECT_TRUE(Sistema::DesinstalouServico(Abrir(roteiro), u"ausente").Status);
+}
+
+TEST(Servicos, Estados) {
+    for (std::uint32_t estado = 0; estado <= 9; ++estado) {
+        TRoteiro roteiro{{TSituacaoServico{estado}}};
+        EXPECT_EQ(Sistema::BuscarStatusServico(Abrir(roteiro), u"", u"Ory"),
+                  estado <= 7 ? static_cast<int>(estado) : 0);
+    }
+    TRoteiro mudo{{std::nullopt}};
+    EXPECT_EQ(Sistema::BuscarStatusServico(Abrir(mudo), u"", u"Ory"), sswErro);
+    EXPECT_EQ(Sistema::BuscarStatusServico(Abrir(mudo), u"", u"ausente"), sswErro);
+    EXPECT_EQ(Sistema::BuscarStatusServico(Abrir(mudo), u"longe", u"Ory"), sswErro);
+    EXPECT_EQ(CVetorStatusServicoWindows[sswErro],
+              u"Erro leitura serviço (pode indicar que não está instalado ou que está travado)");
+}
+
+TEST(Servicos, InicioEsperaOCaminhoDoServico) {
+    struct TCaso {
+        const char* Por;
+        std::deque<std::optional<TSituacaoServico>> Situacoes;
+        bool Aceita, Roda;
+    };
+    for (const TCaso& caso : {
+             TCaso{"through its check points", {{{2, 1, 1}}, {{2, 2, 1}}, {{2, 2, 1}}, {{4, 0, 0}}}, true, true},
+             TCaso{"check point backwards", {{{2, 5, 1}}, {{2, 1, 1}}, {{4, 0, 0}}}, true, false},
+             TCaso{"no answer any more", {{{2, 1, 1}}, std::nullopt}, true, false},
+             TCaso{"ended on its way", {{{2, 0, 1}}, {{1, 0, 0}}}, true, false},
+             TCaso{"runs already", {{{4, 0, 0}}}, false, true},
+             TCaso{"refused", {{{1, 0, 0}}}, false, false},
+         }) {
+        TRoteiro roteiro{caso.Situacoes, caso.Aceita};
+        EXPECT_EQ(Sistema::IniciarServico(Abrir(roteiro), u"", u"Ory"), caso.Roda) << caso.Por;
+    }
+    TRoteiro nenhum;
+    EXPECT_FALSE(Sistema::IniciarServico(Abrir(nenhum), u"", u"ausente"));
+}
+
+TEST(Servicos, ParadaEsgotaOLimite) {
+    struct TCaso {
+        const char* Por;
+        std::deque<std::optional<TSituacaoServico>> Situacoes;
+        bool Aceita;
+        int Limite;
+        bool Parou;
+        const char* Registro;
+    };
+    for (const TCaso& caso : {
+             TCaso{"in time", {{{3, 1, 1}}, {{3, 2, 1}}, {{1, 0, 0}}}, true, 60, true, "parar "},
+             TCaso{"no time at all", {{{3, 1, 1}}, {{3, 1, 1}}, {{1, 1, 0}}}, true, 0, true, "parar id "},
+             TCaso{"a second of hint uses the limit up; the next round ends the process",
+                   {{{3, 1, 1000}}, {{3, 1, 1}}, {{3, 1, 1}}, {{1, 1, 0}}},
+                   true,
+                   1,
+                   true,
+                   "parar id "},
+             TCaso{"stopped already", {{{1, 0, 0}}}, false, 60, true, "parar "},
+             TCaso{"refused", {{{4, 0, 0}}}, false, 60, false, "parar "},
+         }) {
+        TRoteiro roteiro{caso.Situacoes, caso.Aceita};
+        EXPECT_EQ(Sistema::PararServico(Abrir(roteiro), u"", u"Ory", caso.Limite), caso.Parou) << caso.Por;
+        EXPECT_EQ(roteiro.Registro, caso.Registro) << caso.Por;
+    }
+}
+
+}  // namespace

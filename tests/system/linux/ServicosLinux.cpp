@@ -1,0 +1,137 @@
+// systemd through a systemctl of the tests: a script that keeps a unit's state in files and records how it was called.
+#include "oryutils/platform/Utf.hpp"
+#include "oryutils/platform/linux/Systemd.hpp"
+#include "oryutils/system/interno/Servicos.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+using namespace OryUtils;
+using namespace Plataforma;
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* CSystemctl = R"(#!/bin/sh
+# Flags before the verb are the same for all calls.
+shift 2
+echo "$*" >> "$ORY_TESTE_SYSTEMD/chamadas"
+cd "$ORY_TESTE_SYSTEMD"
+case "$1" in
+is-system-running) cat situacao ;;
+show) if [ -f unidades/Ory.service ]; then
+          echo LoadState=loaded; cat estado; cat congelado; cat id; cat trabalho; : > trabalho
+      else echo LoadState=not-found; echo ActiveState=inactive; fi ;;
+start) echo ActiveState=active > estado; echo Job=77 > trabalho ;;
+stop) echo ActiveState=inactive > estado; echo Job=78 > trabalho ;;
+disable | enable | daemon-reload) ;;
+*) echo "Failed to understand $1" >&2; exit 1 ;;
+esac
+)";
+
+class ServicosLinux : public testing::Test {
+protected:
+    void SetUp() override {
+        FPasta = fs::temp_directory_path() / ("ory_systemd_" + std::to_string(::getpid()));
+        fs::create_directories(FPasta / "unidades");
+        Escrever("systemctl", CSystemctl);
+        fs::permissions(FPasta / "systemctl", fs::perms::owner_all);
+        Escrever("situacao", "degraded\n");
+        Escrever("estado", "ActiveState=inactive\n");
+        Escrever("congelado", "FreezerState=running\n");
+        Escrever("id", "MainPID=0\n");
+        Escrever("trabalho", "");
+        FCaminho = std::getenv("PATH");
+        ::setenv("PATH", (FPasta.string() + ":" + FCaminho).c_str(), 1);
+        ::setenv("ORY_TESTE_SYSTEMD", FPasta.c_str(), 1);
+    }
+    void TearDown() override {
+        ::setenv("PATH", FCaminho.c_str(), 1);
+        fs::remove_all(FPasta);
+    }
+    void Escrever(const char* ANome, std::string_view ATexto) { std::ofstream(FPasta / ANome) << ATexto; }
+    std::string Ler(const fs::path& ANome) {
+        std::ostringstream texto;
+        texto << std::ifstream(FPasta / ANome).rdbuf();
+        return texto.str();
+    }
+    Sistema::TAbrirGerenciador Abrir() {
+        return [this](std::u16string_view AMaquina, TAcessoGerenciador AAcesso) {
+            return AMaquina.empty() ? AbrirSystemd((FPasta / "unidades").string(), AAcesso) : nullptr;
+        };
+    }
+    fs::path FPasta;
+    std::string FCaminho;
+};
+
+TEST_F(ServicosLinux, DaInstalacaoARemocao) {
+    const auto abrir = Abrir();
+    EXPECT_EQ(Sistema::BuscarStatusServico(abrir, u"", u"Ory"), sswErro);
+    ASSERT_TRUE(Sistema::InstalouServico(abrir, u"Ory", u"Eventos 100%", u"\"/opt/a b/ory\" --porta 1 $x").Status);
+    EXPECT_EQ(Ler("unidades/Ory.service"),
+              "[Unit]\nDescription=Eventos 100%%\n\n[Service]\nExecStart=\"/opt/a b/ory\" \"--porta\" \"1\" \"$$x\"\n\n"
+              "[Install]\nWantedBy=multi-user.target\n");
+    EXPECT_EQ(Sistema::BuscarStatusServico(abrir, u"", u"Ory.service"), sswServicoParado);
+    EXPECT_TRUE(Sistema::IniciarServico(abrir, u"", u"Ory"));
+    Escrever("id", "MainPID=4242\n");
+    EXPECT_EQ(Sistema::BuscarIDProcessoServico(abrir, u"", u"Ory"), 4242U);
+    EXPECT_TRUE(Sistema::PararServico(abrir, u"", u"Ory", 10));
+    EXPECT_TRUE(Sistema::DesinstalouServico(abrir, u"Ory").Status);
+    EXPECT_EQ(Sistema::BuscarStatusServico(abrir, u"", u"Ory"), sswErro);
+    const std::string chamadas = Ler("chamadas");
+    for (const char* chamada : {"daemon-reload\n", "enable Ory.service\n", "start --no-block Ory.service\n",
+                                "stop --no-block Ory.service\n", "disable Ory.service\n"})
+        EXPECT_NE(chamadas.find(chamada), std::string::npos) << chamada;
+}
+
+TEST_F(ServicosLinux, EstadosDoSystemd) {
+    Escrever("unidades/Ory.service", "");
+    const auto estado = [&](const char* AAtivo, const char* ACongelado = "running") {
+        Escrever("estado", std::string("ActiveState=") + AAtivo + "\n");
+        Escrever("congelado", std::string("FreezerState=") + ACongelado + "\n");
+        return Sistema::BuscarStatusServico(Abrir(), u"", u"Ory");
+    };
+    EXPECT_EQ(estado("inactive"), sswServicoParado);
+    EXPECT_EQ(estado("failed"), sswServicoParado);
+    EXPECT_EQ(estado("activating"), sswServicoInicializacaoPendente);
+    EXPECT_EQ(estado("deactivating"), sswServicoParadaPendente);
+    EXPECT_EQ(estado("active"), sswServicoRodando);
+    EXPECT_EQ(estado("active", "thawing"), sswServicoContinuaPendente);
+    EXPECT_EQ(estado("active", "freezing"), sswServicoPausaPendente);
+    EXPECT_EQ(estado("active", "frozen"), sswServicoPausado);
+    EXPECT_EQ(estado("unheard-of"), sswErro);
+}
+
+TEST_F(ServicosLinux, SemSystemdRespondeErro) {
+    for (const char* situacao : {"offline\n", "unknown\n", ""}) {
+        Escrever("situacao", situacao);
+        EXPECT_EQ(Sistema::BuscarStatusServico(Abrir(), u"", u"Ory"), sswErro);
+        EXPECT_FALSE(Sistema::InstalouServico(Abrir(), u"Ory", u"", u"/bin/true").Status);
+    }
+    ::setenv("PATH", "/nao/existe", 1);
+    EXPECT_FALSE(Sistema::DesinstalouServico(Abrir(), u"Ory").Status);
+    const TResultStatus semSc = TOryUtilsSistema::ConfigurouDependenciaServico(u"Ory", u"Firebird");
+    EXPECT_FALSE(semSc.Status);
+    EXPECT_NE(semSc.Mensagem.find(u"o comando sc não foi encontrado"), std::u16string::npos);
+    EXPECT_FALSE(TOryUtilsSistema::LiberouPortaFirewallWindows(tpTCP, 1, u"x").Status);
+    EXPECT_EQ(TOryUtilsSistema::BuscarStatusServico(u"outra-maquina", u"Ory"), sswErro);
+}
+
+TEST_F(ServicosLinux, NomesETextosNaoViramOpcoesNemLinhas) {
+    for (const char* nome : {"--now", "../x", "a/b", "a b", "", ".x", "a;b", "a\nb", "ação"})
+        EXPECT_FALSE(EhNomeDeUnidade(nome)) << nome;
+    EXPECT_TRUE(EhNomeDeUnidade("ory-eventos@1.x"));
+    EXPECT_EQ(MontarUnidade("a\nExecStartPre=/bin/x", "/bin/true"), "");
+    EXPECT_EQ(MontarUnidade("a", "/bin/true\n[Service]"), "");
+    EXPECT_NE(MontarUnidade("a\\", "/x \"q\\\"%h\"").find("Description=a\\ \n"), std::string::npos);
+    EXPECT_NE(MontarUnidade("a", "/x \"q\\\"%h\"").find("ExecStart=\"/x\" \"q\\\"%%h\"\n"), std::string::npos);
+    const auto abrir = Abrir();
+    Sistema::InstalouServico(abrir, u"--now", u"", u"/bin/true");
+    EXPECT_TRUE(fs::is_empty(FPasta / "unidades"));
+}
+
+}  // namespace
