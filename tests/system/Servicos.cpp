@@ -4,6 +4,8 @@
 #include "oryutils/system/interno/ComandosServico.hpp"
 #include "oryutils/system/interno/Firewall.hpp"
 
+#include "system/ProgramasFalsos.hpp"
+
 #include <gtest/gtest.h>
 
 #include <deque>
@@ -124,6 +126,21 @@ TEST(Firewall, RespostasEMensagens) {
               u"\r\n\r\nAcesso negado");
     // A command that cannot be started prints nothing, and so opens nothing.
     EXPECT_FALSE(Sistema::ExcluiuPrograma(Responder(comando, u""), dfAvancado, u"a.exe", u"x").Status);
+}
+
+TEST(Firewall, ProgramasDeVerdadeRecebemOsArgumentos) {
+    Testes::TProgramasFalsos programas;
+    programas.Por("sc", {"[SC] ChangeServiceConfig SUCCESS", "[SC] OpenService FAILED 5:\r\n\r\nAccess is denied."});
+    programas.Por("netsh", {"Ok.\r\n", "No rules match the specified criteria."});
+    EXPECT_TRUE(TOryUtilsSistema::ConfigurouUsuarioLogonServico(u"Ory", u".\\ana", u"a\" b & c;$(d)").Status);
+    EXPECT_FALSE(TOryUtilsSistema::ConfigurouAcaoPadraoRecuperacaoServico(u"Ory Eventos").Status);
+    EXPECT_TRUE(TOryUtilsSistema::LiberouPortaFirewallWindows(tpTCP, 3050, u"Banco | x").Status);
+    EXPECT_FALSE(TOryUtilsSistema::ExcluiuProgramaFirewallWindows(u"/a b/c", u"Ory").Status);
+    EXPECT_EQ(programas.LerChamadas(),
+              "sc|config|Ory|obj=|.\\ana|password=|a\" b & c;$(d)\n"
+              "sc|failure|Ory Eventos|actions=|restart/0/restart/0//|reset=|240\n"
+              "netsh|advfirewall|firewall|add|rule|name=Banco | x|dir=in|action=allow|protocol=TCP|localport=3050\n"
+              "netsh|advfirewall|firewall|delete|rule|name=Ory|program=/a b/c\n");
 }
 
 /// What a scripted service answers, one situation a question; the last one stays.
