@@ -169,6 +169,12 @@ std::string DescreverErroDeUso(const CLI::ParseError& AErro, const CLI::App& AAp
     std::string mensagem = AErro.what();
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&AErro))
         return "falta o valor de " + mensagem.substr(0, mensagem.find(':'));
+    if (dynamic_cast<const CLI::RequiredError*>(&AErro)) {
+        constexpr std::string_view falta = " is required";
+        return mensagem.starts_with("A subcommand") || !mensagem.ends_with(falta)
+                   ? "falta o comando"
+                   : "falta " + mensagem.substr(0, mensagem.size() - falta.size());
+    }
     if (dynamic_cast<const CLI::ConversionError*>(&AErro)) return "valor inválido: " + mensagem;
     return mensagem;
 }
