@@ -3,9 +3,9 @@
 #     each block of code below <!-- codigo: FILE part --> is the part of that file between two lines // [part], and
 #     every block of code or output has a line above it that says whose it is
 #   cmake ... -DNOME=name -DSISTEMA=linux -DPROGRAMA=FILE -DTRABALHO=FOLDER [-DEMULADOR=...] [-DARGUMENTOS=...]
-#         [-DSTATUS=number] -P ...
+#         -DSTATUS=number -P ...
 #     what the program prints is the block below <!-- saida: name --> or <!-- saida: name system -->, and it ends with
-#     that status, 0 where none is given
+#     that status
 cmake_minimum_required(VERSION 3.23)
 file(READ ${GUIA} guia)
 
@@ -52,9 +52,6 @@ if(DEFINED NOME)
   file(MAKE_DIRECTORY ${TRABALHO})
   execute_process(COMMAND ${EMULADOR} ${PROGRAMA} ${ARGUMENTOS} WORKING_DIRECTORY ${TRABALHO} OUTPUT_VARIABLE obtido
                   RESULT_VARIABLE status)
-  if(NOT DEFINED STATUS)
-    set(STATUS 0)
-  endif()
   if(NOT status STREQUAL STATUS)
     message(FATAL_ERROR "${NOME} ended with ${status}:\n${obtido}")
   endif()
