@@ -1,5 +1,6 @@
 #include "oryutils/ui/UnOryUtilsDialogsCentralNotificacoes.hpp"
 
+#include "oryutils/runtime/Modelo.hpp"
 #include "oryutils/ui/interno/FormularioDetalhe.hpp"
 
 #include <algorithm>
@@ -25,7 +26,7 @@ int TOryUtilsDialogsCentralNotificacoes::Exibir() {
     const TTextosDialogos& textos = TextosDialogos();
     TOryUtilsDialogsFormDetalhesIOP parametros;
     const std::size_t quantidade = FMensagens.size();
-    parametros.Mensagem = Preencher(textos.Buscar(tdMensagensGuardadas), EscreverQuantidade(quantidade));
+    parametros.Mensagem = PreencherModelo(textos.Buscar(tdMensagensGuardadas), {EscreverQuantidade(quantidade)});
     for (const std::u16string& mensagem : FMensagens) {
         if (!parametros.MensagemDetalhe.empty()) parametros.MensagemDetalhe += u"\r\n\r\n";
         parametros.MensagemDetalhe += mensagem;

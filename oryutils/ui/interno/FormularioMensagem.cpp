@@ -1,6 +1,7 @@
 #include "oryutils/ui/interno/FormularioMensagem.hpp"
 
 #include "oryutils/dates/OryUtilsDatas.hpp"
+#include "oryutils/runtime/Modelo.hpp"
 #include "oryutils/ui/interno/Medidas.hpp"
 
 #include <algorithm>
@@ -30,17 +31,11 @@ int BuscarLarguraMinima(const TBotao& ABotao, const TToolkit& AToolkit) {
 
 }  // namespace
 
-std::u16string Preencher(std::u16string_view ATexto, std::u16string_view AValor) {
-    std::u16string texto(ATexto);
-    if (const auto lugar = texto.find(u"%s"); lugar != std::u16string::npos) texto.replace(lugar, 2, AValor);
-    return texto;
-}
-
 std::u16string BuscarMensagemComNota(const TOryUtilsDialogsFormCustomizadoBaseIOP& AParametros,
                                      const TTextosDialogos& ATextos) {
     if (!AParametros.FecharMensagemAutomaticamente) return AParametros.Mensagem;
     const auto tempo = TOryUtilsDatas::ConverterMilisegundosParaTempo(AParametros.TempoFinalizacaoAutomatica, true);
-    return AParametros.Mensagem + u"\r\n\r\n" + Preencher(ATextos.Buscar(tdNotaFechamento), tempo);
+    return AParametros.Mensagem + u"\r\n\r\n" + PreencherModelo(ATextos.Buscar(tdNotaFechamento), {tempo});
 }
 
 TOryUtilsDialogsInfoFormMensagemIOP BuscarFatosDoFormulario(const TFormulario& AFormulario) {

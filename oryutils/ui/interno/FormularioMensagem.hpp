@@ -64,7 +64,4 @@ std::u16string BuscarMensagemComNota(const TOryUtilsDialogsFormCustomizadoBaseIO
 /// Layout facts of any form with buttons and a label "Message".
 TOryUtilsDialogsInfoFormMensagemIOP BuscarFatosDoFormulario(const TFormulario& AFormulario);
 
-/// ATexto with AValor in the place of its first "%s".
-std::u16string Preencher(std::u16string_view ATexto, std::u16string_view AValor);
-
 }  // namespace OryUtils
