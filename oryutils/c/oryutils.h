@@ -25,9 +25,9 @@ extern "C" {
  *
  * requisicao  a JSON object in UTF-8, ended by a zero byte: {"op": name, "args": [values]}
  * Result:     {"resultado": value}, or {"erro": "message", "classe": "class"} for whatever fails: the class of the
- *             operation's exception, "EProtocolo" for what is no request (broken JSON, a null pointer, more than 16
- * MB), "EOperacaoDesconhecida", "EArgumento" for a wrong number or kind of arguments, "EOutOfMemory". UTF-8, one line,
- * ended by a zero byte, never null. Give it to ory_liberar when done.
+ *             operation's exception; "EProtocolo" for what is no request (broken JSON, a null pointer, a text above
+ *             16 MB); "EOperacaoDesconhecida"; "EArgumento" for a wrong number or kind of arguments; "EOutOfMemory".
+ *             UTF-8, one line, ended by a zero byte, never null. Give it to ory_liberar when done.
  */
 char* ory_chamar(const char* requisicao);
 
