@@ -28,6 +28,6 @@ struct TSituacaoUnidade {
 std::optional<TSituacaoUnidade> LerSituacaoUnidade(std::string_view ASaida);
 
 /// The systemd of this machine with units in APasta; null when systemctl does not answer that it runs.
-ORY_API std::unique_ptr<TGerenciadorServicos> AbrirSystemd(std::string_view APasta, TAcessoGerenciador AAcesso);
+std::unique_ptr<TGerenciadorServicos> AbrirSystemd(std::string_view APasta, TAcessoGerenciador AAcesso);
 
 }  // namespace OryUtils::Plataforma
