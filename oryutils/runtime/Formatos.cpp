@@ -9,8 +9,9 @@ namespace {
 
 constinit std::atomic_bool GConfigurando = false;
 
-TFormatSettings& FormatosDoProcesso() {
-    static TFormatSettings formatos = Plataforma::BuscarFormatosDoSistema();
+/// The system is asked (files of its locale, a converter) only where nobody has said the formats before they are used.
+TFormatSettings& FormatosDoProcesso(const TFormatSettings* ADefinidos = nullptr) {
+    static TFormatSettings formatos = ADefinidos ? *ADefinidos : Plataforma::BuscarFormatosDoSistema();
     return formatos;
 }
 
@@ -42,7 +43,7 @@ TFormatSettings CriarFormatosBrasileiros() {
 
 const TFormatSettings& FormatSettings() { return FormatosDoProcesso(); }
 
-void DefinirFormatSettings(const TFormatSettings& AFormatos) { FormatosDoProcesso() = AFormatos; }
+void DefinirFormatSettings(const TFormatSettings& AFormatos) { FormatosDoProcesso(&AFormatos) = AFormatos; }
 
 bool EstahConfigurandoFormatos() noexcept { return GConfigurando; }
 TFormatosEmConfiguracao::TFormatosEmConfiguracao() noexcept { GConfigurando = true; }
