@@ -8,9 +8,15 @@
 namespace Ory {
 namespace {
 
-/// `ory chamar` with an operation, or with --lote alone, is what other programs run again and again: it is recognised
-/// without building the description of the whole command line. Anything else under it is left to that.
+/// `ory chamar` with an operation, or with --lote alone, and `ory --versao` are what other programs run again and
+/// again: they are recognised without building the description of the whole command line, which is asked about the
+/// rest.
 bool ChamarDireto(std::span<const std::string> AArgumentos, TAmbiente& AAmbiente, int& AStatus) {
+    if (AArgumentos.size() == 1 && AArgumentos[0] == "--versao") {
+        EscreverVersao(AAmbiente.Saida);
+        AStatus = stTudoCerto;
+        return true;
+    }
     if (AArgumentos.size() < 2 || AArgumentos[0] != "chamar") return false;
     if (AArgumentos.size() == 2 && AArgumentos[1] == "--lote") {
         ChamarEmLote(AAmbiente.Entrada, AAmbiente.Saida);

@@ -2,6 +2,7 @@
 
 #include "oryutils/OryUtils.hpp"
 
+#include "Cli.hpp"
 #include "chamar/Chamadas.hpp"
 #include "conferir/Conferir.hpp"
 #include "log/Log.hpp"
@@ -11,8 +12,6 @@
 #include "servico/Servico.hpp"
 #include "sistema/Sistema.hpp"
 #include "versao/Versao.hpp"
-
-#include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <functional>
@@ -182,13 +181,16 @@ std::string DescreverErroDeUso(const CLI::ParseError& AErro, const CLI::App& AAp
 /// The sub-commands, each with what was asked of it and what runs it.
 class TComandos {
 public:
-    TComandos(CLI::App& AAplicativo, TAmbiente& AAmbiente) : FAplicativo(AAplicativo), FAmbiente(AAmbiente) {}
+    TComandos(CLI::App& AAplicativo, std::span<const std::string> AArgumentos, TAmbiente& AAmbiente)
+        : FAplicativo(AAplicativo), FArgumentos(AArgumentos), FAmbiente(AAmbiente) {}
 
-    /// ADescrever gives the sub-command its options, which fill a TPedido; AExecutar runs it.
+    /// ADescrever gives the sub-command its options, which fill a TPedido; AExecutar runs it. The options of one whose
+    /// name is not written would be described for nothing.
     template <typename TPedido>
     void Incluir(const std::string& ANome, const std::string& ADescricao, void (*ADescrever)(CLI::App&, TPedido&),
                  int (*AExecutar)(const TPedido&, TAmbiente&)) {
         CLI::App* comando = NovoComando(FAplicativo, ANome, ADescricao);
+        if (std::ranges::find(FArgumentos, ANome) == FArgumentos.end()) return;
         const auto pedido = std::make_shared<TPedido>();
         ADescrever(*comando, *pedido);
         FComandos.push_back({comando, [this, pedido, AExecutar] { return AExecutar(*pedido, FAmbiente); }});
@@ -205,6 +207,7 @@ private:
         std::function<int()> Executar;
     };
     CLI::App& FAplicativo;
+    std::span<const std::string> FArgumentos;
     TAmbiente& FAmbiente;
     std::vector<TComando> FComandos{};
 };
@@ -230,6 +233,8 @@ int ExecutarOperacoes(const TOpcoesDeOperacoes& AOpcoes, TAmbiente& AAmbiente) {
 
 }  // namespace
 
+void EscreverVersao(TSaida& ASaida) { ASaida.Escrever("ory " + std::string(OryUtils::BuscarVersaoOryUtils()) + "\n"); }
+
 int ExecutarLinhaDeComando(std::span<const std::string> AArgumentos, TAmbiente& AAmbiente) {
     CLI::App aplicativo("Confere e formata números de cadastro brasileiros e chama as operações da OryUtils.", "ory");
     Traduzir(aplicativo);
@@ -237,7 +242,7 @@ int ExecutarLinhaDeComando(std::span<const std::string> AArgumentos, TAmbiente& 
     aplicativo.allow_windows_style_options(false);  // "/dados/x.csv" is a file there too
     bool versao = false;
     aplicativo.add_flag("--versao,--version", versao, "mostra a versão");
-    TComandos comandos(aplicativo, AAmbiente);
+    TComandos comandos(aplicativo, AArgumentos, AAmbiente);
     comandos.Incluir("conferir", "confere os números de um arquivo CSV", DescreverConferir, ExecutarConferir);
     comandos.Incluir("chamar", "chama uma operação da biblioteca", DescreverChamar, ExecutarChamar);
     comandos.Incluir("operacoes", "lista o que chamar pode chamar", DescreverOperacoes, ExecutarOperacoes);
@@ -263,7 +268,7 @@ int ExecutarLinhaDeComando(std::span<const std::string> AArgumentos, TAmbiente& 
         throw EFalha(DescreverErroDeUso(erro, aplicativo) + "; veja ory --ajuda");
     }
     if (versao) {
-        AAmbiente.Saida.Escrever("ory " + std::string(OryUtils::BuscarVersaoOryUtils()) + "\n");
+        EscreverVersao(AAmbiente.Saida);
         return stTudoCerto;
     }
     if (const auto status = comandos.Executar()) return *status;

@@ -7,6 +7,9 @@
 
 namespace Ory {
 
+/// `ory --versao`.
+void EscreverVersao(TSaida& ASaida);
+
 /// Reads the command line with its options, sub-commands and help, and runs what it asks for.
 int ExecutarLinhaDeComando(std::span<const std::string> AArgumentos, TAmbiente& AAmbiente);
 

@@ -3,9 +3,8 @@
 #include "oryutils/files/UnOryUtilsArquivoLog.hpp"
 #include "oryutils/runtime/Utf.hpp"
 
+#include "Cli.hpp"
 #include "conferir/Codificacao.hpp"
-
-#include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <array>

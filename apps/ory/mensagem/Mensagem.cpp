@@ -3,7 +3,7 @@
 #include "oryutils/runtime/Utf.hpp"
 #include "oryutils/ui/UnOryUtilsDialogs.hpp"
 
-#include <CLI/CLI.hpp>
+#include "Cli.hpp"
 
 #include <algorithm>
 #include <array>

@@ -5,7 +5,7 @@
 #include "oryutils/text/OryUtilsFormulas.hpp"
 #include "oryutils/text/UnOryUtilsMatematica.hpp"
 
-#include <CLI/CLI.hpp>
+#include "Cli.hpp"
 
 #include <algorithm>
 #include <array>

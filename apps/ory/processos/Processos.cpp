@@ -4,11 +4,10 @@
 #include "oryutils/runtime/Utf.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 
+#include "Cli.hpp"
 #include "Tabela.hpp"
 #include "TextoNaTela.hpp"
 #include "operacoes/Json.hpp"
-
-#include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <vector>

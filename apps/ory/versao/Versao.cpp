@@ -7,10 +7,9 @@
 #include "oryutils/runtime/NomeDeArquivo.hpp"
 #include "oryutils/runtime/Utf.hpp"
 
+#include "Cli.hpp"
 #include "TextoNaTela.hpp"
 #include "operacoes/Conversao.hpp"
-
-#include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <array>
