@@ -36,6 +36,14 @@ void Datas_Strftime(benchmark::State& AEstado) {
     AEstado.SetItemsProcessed(AEstado.iterations());
 }
 
+/// The limit: ten characters in a text of their own.
+void Datas_Copia(benchmark::State& AEstado) {
+    const std::u16string texto = u"03/05/2024";
+    for (auto _ : AEstado) benchmark::DoNotOptimize(std::u16string(texto));
+    AEstado.SetItemsProcessed(AEstado.iterations());
+}
+
+BENCHMARK(Datas_Copia);
 BENCHMARK(Datas_Biblioteca);
 BENCHMARK(Datas_Strftime);
 

@@ -68,6 +68,16 @@ void Medir(benchmark::State& AEstado) {
     AEstado.SetItemsProcessed(AEstado.iterations() * static_cast<std::int64_t>(GValores.size()));
 }
 
+/// What no writing of these words can do without: as many texts as long.
+void CopiarTextos(benchmark::State& AEstado) {
+    std::vector<std::u16string> textos;
+    for (const Extended valor : GValores) textos.push_back(TOryUtilsMatematica::BuscarValorPorExtenso(valor));
+    for (auto _ : AEstado)
+        for (const std::u16string& texto : textos) benchmark::DoNotOptimize(std::u16string(texto));
+    AEstado.SetItemsProcessed(AEstado.iterations() * static_cast<std::int64_t>(textos.size()));
+}
+
+BENCHMARK(CopiarTextos)->Name("Extenso_Copia");
 BENCHMARK(Medir<TOryUtilsMatematica::BuscarValorPorExtenso>)->Name("Extenso_Biblioteca");
 BENCHMARK(Medir<ExtensoSimples>)->Name("Extenso_Concatenacao");
 

@@ -147,6 +147,18 @@ void TextoFmt(benchmark::State& AEstado) {
     for (auto _ : AEstado) benchmark::DoNotOptimize(GrupoFmt(condicoes));
     AEstado.SetItemsProcessed(AEstado.iterations());
 }
+/// The limit: the text, already written, in memory of its own.
+template <int AQuantas>
+void TextoCopia(benchmark::State& AEstado) {
+    TOryUtilsFiltroSql filtro(ofAnd);
+    Encher(filtro, AQuantas);
+    const std::u16string texto = filtro.BuscarSQLWhere();
+    for (auto _ : AEstado) benchmark::DoNotOptimize(std::u16string(texto));
+    AEstado.SetItemsProcessed(AEstado.iterations());
+}
+BENCHMARK(TextoCopia<5>)->Name("Texto5_Copia");
+BENCHMARK(TextoCopia<50>)->Name("Texto50_Copia");
+BENCHMARK(TextoCopia<500>)->Name("Texto500_Copia");
 BENCHMARK(FiltroBiblioteca<5>)->Name("Filtro5_Biblioteca");
 BENCHMARK(FiltroBiblioteca<50>)->Name("Filtro50_Biblioteca");
 BENCHMARK(FiltroBiblioteca<500>)->Name("Filtro500_Biblioteca");

@@ -4,6 +4,8 @@
 #include "oryutils/runtime/Formatos.hpp"
 #include "oryutils/text/OryUtilsFormulas.hpp"
 
+#include "UmaLeitura.hpp"
+
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -90,6 +92,13 @@ void MuParser(benchmark::State& AEstado, const TFormula& ACaso) {
     AEstado.SetItemsProcessed(AEstado.iterations());
 }
 
+/// The limit: the characters of the formula read once.
+void UmaLeitura(benchmark::State& AEstado, const TFormula& ACaso) {
+    std::size_t i = 0;
+    for (auto _ : AEstado) benchmark::DoNotOptimize(LerUmaVez(ACaso.Textos[i ^= 1]));
+    AEstado.SetItemsProcessed(AEstado.iterations());
+}
+
 // The sum.
 
 std::vector<std::string> MontarParcelas() {
@@ -151,6 +160,7 @@ int main(int argc, char** argv) {
         const std::string nome = std::string("Formula") + formula.Nome;
         benchmark::RegisterBenchmark((nome + "_Biblioteca").c_str(), Biblioteca, formula);
         benchmark::RegisterBenchmark((nome + "_muParser").c_str(), MuParser, formula);
+        benchmark::RegisterBenchmark((nome + "_UmaLeitura").c_str(), UmaLeitura, formula);
     }
     benchmark::RegisterBenchmark("Soma1000_Biblioteca", SomaBiblioteca);
     benchmark::RegisterBenchmark("Soma1000_from-chars-e-textos", SomaSeparada);

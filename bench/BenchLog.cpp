@@ -77,6 +77,20 @@ void SpdlogCadaLinha(benchmark::State& AEstado, int ALinhas) {
 void LogLinhas_spdlog(benchmark::State& AEstado) { SpdlogCadaLinha(AEstado, 10'000); }
 void LogReescrito_spdlog(benchmark::State& AEstado) { SpdlogCadaLinha(AEstado, 2'000); }
 
+// The limit: one write of each line to an open file.
+void LogLinhas_UmaEscrita(benchmark::State& AEstado) {
+    const std::string linha = "[21/11/2026 14:07:05]: " + std::string(CMensagem) + "\n";
+    const std::string nome = (GPasta / "escrita.log").string();
+    for (auto _ : AEstado) {
+        Plataforma::TFluxo fluxo;
+        fluxo.CriarOuEsvaziar(nome);
+        for (int i = 0; i < 10'000; ++i) fluxo.Escrever(linha);
+        fluxo.Fechar();
+    }
+    AEstado.SetItemsProcessed(AEstado.iterations() * 10'000);
+    AEstado.counters["bytes"] = 1;
+}
+
 constexpr int CInteiro = 100'000;
 
 void LogInteiro_Biblioteca(benchmark::State& AEstado) {
@@ -123,6 +137,7 @@ void LogInteiro_UmaEscrita(benchmark::State& AEstado) {
 }
 
 BENCHMARK(LogLinhas_Biblioteca)->UseRealTime();
+BENCHMARK(LogLinhas_UmaEscrita)->UseRealTime();
 BENCHMARK(LogLinhas_spdlog)->UseRealTime();
 BENCHMARK(LogReescrito_Biblioteca)->UseRealTime();
 BENCHMARK(LogReescrito_spdlog)->UseRealTime();

@@ -10,6 +10,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <dirent.h>
+#include <fcntl.h>
 #include <spawn.h>
 #include <string>
 #include <sys/wait.h>
@@ -144,6 +146,56 @@ void ListarMil_PsE(benchmark::State& AEstado) {
     AEstado.SetItemsProcessed(AEstado.iterations());
 }
 
+// The limits: what the system alone takes.
+
+void Iniciar_Vfork(benchmark::State& AEstado) {
+    char programa[] = "/bin/true";
+    char* const argumentos[] = {programa, nullptr};
+    for (auto _ : AEstado) {
+        const pid_t pid = ::vfork();
+        if (pid == 0) {
+            ::execv(programa, argumentos);
+            ::_exit(127);
+        }
+        ::waitpid(pid, nullptr, 0);
+    }
+    AEstado.SetItemsProcessed(AEstado.iterations());
+}
+
+void Capturar_Read64K(benchmark::State& AEstado) {
+    const TArquivo arquivo;
+    std::vector<char> parte(64 * 1024);
+    for (auto _ : AEstado) {
+        std::FILE* comando = ::popen(TArquivo::FComando, "r");
+        while (::read(::fileno(comando), parte.data(), parte.size()) > 0) benchmark::DoNotOptimize(parte.data());
+        ::pclose(comando);
+    }
+    AEstado.SetItemsProcessed(AEstado.iterations());
+}
+
+/// The files of all processes opened and read, as text that nobody understands.
+void ListarMil_LerArquivos(benchmark::State& AEstado) {
+    const TMilProcessos processos;
+    for (auto _ : AEstado) {
+        DIR* pasta = ::opendir("/proc");
+        while (const dirent* item = ::readdir(pasta)) {
+            if (item->d_name[0] < '0' || item->d_name[0] > '9') continue;
+            for (const char* nome : {"/stat", "/cmdline"}) {
+                char conteudo[4096];
+                const int arquivo = ::open((std::string("/proc/") + item->d_name + nome).c_str(), O_RDONLY | O_CLOEXEC);
+                if (arquivo < 0) continue;
+                benchmark::DoNotOptimize(::read(arquivo, conteudo, sizeof conteudo));
+                ::close(arquivo);
+            }
+        }
+        ::closedir(pasta);
+    }
+    AEstado.SetItemsProcessed(AEstado.iterations());
+}
+
+BENCHMARK(Iniciar_Vfork)->UseRealTime();
+BENCHMARK(Capturar_Read64K)->UseRealTime();
+BENCHMARK(ListarMil_LerArquivos)->UseRealTime();
 BENCHMARK(Iniciar_Biblioteca)->UseRealTime();
 BENCHMARK(Iniciar_Popen)->UseRealTime();
 BENCHMARK(IniciarCom1GiB_Biblioteca)->UseRealTime();

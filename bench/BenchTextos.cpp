@@ -2,6 +2,8 @@
 
 #include "oryutils/text/OryUtilsStrings.hpp"
 
+#include "UmaLeitura.hpp"
+
 #include <benchmark/benchmark.h>
 
 #include <string>
@@ -47,6 +49,16 @@ void SubstituirPorPassos(benchmark::State& AEstado) {
     Medir(AEstado, [](const std::u16string& t) { return TOryUtilsStrings::SubstituirCaracteres(t, u"São", u"X"); });
 }
 
+// The peer: the same text copied into memory of its own; the limit, each character read once.
+void Copiar(benchmark::State& AEstado) {
+    Medir(AEstado, [](const std::u16string& t) { return std::u16string(t); });
+}
+void Ler(benchmark::State& AEstado) {
+    Medir(AEstado, [](const std::u16string& t) { return LerUmaVez(t); });
+}
+
+BENCHMARK(Copiar)->Arg(1'000'000)->Arg(10'000'000);
+BENCHMARK(Ler)->Arg(1'000'000)->Arg(10'000'000);
 BENCHMARK(Limpar)->Arg(1'000'000)->Arg(10'000'000);
 BENCHMARK(RemoverAcentos)->Arg(1'000'000)->Arg(10'000'000);
 BENCHMARK(Dividir)->Arg(1'000'000)->Arg(10'000'000);

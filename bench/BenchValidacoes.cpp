@@ -1,8 +1,10 @@
 // The validations against a plain loop, on the same list: half CPF and half CNPJ, formatted, bare and odd, some wrong.
-// With an argument "--escrever=ARQUIVO" the lists and the verdicts are written for the other
-// benchmarks to read.
+// The limit is each character read once. With an argument "--escrever=ARQUIVO" the lists and the verdicts are written
+// for the other benchmarks to read.
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 #include "oryutils/runtime/Utf.hpp"
+
+#include "UmaLeitura.hpp"
 
 #include <benchmark/benchmark.h>
 
@@ -108,6 +110,12 @@ void Medir(benchmark::State& AEstado, const auto& AItens, TValidar AValidar) {
     AEstado.SetItemsProcessed(AEstado.iterations() * static_cast<std::int64_t>(AItens.size()));
 }
 
+void CpfCnpj_UmaLeitura(benchmark::State& AEstado) {
+    Medir(AEstado, GDocumentos, [](const TItem& i) { return static_cast<int>(LerUmaVez(i.Numero) & 1); });
+}
+void IE_UmaLeitura(benchmark::State& AEstado) {
+    Medir(AEstado, GIEs, [](const TItemIE& i) { return static_cast<int>((LerUmaVez(i.IE) + LerUmaVez(i.UF)) & 1); });
+}
 void CpfCnpj_LacoSimples(benchmark::State& AEstado) {
     Medir(AEstado, GDocumentos, [](const TItem& i) { return LacoSimples(i.Tipo, i.Numero); });
 }
@@ -120,6 +128,8 @@ void IE_Biblioteca(benchmark::State& AEstado) {
 BENCHMARK(CpfCnpj_LacoSimples);
 BENCHMARK(CpfCnpj_Biblioteca);
 BENCHMARK(IE_Biblioteca);
+BENCHMARK(CpfCnpj_UmaLeitura);
+BENCHMARK(IE_UmaLeitura);
 
 void Escrever(const std::string& AArquivo) {
     std::ofstream arquivo(AArquivo);

@@ -1,6 +1,8 @@
 // 100,000 versions sorted, against std::sort of their numbers, which were read beforehand.
 #include "oryutils/files/OryUtilsFiles.hpp"
 
+#include "UmaLeitura.hpp"
+
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -24,7 +26,7 @@ std::vector<std::u16string> MontarVersoes() {
     return versoes;
 }
 
-void Ordenar_Biblioteca(benchmark::State& AEstado) {
+void OrdenarVersoes_Biblioteca(benchmark::State& AEstado) {
     const auto versoes = MontarVersoes();
     for (auto _ : AEstado) {
         AEstado.PauseTiming();
@@ -37,10 +39,11 @@ void Ordenar_Biblioteca(benchmark::State& AEstado) {
         lista.shrink_to_fit();
         AEstado.ResumeTiming();
     }
+    AEstado.SetItemsProcessed(AEstado.iterations() * CQuantidade);
 }
-BENCHMARK(Ordenar_Biblioteca)->Unit(benchmark::kMillisecond);
+BENCHMARK(OrdenarVersoes_Biblioteca)->Unit(benchmark::kMillisecond);
 
-void Ordenar_std_sort_de_numeros(benchmark::State& AEstado) {
+void OrdenarVersoes_StdSort(benchmark::State& AEstado) {
     std::vector<std::uint64_t> numeros;
     for (const auto& versao : MontarVersoes()) {
         std::uint16_t maior, menor, release, build;
@@ -55,8 +58,21 @@ void Ordenar_std_sort_de_numeros(benchmark::State& AEstado) {
         std::sort(lista.begin(), lista.end());
         benchmark::DoNotOptimize(lista.data());
     }
+    AEstado.SetItemsProcessed(AEstado.iterations() * CQuantidade);
 }
-BENCHMARK(Ordenar_std_sort_de_numeros)->Unit(benchmark::kMillisecond);
+BENCHMARK(OrdenarVersoes_StdSort)->Unit(benchmark::kMillisecond);
+
+/// The limit: every character of the list read once.
+void OrdenarVersoes_UmaLeitura(benchmark::State& AEstado) {
+    const auto versoes = MontarVersoes();
+    for (auto _ : AEstado) {
+        std::uint64_t soma = 0;
+        for (const std::u16string& versao : versoes) soma += LerUmaVez(versao);
+        benchmark::DoNotOptimize(soma);
+    }
+    AEstado.SetItemsProcessed(AEstado.iterations() * CQuantidade);
+}
+BENCHMARK(OrdenarVersoes_UmaLeitura)->Unit(benchmark::kMillisecond);
 
 void Comparar(benchmark::State& AEstado) {
     for (auto _ : AEstado)
