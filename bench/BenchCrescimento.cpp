@@ -2,7 +2,7 @@
 // operation, what grew, n and the nanoseconds of the processor of the fastest of some rounds, separated by
 // tabs; the cost of reading the
 // arguments and writing the result as JSON, which is linear, is in them.
-//   bench_Crescimento [N]     N is 10000 where it is not said
+//   bench_Crescimento [N]     N is 2000 where it is not said
 #include "oryutils/changes/UnOryUtilsControleAlteracoes.hpp"
 #include "oryutils/files/UnOryUtilsArquivoLog.hpp"
 #include "oryutils/sql/UnOryUtilsClasseFiltroSql.hpp"
@@ -101,7 +101,7 @@ double Cronometrar(TTrabalho ATrabalho) {
     constexpr double CRodada = 1e6;
     double melhor = std::numeric_limits<double>::max();
     int vezes = 1;
-    for (int rodada = 0; rodada < 3; ++rodada) {
+    for (int rodada = 0; rodada < 5; ++rodada) {
         const double antes = LerProcessador();
         for (int i = 0; i < vezes; ++i) ATrabalho();
         const double tempo = LerProcessador() - antes;
@@ -219,7 +219,7 @@ void MedirComando(std::size_t AMenor) {
 }  // namespace
 
 int main(int AQuantos, char** AArgumentos) {
-    const std::size_t menor = AQuantos > 1 ? std::strtoul(AArgumentos[1], nullptr, 10) : 10'000;
+    const std::size_t menor = AQuantos > 1 ? std::strtoul(AArgumentos[1], nullptr, 10) : 2'000;
     if (menor < 100) return EXIT_FAILURE;
     PrepararProcesso();
     for (const TCasoDeCrescimento& caso : CCasosDeCrescimento)
