@@ -3,9 +3,8 @@
 #include "oryutils/runtime/Utf.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 
+#include "Cli.hpp"
 #include "operacoes/Json.hpp"
-
-#include <CLI/CLI.hpp>
 
 namespace Ory {
 
