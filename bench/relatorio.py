@@ -146,8 +146,9 @@ class Crescimento:
 
     @property
     def linear(self):
-        # n log n of a hundred times the work is 1.15 at these sizes; what the caches cost comes on top in both.
-        return self.expoente <= (1.35 if self.operacao in ORDENACOES else 1.2)
+        # The last step, where what every call costs has become small: 10 is linear, 12 is n log n at these sizes, 32 would
+        # be the root of n too much. What the caches cost comes on top.
+        return self.passos[-1] <= (20 if self.operacao in ORDENACOES else 16)
 
 
 def ler_crescimento(arquivo):
@@ -276,11 +277,11 @@ def desenhar_crescimento(casos, arquivo):
     for inicio in range(t0, t1):
         fim = min(inicio + (n1 - n0), t1)
         d.risco(x(10**n0), y(10.0**inicio), x(10 ** (n0 + fim - inicio)), y(10.0**fim), CINZA, 1, "5 4")
-    d.texto(direita + 20, topo + 12, "growth of 100 times the work", tamanho=12, peso="bold")
-    faixas = ((-9, 0.9, "less than linear"), (0.9, 1.1, "linear: 63 to 158 times"),
-              (1.1, 1.2, "to 251 times (caches, n log n)"), (1.2, 9, "more"))
+    d.texto(direita + 20, topo + 12, "last step: 10 times the work", tamanho=12, peso="bold")
+    faixas = ((0, 9, "less than 9 times the time"), (9, 11, "9 to 11 times"), (11, 16, "to 16 (caches, n log n)"),
+              (16, math.inf, "more"))
     for i, (de, ate, nome) in enumerate(faixas):
-        quantos = sum(1 for c in casos if de <= c.expoente < ate)
+        quantos = sum(1 for c in casos if de <= c.passos[-1] < ate)
         d.texto(direita + 20, topo + 38 + i * 24, f"{quantos:4d}", tamanho=12, peso="bold")
         d.texto(direita + 60, topo + 38 + i * 24, nome, tamanho=12, cor=CINZA)
     d.gravar(arquivo)
