@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <string>
+#include <utility>
 
 /// What every target shares: bytes taken off the front of the input, and texts of any UTF-16 units.
 namespace Fuzz {
@@ -36,6 +37,21 @@ public:
             texto += c < 0xF0 ? char16_t{c} : Valor<char16_t>();
         }
         return texto;
+    }
+    /// All that is left, in the same way, without a length before it: entries of a dictionary and files of a corpus
+    /// stand for themselves.
+    std::u16string Resto() {
+        std::u16string texto;
+        while (!Acabou()) {
+            const std::uint8_t c = Byte();
+            texto += c < 0xF0 ? char16_t{c} : Valor<char16_t>();
+        }
+        return texto;
+    }
+    std::string Bytes() {
+        std::string bytes(reinterpret_cast<const char*>(FBytes), FTamanho);
+        FBytes += std::exchange(FTamanho, 0);
+        return bytes;
     }
 
 private:

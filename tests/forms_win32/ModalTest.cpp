@@ -2,8 +2,11 @@
 #include "oryutils/forms/win32/ControleWin32.hpp"
 #include "oryutils/forms/win32/interno/Seletores.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/ui/UnOryUtilsDialogs.hpp"
 
 #include "Auxiliares.hpp"
+#include "resistencia/Quantidade.hpp"
+#include "resistencia/Recursos.hpp"
 
 #include <thread>
 
@@ -296,6 +299,37 @@ TEST_F(FormsWin32, MilFormulariosNaoDeixamNada) {
     EXPECT_EQ(medir(), antes);
     EXPECT_NEAR(ProximoObjetoGrafico(), graficoAntes, 20);
     EXPECT_LE(processoDepois, processoAntes + 5);
+}
+
+TEST_F(FormsWin32, MuitosDialogosNaoDeixamNada) {
+    TOryUtilsDialogs dialogos;
+    const auto fechador = FToolkit.LigarTemporizador(1, [] {
+        const HWND janela = ::FindWindowW(L"TOryFormulario", nullptr);
+        if (janela && ::IsWindowVisible(janela)) ::PostMessageW(janela, WM_CLOSE, 0, 0);
+    });
+    const auto mostrar = [&](int AVez) {
+        switch (AVez % 4) {
+            case 0:
+                dialogos.Informacao(u"Mensagem");
+                break;
+            case 1:
+                EXPECT_FALSE(dialogos.Confirmacao(u"Excluir?", btNo));
+                break;
+            case 2:
+                dialogos.ConfirmacaoCustomizada(u"?", mtWarning, {mbYes, mbNo}, 0, u"T", {u"&Um", u"&Dois"});
+                break;
+            default: {
+                std::u16string valor;
+                dialogos.InputQuery(u"T", u"Valor", valor);
+            }
+        }
+    };
+    for (int i = 0; i < 8; ++i) mostrar(i);
+    const Testes::TRecursos antes = Testes::BuscarRecursos();
+    const int vezes = Testes::Quantidade(100, 10'000);
+    for (int i = 0; i < vezes; ++i) mostrar(i);
+    FToolkit.DesligarTemporizador(fechador);
+    for (const auto& [nome, quantos] : Testes::BuscarRecursos()) EXPECT_LE(quantos, antes.at(nome) + 5) << nome;
 }
 
 TEST_F(FormsWin32, FiltroDoSeletorDeArquivos) {

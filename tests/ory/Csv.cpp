@@ -2,6 +2,8 @@
 
 #include "conferir/Blocos.hpp"
 
+#include "ory/CsvDevagar.hpp"
+
 #include <gtest/gtest.h>
 
 #include <random>
@@ -9,8 +11,6 @@
 #include <vector>
 
 namespace {
-
-using TRegistros = std::vector<std::vector<std::string>>;
 
 TRegistros LerTudo(std::string_view ATexto, char ADelimitador, std::size_t ABloco, std::size_t APedaco) {
     Ory::TEntradaDeTexto entrada(ATexto, APedaco);
@@ -22,38 +22,6 @@ TRegistros LerTudo(std::string_view ATexto, char ADelimitador, std::size_t ABloc
     while (blocos.Ler(bloco, cortador) == Ory::TLeitorDeBlocos::leBloco) {
         Ory::TLeitorDeRegistros leitor(bloco, ADelimitador, 1000);
         while (leitor.Proximo()) registros.emplace_back(leitor.GetCampos().begin(), leitor.GetCampos().end());
-    }
-    return registros;
-}
-
-/// The same language, a character at a time over the whole text.
-TRegistros LerDevagar(const std::string& ATexto, char ADelimitador) {
-    TRegistros registros;
-    std::size_t i = 0;
-    while (i < ATexto.size()) {
-        std::vector<std::string> campos;
-        bool fim = false;
-        while (!fim) {
-            std::string campo;
-            if (i < ATexto.size() && ATexto[i] == '"') {
-                for (++i; i < ATexto.size(); ++i) {
-                    if (ATexto[i] != '"')
-                        campo += ATexto[i];
-                    else if (i + 1 < ATexto.size() && ATexto[i + 1] == '"')
-                        campo += ATexto[i++];
-                    else
-                        break;
-                }
-                ++i;
-            }
-            std::string solto;
-            for (; i < ATexto.size() && ATexto[i] != ADelimitador && ATexto[i] != '\n'; ++i) solto += ATexto[i];
-            fim = i >= ATexto.size() || ATexto[i] == '\n';
-            if (fim && i < ATexto.size() && solto.ends_with('\r')) solto.pop_back();
-            ++i;
-            campos.push_back(campo + solto);
-        }
-        registros.push_back(campos);
     }
     return registros;
 }

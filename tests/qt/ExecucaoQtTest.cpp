@@ -1,6 +1,9 @@
 #include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/ui/UnOryUtilsDialogs.hpp"
 
 #include "qt/Roteiro.hpp"
+#include "resistencia/Quantidade.hpp"
+#include "resistencia/Recursos.hpp"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -174,6 +177,32 @@ TEST_F(TTesteQt, MilFormulariosNadaDeixam) {
     EXPECT_EQ(QApplication::allWidgets().size(), widgets);
     EXPECT_EQ(QGuiApplication::allWindows().size(), janelas);
     // One form takes tens of kilobytes; a thousand lost ones would be far above this.
+    EXPECT_LT(::mallinfo2().uordblks, ocupado + 2'000'000);
+}
+
+TEST_F(TTesteQt, MuitosDialogosNadaDeixam) {
+    TOryUtilsDialogs dialogos;
+    QTimer fechador;
+    QObject::connect(&fechador, &QTimer::timeout, [] {
+        if (QDialog* dialogo = BuscarDialogo()) dialogo->reject();
+    });
+    fechador.start(0);
+    const auto mostrar = [&](int AVezes) {
+        for (int i = 0; i < AVezes; ++i) {
+            if (i % 2)
+                dialogos.Informacao(u"Mensagem");
+            else
+                EXPECT_FALSE(dialogos.Confirmacao(u"Excluir?", btNo));
+        }
+        QCoreApplication::processEvents();
+    };
+    mostrar(100);
+    const qsizetype widgets = QApplication::allWidgets().size();
+    const auto ocupado = ::mallinfo2().uordblks;
+    const Testes::TRecursos antes = Testes::BuscarRecursos();
+    mostrar(Testes::Quantidade(100, 10'000));
+    EXPECT_EQ(QApplication::allWidgets().size(), widgets);
+    EXPECT_EQ(Testes::BuscarRecursos(), antes);
     EXPECT_LT(::mallinfo2().uordblks, ocupado + 2'000'000);
 }
 

@@ -1,0 +1,99 @@
+// Any bytes as a file to check, with any options: blocks of any size, read in any pieces and by any number of threads,
+// give one answer, and records are what a slow reader says they are.
+#include "conferir/Conferencia.hpp"
+
+#include "conferir/Relatorio.hpp"
+#include "oryutils/runtime/Formatos.hpp"
+
+#include "../tests/ory/CsvDevagar.hpp"
+#include "Comum.hpp"
+
+using namespace Ory;
+
+namespace {
+
+constexpr std::string_view CMarca = "\xEF\xBB\xBF";
+
+std::string Rodar(std::string_view ABytes, const TOpcoesDeConferencia& AOpcoes, std::size_t APedaco) {
+    TEntradaDeTexto entrada(ABytes, APedaco);
+    TSaidaDeTexto saida;
+    try {
+        const TResumo resumo = ConferirCsv(entrada, &saida, AOpcoes);
+        return EscreverRelatorio(resumo, "fuzz", 80, true) + EscreverRelatorioJson(resumo, "fuzz") + saida.Texto;
+    } catch (const EFalha& erro) {
+        return erro.what();
+    }
+}
+
+std::string RodarVereditos(std::string_view ABytes, TTipoColuna ATipo, const TOpcoesDeConferencia& AOpcoes,
+                           std::size_t APedaco) {
+    TEntradaDeTexto entrada(ABytes, APedaco);
+    TSaidaDeTexto saida;
+    try {
+        EscreverVereditos(entrada, saida, ATipo, AOpcoes);
+        return saida.Texto;
+    } catch (const EFalha& erro) {
+        return erro.what();
+    }
+}
+
+void ConferirLeitura(const std::string& ABytes, char ADelimitador, const TLimites& ALimites, std::size_t APedaco) {
+    TEntradaDeTexto entrada(ABytes, APedaco);
+    TLeitorDeBlocos blocos(entrada, ALimites);
+    TCortadorDeRegistros cortador(ADelimitador);
+    TRegistros registros;
+    std::string bloco;
+    TLeitorDeBlocos::TLeitura leitura = TLeitorDeBlocos::leBloco;
+    while ((leitura = blocos.Ler(bloco, cortador)) == TLeitorDeBlocos::leBloco) {
+        TLeitorDeRegistros leitor(bloco, ADelimitador, 4096);
+        while (leitor.Proximo()) registros.emplace_back(leitor.GetCampos().begin(), leitor.GetCampos().end());
+    }
+    Fuzz::Exigir((leitura == TLeitorDeBlocos::leAspasAbertas) == cortador.EstahEntreAspas());
+    if (leitura == TLeitorDeBlocos::leFim) Fuzz::Exigir(registros == LerDevagar(ABytes, ADelimitador));
+
+    // What is written reads back.
+    std::string escrito;
+    for (const auto& registro : registros) {
+        for (std::size_t i = 0; i < registro.size(); ++i) {
+            if (i) escrito += ADelimitador;
+            EscreverCampo(escrito, registro[i], ADelimitador);
+        }
+        escrito += '\n';
+    }
+    Fuzz::Exigir(LerDevagar(escrito, ADelimitador) == registros);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
+    static const OryUtils::TFormatosTemporarios formatos(OryUtils::BuscarFormatosBrasileiros());
+    Fuzz::TEntrada entrada(ABytes, ATamanho);
+    const std::uint8_t chaves = entrada.Byte();
+    const auto tipo = static_cast<TTipoColuna>(1 + entrada.Byte() % tcNcm);
+    const std::size_t bloco = 4 + entrada.Byte() % 64;
+    const std::size_t pedaco = 1 + entrada.Byte() % 16;
+    const std::string bytes = entrada.Bytes();
+
+    TOpcoesDeConferencia opcoes;
+    opcoes.Tarefas = 0;
+    opcoes.SemCabecalho = chaves & 1;
+    opcoes.Codificacao = static_cast<TCodificacao>(chaves / 2 % 4 % 3);
+    if (chaves & 8) opcoes.Uf = "SP";
+    if (chaves & 16) opcoes.Colunas.emplace_back("1", tipo);
+    // A file of one block is known by its whole first record; so must be the one of small blocks.
+    std::string_view corpo = bytes;
+    if (corpo.starts_with(CMarca)) corpo.remove_prefix(CMarca.size());
+    opcoes.Delimitador = DetectarDelimitador(corpo);
+    if (chaves & 32) opcoes.Delimitador = chaves & 64 ? '\t' : '|';
+    const char delimitador = opcoes.Delimitador;
+
+    TOpcoesDeConferencia miudas = opcoes;
+    miudas.Limites.Bloco = bloco;
+    if (chaves >= 0xF0) miudas.Tarefas = 2;
+    Fuzz::Exigir(Rodar(bytes, opcoes, std::string::npos) == Rodar(bytes, miudas, pedaco));
+    Fuzz::Exigir(RodarVereditos(bytes, tipo, opcoes, std::string::npos) == RodarVereditos(bytes, tipo, miudas, pedaco));
+    ConferirLeitura(bytes, delimitador, miudas.Limites, pedaco);
+    miudas.Limites.Registro = bloco;
+    static_cast<void>(Rodar(bytes, miudas, pedaco));
+    return 0;
+}

@@ -1,0 +1,53 @@
+// Any text as a formula: the evaluation in one reading, the one by steps and the slow rewriting agree.
+#include "oryutils/text/OryUtilsFormulas.hpp"
+
+#include "oryutils/runtime/Excecoes.hpp"
+
+#include "../tests/text/FormulasReferencia.hpp"
+#include "Comum.hpp"
+
+using namespace OryUtils;
+
+namespace {
+
+template <typename TAvaliacao>
+std::string Descrever(TAvaliacao AAvaliacao) {
+    try {
+        const std::u16string valor = ExtendedParaTexto(AAvaliacao());
+        return {valor.begin(), valor.end()};
+    } catch (const Exception& erro) {
+        return std::string(erro.GetNomeDaClasse()) + ": " + erro.what();
+    }
+}
+
+Extended PorPassos(TOryUtilsFormulas& AFormula, std::u16string ATexto) {
+    AFormula.ResolverFuncoes(ATexto);
+    AFormula.ResolverVariaveis(ATexto);
+    AFormula.ResolverDuploSinalNegativo(ATexto);
+    AFormula.ResolverParenteses(ATexto);
+    return AFormula.CalcularExpressao(ATexto);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
+    static const TFormatosTemporarios formatos(BuscarFormatosBrasileiros());
+    Fuzz::TEntrada entrada(ABytes, ATamanho);
+    const std::uint8_t chaves = entrada.Byte();
+    TFormulaReescrita reescrita;
+    reescrita.Ajuste = static_cast<TMetodoArredondamento>(chaves % 3);
+    reescrita.Casas = chaves / 4 % 8;
+    TOryUtilsFormulas formula;
+    formula.SetTipoAjusteValor(reescrita.Ajuste);
+    formula.SetCasasDecimais(reescrita.Casas);
+    for (const auto& [nome, valor] : {std::pair{u"X", 2.0L}, {u"NEG", -3.5L}, {u"GRANDE", 1.5e20L}, {u"E", 7.0L}}) {
+        if (nome[0] == u'E' && chaves & 128) continue;
+        reescrita.Variaveis[nome] = ExtendedParaTexto(valor);
+        formula.AdicionarVariavel(nome, valor);
+    }
+    const std::u16string texto = entrada.Resto();
+    const std::string valor = Descrever([&] { return formula.Calcular(texto); });
+    Fuzz::Exigir(valor == Descrever([&] { return PorPassos(formula, texto); }));
+    if (texto.size() <= 256) Fuzz::Exigir(valor == Descrever([&] { return reescrita.Calcular(texto); }));
+    return 0;
+}

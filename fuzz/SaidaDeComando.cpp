@@ -1,0 +1,36 @@
+// Any bytes as what a command prints, in any pieces, and as the answers of "arp".
+#include "oryutils/system/interno/SaidaDeComando.hpp"
+
+#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/system/interno/RegrasDeRede.hpp"
+
+#include "Comum.hpp"
+
+using namespace OryUtils;
+using namespace OryUtils::Sistema;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
+    Fuzz::TEntrada entrada(ABytes, ATamanho);
+    const std::size_t pedaco = 1 + entrada.Byte();
+    const std::string bytes = entrada.Bytes();
+
+    std::vector<std::u16string> linhas, empedacos;
+    std::u16string texto;
+    Plataforma::TDecodificadorAnsi decodificador;
+    const auto decodificar = [&](std::string_view AParte) { return decodificador.Decodificar(AParte); };
+    TSaidaEmLista lista(linhas), lista2(empedacos);
+    TSaidaEmTexto emtexto(texto);
+    TSaidaDeComando toda(lista, decodificar), partes(lista2, decodificar), corrida(emtexto, decodificar);
+    toda.Receber(bytes);
+    corrida.Receber(bytes);
+    for (std::size_t i = 0; i < bytes.size(); i += pedaco) partes.Receber(std::string_view(bytes).substr(i, pedaco));
+    toda.FecharParte();
+    corrida.FecharParte();
+    partes.FecharParte();
+    Fuzz::Exigir(linhas == empedacos && texto.size() <= 2 * bytes.size());
+
+    for (const auto& endereco : ListarEnderecosDaSaidaARP(linhas)) Fuzz::Exigir(endereco.size() <= texto.size());
+    const std::u16string mac = ExtrairEnderecoMac(texto);
+    Fuzz::Exigir(mac.size() <= 17 && MaiusculaDe(mac) == mac);
+    return 0;
+}

@@ -1,0 +1,19 @@
+// Any text as the tables of /proc: mounts, neighbours, routes.
+#include "oryutils/platform/linux/TabelaDeMontagens.hpp"
+#include "oryutils/platform/linux/TabelasDeRede.hpp"
+
+#include "Comum.hpp"
+
+using namespace OryUtils::Plataforma;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
+    Fuzz::TEntrada entrada(ABytes, ATamanho);
+    const auto endereco = entrada.Valor<TEnderecoIP>();
+    const std::string tabela = entrada.Bytes();
+    const auto montagens = LerTabelaDeMontagens(tabela);
+    for (const TMontagem& montagem : montagens) Fuzz::Exigir(montagem.Pasta.size() <= tabela.size());
+    static_cast<void>(ProcurarVizinho(tabela, endereco));
+    static_cast<void>(EstahNoEnlace(tabela, endereco));
+    Fuzz::Exigir(BuscarInterfacePadrao(tabela).size() <= tabela.size());
+    return 0;
+}

@@ -1,0 +1,142 @@
+// What is done over and over leaves nothing open behind.
+#include "oryutils/files/OryUtilsFiles.hpp"
+#include "oryutils/files/UnOryUtilsArquivoLog.hpp"
+#include "oryutils/runtime/Formatos.hpp"
+#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/system/OryUtilsRegistry.hpp"
+#include "oryutils/system/OryUtilsSystem.hpp"
+
+#include "resistencia/Quantidade.hpp"
+#include "resistencia/Recursos.hpp"
+#include "system/Auxiliar.hpp"
+#include "ui/ToolkitRoteirizado.hpp"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <iostream>
+
+namespace OryUtils {
+namespace {
+
+using namespace Testes;
+using S = TOryUtilsSistema;
+
+// A thing that is lost at every call counts as often as the calls; systems keep a few for themselves.
+void ExigirSemCrescimento(const TRecursos& AAntes, int AVezes, const char* AOQue) {
+    for (const auto& [nome, quantos] : BuscarRecursos())
+        EXPECT_LE(quantos, AAntes.at(nome) + AVezes / 10) << nome << " after " << AVezes << " times " << AOQue;
+}
+
+TEST(Resistencia, ComandosComSaida) {
+    const int vezes = Quantidade(1'000, 100'000);
+    std::vector<std::u16string> linhas;
+    const auto rodar = [&](int AVez) {
+        linhas.clear();
+        const std::u16string texto = DeUtf8(std::to_string(AVez));
+        S::ExecutarComandoComRetorno(Comando(u"argumentos " + texto), linhas);
+        ASSERT_EQ(linhas, std::vector{u"[" + texto + u"]"});
+    };
+    rodar(0);
+    const TRecursos antes = BuscarRecursos();
+    for (int i = 1; i <= vezes && !testing::Test::HasFatalFailure(); ++i) rodar(i);
+    ExigirSemCrescimento(antes, std::min(vezes, 100), "a command");
+    EXPECT_EQ(ContarFilhosMortos(), 0);
+    std::cout << vezes << " commands\n";
+}
+
+TEST(Resistencia, OperacoesDoSistema) {
+    constexpr int CVezes = 100;
+    const TPastaTemporaria pasta;
+    const std::u16string eu = ProgramaAuxiliar().u16string();
+    struct TCaso {
+        const char* Nome;
+        std::function<void()> Fazer;
+    };
+    const TCaso casos[] = {
+        {"BuscarListaDeProcessosWindows", [] { S::BuscarListaDeProcessosWindows(u""); }},
+        {"ProcessoEstahRodando", [] { S::ProcessoEstahRodando(u"este-programa-nao-existe", u""); }},
+        {"FinalizouProcesso", [] { S::FinalizouProcesso(u"este-programa-nao-existe"); }},
+        {"BuscarUsuarioEDominioDoProcesso",
+         [] {
+             std::u16string usuario, dominio;
+             S::BuscarUsuarioEDominioDoProcesso(4, usuario, dominio);
+         }},
+        {"BuscarCaminhoArquivoPeloIDProcesso", [] { S::BuscarCaminhoArquivoPeloIDProcesso(4); }},
+        {"BuscarMemoriaUsadaProcesso", [] { S::BuscarMemoriaUsadaProcesso(u"testes_resistencia"); }},
+        {"LiberarMemoriaResidualProcesso", [] { S::LiberarMemoriaResidualProcesso(); }},
+        {"EstahRodandoComoAdministrador", [] { S::EstahRodandoComoAdministrador(); }},
+        {"BuscarNomeComputador", [] { S::BuscarNomeComputador(); }},
+        {"BuscarNomeUsuarioLogadoNoWindows", [] { S::BuscarNomeUsuarioLogadoNoWindows(); }},
+        {"BuscarIPLocal", [] { S::BuscarIPLocal(); }},
+        {"BuscarIPPeloNomeComputador", [] { S::BuscarIPPeloNomeComputador(u"127.0.0.1"); }},
+        {"BuscarEnderecoMac2", [] { S::BuscarEnderecoMac2(u"127.0.0.1"); }},
+        {"EhIPLocal", [] { S::EhIPLocal(u"127.0.0.1", false); }},
+        {"BuscarVersaoWindows", [] { S::BuscarVersaoWindows(); }},
+        {"BuscarInformacoesDiscoRigido", [] { S::BuscarInformacoesDiscoRigido(u"C", fbBytes); }},
+        {"BuscarListaDrivesComputador", [] { S::BuscarListaDrivesComputador(); }},
+        {"BuscarTempoInatividadeSistema", [] { S::BuscarTempoInatividadeSistema(); }},
+        {"TeclaEstahPressionada", [] { S::TeclaEstahPressionada(16); }},
+        {"BuscarPastaMeusDocumentos", [] { S::BuscarPastaMeusDocumentos(); }},
+        {"BuscarPastaArquivoDeProgramas", [] { S::BuscarPastaArquivoDeProgramas(); }},
+        {"BuscarPastaTempWindows", [] { S::BuscarPastaTempWindows(); }},
+        {"BuscarVersaoArquivo", [&] { TOryUtilsFiles::BuscarVersaoArquivo(eu); }},
+        {"ExisteDiretorio", [&] { TOryUtilsFiles::ExisteDiretorio(pasta.Texto()); }},
+        {"TRegistro",
+         [] {
+             TRegistro registro;
+             registro.SetRootKey(crCurrentUser);
+             registro.OpenKey(u"Software\\OryUtilsNaoExiste", false);
+         }},
+        {"Log",
+         [&] {
+             TOryUtilsArquivoLog log(pasta.Texto() + u"/x.log");
+             log.Adicionar(u"linha", clBlue);
+             log.FinalizarLog();
+         }},
+    };
+    for (const TCaso& caso : casos) {
+        caso.Fazer();
+        const TRecursos antes = BuscarRecursos();
+        for (int i = 0; i < CVezes; ++i) caso.Fazer();
+        ExigirSemCrescimento(antes, CVezes, caso.Nome);
+    }
+    EXPECT_EQ(ContarFilhosMortos(), 0);
+}
+
+/// Every kind of dialog, over forms that nobody sees.
+TEST(Resistencia, Dialogos) {
+    const int vezes = Quantidade(1'000, 10'000);
+    const TFormatosTemporarios formatos(BuscarFormatosBrasileiros());
+    TToolkitRoteirizado toolkit;
+    TOryUtilsDialogs dialogos;
+    const TRecursos antes = BuscarRecursos();
+    for (int i = 0; i < vezes; ++i) {
+        switch (i % 5) {
+            case 0:
+                dialogos.Informacao(u"Mensagem");
+                break;
+            case 1:
+                dialogos.Erro(u"Uma mensagem\r\nde duas linhas");
+                break;
+            case 2:
+                EXPECT_FALSE(dialogos.Confirmacao(u"Excluir?", btNo));
+                break;
+            case 3:
+                dialogos.ConfirmacaoCustomizada(u"?", mtWarning, {mbYes, mbNo}, 0, u"T", {u"&Um", u"&Dois"});
+                break;
+            default: {
+                std::u16string valor = u"antes";
+                EXPECT_FALSE(dialogos.InputQuery(u"T", u"Valor", valor));
+                EXPECT_EQ(valor, u"antes");
+            }
+        }
+        ASSERT_TRUE(toolkit.Temporizadores.empty()) << "dialog " << i;
+    }
+    ASSERT_EQ(toolkit.Titulos.size(), static_cast<std::size_t>(vezes));
+    ExigirSemCrescimento(antes, std::min(vezes, 100), "a dialog");
+}
+
+}  // namespace
+}  // namespace OryUtils
