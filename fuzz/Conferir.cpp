@@ -1,12 +1,11 @@
 // Any bytes as a file to check, with any options: blocks of any size, read in any pieces and by any number of threads,
 // give one answer, and records are what a slow reader says they are.
-#include "conferir/Conferencia.hpp"
-
-#include "conferir/Relatorio.hpp"
 #include "oryutils/runtime/Formatos.hpp"
 
 #include "../tests/ory/CsvDevagar.hpp"
 #include "Comum.hpp"
+#include "conferir/Conferencia.hpp"
+#include "conferir/Relatorio.hpp"
 
 using namespace Ory;
 

@@ -1,7 +1,6 @@
 // Any text as a formula: the evaluation in one reading, the one by steps and the slow rewriting agree.
-#include "oryutils/text/OryUtilsFormulas.hpp"
-
 #include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/text/OryUtilsFormulas.hpp"
 
 #include "../tests/text/FormulasReferencia.hpp"
 #include "Comum.hpp"

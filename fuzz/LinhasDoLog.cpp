@@ -1,6 +1,8 @@
 // Any bytes as a log that stands there, in each encoding: lines go in and come back, one by one or all at once.
 #include "oryutils/files/interno/LinhasDoLog.hpp"
 
+#include "oryutils/files/interno/CodificacaoDoLog.hpp"
+
 #include "Comum.hpp"
 
 using namespace OryUtils;

@@ -42,7 +42,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t AT
     Fuzz::TEntrada entrada(ABytes, ATamanho);
     Ler(Fuzz::TEntrada(ABytes, ATamanho).Resto());
     const TFormatSettings& formatos = BuscarFormatosBrasileiros();
-    const Extended valor = entrada.Valor<double>() * std::pow(10.0L, static_cast<std::int16_t>(entrada.Valor<std::int16_t>() % 4000));
+    const Extended valor =
+        entrada.Valor<double>() * std::pow(10.0L, static_cast<std::int16_t>(entrada.Valor<std::int16_t>() % 4000));
     const std::u16string texto = ExtendedParaTexto(valor, formatos);
     if (std::isfinite(valor)) {
         const Extended volta = ArredondarPara15Digitos(valor);

@@ -1,9 +1,8 @@
 // Every operation that programs may call, with arguments of any kind and number: an answer in JSON, always.
 #include "operacoes/Operacoes.hpp"
 
-#include "operacoes/Json.hpp"
-
 #include "Comum.hpp"
+#include "operacoes/Json.hpp"
 
 #include <algorithm>
 
@@ -47,7 +46,7 @@ TJson Valor(Fuzz::TEntrada& AEntrada, std::string_view ATipo, int ANivel = 0) {
             if (ATipo.find("texto") != std::string_view::npos) return texto();
             if (ATipo.find("lógico") != std::string_view::npos) return especie >= 128;
             return especie >= 128 ? TJson(AEntrada.Byte() % 12)
-                               : TJson(static_cast<OryUtils::Extended>(AEntrada.Valor<std::int32_t>()) / 100);
+                                  : TJson(static_cast<OryUtils::Extended>(AEntrada.Valor<std::int32_t>()) / 100);
     }
 }
 

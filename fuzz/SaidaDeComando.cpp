@@ -1,7 +1,7 @@
 // Any bytes as what a command prints, in any pieces, and as the answers of "arp".
 #include "oryutils/system/interno/SaidaDeComando.hpp"
 
-#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/platform/Caixa.hpp"
 #include "oryutils/system/interno/RegrasDeRede.hpp"
 
 #include "Comum.hpp"

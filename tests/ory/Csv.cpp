@@ -1,7 +1,6 @@
 #include "conferir/Csv.hpp"
 
 #include "conferir/Blocos.hpp"
-
 #include "ory/CsvDevagar.hpp"
 
 #include <gtest/gtest.h>

@@ -10,7 +10,6 @@
 #include <exception>
 #include <memory>
 #include <optional>
-#include <ranges>
 #include <utility>
 
 namespace Ory {
@@ -69,10 +68,12 @@ public:
 
     void Adicionar(std::string_view ATexto) {
         if (!FLog) return;
-        for (const std::string_view linha : std::views::split(ATexto, '\n') | std::views::transform([](auto&& a) {
-                                                return std::string_view(a.begin(), a.end());
-                                            }))
-            FLog->Adicionar(OryUtils::DeUtf8(linha), OryUtils::clWindowText);
+        while (true) {
+            const std::size_t quebra = ATexto.find('\n');
+            FLog->Adicionar(OryUtils::DeUtf8(ATexto.substr(0, quebra)), OryUtils::clWindowText);
+            if (quebra == std::string_view::npos) return;
+            ATexto.remove_prefix(quebra + 1);
+        }
     }
     /// The footer and the file; false when it could not be written.
     bool Finalizar() {

@@ -87,8 +87,8 @@ TEST(Resistencia, ConferirPorUmCanoEmMemoriaConstante) {
     EXPECT_EQ(muita.Resumo["colunas"][0]["validos"], linhas);
     EXPECT_EQ(muita.Resumo["colunas"][1]["invalidos"], linhas / CLinhasDoBloco);
     EXPECT_EQ(muita.Resumo["colunas"][2]["validos"], linhas);
-    std::cout << linhas / 10 << " rows: " << pouca.PicoKiB << " KiB at the most; " << linhas << " rows: "
-              << muita.PicoKiB << " KiB\n";
+    std::cout << linhas / 10 << " rows: " << pouca.PicoKiB << " KiB at the most; " << linhas
+              << " rows: " << muita.PicoKiB << " KiB\n";
     EXPECT_LE(muita.PicoKiB, pouca.PicoKiB + 4096) << "ten times the rows";
     EXPECT_LE(muita.PicoKiB, 64 * 1024);
 }

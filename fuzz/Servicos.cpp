@@ -1,0 +1,54 @@
+// Any text as what systemctl and sc answer; any name, account and password as part of a command or of a unit's file:
+// none of them becomes another argument or another line.
+#include "oryutils/platform/LinhaDeComando.hpp"
+#include "oryutils/platform/linux/Systemd.hpp"
+#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/system/interno/ComandosServico.hpp"
+
+#include "Comum.hpp"
+
+#include <algorithm>
+
+using namespace OryUtils;
+using namespace OryUtils::Plataforma;
+using namespace OryUtils::Sistema;
+
+namespace {
+
+std::size_t ContarPartes(std::u16string_view ALinha) { return SepararLinhaDeComando(ALinha).size(); }
+
+void Montar(const std::u16string& AServico, const std::u16string& AOutro, const std::u16string& ASenha) {
+    Fuzz::Exigir(SepararArgumentos(u"\"" + EscaparEntreAspas(AServico) + u"\"") == std::vector{AServico});
+    Fuzz::Exigir(ContarPartes(MontarComandoRecuperacao(AServico)) == ContarPartes(MontarComandoRecuperacao(u"a")));
+    Fuzz::Exigir(ContarPartes(MontarComandoDependencia(AServico, AOutro)) ==
+                 ContarPartes(MontarComandoDependencia(u"a", u"b")));
+    const auto logon = SepararLinhaDeComando(MontarComandoLogon(AServico, AOutro, ASenha));
+    Fuzz::Exigir(logon.size() == ContarPartes(MontarComandoLogon(u"a", u"b", u"c")) && logon.back() == ASenha);
+}
+
+void MontarUnidadeDe(const std::string& ANome, const std::string& AExecutavel) {
+    const std::string unidade = MontarUnidade(ANome, AExecutavel);
+    if (unidade.empty()) return;
+    Fuzz::Exigir(std::ranges::count(unidade, '\n') == std::ranges::count(MontarUnidade("a", "/b"), '\n'));
+    Fuzz::Exigir(std::ranges::none_of(unidade, [](char c) { return c != '\n' && static_cast<unsigned char>(c) < 32; }));
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
+    const std::string bytes(ABytes, ABytes + ATamanho);
+    if (const auto situacao = LerSituacaoUnidade(bytes))
+        Fuzz::Exigir(situacao->Situacao.Estado >= 1 && situacao->Situacao.Estado <= 7);
+    if (EhNomeDeUnidade(bytes))
+        Fuzz::Exigir(!bytes.empty() && bytes.front() != '-' && bytes.front() != '.' &&
+                     bytes.find_first_of(std::string_view("/\n\0 ;$\"'", 8)) == std::string::npos);
+
+    Fuzz::TEntrada entrada(ABytes, ATamanho);
+    const std::u16string servico = entrada.Texto(40), outro = entrada.Texto(40), senha = entrada.Texto(40);
+    Montar(servico, outro, senha);
+    MontarUnidadeDe(ParaUtf8(servico), ParaUtf8(outro));
+    const std::u16string saida = Fuzz::TEntrada(ABytes, ATamanho).Resto();
+    Fuzz::Exigir(!SaidaIndicaFalha(saida) || SaidaIndicaFalha(saida + u"x"));
+    Fuzz::Exigir(MontarMensagemFalha(u"a", saida).find(saida) != std::u16string::npos);
+    return 0;
+}
