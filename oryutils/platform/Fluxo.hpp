@@ -45,8 +45,10 @@ public:
     static TFluxo ErroPadrao() noexcept;
 
     TErroFluxo AbrirParaLer(const std::string& ANome);
-    /// Creates a file that must not exist yet, for writing.
-    TErroFluxo CriarNovo(const std::string& ANome);
+    /// Creates a file that must not exist yet, for writing. ASubstituido, when given, is the file whose name it takes
+    /// later: on Linux who may read and write that one, where it exists, may do so with the new one from the beginning
+    /// and nobody else. On Windows the folder says who may.
+    TErroFluxo CriarNovo(const std::string& ANome, const std::string& ASubstituido = {});
     /// Creates a file, or empties the one that is there, for writing. Others may read it meanwhile.
     TErroFluxo CriarOuEsvaziar(const std::string& ANome);
     /// Opens an existing file for writing behind its end. Others may read it meanwhile.

@@ -83,12 +83,13 @@ TEST(Resistencia, OperacoesDoSistema) {
         {"BuscarPastaTempWindows", [] { S::BuscarPastaTempWindows(); }},
         {"BuscarVersaoArquivo", [&] { TOryUtilsFiles::BuscarVersaoArquivo(eu); }},
         {"ExisteDiretorio", [&] { TOryUtilsFiles::ExisteDiretorio(pasta.Texto()); }},
-        {"TRegistro",
+        {"TRegistry",
          [] {
-             TRegistro registro;
+             TRegistry registro;
              registro.SetRootKey(crCurrentUser);
              registro.OpenKey(u"Software\\OryUtilsNaoExiste", false);
          }},
+        {"BuscarStatusServico", [] { S::BuscarStatusServico(u"", u"este-servico-nao-existe"); }},
         {"Log",
          [&] {
              TOryUtilsArquivoLog log(pasta.Texto() + u"/x.log");

@@ -28,7 +28,7 @@ public:
         TErroFluxo erro = efJaExiste;
         for (int i = 0; i < CTentativas && erro == efJaExiste; ++i) {
             FNomeProvisorio = ANome + ".parte" + (i ? std::to_string(i) : "");
-            erro = fluxo.CriarNovo(FNomeProvisorio);
+            erro = fluxo.CriarNovo(FNomeProvisorio, ANome);
         }
         if (erro != efNenhum) throw EFalha("não foi possível criar " + ANome + ": " + std::string(DescreverErro(erro)));
         FSaida = std::make_unique<TSaidaDeFluxo>(std::move(fluxo), ANome);

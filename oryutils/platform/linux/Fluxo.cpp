@@ -81,10 +81,14 @@ TErroFluxo TFluxo::AbrirParaLer(const std::string& ANome) {
     return efNenhum;
 }
 
-TErroFluxo TFluxo::CriarNovo(const std::string& ANome) {
+TErroFluxo TFluxo::CriarNovo(const std::string& ANome, const std::string& ASubstituido) {
     Fechar();
-    const int alca = ::open(ANome.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    struct stat antigo {};
+    const bool substitui = !ASubstituido.empty() && ::stat(ASubstituido.c_str(), &antigo) == 0;
+    const mode_t modo = substitui ? antigo.st_mode & 0777 : 0666;
+    const int alca = ::open(ANome.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, modo);
     if (alca < 0) return DeErrno(errno);
+    if (substitui) static_cast<void>(::fchmod(alca, modo));  // what the mask took off; without it fewer may read
     FAlca = alca;
     FDono = true;
     return efNenhum;

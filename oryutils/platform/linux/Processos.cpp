@@ -232,7 +232,7 @@ bool EhProcessoDe32BitsEmSistemaDe64() {
 void LiberarMemoria() { ::malloc_trim(0); }
 
 void AbrirConfiguracaoDeDataHora() {
-    if (!::getenv("DISPLAY") && !::getenv("WAYLAND_DISPLAY")) return;
+    if (!::secure_getenv("DISPLAY") && !::secure_getenv("WAYLAND_DISPLAY")) return;
     const std::array<std::vector<std::string>, 4> CProgramas{{{"gnome-control-center", "datetime"},
                                                               {"systemsettings", "kcm_clock"},
                                                               {"cinnamon-settings", "calendar"},

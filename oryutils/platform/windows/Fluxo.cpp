@@ -90,7 +90,7 @@ TErroFluxo TFluxo::AbrirParaLer(const std::string& ANome) {
     return efNenhum;
 }
 
-TErroFluxo TFluxo::CriarNovo(const std::string& ANome) {
+TErroFluxo TFluxo::CriarNovo(const std::string& ANome, const std::string&) {
     Fechar();
     const HANDLE alca = ::CreateFileW(ParaLargo(ANome).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_NEW,
                                       FILE_ATTRIBUTE_NORMAL, nullptr);

@@ -1,0 +1,29 @@
+#include "Apoio.hpp"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sys/stat.h>
+
+namespace {
+
+/// A file of customers that only its owner may read stays so when it is written anew over itself.
+TEST(ConferirSaida, QuemPodiaLerOArquivoEhQuemPodeLerONovo) {
+    const std::string nome = (std::filesystem::temp_directory_path() / "orysaidaprotegida.csv").string();
+    const mode_t mascara = ::umask(022);
+    for (const mode_t modo : {mode_t{0600}, mode_t{0664}, mode_t{0640}}) {
+        std::filesystem::remove(nome);
+        std::ofstream(nome) << "cnpj\n11222333000181\n";
+        ASSERT_EQ(::chmod(nome.c_str(), modo), 0);
+        ASSERT_EQ(Rodar({"conferir", nome, "--saida", nome}).Status, 0);
+        struct stat dados {};
+        ASSERT_EQ(::stat(nome.c_str(), &dados), 0);
+        EXPECT_EQ(dados.st_mode & 0777, modo);
+        EXPECT_GT(dados.st_size, 22) << "written anew";
+    }
+    ::umask(mascara);
+    std::filesystem::remove(nome);
+}
+
+}  // namespace
