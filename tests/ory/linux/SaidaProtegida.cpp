@@ -1,4 +1,4 @@
-#include "Apoio.hpp"
+#include "ory/Apoio.hpp"
 
 #include <gtest/gtest.h>
 
