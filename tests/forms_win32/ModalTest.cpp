@@ -326,7 +326,7 @@ TEST_F(FormsWin32, MuitosDialogosNaoDeixamNada) {
     };
     for (int i = 0; i < 8; ++i) mostrar(i);
     const Testes::TRecursos antes = Testes::BuscarRecursos();
-    const int vezes = Testes::Quantidade(100, 10'000);
+    const int vezes = Testes::Quantidade(40, 10'000);
     for (int i = 0; i < vezes; ++i) mostrar(i);
     FToolkit.DesligarTemporizador(fechador);
     for (const auto& [nome, quantos] : Testes::BuscarRecursos()) EXPECT_LE(quantos, antes.at(nome) + 5) << nome;

@@ -47,7 +47,7 @@ TEST(Resistencia, ComandosComSaida) {
 }
 
 TEST(Resistencia, OperacoesDoSistema) {
-    constexpr int CVezes = 100;
+    const int vezes = Quantidade(30, 100);
     const TPastaTemporaria pasta;
     const std::u16string eu = ProgramaAuxiliar().u16string();
     struct TCaso {
@@ -100,8 +100,8 @@ TEST(Resistencia, OperacoesDoSistema) {
     for (const TCaso& caso : casos) {
         caso.Fazer();
         const TRecursos antes = BuscarRecursos();
-        for (int i = 0; i < CVezes; ++i) caso.Fazer();
-        ExigirSemCrescimento(antes, CVezes, caso.Nome);
+        for (int i = 0; i < vezes; ++i) caso.Fazer();
+        ExigirSemCrescimento(antes, vezes, caso.Nome);
     }
     EXPECT_EQ(ContarFilhosMortos(), 0);
 }
