@@ -88,9 +88,12 @@ void TOryUtilsArquivoLog::IniciarLog() {
 }
 
 void TOryUtilsArquivoLog::Adicionar(std::u16string_view AMensagem, TColor ACor) {
-    AtualizarArquivoLog();
-    IniciarLog();
-    AdicionarMensagem(AMensagem, ACor);
+    TDateTime agora = ConferirData();
+    if (!FLogIniciado) {
+        IniciarLog();
+        agora = FAmbiente.BuscarAgora();
+    }
+    AdicionarMensagem(AMensagem, ACor, agora);
 }
 
 void TOryUtilsArquivoLog::AdicionarSeparador() { Adicionar(CSeparador, clWindowText); }
@@ -105,7 +108,7 @@ void TOryUtilsArquivoLog::InserirTexto(std::u16string_view ATexto, int AIndice, 
     IniciarLog();
     if (AIndice < 0 || static_cast<std::size_t>(AIndice) > FLog->GetQuantidade())
         throw EListError(u"Índice fora dos limites da lista (" + InteiroParaTexto(AIndice) + u")");
-    FLog->Inserir(static_cast<std::size_t>(AIndice), std::move(texto));
+    FLog->Inserir(static_cast<std::size_t>(AIndice), texto);
 }
 
 void TOryUtilsArquivoLog::FinalizarLog() {
@@ -162,30 +165,39 @@ std::u16string TOryUtilsArquivoLog::FormatarNomeArquivoLog(std::u16string_view A
 }
 
 void TOryUtilsArquivoLog::AdicionarMensagem(std::u16string_view AMensagem, TColor ACor) {
-    std::u16string linha;
-    if (FFormatoMensagem == tfmComDataHora && !EhVazio(AMensagem)) {
-        const std::u16string& carimbo = BuscarCarimbo();
-        linha.reserve(carimbo.size() + AMensagem.size());
-        linha = carimbo;
-    }
+    AdicionarMensagem(AMensagem, ACor, FAmbiente.BuscarAgora());
+}
+
+void TOryUtilsArquivoLog::AdicionarMensagem(std::u16string_view AMensagem, TColor ACor, TDateTime AAgora) {
+    constexpr std::size_t CMaiorGuardado = 4096;
+    // One piece of memory serves line after line; what is called below may log too, and then takes another.
+    std::u16string linha = std::move(FLinha);
+    linha.clear();
+    if (FFormatoMensagem == tfmComDataHora && !EhVazio(AMensagem)) linha = BuscarCarimbo(AAgora);
     linha += AMensagem;
     FLog->Adicionar(linha);
     CosturaInterface().ProcessarMensagens();
     ValidarEventoOnStatus(linha, ACor);
     if (FSalvarAutomaticamente) SalvarArquivoLog();
+    if (linha.capacity() <= CMaiorGuardado) FLinha = std::move(linha);
 }
 
-void TOryUtilsArquivoLog::AtualizarArquivoLog() {
+void TOryUtilsArquivoLog::AtualizarArquivoLog() { ConferirData(); }
+
+// The instant that was compared, which is the message's too.
+TDateTime TOryUtilsArquivoLog::ConferirData() {
+    const TDateTime agora = FAmbiente.BuscarAgora();
     // The footer lets messages be processed, and what they log still belongs to the day that ends.
-    if (FMudandoDeDia) return;
-    const TDateTime hoje = BuscarParteData(FAmbiente.BuscarAgora());
-    if (hoje == FDataControleLog) return;
+    if (FMudandoDeDia) return agora;
+    const TDateTime hoje = BuscarParteData(agora);
+    if (hoje == FDataControleLog) return agora;
     const TLigado mudando(FMudandoDeDia);
     FinalizarLog();
     FLogIniciado = false;
     FDataControleLog = hoje;
     SetArquivoLog(std::u16string(FArquivoLog));
     Limpar();
+    return agora;
 }
 
 void TOryUtilsArquivoLog::CarregarArquivo() {
@@ -209,11 +221,10 @@ void TOryUtilsArquivoLog::AtualizarDataModificacaoLogFechamento(TDateTime AData)
 }
 
 // Lines come in bursts; those of one instant share the text.
-const std::u16string& TOryUtilsArquivoLog::BuscarCarimbo() {
-    const TDateTime agora = FAmbiente.BuscarAgora();
-    if (FCarimbo.empty() || agora != FInstanteDoCarimbo)
-        FCarimbo = FormatarDataHora(u"'['ddddd tt']: '", agora, FFormatos);
-    FInstanteDoCarimbo = agora;
+const std::u16string& TOryUtilsArquivoLog::BuscarCarimbo(TDateTime AAgora) {
+    if (FCarimbo.empty() || AAgora != FInstanteDoCarimbo)
+        FCarimbo = FormatarDataHora(u"'['ddddd tt']: '", AAgora, FFormatos);
+    FInstanteDoCarimbo = AAgora;
     return FCarimbo;
 }
 

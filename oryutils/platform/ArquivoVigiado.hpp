@@ -37,7 +37,7 @@ public:
 private:
     struct TVigia;
 
-    bool EstahIntacto() noexcept;
+    bool EstahIntacto(std::int64_t ASegundo) noexcept;
     std::optional<TMarcaDeArquivo> BuscarMarcaIntacta() const noexcept;
 
     std::unique_ptr<TVigia> FVigia;

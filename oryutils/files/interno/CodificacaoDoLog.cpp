@@ -30,17 +30,37 @@ std::u16string Decodificar(std::string_view ABytes, TCodificacaoLog ACodificacao
     }
 }
 
+// Appends ATexto up to its first character beyond ASCII; the number of characters appended. Whole blocks, which the
+// compiler turns into few instructions, and the rest one by one.
+std::size_t EstreitarAscii(std::string& ADestino, std::u16string_view ATexto) {
+    constexpr std::size_t CBloco = 16;
+    const std::size_t antes = ADestino.size();
+    ADestino.resize(antes + ATexto.size());
+    char* const destino = ADestino.data() + antes;
+    std::size_t feitos = 0;
+    for (; feitos + CBloco <= ATexto.size(); feitos += CBloco) {
+        char16_t todos = 0;
+        for (std::size_t i = 0; i < CBloco; ++i) {
+            const char16_t c = ATexto[feitos + i];
+            todos = static_cast<char16_t>(todos | c);
+            destino[feitos + i] = static_cast<char>(c);
+        }
+        if (todos >= 0x80) break;
+    }
+    for (; feitos < ATexto.size() && ATexto[feitos] < 0x80; ++feitos)
+        destino[feitos] = static_cast<char>(ATexto[feitos]);
+    ADestino.resize(antes + feitos);
+    return feitos;
+}
+
 }  // namespace
 
-void AcrescentarCodificado(std::string& ADestino, std::u16string_view ATexto, TCodificacaoLog ACodificacao) {
-    // Every encoding here holds ASCII as it is, and most of a log is ASCII.
-    const auto resto = std::find_if(ATexto.begin(), ATexto.end(), [](char16_t c) { return c >= 0x80; });
-    const std::size_t ascii = static_cast<std::size_t>(resto - ATexto.begin());
-    const std::size_t antes = ADestino.size();
-    ADestino.resize(antes + ascii);
-    std::transform(ATexto.begin(), resto, ADestino.begin() + static_cast<std::ptrdiff_t>(antes),
-                   [](char16_t c) { return static_cast<char>(c); });
-    if (ascii < ATexto.size()) ADestino += Codificar(ATexto.substr(ascii), ACodificacao);
+// Every encoding here holds ASCII as it is, and most of a log is ASCII.
+bool AcrescentarCodificado(std::string& ADestino, std::u16string_view ATexto, TCodificacaoLog ACodificacao) {
+    const std::size_t ascii = EstreitarAscii(ADestino, ATexto);
+    if (ascii == ATexto.size()) return true;
+    ADestino += Codificar(ATexto.substr(ascii), ACodificacao);
+    return false;
 }
 
 std::vector<std::u16string> SepararLinhas(std::string_view ABytes, TCodificacaoLog ACodificacao) {

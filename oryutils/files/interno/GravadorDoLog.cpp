@@ -6,6 +6,8 @@
 #include "oryutils/platform/Utf.hpp"
 #include "oryutils/runtime/NomeDeArquivo.hpp"
 
+#include <cstring>
+
 namespace OryUtils {
 namespace {
 
@@ -14,6 +16,11 @@ using namespace Plataforma;
 void CriarPastaQueFalta(std::u16string_view AArquivo) {
     const std::u16string_view pasta = ExtrairPastaDoArquivo(AArquivo);
     if (!pasta.empty() && !TOryUtilsFiles::ExisteDiretorio(pasta)) CriarPasta(pasta);
+}
+
+// As ==, at the speed of memory: it is asked at each save.
+bool SaoIguais(std::u16string_view AUm, std::u16string_view AOutro) {
+    return AUm.size() == AOutro.size() && std::memcmp(AUm.data(), AOutro.data(), AUm.size() * sizeof(char16_t)) == 0;
 }
 
 }  // namespace
@@ -32,15 +39,15 @@ bool TGravadorDoLog::Gravar(std::u16string_view AArquivo, const TTextoPronto& AT
 
 bool TGravadorDoLog::Tentar(std::u16string_view AArquivo, const TTextoPronto& ATexto, TModoGravacao AModo,
                             TAmbienteDoLog& AAmbiente) {
-    if (AArquivo.find(u'\0') != AArquivo.npos) return false;  // the system would end the name there
     const bool acrescentar = AModo == mgAcrescentar;
-    if (acrescentar && FMarca && FArquivo == AArquivo && FGeracao == ATexto.Geracao) {
+    if (acrescentar && FMarca && FGeracao == ATexto.Geracao && SaoIguais(FArquivo, AArquivo)) {
         const TResultado resultado = Acrescentar(ATexto.Bytes.substr(FGravados), AAmbiente);
         if (resultado != reMudou) {
             FGravados = ATexto.Bytes.size();
             return resultado == reFeito;
         }
     }
+    if (AArquivo.find(u'\0') != AArquivo.npos) return false;  // the system would end the name there
     FArquivo = AArquivo;
     FGeracao = ATexto.Geracao;
     FGravados = ATexto.Bytes.size();

@@ -1,66 +1,114 @@
 #include "oryutils/files/interno/LinhasDoLog.hpp"
 
 #include "oryutils/files/interno/CodificacaoDoLog.hpp"
+#include "oryutils/platform/Memoria.hpp"
 #include "oryutils/platform/TextoDoSistema.hpp"
 
+#include <algorithm>
 #include <utility>
 
 namespace OryUtils {
 
-void TLinhasDoLog::Adicionar(std::u16string ALinha) {
-    FLinhas.push_back(std::move(ALinha));
-    if (FProntas + 1 == FLinhas.size()) Codificar(FLinhas.back());
+void TLinhasDoLog::Adicionar(std::u16string_view ALinha) {
+    if (FLinhas.empty()) FPronto.clear();  // it may hold the text of a log without lines
+    PrepararMemoria(ALinha.size());
+    const std::size_t inicio = FPronto.size();
+    FLinhas.push_back({inicio, nullptr});
+    try {
+        if (!AcrescentarCodificado(FPronto, ALinha, FCodificacao))
+            FLinhas.back().Original = std::make_unique<std::u16string>(ALinha);
+        for (const char16_t c : Plataforma::BuscarQuebraDeLinha()) FPronto.push_back(static_cast<char>(c));
+    } catch (...) {
+        FPronto.resize(inicio);
+        FLinhas.pop_back();
+        throw;
+    }
 }
 
-void TLinhasDoLog::Inserir(std::size_t AIndice, std::u16string ALinha) {
-    if (AIndice == FLinhas.size()) return Adicionar(std::move(ALinha));
-    FLinhas.insert(FLinhas.begin() + static_cast<std::ptrdiff_t>(AIndice), std::move(ALinha));
-    Refazer();
+// A long log meets a new page every few dozen lines, each of which costs more than the lines in it.
+void TLinhasDoLog::PrepararMemoria(std::size_t ALinha) {
+    constexpr std::size_t CPasso = std::size_t{128} * 1024;
+    const std::size_t tamanho = FPronto.size() + ALinha + Plataforma::BuscarQuebraDeLinha().size();
+    if (tamanho <= FPreparado || tamanho < CPasso) return;
+    if (tamanho > FPronto.capacity()) {
+        std::string maior;
+        maior.reserve(tamanho * Plataforma::BuscarFatorDeCrescimento());
+        Plataforma::PrepararEscrita(maior.data(), FPronto.size());
+        maior.append(FPronto);
+        FPronto.swap(maior);
+    }
+    FPreparado = std::min(FPronto.capacity(), tamanho + CPasso);
+    Plataforma::PrepararEscrita(FPronto.data() + FPronto.size(), FPreparado - FPronto.size());
 }
 
-void TLinhasDoLog::Substituir(std::vector<std::u16string> ALinhas) {
-    FLinhas = std::move(ALinhas);
-    Refazer();
+void TLinhasDoLog::Inserir(std::size_t AIndice, std::u16string_view ALinha) {
+    const std::size_t quantidade = FLinhas.size();
+    Adicionar(ALinha);
+    if (AIndice == quantidade) return;
+    const std::size_t inicio = FLinhas[AIndice].Inicio;
+    const std::size_t corte = FLinhas.back().Inicio;
+    const std::size_t tamanho = FPronto.size() - corte;
+    const auto ponto = [](auto& ALista, std::size_t APosicao) {
+        return ALista.begin() + static_cast<std::ptrdiff_t>(APosicao);
+    };
+    std::rotate(ponto(FPronto, inicio), ponto(FPronto, corte), FPronto.end());
+    std::rotate(ponto(FLinhas, AIndice), FLinhas.end() - 1, FLinhas.end());
+    FLinhas[AIndice].Inicio = inicio;
+    for (std::size_t i = AIndice + 1; i <= quantidade; ++i) FLinhas[i].Inicio += tamanho;
+    ++FGeracao;
+}
+
+void TLinhasDoLog::Substituir(const std::vector<std::u16string>& ALinhas) {
+    FLinhas.clear();
+    FPronto.clear();
+    ++FGeracao;
+    for (const std::u16string& linha : ALinhas) Adicionar(linha);
+}
+
+std::string_view TLinhasDoLog::BuscarBytes(std::size_t AIndice) const noexcept {
+    const std::size_t inicio = FLinhas[AIndice].Inicio;
+    const std::size_t fim = AIndice + 1 < FLinhas.size() ? FLinhas[AIndice + 1].Inicio : FPronto.size();
+    return std::string_view(FPronto).substr(inicio, fim - inicio - Plataforma::BuscarQuebraDeLinha().size());
 }
 
 std::u16string TLinhasDoLog::GetTexto() const {
     const std::u16string_view quebra = Plataforma::BuscarQuebraDeLinha();
     std::size_t tamanho = 0;
-    for (const std::u16string& linha : FLinhas) tamanho += linha.size() + quebra.size();
+    for (std::size_t i = 0; i < FLinhas.size(); ++i)
+        tamanho += quebra.size() + (FLinhas[i].Original ? FLinhas[i].Original->size() : BuscarBytes(i).size());
     std::u16string texto;
     texto.reserve(tamanho);
-    for (const std::u16string& linha : FLinhas) texto.append(linha).append(quebra);
+    for (std::size_t i = 0; i < FLinhas.size(); ++i) {
+        if (FLinhas[i].Original) {
+            texto.append(*FLinhas[i].Original);
+        } else {
+            const std::string_view bytes = BuscarBytes(i);
+            texto.append(bytes.begin(), bytes.end());
+        }
+        texto.append(quebra);
+    }
     if (!texto.empty()) texto.resize(texto.size() - quebra.size());
     return texto;
 }
 
 void TLinhasDoLog::SetCodificacao(TCodificacaoLog ACodificacao) {
     if (FCodificacao == ACodificacao) return;
-    FCodificacao = ACodificacao;
-    Refazer();
+    TLinhasDoLog outras;
+    outras.FCodificacao = ACodificacao;
+    outras.FGeracao = FGeracao + 1;
+    std::u16string linha;
+    for (std::size_t i = 0; i < FLinhas.size(); ++i) {
+        const std::string_view bytes = BuscarBytes(i);
+        outras.Adicionar(FLinhas[i].Original ? *FLinhas[i].Original : linha.assign(bytes.begin(), bytes.end()));
+    }
+    *this = std::move(outras);
 }
 
 TTextoPronto TLinhasDoLog::BuscarTextoPronto() {
-    while (FProntas < FLinhas.size()) Codificar(FLinhas[FProntas]);
-    if (FLinhas.empty()) {
-        // A line break alone, which no first line continues.
-        if (FPronto.empty()) AcrescentarCodificado(FPronto, Plataforma::BuscarQuebraDeLinha(), FCodificacao);
-        return {FPronto, FGeracao++};
-    }
-    return {FPronto, FGeracao};
-}
-
-void TLinhasDoLog::Refazer() noexcept {
-    FPronto.clear();
-    FProntas = 0;
-    ++FGeracao;
-}
-
-void TLinhasDoLog::Codificar(std::u16string_view ALinha) {
-    if (FProntas == 0) FPronto.clear();  // it may hold the text of a log without lines
-    AcrescentarCodificado(FPronto, ALinha, FCodificacao);
-    AcrescentarCodificado(FPronto, Plataforma::BuscarQuebraDeLinha(), FCodificacao);
-    ++FProntas;
+    if (!FLinhas.empty()) return {FPronto, FGeracao};
+    // A line break alone, which no first line continues.
+    if (FPronto.empty()) AcrescentarCodificado(FPronto, Plataforma::BuscarQuebraDeLinha(), FCodificacao);
+    return {FPronto, FGeracao++};
 }
 
 }  // namespace OryUtils

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,16 +18,16 @@ struct TTextoPronto {
     std::uint64_t Geracao;
 };
 
-/// The lines of a log, and beside them the text ready for writing, which grows with each line.
+/// The lines of a log, kept as the text ready for writing, which grows with each line. A line of ASCII, which every
+/// encoding holds as it is, lives in that text alone; of another the characters are kept too.
 class TLinhasDoLog {
 public:
     std::size_t GetQuantidade() const noexcept { return FLinhas.size(); }
     /// Costs the length of the line.
-    void Adicionar(std::u16string ALinha);
-    /// ALinha becomes line AIndice, at most GetQuantidade(). Anywhere but at the end all lines behind it move, and the
-    /// next BuscarTextoPronto makes the text anew.
-    void Inserir(std::size_t AIndice, std::u16string ALinha);
-    void Substituir(std::vector<std::u16string> ALinhas);
+    void Adicionar(std::u16string_view ALinha);
+    /// ALinha becomes line AIndice, at most GetQuantidade(). Anywhere but at the end all text behind it moves.
+    void Inserir(std::size_t AIndice, std::u16string_view ALinha);
+    void Substituir(const std::vector<std::u16string>& ALinhas);
     void Limpar() { Substituir({}); }
     /// The lines with the system's line break between them.
     std::u16string GetTexto() const;
@@ -37,12 +38,17 @@ public:
     TTextoPronto BuscarTextoPronto();
 
 private:
-    void Refazer() noexcept;
-    void Codificar(std::u16string_view ALinha);
+    struct TLinha {
+        std::size_t Inicio;                        // in FPronto
+        std::unique_ptr<std::u16string> Original;  // of a line that is not ASCII
+    };
 
-    std::vector<std::u16string> FLinhas{};
+    void PrepararMemoria(std::size_t ALinha);
+    std::string_view BuscarBytes(std::size_t AIndice) const noexcept;
+
+    std::vector<TLinha> FLinhas{};
     std::string FPronto{};
-    std::size_t FProntas = 0;  // lines that FPronto holds
+    std::size_t FPreparado = 0;  // so far FPronto's memory has been asked for
     std::uint64_t FGeracao = 0;
     TCodificacaoLog FCodificacao = clPadrao;
 };

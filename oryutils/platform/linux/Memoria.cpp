@@ -13,6 +13,14 @@ void AnunciarPreenchimento(void* AInicio, std::size_t ABytes) noexcept {
     if (fim > inicio) ::madvise(reinterpret_cast<void*>(inicio), fim - inicio, MADV_HUGEPAGE);
 }
 
+void PrepararEscrita(void* AInicio, std::size_t ABytes) noexcept {
+    constexpr std::uintptr_t CPagina = 4096;
+    const auto inicio = reinterpret_cast<std::uintptr_t>(AInicio) / CPagina * CPagina;
+    const auto fim = (reinterpret_cast<std::uintptr_t>(AInicio) + ABytes + CPagina - 1) / CPagina * CPagina;
+    constexpr int CPovoar = 23;  // MADV_POPULATE_WRITE, which older headers lack; older systems refuse it
+    ::madvise(reinterpret_cast<void*>(inicio), fim - inicio, CPovoar);
+}
+
 std::size_t BuscarFatorDeCrescimento() noexcept { return 16; }
 
 }  // namespace OryUtils::Plataforma
