@@ -71,12 +71,13 @@ TEST(SaidaDeComando, IgualAoLacoDe255BytesQueJuntaTudoDeNovo) {
     const auto ate = [&](std::size_t ALimite) {
         return std::uniform_int_distribution<std::size_t>(0, ALimite)(sorteio);
     };
-    const std::string_view pedacos[] = {"a",  "b",  " ", " ",    "\n", "\n",   "\r\n",
-                                        "\r", "\t", "ç", "\xC3", "😀",  "\xFF", std::string_view("\0", 1)};
+    const std::string_view pedacos[] = {"a",  "b",  " ", " ",    "\r\n", "\n",   "\n",
+                                        "\r", "\t", "ç", "\xC3", "😀",    "\xFF", std::string_view("\0", 1)};
     const TLinhas iniciais[] = {{}, {u"x"}, {u""}, {u"x", u""}, {u"x", u"", u""}, {u"x\r\ny"}, {u"x\r"}, {u"\n", u"y"}};
     for (int rodada = 0; rodada < 3000; ++rodada) {
         std::string saida;
-        const std::size_t tamanho = ate(1500);
+        const bool longa = rodada % 20 == 0;  // many chunks in one read
+        const std::size_t tamanho = ate(longa ? 15000 : 1500);
         const std::size_t variedade = ate(std::size(pedacos) - 1);
         const bool so_brancos = ate(9) == 0;
         while (saida.size() < tamanho) saida += so_brancos ? pedacos[2 + ate(6)] : pedacos[ate(variedade)];
@@ -90,11 +91,11 @@ TEST(SaidaDeComando, IgualAoLacoDe255BytesQueJuntaTudoDeNovo) {
         const bool vazia = obtido.empty();
         // Several outputs with pauses in between, each handed over in pieces.
         for (std::string_view resto = saida; !resto.empty();) {
-            std::string_view parte = resto.substr(0, 1 + ate(900));
+            std::string_view parte = resto.substr(0, 1 + ate(longa ? 15000 : 900));
             resto.remove_prefix(parte.size());
             for (std::size_t i = 0; i < parte.size(); i += 255) LerParte(esperado, parte.substr(i, 255));
             while (!parte.empty()) {
-                const std::size_t bytes = std::min(1 + ate(400), parte.size());
+                const std::size_t bytes = std::min(1 + ate(longa ? 15000 : 400), parte.size());
                 alvo.Receber(parte.substr(0, bytes));
                 em_texto.Receber(parte.substr(0, bytes));
                 parte.remove_prefix(bytes);

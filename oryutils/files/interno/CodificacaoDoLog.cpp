@@ -4,6 +4,8 @@
 #include "oryutils/platform/Utf.hpp"
 
 #include <algorithm>
+#include <array>
+#include <cstring>
 
 namespace OryUtils {
 namespace {
@@ -39,13 +41,16 @@ std::size_t EstreitarAscii(std::string& ADestino, std::u16string_view ATexto) {
     char* const destino = ADestino.data() + antes;
     std::size_t feitos = 0;
     for (; feitos + CBloco <= ATexto.size(); feitos += CBloco) {
-        char16_t todos = 0;
+        std::array<char16_t, CBloco> letras;
+        std::array<char, CBloco> bytes;
+        std::memcpy(letras.data(), ATexto.data() + feitos, sizeof letras);
+        char16_t todas = 0;
         for (std::size_t i = 0; i < CBloco; ++i) {
-            const char16_t c = ATexto[feitos + i];
-            todos = static_cast<char16_t>(todos | c);
-            destino[feitos + i] = static_cast<char>(c);
+            todas = static_cast<char16_t>(todas | letras[i]);
+            bytes[i] = static_cast<char>(letras[i]);
         }
-        if (todos >= 0x80) break;
+        if (todas >= 0x80) break;
+        std::memcpy(destino + feitos, bytes.data(), sizeof bytes);
     }
     for (; feitos < ATexto.size() && ATexto[feitos] < 0x80; ++feitos)
         destino[feitos] = static_cast<char>(ATexto[feitos]);

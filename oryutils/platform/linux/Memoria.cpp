@@ -22,5 +22,6 @@ void PrepararEscrita(void* AInicio, std::size_t ABytes) noexcept {
 }
 
 std::size_t BuscarFatorDeCrescimento() noexcept { return 16; }
+std::size_t BuscarReservaDeTextoLongo() noexcept { return std::size_t{256} << 20; }
 
 }  // namespace OryUtils::Plataforma

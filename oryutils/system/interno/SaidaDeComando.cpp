@@ -14,54 +14,101 @@
 namespace OryUtils::Sistema {
 namespace {
 
-bool EhQuebra(char16_t ACaractere) { return ACaractere == u'\r' || ACaractere == u'\n'; }
+template <typename TLetra>
+bool EhQuebra(TLetra ALetra) {
+    return ALetra == '\r' || ALetra == '\n';
+}
 
 // Calls AAcao for each line of ATexto; what stands behind the last line break is a line too.
-template <typename TAcao>
-void PercorrerLinhas(std::u16string_view ATexto, TAcao AAcao) {
+template <typename TLetra, typename TAcao>
+void PercorrerLinhas(std::basic_string_view<TLetra> ATexto, TAcao AAcao) {
     while (true) {
-        const auto quebra = std::find_if(ATexto.begin(), ATexto.end(), EhQuebra);
+        const auto quebra = std::find_if(ATexto.begin(), ATexto.end(), EhQuebra<TLetra>);
         const auto tamanho = static_cast<std::size_t>(quebra - ATexto.begin());
         AAcao(ATexto.substr(0, tamanho));
         if (quebra == ATexto.end()) return;
-        ATexto.remove_prefix(ATexto.substr(tamanho).starts_with(u"\r\n") ? tamanho + 2 : tamanho + 1);
+        ATexto.remove_prefix(tamanho);
+        const bool dupla = ATexto.size() > 1 && ATexto[0] == '\r' && ATexto[1] == '\n';
+        ATexto.remove_prefix(dupla ? 2 : 1);
     }
 }
 
-constexpr std::size_t CBloco = 16;
-/// A chunk and its text, with room for whole blocks.
-constexpr std::size_t CEspaco = (TSaidaDeComando::CTamanhoDaParte + CBloco - 1) / CBloco * CBloco;
-
-// Widens CEspaco bytes a block at a time, which the compiler turns into few instructions; false when one is not ASCII.
-bool AlargarAscii(const std::array<char, CEspaco>& ABytes, std::array<char16_t, CEspaco>& ATexto) {
-    std::array<unsigned char, CBloco> todos{};
-    for (std::size_t bloco = 0; bloco < CEspaco; bloco += CBloco)
-        for (std::size_t i = 0; i < CBloco; ++i) {
-            const auto byte = static_cast<unsigned char>(ABytes[bloco + i]);
-            todos[i] = static_cast<unsigned char>(todos[i] | byte);
-            ATexto[bloco + i] = byte;
-        }
-    return std::ranges::all_of(todos, [](unsigned char AByte) { return AByte < 0x80; });
-}
-
-// As PercorrerLinhas, with the line feeds looked up among the bytes of the text, which is quicker.
+// As PercorrerLinhas, by searches that are quicker where lines are long.
 template <typename TAcao>
-void PercorrerLinhasAscii(const char* ABytes, std::u16string_view ATexto, TAcao AAcao) {
-    while (const void* quebra = std::memchr(ABytes, '\n', ATexto.size())) {
-        const auto tamanho = static_cast<std::size_t>(static_cast<const char*>(quebra) - ABytes);
-        const bool com_retorno = tamanho > 0 && ABytes[tamanho - 1] == '\r';
-        const std::size_t linha = com_retorno ? tamanho - 1 : tamanho;
-        if (std::memchr(ABytes, '\r', linha))
-            PercorrerLinhas(ATexto.substr(0, linha), AAcao);
+void PercorrerLinhasDeBytes(std::string_view ABytes, TAcao AAcao) {
+    const auto percorrer = [&](std::string_view ATrecho) {
+        if (ATrecho.find('\r') != ATrecho.npos)
+            PercorrerLinhas(ATrecho, AAcao);
         else
-            AAcao(ATexto.substr(0, linha));
-        ABytes += tamanho + 1;
-        ATexto.remove_prefix(tamanho + 1);
-    }
-    if (std::memchr(ABytes, '\r', ATexto.size()))
-        PercorrerLinhas(ATexto, AAcao);
-    else
-        AAcao(ATexto);
+            AAcao(ATrecho);
+    };
+    for (std::size_t quebra = 0; (quebra = ABytes.find('\n')) != ABytes.npos; ABytes.remove_prefix(quebra + 1))
+        percorrer(ABytes.substr(0, quebra > 0 && ABytes[quebra - 1] == '\r' ? quebra - 1 : quebra));
+    percorrer(ABytes);
+}
+
+std::string_view ApararBytes(std::string_view ABytes) {
+    const auto branco = [](char AByte) { return EhBranco(static_cast<unsigned char>(AByte)); };
+    while (!ABytes.empty() && branco(ABytes.front())) ABytes.remove_prefix(1);
+    while (!ABytes.empty() && branco(ABytes.back())) ABytes.remove_suffix(1);
+    return ABytes;
+}
+
+// Blocks of this many characters are what the compiler turns into few instructions.
+constexpr std::size_t CBloco = 16;
+
+// By way of copies of its own: characters written through a pointer might be the bytes still to be read.
+void AlargarBloco(const char* ABytes, char16_t* ADestino) {
+    std::array<unsigned char, CBloco> bytes;
+    std::array<char16_t, CBloco> texto;
+    std::memcpy(bytes.data(), ABytes, sizeof bytes);
+    for (std::size_t i = 0; i < CBloco; ++i) texto[i] = bytes[i];
+    std::memcpy(ADestino, texto.data(), sizeof texto);
+}
+
+// Writes ABytes, which are ASCII, as characters; the end of what was written.
+char16_t* Alargar(std::string_view ABytes, char16_t* ADestino) {
+    const std::size_t tamanho = ABytes.size();
+    if (tamanho < CBloco) return std::copy(ABytes.begin(), ABytes.end(), ADestino);
+    for (std::size_t i = 0; i + CBloco <= tamanho; i += CBloco) AlargarBloco(ABytes.data() + i, ADestino + i);
+    // The last block reaches back into the one before it.
+    AlargarBloco(ABytes.data() + tamanho - CBloco, ADestino + tamanho - CBloco);
+    return ADestino + tamanho;
+}
+
+/// What a run of bytes is made of.
+struct TFeitio {
+    bool Ascii;            // and no zero byte
+    bool QuebrasInteiras;  // every CR stands before an LF and every LF behind a CR
+};
+
+// ABytes, which are not empty, begin and end where chunks do, so that half a line break at an end does not count: it is
+// trimmed.
+TFeitio Examinar(std::string_view ABytes) {
+    std::array<unsigned char, CBloco> fora{};
+    std::array<unsigned char, CBloco> soltas{};
+    const auto examinar = [&](const char* AByte, std::size_t AIndice) {
+        const auto anterior = static_cast<unsigned char>(AByte[-1]);
+        const auto byte = static_cast<unsigned char>(*AByte);
+        // Zero and what lies beyond ASCII both have the upper bit, or get it when one is taken away.
+        fora[AIndice] = static_cast<unsigned char>(fora[AIndice] | static_cast<unsigned char>(byte - 1) | byte);
+        soltas[AIndice] = static_cast<unsigned char>(soltas[AIndice] | ((anterior == '\r') ^ (byte == '\n')));
+    };
+    std::size_t feitos = 1;
+    for (; feitos + CBloco <= ABytes.size(); feitos += CBloco)
+        for (std::size_t i = 0; i < CBloco; ++i) examinar(ABytes.data() + feitos + i, i);
+    for (; feitos < ABytes.size(); ++feitos) examinar(ABytes.data() + feitos, 0);
+    const auto ascii = [](unsigned char AByte) { return AByte < 0x80; };
+    const auto primeiro = static_cast<unsigned char>(ABytes.front());
+    return {primeiro > 0 && ascii(primeiro) && std::ranges::all_of(fora, ascii),
+            std::ranges::all_of(soltas, [](unsigned char AByte) { return AByte == 0; })};
+}
+
+// Calls AAcao for each chunk of APartes, trimmed.
+template <typename TAcao>
+void PercorrerPartes(std::string_view APartes, TAcao AAcao) {
+    constexpr std::size_t CParte = TSaidaDeComando::CTamanhoDaParte;
+    for (std::size_t i = 0; i < APartes.size(); i += CParte) AAcao(ApararBytes(APartes.substr(i, CParte)));
 }
 
 }  // namespace
@@ -74,6 +121,22 @@ void TSaidaEmLista::Continuar(std::u16string_view ATexto) {
         FLinhas.back().append(ATexto);
 }
 
+void TSaidaEmLista::ContinuarAscii(std::string_view APartes, bool /*AQuebrasInteiras*/) {
+    std::array<char16_t, TSaidaDeComando::CTamanhoDaParte> texto;
+    PercorrerPartes(APartes, [&](std::string_view AParte) {
+        if (AParte.empty()) return ParteVazia();
+        Alargar(AParte, texto.data());
+        bool primeira = true;
+        PercorrerLinhasDeBytes(AParte, [&](std::string_view ALinha) {
+            const std::u16string_view linha(texto.data() + (ALinha.data() - AParte.data()), ALinha.size());
+            if (std::exchange(primeira, false))
+                Continuar(linha);
+            else
+                NovaLinha(linha);
+        });
+    });
+}
+
 // A list does not tell a text that ends with a line break from one that does not: setting it drops the break.
 void TSaidaEmLista::ParteVazia() {
     Abrir();
@@ -82,25 +145,48 @@ void TSaidaEmLista::ParteVazia() {
 
 void TSaidaEmLista::Abrir() {
     if (std::exchange(FAberta, true)) return;
-    const auto possui_quebra = [](const std::u16string& ALinha) { return std::ranges::any_of(ALinha, EhQuebra); };
+    const auto possui_quebra = [](const std::u16string& ALinha) {
+        return std::ranges::any_of(ALinha, EhQuebra<char16_t>);
+    };
     if (std::ranges::none_of(FLinhas, possui_quebra)) return;
     std::vector<std::u16string> linhas;
-    PercorrerLinhas(JuntarLinhas(FLinhas), [&](std::u16string_view ALinha) { linhas.emplace_back(ALinha); });
+    PercorrerLinhas(std::u16string_view(JuntarLinhas(FLinhas)),
+                    [&](std::u16string_view ALinha) { linhas.emplace_back(ALinha); });
     FLinhas = std::move(linhas);
 }
 
 void TSaidaEmTexto::Continuar(std::u16string_view ATexto) {
-    ReservarParaParte();
+    ReservarParaPartes();
     FTexto.append(ATexto);
 }
 
-void TSaidaEmTexto::ReservarParaParte() {
-    constexpr std::size_t CMaiorParte = 3 * TSaidaDeComando::CTamanhoDaParte;  // all of it line breaks
+void TSaidaEmTexto::ContinuarAscii(std::string_view APartes, bool AQuebrasInteiras) {
+    std::array<char16_t, 2 * TSaidaDeComando::CTamanhoDoGrupo> texto;  // all of it line breaks
+    char16_t* fim = texto.data();
+    PercorrerPartes(APartes, [&](std::string_view AParte) {
+        if (AQuebrasInteiras) {
+            fim = Alargar(AParte, fim);
+            return;
+        }
+        PercorrerLinhasDeBytes(AParte, [&](std::string_view ALinha) {
+            fim = Alargar(ALinha, fim);
+            *fim++ = u'\r';
+            *fim++ = u'\n';
+        });
+        fim -= 2;
+    });
+    ReservarParaPartes();
+    FTexto.append(texto.data(), fim);
+}
+
+void TSaidaEmTexto::ReservarParaPartes() {
+    constexpr std::size_t CMaiorGrupo = 3 * TSaidaDeComando::CTamanhoDoGrupo;
     constexpr std::size_t CTextoLongo = 1 << 20;
-    if (FTexto.capacity() < CTextoLongo || FTexto.capacity() - FTexto.size() >= CMaiorParte) return;
+    if (FTexto.capacity() < CTextoLongo || FTexto.capacity() - FTexto.size() >= CMaiorGrupo) return;
     std::u16string maior;
     try {
-        maior.reserve(FTexto.capacity() * Plataforma::BuscarFatorDeCrescimento());
+        maior.reserve(std::max(FTexto.capacity() * Plataforma::BuscarFatorDeCrescimento(),
+                               Plataforma::BuscarReservaDeTextoLongo() / sizeof(char16_t)));
     } catch (const std::exception&) {
         return;  // it grows as far as it needs to
     }
@@ -121,38 +207,36 @@ void TSaidaDeComando::Receber(std::string_view ABytes) {
         ABytes.remove_prefix(falta);
         if (FResto.size() == CTamanhoDaParte) FecharParte();
     }
-    for (; ABytes.size() >= CTamanhoDaParte; ABytes.remove_prefix(CTamanhoDaParte))
-        ReceberParte(ABytes.substr(0, CTamanhoDaParte));
+    while (ABytes.size() >= CTamanhoDaParte) {
+        const std::size_t grupo = std::min(ABytes.size() / CTamanhoDaParte * CTamanhoDaParte, CTamanhoDoGrupo);
+        ReceberGrupo(ABytes.substr(0, grupo));
+        ABytes.remove_prefix(grupo);
+    }
     FResto.append(ABytes);
 }
 
 void TSaidaDeComando::FecharParte() {
-    if (!FResto.empty()) ReceberParte(FResto);
+    if (!FResto.empty()) ReceberGrupo(FResto);
     FResto.clear();
 }
 
+void TSaidaDeComando::ReceberGrupo(std::string_view APartes) {
+    const TFeitio feitio = Examinar(APartes);
+    if (feitio.Ascii) return FDestino.ContinuarAscii(APartes, feitio.QuebrasInteiras);
+    for (std::size_t i = 0; i < APartes.size(); i += CTamanhoDaParte) ReceberParte(APartes.substr(i, CTamanhoDaParte));
+}
+
 void TSaidaDeComando::ReceberParte(std::string_view ABytes) {
-    ABytes = ABytes.substr(0, ABytes.find('\0'));
+    const std::u16string decodificado = FDecodificador(ABytes.substr(0, ABytes.find('\0')));
+    const std::u16string_view aparado = Aparar(decodificado);
+    if (aparado.empty()) return FDestino.ParteVazia();
     bool primeira = true;
-    const auto anexar = [&](std::u16string_view ALinha) {
+    PercorrerLinhas(aparado, [&](std::u16string_view ALinha) {
         if (std::exchange(primeira, false))
             FDestino.Continuar(ALinha);
         else
             FDestino.NovaLinha(ALinha);
-    };
-    std::array<char, CEspaco> bytes{};
-    std::array<char16_t, CEspaco> texto;
-    std::memcpy(bytes.data(), ABytes.data(), ABytes.size());
-    if (AlargarAscii(bytes, texto)) {
-        const std::u16string_view aparado = Aparar({texto.data(), ABytes.size()});
-        if (aparado.empty()) return FDestino.ParteVazia();
-        PercorrerLinhasAscii(bytes.data() + (aparado.data() - texto.data()), aparado, anexar);
-    } else {
-        const std::u16string decodificado = FDecodificador(ABytes);
-        const std::u16string_view aparado = Aparar(decodificado);
-        if (aparado.empty()) return FDestino.ParteVazia();
-        PercorrerLinhas(aparado, anexar);
-    }
+    });
 }
 
 std::vector<std::u16string> LinhasDaSaidaDeComando(std::string_view ABytes) {

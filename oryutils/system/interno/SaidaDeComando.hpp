@@ -18,6 +18,10 @@ public:
     virtual void NovaLinha(std::u16string_view ATexto) = 0;
     /// A chunk of which nothing was left.
     virtual void ParteVazia() = 0;
+    /// Chunks, all but the last one whole, that are ASCII without zero bytes, not trimmed yet, at most
+    /// TSaidaDeComando::CTamanhoDoGrupo bytes: does with each what the others do. AQuebrasInteiras: inside them every
+    /// line break is CR LF.
+    virtual void ContinuarAscii(std::string_view APartes, bool AQuebrasInteiras) = 0;
 };
 
 /// Goes on with the lines of a list, which must outlive this.
@@ -27,6 +31,7 @@ public:
     void Continuar(std::u16string_view ATexto) override;
     void NovaLinha(std::u16string_view ATexto) override { FLinhas.emplace_back(ATexto); }
     void ParteVazia() override;
+    void ContinuarAscii(std::string_view APartes, bool AQuebrasInteiras) override;
 
 private:
     void Abrir();
@@ -42,9 +47,10 @@ public:
     void Continuar(std::u16string_view ATexto) override;
     void NovaLinha(std::u16string_view ATexto) override { FTexto.append(u"\r\n").append(ATexto); }
     void ParteVazia() override {}
+    void ContinuarAscii(std::string_view APartes, bool AQuebrasInteiras) override;
 
 private:
-    void ReservarParaParte();
+    void ReservarParaPartes();
 
     std::u16string& FTexto;
 };
@@ -56,6 +62,8 @@ class TSaidaDeComando {
 public:
     /// Bytes taken at once.
     static constexpr std::size_t CTamanhoDaParte = 255;
+    /// Bytes of the whole chunks that are looked at together.
+    static constexpr std::size_t CTamanhoDoGrupo = 16 * CTamanhoDaParte;
     using TDecodificador = std::function<std::u16string(std::string_view)>;
 
     /// ADecodificador reads the chunks that are not plain ASCII.
@@ -67,6 +75,7 @@ public:
     void FecharParte();
 
 private:
+    void ReceberGrupo(std::string_view APartes);
     void ReceberParte(std::string_view ABytes);
 
     TDestinoDaSaida& FDestino;
