@@ -324,6 +324,8 @@ void TJanelaQt::closeEvent(QCloseEvent* AEvento) {
     FFormulario.Fechar();
 }
 
+void TJanelaQt::done(int) { FFormulario.Fechar(); }
+
 void TJanelaQt::resizeEvent(QResizeEvent* AEvento) {
     QDialog::resizeEvent(AEvento);
     if (isVisible()) Avisar([this] { FFormulario.AoRedimensionar(width(), height()); });

@@ -27,6 +27,8 @@ public:
     void Mudou(TControleFormulario& AControle, TMudanca AMudanca) override;
     void MudouFormulario(TMudanca AMudanca) override;
     void ResultadoMudou() override;
+    /// Who accepts or rejects the dialog from outside closes the form; only the form tells the result.
+    void done(int AResultado) override;
 
 protected:
     void closeEvent(QCloseEvent* AEvento) override;
