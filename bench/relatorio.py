@@ -299,6 +299,7 @@ def ler_comando(*comando):
 def descrever_maquina():
     cpu = next((l.split(":")[1].strip() for l in Path("/proc/cpuinfo").read_text().splitlines()
                 if l.startswith("model name")), "unknown processor")
+    nucleo = ".".join(platform.release().split(".")[:2])
     sistema = platform.freedesktop_os_release().get("PRETTY_NAME", "") if hasattr(platform, "freedesktop_os_release") else ""
     memoria = int(re.search(r"MemTotal:\s+(\d+)", Path("/proc/meminfo").read_text())[1]) / 2**20
     node = ler_comando("node", "--version")
@@ -306,8 +307,8 @@ def descrever_maquina():
     return tabela_de_documento(["machine", ""], [
         ["processor", f"{cpu}, {os.cpu_count()} logical"],
         ["memory", f"{memoria:.1f} GiB"],
-        ["system", f"{sistema}, Linux {platform.release()}, virtual" if "hypervisor" in Path("/proc/cpuinfo").read_text()
-         else f"{sistema}, Linux {platform.release()}"],
+        ["system", f"{sistema}, Linux {nucleo}, virtual" if "hypervisor" in Path("/proc/cpuinfo").read_text()
+         else f"{sistema}, Linux {nucleo}"],
         ["compiler", ler_comando("c++", "--version").split("\n")[0] + ", -O2"],
         ["node", node or "none"],
         ["load averages at the end of the run", carga],
