@@ -5,14 +5,6 @@
 
 namespace OryUtils::Plataforma {
 
-// Large pages: each page first touched costs as much as writing it.
-void AnunciarPreenchimento(void* AInicio, std::size_t ABytes) noexcept {
-    constexpr std::uintptr_t CPagina = std::uintptr_t{2} << 20;
-    const auto inicio = (reinterpret_cast<std::uintptr_t>(AInicio) + CPagina - 1) / CPagina * CPagina;
-    const auto fim = (reinterpret_cast<std::uintptr_t>(AInicio) + ABytes) / CPagina * CPagina;
-    if (fim > inicio) ::madvise(reinterpret_cast<void*>(inicio), fim - inicio, MADV_HUGEPAGE);
-}
-
 void PrepararEscrita(void* AInicio, std::size_t ABytes) noexcept {
     constexpr std::uintptr_t CPagina = 4096;
     const auto inicio = reinterpret_cast<std::uintptr_t>(AInicio) / CPagina * CPagina;

@@ -2,8 +2,6 @@
 
 namespace OryUtils::Plataforma {
 
-void AnunciarPreenchimento(void*, std::size_t) noexcept {}
-
 void PrepararEscrita(void*, std::size_t) noexcept {}
 
 std::size_t BuscarFatorDeCrescimento() noexcept { return 2; }

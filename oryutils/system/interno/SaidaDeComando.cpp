@@ -190,7 +190,6 @@ void TSaidaEmTexto::ReservarParaPartes() {
     } catch (const std::exception&) {
         return;  // it grows as far as it needs to
     }
-    Plataforma::AnunciarPreenchimento(maior.data(), maior.capacity() * sizeof(char16_t));
     maior.append(FTexto);
     FTexto.swap(maior);
 }
