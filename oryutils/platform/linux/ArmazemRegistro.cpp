@@ -2,11 +2,11 @@
 
 #include "oryutils/platform/PastasDoSistema.hpp"
 #include "oryutils/platform/interno/Unidades.hpp"
+#include "oryutils/platform/linux/Exibicao.hpp"
 
 #include <array>
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <fcntl.h>
 #include <pwd.h>
 #include <sys/file.h>
@@ -69,14 +69,8 @@ TErroRegistro DeErrno(int AErro, TErroRegistro ADemais) {
     }
 }
 
-// Not in a program that runs with more rights than its user: the variables are the user's.
-std::string BuscarVariavel(const char* ANome) {
-    const char* valor = ::secure_getenv(ANome);
-    return valor ? valor : "";
-}
-
 std::string BuscarPastaPessoal() {
-    if (std::string pasta = BuscarVariavel("HOME"); !pasta.empty()) return pasta;
+    if (std::string pasta = BuscarVariavelDeAmbiente("HOME"); !pasta.empty()) return pasta;
     std::array<char, 16384> memoria{};
     passwd conta{};
     passwd* achada = nullptr;
@@ -86,7 +80,7 @@ std::string BuscarPastaPessoal() {
 
 std::string BuscarPastaDoUsuario() {
     // A relative folder counts as none.
-    if (const std::string pasta = BuscarVariavel("XDG_CONFIG_HOME"); pasta.starts_with('/'))
+    if (const std::string pasta = BuscarVariavelDeAmbiente("XDG_CONFIG_HOME"); pasta.starts_with('/'))
         return pasta + std::string(CPastaDoUsuario);
     const std::string pessoal = BuscarPastaPessoal();
     return pessoal.empty() ? pessoal : pessoal + "/.config" + std::string(CPastaDoUsuario);
@@ -205,7 +199,7 @@ TLocalDoArmazem BuscarLocalDoArmazem(TChaveRaiz ARaiz) {
     local.Raiz = doUsuario ? "HKEY_CURRENT_USER" : "HKEY_LOCAL_MACHINE";
     local.ModoDaPasta = doUsuario ? 0700 : 0755;
     local.ModoDoArquivo = doUsuario ? 0600 : 0644;
-    local.Pasta = BuscarVariavel(CVariavelDaPasta);
+    local.Pasta = BuscarVariavelDeAmbiente(CVariavelDaPasta);
     if (local.Pasta.empty()) local.Pasta = doUsuario ? BuscarPastaDoUsuario() : CPastaDoSistema;
     return local;
 }

@@ -12,7 +12,8 @@ bool PossuiExibicao();
 /// Never relative to the current folder.
 std::string BuscarPastaDoModulo();
 
-/// Value of an environment variable; empty when it is not set.
+/// Value of an environment variable; empty when it is not set, and in a program that runs with more rights than its
+/// user.
 std::string BuscarVariavelDeAmbiente(const char* ANome);
 
 }  // namespace OryUtils::Plataforma
