@@ -2,6 +2,7 @@
 
 #include "oryutils/platform/PastasDoSistema.hpp"
 #include "oryutils/platform/interno/Unidades.hpp"
+#include "oryutils/platform/linux/Descritor.hpp"
 #include "oryutils/platform/linux/Exibicao.hpp"
 
 #include <array>
@@ -37,21 +38,6 @@ constexpr std::array CChavesDoUsuario{
     u"HKEY_CURRENT_USER\\Environment",
 };
 constexpr std::u16string_view CChaveDosProgramas = u"HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion";
-
-class TDescritor {
-public:
-    explicit TDescritor(int AAlca) : FAlca(AAlca) {}
-    ~TDescritor() {
-        if (FAlca >= 0) ::close(FAlca);
-    }
-    TDescritor(const TDescritor&) = delete;
-    TDescritor& operator=(const TDescritor&) = delete;
-    int Get() const { return FAlca; }
-    bool Falhou() const { return FAlca < 0; }
-
-private:
-    int FAlca;
-};
 
 TErroRegistro DeErrno(int AErro, TErroRegistro ADemais) {
     switch (AErro) {

@@ -1,5 +1,7 @@
 #include "oryutils/platform/ArquivoVigiado.hpp"
 
+#include "oryutils/platform/linux/Descritor.hpp"
+
 #include <algorithm>
 #include <array>
 #include <atomic>
@@ -67,11 +69,10 @@ public:
         static TObservador observador;
         return observador;
     }
-    TObservador(const TObservador&) = delete;
-    TObservador& operator=(const TObservador&) = delete;
 
     bool Inscrever(const std::string& ANome, TInscrito& AInscrito) {
         constexpr std::uint32_t CDoArquivo = IN_OPEN | IN_CLOSE_WRITE | IN_ATTRIB | IN_MOVE_SELF | IN_DELETE_SELF;
+        if (!FVale) return false;
         const std::lock_guard trava(FTrava);
         AInscrito.Arquivo = Incluir(ANome, CDoArquivo, AInscrito);
         AInscrito.Pasta = Incluir(BuscarPasta(ANome), IN_MOVE_SELF, AInscrito);
@@ -85,32 +86,26 @@ public:
             std::erase(achado->second, &AInscrito);
             if (!achado->second.empty()) continue;
             FInscritos.erase(achado);
-            ::inotify_rm_watch(FAlca, vigia);
+            ::inotify_rm_watch(FAlca.Get(), vigia);
         }
     }
     /// Hands out what has happened; false when the system does not tell. Asking epoll is half as dear as asking the
     /// queue.
     bool Distribuir() {
         epoll_event evento{};
-        const int prontos = ::epoll_wait(FEspera, &evento, 1, 0);
+        const int prontos = ::epoll_wait(FEspera.Get(), &evento, 1, 0);
         return prontos == 0 || (prontos > 0 && LerEventos());
     }
 
 private:
-    TObservador() : FAlca(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC)), FEspera(::epoll_create1(EPOLL_CLOEXEC)) {
+    TObservador() {
         epoll_event evento{};
         evento.events = EPOLLIN;
-        if (::epoll_ctl(FEspera, EPOLL_CTL_ADD, FAlca, &evento) == 0 || FEspera < 0) return;
-        ::close(FEspera);
-        FEspera = -1;
-    }
-    ~TObservador() {
-        for (const int alca : {FAlca, FEspera})
-            if (alca >= 0) ::close(alca);
+        FVale = ::epoll_ctl(FEspera.Get(), EPOLL_CTL_ADD, FAlca.Get(), &evento) == 0;
     }
 
     int Incluir(const std::string& ANome, std::uint32_t AEventos, TInscrito& AInscrito) {
-        const int vigia = ::inotify_add_watch(FAlca, ANome.c_str(), AEventos);
+        const int vigia = ::inotify_add_watch(FAlca.Get(), ANome.c_str(), AEventos);
         if (vigia >= 0) FInscritos[vigia].push_back(&AInscrito);
         return vigia;
     }
@@ -118,7 +113,7 @@ private:
     bool LerEventos() {
         const std::lock_guard trava(FTrava);
         alignas(inotify_event) std::array<char, 4096> bloco;
-        for (ssize_t lidos = 0; (lidos = ::read(FAlca, bloco.data(), bloco.size())) > 0;)
+        for (ssize_t lidos = 0; (lidos = ::read(FAlca.Get(), bloco.data(), bloco.size())) > 0;)
             for (std::size_t i = 0; i < static_cast<std::size_t>(lidos);) {
                 inotify_event evento{};
                 std::memcpy(&evento, bloco.data() + i, sizeof evento);
@@ -130,8 +125,9 @@ private:
         return errno == EAGAIN;
     }
 
-    int FAlca;
-    int FEspera;
+    const TDescritor FAlca{::inotify_init1(IN_NONBLOCK | IN_CLOEXEC)};
+    const TDescritor FEspera{::epoll_create1(EPOLL_CLOEXEC)};
+    bool FVale = false;
     std::mutex FTrava{};
     std::map<int, std::vector<TInscrito*>> FInscritos{};
 };

@@ -1,6 +1,7 @@
 #include "oryutils/platform/Discos.hpp"
 
 #include "oryutils/platform/Utf.hpp"
+#include "oryutils/platform/linux/Descritor.hpp"
 #include "oryutils/platform/linux/TabelaDeMontagens.hpp"
 
 #include <algorithm>
@@ -79,11 +80,8 @@ std::string DecodificarRotulo(std::string_view ATexto) {
 
 std::string PerguntarRotulo(const std::string& APasta) {
     std::array<char, FSLABEL_MAX + 1> rotulo{};
-    const int alca = ::open(APasta.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (alca < 0) return {};
-    const bool respondeu = ::ioctl(alca, FS_IOC_GETFSLABEL, rotulo.data()) == 0;
-    ::close(alca);
-    return respondeu ? rotulo.data() : "";
+    const TDescritor pasta(::open(APasta.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    return ::ioctl(pasta.Get(), FS_IOC_GETFSLABEL, rotulo.data()) == 0 ? rotulo.data() : "";
 }
 
 std::string ProcurarRotulo(const std::string& ADispositivo) {

@@ -1,6 +1,7 @@
 #include "oryutils/platform/linux/Exibicao.hpp"
 
 #include "oryutils/platform/BibliotecaDinamica.hpp"
+#include "oryutils/platform/linux/Descritor.hpp"
 
 #include <climits>
 
@@ -37,11 +38,8 @@ bool RespondeWayland() {
     endereco.sun_family = AF_UNIX;
     if (caminho.size() >= sizeof endereco.sun_path) return false;
     std::memcpy(endereco.sun_path, caminho.c_str(), caminho.size());
-    const int alca = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    if (alca < 0) return false;
-    const bool responde = ::connect(alca, reinterpret_cast<const sockaddr*>(&endereco), sizeof endereco) == 0;
-    ::close(alca);
-    return responde;
+    const TDescritor soquete(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    return ::connect(soquete.Get(), reinterpret_cast<const sockaddr*>(&endereco), sizeof endereco) == 0;
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "oryutils/platform/LinhaDeComando.hpp"
 #include "oryutils/platform/Utf.hpp"
+#include "oryutils/platform/linux/Descritor.hpp"
 #include "oryutils/platform/linux/Elevacao.hpp"
 #include "oryutils/platform/linux/Filhos.hpp"
 
@@ -18,21 +19,6 @@ namespace {
 // A host's message loop has no common signal here: it is looked after so often.
 constexpr std::uint32_t CFatia = 20;
 
-class TDescritor {
-public:
-    explicit TDescritor(int ANumero) : FNumero(ANumero) {}
-    ~TDescritor() {
-        if (FNumero >= 0) ::close(FNumero);
-    }
-    TDescritor(const TDescritor&) = delete;
-    TDescritor& operator=(const TDescritor&) = delete;
-    int Get() const { return FNumero; }
-    int Soltar() { return std::exchange(FNumero, -1); }
-
-private:
-    int FNumero;
-};
-
 std::vector<std::string> ConverterArgumentos(const std::vector<std::u16string>& AArgumentos) {
     std::vector<std::string> argumentos;
     for (const std::u16string& argumento : AArgumentos) argumentos.push_back(ParaUtf8(argumento));
@@ -45,10 +31,10 @@ std::vector<std::string> SepararComando(std::u16string_view ALinha) {
     return ConverterArgumentos(SepararLinhaDeComando(ALinha));
 }
 
-TProcessoIniciado Iniciado(pid_t APid, bool AComAlca) {
+TProcessoIniciado Iniciado(pid_t APid) {
     TProcessoIniciado processo;
     processo.ID = processo.IDThread = static_cast<std::uint32_t>(APid);
-    if (AComAlca) processo.Processo = TAlcaDeProcesso(AbrirPidfd(APid));
+    processo.Processo = TAlcaDeProcesso(AbrirPidfd(APid));
     return processo;
 }
 
@@ -61,7 +47,7 @@ std::optional<TProcessoIniciado> CriarProcesso(std::u16string_view ALinhaDeComan
     if (!AExibir) pedido.Saida = pedido.Erro = nulo.Get();
     const pid_t pid = GerarFilho(pedido);
     if (pid == 0) return std::nullopt;
-    return Iniciado(pid, true);
+    return Iniciado(pid);
 }
 
 std::optional<TProcessoIniciado> ExecutarPeloSistema(const TPedidoDeExecucao& APedido) {
@@ -77,7 +63,7 @@ std::optional<TProcessoIniciado> ExecutarPeloSistema(const TPedidoDeExecucao& AP
     }
     const pid_t pid = GerarFilho(pedido);
     if (pid == 0) return std::nullopt;
-    return Iniciado(pid, true);
+    return Iniciado(pid);
 }
 
 TEspera EsperarProcesso(const TProcessoIniciado& AProcesso, std::uint32_t ALimite, bool AAcordar) {
@@ -110,7 +96,7 @@ std::unique_ptr<TProcessoCapturado> TProcessoCapturado::Iniciar(std::u16string_v
     pedido.Saida = pedido.Erro = escrita.Get();
     const pid_t pid = GerarFilho(pedido);
     if (pid == 0) return nullptr;
-    return std::unique_ptr<TProcessoCapturado>(new TProcessoCapturado(Iniciado(pid, true), leitura.Soltar()));
+    return std::unique_ptr<TProcessoCapturado>(new TProcessoCapturado(Iniciado(pid), leitura.Soltar()));
 }
 
 TProcessoCapturado::~TProcessoCapturado() { ::close(static_cast<int>(FLeitura)); }

@@ -2,6 +2,7 @@
 
 #include "oryutils/platform/ErroDoSistema.hpp"
 #include "oryutils/platform/Utf.hpp"
+#include "oryutils/platform/linux/Descritor.hpp"
 #include "oryutils/platform/linux/Filhos.hpp"
 
 #include <climits>
@@ -34,10 +35,8 @@ std::string CaminhoDe(pid_t APid, std::string_view AArquivo) {
 
 // A file of /proc that fits in the buffer; empty when it cannot be read.
 std::string_view LerArquivo(const std::string& ACaminho, std::span<char> ADestino) {
-    const int arquivo = ::open(ACaminho.c_str(), O_RDONLY | O_CLOEXEC);
-    if (arquivo < 0) return {};
-    const ssize_t lidos = ::read(arquivo, ADestino.data(), ADestino.size());
-    ::close(arquivo);
+    const TDescritor arquivo(::open(ACaminho.c_str(), O_RDONLY | O_CLOEXEC));
+    const ssize_t lidos = arquivo.Falhou() ? 0 : ::read(arquivo.Get(), ADestino.data(), ADestino.size());
     return {ADestino.data(), lidos > 0 ? static_cast<std::size_t>(lidos) : 0};
 }
 

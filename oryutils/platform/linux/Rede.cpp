@@ -2,6 +2,7 @@
 
 #include "oryutils/platform/ErroDoSistema.hpp"
 #include "oryutils/platform/Utf.hpp"
+#include "oryutils/platform/linux/Descritor.hpp"
 #include "oryutils/platform/linux/TabelasDeRede.hpp"
 
 #include <algorithm>
@@ -19,7 +20,6 @@
 #include <netpacket/packet.h>
 #include <sys/socket.h>
 #include <thread>
-#include <unistd.h>
 
 namespace OryUtils::Plataforma {
 namespace {
@@ -131,16 +131,14 @@ std::optional<TEnderecoMac> ProcurarVizinhoAgora(const TEnderecoIP& AEndereco) {
 
 // An empty datagram to a port where nobody listens: before it can go, the kernel must ask who has the address.
 bool ProvocarVizinho(const TEnderecoIP& AEndereco) {
-    const int soquete = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-    if (soquete < 0) return false;
+    const TDescritor soquete(::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+    if (soquete.Falhou()) return false;
     sockaddr_in destino{};
     destino.sin_family = AF_INET;
     destino.sin_port = htons(CPortaDescarte);
     std::memcpy(&destino.sin_addr, AEndereco.data(), AEndereco.size());
-    const bool foi =
-        ::sendto(soquete, "", 0, MSG_NOSIGNAL, reinterpret_cast<const sockaddr*>(&destino), sizeof destino) == 0;
-    ::close(soquete);
-    return foi;
+    const auto* const endereco = reinterpret_cast<const sockaddr*>(&destino);
+    return ::sendto(soquete.Get(), "", 0, MSG_NOSIGNAL, endereco, sizeof destino) == 0;
 }
 
 }  // namespace
