@@ -116,7 +116,17 @@ TDateTime DeInstanteLocal(const Plataforma::TInstanteLocal& AInstante) noexcept 
     return data && hora ? JuntarDataHora(*data, *hora) : TDateTime();
 }
 
-TDateTime Agora() { return DeInstanteLocal(Plataforma::BuscarInstanteLocal()); }
+TDateTime Agora() {
+    // Who asks often asks many times in a millisecond.
+    thread_local Plataforma::TInstanteLocal anterior{};
+    thread_local TDateTime data;
+    const Plataforma::TInstanteLocal instante = Plataforma::BuscarInstanteLocal();
+    if (instante != anterior) {
+        data = DeInstanteLocal(instante);
+        anterior = instante;
+    }
+    return data;
+}
 TDateTime Hoje() { return BuscarParteData(Agora()); }
 
 }  // namespace OryUtils

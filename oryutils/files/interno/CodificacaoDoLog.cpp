@@ -32,28 +32,37 @@ std::u16string Decodificar(std::string_view ABytes, TCodificacaoLog ACodificacao
     }
 }
 
-// Appends ATexto up to its first character beyond ASCII; the number of characters appended. Whole blocks, which the
-// compiler turns into few instructions, and the rest one by one.
+constexpr std::size_t CBloco = 16;
+
+// Narrows one block; false when a character of it is beyond ASCII. The compiler turns it into few instructions.
+bool EstreitarBloco(char* ADestino, const char16_t* AOrigem) {
+    std::array<char16_t, CBloco> letras;
+    std::array<char, CBloco> bytes;
+    std::memcpy(letras.data(), AOrigem, sizeof letras);
+    char16_t todas = 0;
+    for (std::size_t i = 0; i < CBloco; ++i) {
+        todas = static_cast<char16_t>(todas | letras[i]);
+        bytes[i] = static_cast<char>(letras[i]);
+    }
+    std::memcpy(ADestino, bytes.data(), sizeof bytes);
+    return todas < 0x80;
+}
+
+// Appends ATexto up to its first character beyond ASCII; the number of characters appended.
 std::size_t EstreitarAscii(std::string& ADestino, std::u16string_view ATexto) {
-    constexpr std::size_t CBloco = 16;
     const std::size_t antes = ADestino.size();
-    ADestino.resize(antes + ATexto.size());
+    const std::size_t tamanho = ATexto.size();
+    ADestino.resize(antes + tamanho);
     char* const destino = ADestino.data() + antes;
     std::size_t feitos = 0;
-    for (; feitos + CBloco <= ATexto.size(); feitos += CBloco) {
-        std::array<char16_t, CBloco> letras;
-        std::array<char, CBloco> bytes;
-        std::memcpy(letras.data(), ATexto.data() + feitos, sizeof letras);
-        char16_t todas = 0;
-        for (std::size_t i = 0; i < CBloco; ++i) {
-            todas = static_cast<char16_t>(todas | letras[i]);
-            bytes[i] = static_cast<char>(letras[i]);
-        }
-        if (todas >= 0x80) break;
-        std::memcpy(destino + feitos, bytes.data(), sizeof bytes);
-    }
-    for (; feitos < ATexto.size() && ATexto[feitos] < 0x80; ++feitos)
+    while (feitos + CBloco <= tamanho && EstreitarBloco(destino + feitos, ATexto.data() + feitos)) feitos += CBloco;
+    // What is left is the end of one more block, which reaches back into the one before.
+    const std::size_t ultimo = tamanho - std::min(tamanho, CBloco);
+    if (feitos > ultimo && EstreitarBloco(destino + ultimo, ATexto.data() + ultimo)) return tamanho;
+    while (feitos < tamanho && ATexto[feitos] < 0x80) {
         destino[feitos] = static_cast<char>(ATexto[feitos]);
+        ++feitos;
+    }
     ADestino.resize(antes + feitos);
     return feitos;
 }
