@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 #include <string>
 
@@ -262,6 +263,31 @@ TEST(Formulas, ComoAReescrita) {
     }
     EXPECT_GT(valores, 6'000);
     EXPECT_LT(valores, 22'000);
+}
+
+/// Results of 16 digits and more, many of them in the middle between two numbers of 15: how those round depends on the
+/// last bits of the extended floats.
+TEST(Formulas, ComoAReescritaEmMaisDe15Digitos) {
+    const TFormatosTemporarios formatos(BuscarFormatosBrasileiros());
+    const auto semente = std::random_device{}();
+    SCOPED_TRACE(testing::Message() << "seed " << semente);
+    TGerador gerador(semente);
+    const auto operando = [&](std::size_t ADigitos) {
+        std::u16string numero(1, static_cast<char16_t>(u'1' + gerador.Sortear(9)));
+        while (numero.size() < ADigitos) numero += static_cast<char16_t>(u'0' + gerador.Sortear(10));
+        if (gerador.Sortear(2)) numero.back() = u'5';
+        const std::size_t inteiros = 1 + gerador.Sortear(std::min<std::size_t>(ADigitos, 5));
+        return inteiros < ADigitos ? numero.insert(inteiros, 1, u',') : numero;
+    };
+    for (int i = 0; i < 30'000; ++i) {
+        const std::size_t digitos = 1 + gerador.Sortear(15);
+        const std::size_t outros = i % 2 ? 1 + gerador.Sortear(15) : std::min<std::size_t>(15, 17 - digitos);
+        const std::u16string texto = operando(digitos) + u"+-*/"[gerador.Sortear(4)] + operando(outros);
+        TFormulaReescrita reescrita;
+        TOryUtilsFormulas formula;
+        const std::string esperado = Descrever([&] { return reescrita.Calcular(texto); });
+        ASSERT_EQ(Descrever([&] { return formula.Calcular(texto); }), esperado) << ParaUtf8(texto);
+    }
 }
 
 TEST(Formulas, TextosEnormes) {

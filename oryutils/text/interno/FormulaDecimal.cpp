@@ -15,13 +15,31 @@ void RetirarZeros(TDecimal& ADecimal) noexcept {
 std::optional<TDecimal> DecimalDe(Extended AValor) noexcept {
     const Extended magnitude = std::abs(AValor);
     if (!(magnitude < CPrimeiroDe16Digitos)) return std::nullopt;
-    const auto inteiro = static_cast<std::int64_t>(AValor);
-    if (static_cast<Extended>(inteiro) == AValor) return TDecimal{inteiro, 0};
+    if (ArredondarAoInteiro(magnitude) == magnitude) return TDecimal{static_cast<std::int64_t>(AValor), 0};
     const auto [digitos, ordem] = SepararQuinzeDigitos(magnitude);
     if (ordem > 14 || ordem < -TDecimal::CDecimaisSemExpoente) return std::nullopt;
     TDecimal decimal{static_cast<std::int64_t>(digitos), 14 - ordem};
     RetirarZeros(decimal);
     return AValor < 0 ? decimal.Oposto() : decimal;
+}
+
+bool ArredondarDecimal(TDecimal AValor, TDecimal& AResultado) noexcept {
+    const std::int64_t magnitude = std::abs(AValor.Digitos);
+    int sobram = 0;
+    while (sobram < 4 && magnitude >= TDecimal::CPrimeiroLongo * PotenciaInteira(sobram)) ++sobram;
+    if (sobram > std::min(AValor.Decimais, 3)) return false;
+    if (sobram > 0) {
+        // The float errs by less than a fifth of the last digit here, and so rounds to the same side.
+        const std::int64_t unidade = PotenciaInteira(sobram);
+        const std::int64_t resto = magnitude % unidade;
+        if (resto * 2 == unidade) return false;
+        const std::int64_t digitos = magnitude / unidade + (resto * 2 > unidade);
+        AValor = {AValor.Digitos < 0 ? -digitos : digitos, AValor.Decimais - sobram};
+    }
+    if (!AValor.Cabe()) RetirarZeros(AValor);
+    if (!AValor.Cabe()) return false;
+    AResultado = AValor;
+    return true;
 }
 
 char16_t* EscreverDecimal(TDecimal AValor, char16_t* ADestino, char16_t ASeparador) noexcept {

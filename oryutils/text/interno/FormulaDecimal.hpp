@@ -3,7 +3,6 @@
 #include "oryutils/runtime/interno/QuinzeDigitos.hpp"
 
 #include <array>
-#include <bit>
 #include <cstdint>
 #include <cstdlib>
 #include <optional>
@@ -57,29 +56,29 @@ inline constexpr std::size_t CTamanhoMaximoDecimal = 24;
 /// Writes the text at ADestino and answers its end.
 char16_t* EscreverDecimal(TDecimal AValor, char16_t* ADestino, char16_t ASeparador) noexcept;
 
-/// Whether the product of the two certainly fits 64 bits.
-inline bool CabeOProduto(std::int64_t AUm, std::int64_t AOutro) noexcept {
-    const auto bits = [](std::int64_t a) { return std::bit_width(static_cast<std::uint64_t>(std::abs(a))); };
-    return bits(AUm) + bits(AOutro) < 64;
-}
+/// AValor, of at most 18 digits, rounded to 15. False when its text has an exponent, or when it stands in the middle:
+/// the extended float, a little off, knows then.
+bool ArredondarDecimal(TDecimal AValor, TDecimal& AResultado) noexcept;
 
 inline bool Aceitar(TDecimal AValor, TDecimal& AResultado) noexcept {
-    if (!AValor.Cabe()) {
-        RetirarZeros(AValor);
-        if (!AValor.Cabe()) return false;
-    }
+    if (!AValor.Cabe()) return ArredondarDecimal(AValor, AResultado);
     AResultado = AValor;
     return true;
 }
 
-/// The sum as its text shows it. False when it has more than 15 digits, or an exponent: the extended float knows then.
+/// False when the product has more than 18 digits.
+inline bool MultiplicarInteiros(std::int64_t AUm, std::int64_t AOutro, std::int64_t& AProduto) noexcept {
+    constexpr std::int64_t CLimite = PotenciaInteira(18);
+    return !__builtin_mul_overflow(AUm, AOutro, &AProduto) && AProduto > -CLimite && AProduto < CLimite;
+}
+
+/// The sum as its text shows it. False when only the extended float knows it.
 inline bool SomarDecimais(TDecimal AUm, TDecimal AOutro, TDecimal& AResultado) noexcept {
     if (AUm.Decimais != AOutro.Decimais) {
         if (AUm.Decimais > AOutro.Decimais) std::swap(AUm, AOutro);
-        const std::int64_t fator = PotenciaInteira(AOutro.Decimais - AUm.Decimais);
-        if (!CabeOProduto(AUm.Digitos, fator)) return false;
-        AUm = {AUm.Digitos * fator, AOutro.Decimais};
-        if (std::abs(AUm.Digitos) > TDecimal::CPrimeiroLongo * 1000) return false;
+        if (!MultiplicarInteiros(AUm.Digitos, PotenciaInteira(AOutro.Decimais - AUm.Decimais), AUm.Digitos))
+            return false;
+        AUm.Decimais = AOutro.Decimais;
     }
     const TDecimal soma{AUm.Digitos + AOutro.Digitos, AUm.Decimais};
     // The float keeps 64 bits of each: when nearly all of them cancel out, what it leaves differs in the 15th digit.
@@ -91,8 +90,8 @@ inline bool SomarDecimais(TDecimal AUm, TDecimal AOutro, TDecimal& AResultado) n
 
 /// The product, in the same way.
 inline bool MultiplicarDecimais(TDecimal AUm, TDecimal AOutro, TDecimal& AResultado) noexcept {
-    if (!CabeOProduto(AUm.Digitos, AOutro.Digitos)) return false;
-    return Aceitar({AUm.Digitos * AOutro.Digitos, AUm.Decimais + AOutro.Decimais}, AResultado);
+    TDecimal produto{0, AUm.Decimais + AOutro.Decimais};
+    return MultiplicarInteiros(AUm.Digitos, AOutro.Digitos, produto.Digitos) && Aceitar(produto, AResultado);
 }
 
 }  // namespace OryUtils::Interno

@@ -14,6 +14,26 @@ constexpr std::ptrdiff_t CMaximoDeDigitos = 15;
 constexpr bool EhIgnorado(char16_t c) noexcept { return c == u' ' || c == u'.'; }
 constexpr bool EhLetra(char16_t c) noexcept { return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') || c >= 128; }
 constexpr unsigned BitDe(TOperCalc AOperador) noexcept { return 1U << AOperador; }
+constexpr unsigned BitsAte(TOperCalc AOperador) noexcept { return (2U << AOperador) - 1; }
+
+/// Behind the limit of the resolved text.
+constexpr std::size_t CReserva = CTamanhoMaximoExtended + 2;
+
+/// A character of a name.
+struct TDeNome {
+    char16_t Maiuscula = 0;  // 0 ends the name
+    char16_t Minuscula = 0;
+};
+constexpr auto CDeNome = [] {
+    std::array<TDeNome, 128> tabela{};
+    for (char16_t c = 0; c < tabela.size(); ++c)
+        if (EhDigito(c) || c == u'_' || c == u',') tabela[c] = {c, c};
+    for (char16_t c = u'A'; c <= u'Z'; ++c) {
+        const auto minuscula = static_cast<char16_t>(c + 32);
+        tabela[c] = tabela[minuscula] = {c, minuscula};
+    }
+    return tabela;
+}();
 
 /// Up to three characters in one number.
 constexpr std::uint64_t JuntarNome(std::u16string_view ANome) noexcept {
@@ -62,6 +82,7 @@ std::optional<Extended> TFormulaDireta::Calcular(std::u16string_view AFormula, c
     FFuncoesAbertas = 0;
     FTerminou = false;
     FEscrita = FResolvida.data();
+    FLimite = FEscrita + FResolvida.size() - std::min(FResolvida.size(), CReserva);
     ReservarValor();
     FGrupo = FGrupos.data();
     FGrupo->Operador = CSemOperador;
@@ -74,13 +95,11 @@ std::optional<Extended> TFormulaDireta::Calcular(std::u16string_view AFormula, c
     return FGrupo->Atual.ParaExtended();
 }
 
-/// Room for one value more, for what is still to be read, and for a name that waits to be one or the other.
-void TFormulaDireta::ReservarValor() {
+void TFormulaDireta::AumentarResolvida() {
     const auto escritos = static_cast<std::size_t>(FEscrita - FResolvida.data());
-    const std::size_t tamanho = escritos + CTamanhoMaximoDecimal + 2 + static_cast<std::size_t>(FFim - FLeitura);
-    if (FResolvida.size() >= tamanho) return;
-    FResolvida.resize(tamanho * 2);
+    FResolvida.resize((escritos + static_cast<std::size_t>(FFim - FLeitura) + CReserva) * 2);
     FEscrita = FResolvida.data() + escritos;
+    FLimite = FResolvida.data() + FResolvida.size() - CReserva;
 }
 
 /// Reads up to an operand and what follows it, or up to what opens a group.
@@ -135,24 +154,32 @@ bool TFormulaDireta::LerNome() {
     // In upper case at the end of the resolved text, where the value takes its place.
     char16_t* escrita = FEscrita;
     const char16_t* p = FLeitura;
+    TDispersao dispersao;
     for (; p != FFim; ++p) {
-        const char16_t c = *p;
-        if (!EhLetra(c) && !EhDigito(c) && c != u'_' && c != u',') break;
-        *escrita++ = c >= u'a' && c <= u'z' ? static_cast<char16_t>(c - 32) : c < 128 ? c : MaiusculaDe(c);
+        if (*p < CDeNome.size()) {
+            const TDeNome c = CDeNome[*p];
+            if (c.Maiuscula == 0) break;
+            *escrita++ = c.Maiuscula;
+            dispersao.JuntarMinuscula(c.Minuscula);
+        } else {
+            *escrita = MaiusculaDe(*p);
+            dispersao.Juntar(*escrita++);
+        }
     }
     const std::u16string_view nome(FEscrita, escrita);
     while (p != FFim && EhIgnorado(*p)) ++p;
-    FLeitura = p;
     if (p != FFim && *p == u'(') {
-        ++FLeitura;
+        FLeitura = p + 1;
         const auto funcao = BuscarFuncao(nome);
         return funcao && Abrir(true, *funcao);
     }
-    const TVariaveis::TValor* const valor = FVariaveis.BuscarValor(nome);
+    FLeitura = p;
+    const TVariaveis::TValor* const valor = FVariaveis.BuscarValor(nome, dispersao);
     if (!valor || !valor->Decimal) return false;
     if (FFuncoesAbertas == 0) {
         ReservarValor();
-        FEscrita = std::copy_n(valor->Texto.data(), valor->Tamanho, FEscrita);
+        std::copy(valor->Texto.begin(), valor->Texto.end(), FEscrita);  // a fixed length goes faster
+        FEscrita += valor->Tamanho;
     }
     return Receber(*valor->Decimal, orTexto) && LerOperador();
 }
@@ -235,15 +262,20 @@ bool TFormulaDireta::Fechar() {
     return Receber(*valor, orTexto);
 }
 
-/// The operand that comes behind Operador. A negative one meets the "-" before it: in the first text, where variables
-/// and functions stand, the two become a "+"; later they are two subtractions, with nothing in between.
-bool TFormulaDireta::Receber(TDecimal AValor, TOrigem AOrigem) {
+/// The operand that comes behind Operador.
+inline bool TFormulaDireta::Receber(TDecimal AValor, TOrigem AOrigem) {
+    const bool tem_sinal = FGrupo->Sinal || (AValor.Digitos < 0 && FGrupo->Operador == ocSubtracao);
+    return tem_sinal ? ReceberComSinal(AValor, AOrigem) : Empurrar(AValor);
+}
+
+/// A negative one meets the "-" before it: in the first text, where variables and functions stand, the two become a
+/// "+"; later they are two subtractions, with nothing in between.
+bool TFormulaDireta::ReceberComSinal(TDecimal AValor, TOrigem AOrigem) {
     if (FGrupo->Sinal) {
         if (AValor.Digitos <= 0) return false;
         FGrupo->Sinal = false;
         return Empurrar(AValor.Oposto());
     }
-    if (AValor.Digitos >= 0 || FGrupo->Operador != ocSubtracao) return Empurrar(AValor);
     if (AOrigem == orTexto) {
         FGrupo->Operador = ocSoma;
     } else {
@@ -255,44 +287,57 @@ bool TFormulaDireta::Receber(TDecimal AValor, TOrigem AOrigem) {
 
 bool TFormulaDireta::Empurrar(TDecimal AValor) {
     TGrupo& grupo = *FGrupo;
-    if (grupo.Operador != CSemOperador) {
-        if (grupo.Esperando != 0 && !Reduzir(grupo.Operador)) return false;
-        grupo.Esquerdas[grupo.Operador] = grupo.Atual;
-        grupo.Esperando = static_cast<std::uint8_t>(grupo.Esperando | BitDe(grupo.Operador));
+    const TOperCalc operador = grupo.Operador;
+    if (operador != CSemOperador) {
+        if ((grupo.Esperando & BitsAte(operador)) != 0 && !Reduzir(operador)) return false;
+        grupo.Esquerdas[operador] = grupo.Atual;
+        grupo.Esperando = static_cast<std::uint8_t>(grupo.Esperando | BitDe(operador));
         grupo.Operador = CSemOperador;
     }
     grupo.Atual = AValor;
     return true;
 }
 
+/// The result takes the place of AOutro.
+inline bool TFormulaDireta::Operar(TOperCalc AOperador, const TDecimal& AUm, TDecimal& AOutro) const {
+    if (FRegras.Ajuste == maNenhum) {
+        if (AOperador == ocMultiplicacao) {
+            if (MultiplicarDecimais(AUm, AOutro, AOutro)) return true;
+        } else if (AOperador != ocDivisao) {
+            if (SomarDecimais(AUm, AOperador == ocSoma ? AOutro : AOutro.Oposto(), AOutro)) return true;
+        }
+    }
+    return OperarPorExtended(AOperador, AUm, AOutro);
+}
+
+/// AValor - 0, which is AValor unless it is rounded or has an exponent.
+inline bool TFormulaDireta::SubtrairNada(TDecimal& AValor) const {
+    if (FRegras.Ajuste == maNenhum && !AValor.TemExpoente()) return true;
+    TDecimal resultado;
+    if (!OperarPorExtended(ocSubtracao, AValor, resultado)) return false;
+    AValor = resultado;
+    return true;
+}
+
 /// Resolves the operators up to AUltimo that wait for Atual.
 bool TFormulaDireta::Reduzir(TOperCalc AUltimo) {
     TGrupo& grupo = *FGrupo;
-    while (grupo.Esperando != 0) {
-        const auto operador = static_cast<TOperCalc>(std::countr_zero(grupo.Esperando));
-        if (operador > AUltimo) break;
+    while (const unsigned prontos = grupo.Esperando & BitsAte(AUltimo)) {
+        const auto operador = static_cast<TOperCalc>(std::countr_zero(prontos));
         grupo.Esperando = static_cast<std::uint8_t>(grupo.Esperando & ~BitDe(operador));
-        if (!Operar(operador, grupo.Esquerdas[operador], grupo.Atual, grupo.Atual)) return false;
+        if (!Operar(operador, grupo.Esquerdas[operador], grupo.Atual)) return false;
         if (grupo.Atual.Digitos >= 0 || grupo.Esperando != BitDe(ocSubtracao)) continue;
         // Behind a "-" the sign of a result is one more subtraction.
-        TDecimal& esquerda = grupo.Esquerdas[ocSubtracao];
-        if (!Operar(ocSubtracao, esquerda, {}, esquerda)) return false;
+        if (!SubtrairNada(grupo.Esquerdas[ocSubtracao])) return false;
         grupo.Atual = grupo.Atual.Oposto();
     }
     return true;
 }
 
-bool TFormulaDireta::Operar(TOperCalc AOperador, TDecimal AUm, TDecimal AOutro, TDecimal& AResultado) const {
-    if (FRegras.Ajuste == maNenhum) {
-        if (AOperador == ocMultiplicacao) {
-            if (MultiplicarDecimais(AUm, AOutro, AResultado)) return true;
-        } else if (AOperador != ocDivisao) {
-            if (SomarDecimais(AUm, AOperador == ocSoma ? AOutro : AOutro.Oposto(), AResultado)) return true;
-        }
-    }
+bool TFormulaDireta::OperarPorExtended(TOperCalc AOperador, const TDecimal& AUm, TDecimal& AOutro) const {
     const auto valor =
         DecimalDe(FRegras.Ajustar(CalcularOperacao(AOperador, AUm.ParaExtended(), AOutro.ParaExtended())));
-    if (valor) AResultado = *valor;
+    if (valor) AOutro = *valor;
     return valor.has_value();
 }
 

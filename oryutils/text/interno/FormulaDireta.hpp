@@ -50,15 +50,22 @@ private:
     bool Fechar();
     bool Separar();
     bool Receber(TDecimal AValor, TOrigem AOrigem);
+    bool ReceberComSinal(TDecimal AValor, TOrigem AOrigem);
     bool Empurrar(TDecimal AValor);
     bool Reduzir(TOperCalc AUltimo);
-    bool Operar(TOperCalc AOperador, TDecimal AUm, TDecimal AOutro, TDecimal& AResultado) const;
+    bool Operar(TOperCalc AOperador, const TDecimal& AUm, TDecimal& AOutro) const;
+    bool SubtrairNada(TDecimal& AValor) const;
+    bool OperarPorExtended(TOperCalc AOperador, const TDecimal& AUm, TDecimal& AOutro) const;
 
     void Copiar(char16_t c) noexcept {
         *FEscrita = c;
         FEscrita += FFuncoesAbertas == 0;  // what functions hold does not show
     }
-    void ReservarValor();
+    /// Room for one value more, for what is still to be read, and for a name that waits to be one or the other.
+    void ReservarValor() {
+        if (FLimite - FEscrita < FFim - FLeitura) AumentarResolvida();
+    }
+    void AumentarResolvida();
 
     static constexpr std::size_t CProfundidade = 48;
 
@@ -71,6 +78,7 @@ private:
     bool FTerminou = false;
     std::u16string FResolvida;  // working room
     char16_t* FEscrita = nullptr;
+    const char16_t* FLimite = nullptr;  // from here on one value may not fit
     std::array<TGrupo, CProfundidade> FGrupos{};
 };
 

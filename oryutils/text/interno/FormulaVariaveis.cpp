@@ -1,42 +1,41 @@
 #include "oryutils/text/interno/FormulaVariaveis.hpp"
 
-#include "oryutils/runtime/Caixa.hpp"
-
 #include <algorithm>
 #include <bit>
 
 namespace OryUtils::Interno {
 namespace {
 
-char16_t Minuscula(char16_t c) noexcept {
-    if (c >= u'A' && c <= u'Z') return static_cast<char16_t>(c + 32);
-    return c < 128 ? c : MinusculaDe(c);
-}
-
 constexpr std::size_t CSemNome = std::u16string_view::npos;
 
 std::uint64_t CalcularDispersao(std::u16string_view ANome) noexcept {
-    std::uint64_t valor = 14695981039346656037U;
-    for (const char16_t c : ANome) valor = (valor ^ Minuscula(c)) * 1099511628211U;
-    return valor ^ valor >> 32;
+    TDispersao dispersao;
+    for (const char16_t c : ANome) dispersao.Juntar(c);
+    return dispersao.Valor();
 }
 
 /// Whether ALinha, which starts with a name and a "=", is that of ANome.
 bool EhDaVariavel(std::u16string_view ALinha, std::u16string_view ANome) noexcept {
     if (ALinha.size() <= ANome.size() || ALinha[ANome.size()] != u'=') return false;
     for (std::size_t i = 0; i < ANome.size(); ++i)
-        if (ALinha[i] == u'=' || (ALinha[i] != ANome[i] && Minuscula(ALinha[i]) != Minuscula(ANome[i]))) return false;
+        if (ALinha[i] == u'=' ||
+            (ALinha[i] != ANome[i] && TDispersao::Minuscula(ALinha[i]) != TDispersao::Minuscula(ANome[i])))
+            return false;
     return true;
 }
 
 }  // namespace
 
 TVariaveis::TEntrada* TVariaveis::Buscar(std::u16string_view ANome) noexcept {
+    return Buscar(ANome, CalcularDispersao(ANome));
+}
+
+TVariaveis::TEntrada* TVariaveis::Buscar(std::u16string_view ANome, std::uint64_t ADispersao) noexcept {
     if (FTabela.empty()) return nullptr;
-    const std::uint64_t dispersao = CalcularDispersao(ANome);
-    for (std::size_t i = dispersao & (FTabela.size() - 1); FTabela[i] != 0; i = (i + 1) & (FTabela.size() - 1)) {
+    const std::size_t mascara = FTabela.size() - 1;
+    for (std::size_t i = ADispersao & mascara; FTabela[i] != 0; i = (i + 1) & mascara) {
         TEntrada& entrada = FEntradas[FTabela[i] - 1];
-        if (entrada.Dispersao == dispersao && EhDaVariavel(FLinhas[entrada.Linha], ANome)) return &entrada;
+        if (entrada.Dispersao == ADispersao && EhDaVariavel(FLinhas[entrada.Linha], ANome)) return &entrada;
     }
     return nullptr;
 }
@@ -104,11 +103,6 @@ bool TVariaveis::Preparar(TEntrada& AEntrada) const {
     valor.Decimal = DecimalDe(ajustado);
     AEntrada.Geracao = FGeracao;
     return true;
-}
-
-const TVariaveis::TValor* TVariaveis::BuscarValor(std::u16string_view ANome) {
-    TEntrada* const entrada = Buscar(ANome);
-    return entrada && Preparar(*entrada) ? &entrada->Valor : nullptr;
 }
 
 std::u16string_view TVariaveis::BuscarTexto(std::u16string_view ANome, TErroFormula& AErro) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "oryutils/runtime/Caixa.hpp"
 #include "oryutils/text/interno/FormulaDecimal.hpp"
 #include "oryutils/text/interno/FormulaErro.hpp"
 #include "oryutils/text/interno/FormulaRegras.hpp"
@@ -12,6 +13,22 @@
 #include <vector>
 
 namespace OryUtils::Interno {
+
+/// The hash of a name, one character after the other; case plays no part.
+class TDispersao {
+public:
+    void Juntar(char16_t c) noexcept { JuntarMinuscula(Minuscula(c)); }
+    void JuntarMinuscula(char16_t c) noexcept { FValor = (FValor ^ c) * 1099511628211U; }
+    std::uint64_t Valor() const noexcept { return FValor ^ FValor >> 32; }
+
+    static char16_t Minuscula(char16_t c) noexcept {
+        if (c >= u'A' && c <= u'Z') return static_cast<char16_t>(c + 32);
+        return c < 128 ? c : MinusculaDe(c);
+    }
+
+private:
+    std::uint64_t FValor = 14695981039346656037U;
+};
 
 /// The variables of a formula: the lines as the caller sees them, an index by name, and the text that stands for each
 /// in formulas, made at its first use.
@@ -38,8 +55,12 @@ public:
         std::array<char16_t, CTamanhoMaximoExtended> Texto{};
         std::optional<TDecimal> Decimal{};  // the text as a number; none when it has an exponent
     };
-    /// None when there is no such variable or its value is no number. Holds as BuscarTexto does.
-    const TValor* BuscarValor(std::u16string_view ANome);
+    /// None when there is no such variable or its value is no number. ADispersao is that of ANome. Holds as BuscarTexto
+    /// does.
+    const TValor* BuscarValor(std::u16string_view ANome, TDispersao ADispersao) {
+        TEntrada* const entrada = Buscar(ANome, ADispersao.Valor());
+        return entrada && (entrada->Geracao == FGeracao || Preparar(*entrada)) ? &entrada->Valor : nullptr;
+    }
 
 private:
     struct TEntrada {
@@ -48,6 +69,7 @@ private:
         std::uint64_t Geracao = 0;    // that of the value
         TValor Valor{};
     };
+    TEntrada* Buscar(std::u16string_view ANome, std::uint64_t ADispersao) noexcept;
     TEntrada* Buscar(std::u16string_view ANome) noexcept;
     bool Preparar(TEntrada& AEntrada) const;
     void Indexar(std::size_t ALinha);
