@@ -26,10 +26,9 @@ TFileStatus TOryUtilsFiles::CompararVersao(std::u16string_view AVersao1, std::u1
 
 std::u16string TOryUtilsFiles::FormatarVersaoArquivo(std::u16string_view AVersao,
                                                      TTipoDivisaoVersaoArquivo ATipoDivisao) {
-    if (ATipoDivisao < 0) return std::u16string(AVersao);
     std::size_t fim = 0;
     int pontos = 0;
-    while (fim < AVersao.size() && (pontos += AVersao[fim] == u'.') != ATipoDivisao) ++fim;
+    while (fim < AVersao.size() && (pontos += AVersao[fim] == u'.') < ATipoDivisao) ++fim;
     return std::u16string(AVersao.substr(0, fim));
 }
 

@@ -99,6 +99,7 @@ TEST(Versoes, FormatarPelaQuantidadeDePartes) {
     EXPECT_EQ(FormatarVersaoArquivo(u"1.2", tdvRelease), u"1.2");
     EXPECT_EQ(FormatarVersaoArquivo(u".x..", tdvMenor), u".x") << "characters are copied, whatever they are";
     EXPECT_EQ(FormatarVersaoArquivo(u".x", tdvMaior), u"");
+    EXPECT_EQ(FormatarVersaoArquivo(u".x", tdvNenhuma), u"") << "nothing is nothing, also when the point comes first";
     EXPECT_EQ(FormatarVersaoArquivo(u"", tdvBuild), u"");
 }
 
@@ -187,7 +188,7 @@ TEST(Versoes, TiposDeArquivo) {
     for (const auto& caso : casos) {
         const std::string nome = ParaUtf8(caso.Arquivo);
         EXPECT_EQ(GetExtensionFromFile(caso.Arquivo), caso.Extensao) << nome;
-        EXPECT_EQ(C::EhArquivoEXE(caso.Arquivo), caso.Exe) << nome;
+        EXPECT_EQ(IsAExe(caso.Arquivo), caso.Exe) << nome;
         EXPECT_EQ(IsABpl(caso.Arquivo), caso.Bpl) << nome;
         EXPECT_EQ(isADll(caso.Arquivo), caso.Dll) << nome;
         EXPECT_EQ(isADAT(caso.Arquivo), caso.Dat) << nome;
