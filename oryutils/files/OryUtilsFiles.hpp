@@ -136,8 +136,8 @@ public:
 
     /// Opens AArquivo with the program that the system keeps for its kind, and does not wait for it. AParametros go to
     /// AArquivo where it is a program; a document's viewer gets none. True when the system took the order. Never
-    /// raises. (Windows) The shell's "open". (Linux) A file that may be executed is run, with the parameters split at
-    /// blanks outside double quotes; any other goes to xdg-open.
+    /// raises. (Windows) The shell's "open". (Linux) A program that may be executed is run, with the parameters split
+    /// at blanks outside double quotes; any other file goes to xdg-open, also a text that may be executed.
     static bool AbrirArquivo(std::u16string_view AArquivo, std::u16string_view AParametros = {});
     /// Sets the last-write time of a file to the local date and time ADataHora (milliseconds kept; of a time that
     /// happens twice, the first). False when it could not be done, as for a date outside years 1601 to 9999. Never

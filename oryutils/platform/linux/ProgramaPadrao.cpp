@@ -3,6 +3,7 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <cstring>
 #include <fcntl.h>
 #include <memory>
 #include <sys/stat.h>
@@ -41,15 +42,16 @@ void LigarAoNada() {
     if (nada > STDERR_FILENO) ::close(nada);
 }
 
-/// Starts a program that belongs to nobody here: a grandchild, in a session of its own, away from our streams. True
-/// when the system has started it. Between the forks and the start only calls that any signal handler may make.
-bool Disparar(std::vector<std::string> AComando) {
+/// Starts a program that belongs to nobody here: a grandchild, in a session of its own, away from our streams. The
+/// error for which the system has not started it; 0 when it has. Between the forks and the start only calls that any
+/// signal handler may make.
+int Disparar(std::vector<std::string> AComando) {
     std::vector<char*> argumentos;
     for (std::string& parte : AComando) argumentos.push_back(parte.data());
     argumentos.push_back(nullptr);
-    // Closed by the start itself; a byte comes when that fails.
+    // Closed by the start itself; the error comes, in a byte, when that fails.
     int aviso[2];
-    if (::pipe2(aviso, O_CLOEXEC) != 0) return false;
+    if (::pipe2(aviso, O_CLOEXEC) != 0) return errno;
     const pid_t filho = ::fork();
     if (filho == 0) {
         ::setsid();
@@ -57,21 +59,22 @@ bool Disparar(std::vector<std::string> AComando) {
         if (neto > 0) ::_exit(0);
         if (neto == 0) {
             LigarAoNada();
-            ::execvp(argumentos[0], argumentos.data());
+            // Only what is looked for by its name: of a file that is no program execvp would make a shell's script.
+            const bool procurado = std::strchr(argumentos[0], '/') == nullptr;
+            (procurado ? ::execvp : ::execv)(argumentos[0], argumentos.data());
         }
-        const ssize_t escritos = ::write(aviso[1], "!", 1);
+        const auto falha = static_cast<unsigned char>(errno);
+        const ssize_t escritos = ::write(aviso[1], &falha, 1);
         ::_exit(escritos == 1 ? 126 : 127);
     }
+    unsigned char falha = filho > 0 ? 0 : EAGAIN;
     ::close(aviso[1]);
-    char falha = 0;
-    ssize_t lidos = 1;
     if (filho > 0) {
-        do lidos = ::read(aviso[0], &falha, 1);
-        while (lidos < 0 && errno == EINTR);
+        while (::read(aviso[0], &falha, 1) < 0 && errno == EINTR) continue;
         while (::waitpid(filho, nullptr, 0) < 0 && errno == EINTR) continue;
     }
     ::close(aviso[0]);
-    return lidos == 0;
+    return falha;
 }
 
 }  // namespace
@@ -82,11 +85,14 @@ bool AbrirComProgramaPadrao(std::u16string_view AArquivo, std::u16string_view AP
     const std::unique_ptr<char, decltype(&std::free)> nome(::realpath(ParaUtf8(AArquivo).c_str(), nullptr), &std::free);
     struct stat dados {};
     if (!nome || ::stat(nome.get(), &dados) != 0) return false;
-    if (!S_ISREG(dados.st_mode) || ::access(nome.get(), X_OK) != 0)
-        return Disparar({std::string(CAbridor), nome.get()});
-    std::vector<std::string> comando = SepararParametros(ParaUtf8(AParametros));
-    comando.insert(comando.begin(), nome.get());
-    return Disparar(std::move(comando));
+    if (S_ISREG(dados.st_mode) && ::access(nome.get(), X_OK) == 0) {
+        std::vector<std::string> comando = SepararParametros(ParaUtf8(AParametros));
+        comando.insert(comando.begin(), nome.get());
+        const int erro = Disparar(std::move(comando));
+        // On some disks every file may be executed, also those that are no program.
+        if (erro != ENOEXEC) return erro == 0;
+    }
+    return Disparar({std::string(CAbridor), nome.get()}) == 0;
 }
 
 }  // namespace OryUtils::Plataforma
