@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <random>
 
 // What files say of themselves, read by the system's own functions on Windows and by the library's reader on Linux: the
 // same cases, the same answers.
@@ -146,6 +147,30 @@ TEST(RecursosDeVersao, FeitosAMao) {
                      caso.Versao, caso.Itens, std::string(caso.Porque) + (de64 ? " (64 bits)" : " (32 bits)"));
 }
 
+// On Windows the system's functions meet them first; what they then say of a block may lie outside of it.
+TEST(RecursosDeVersao, Quebrados) {
+    const std::string bloco = Pe::Montar(
+        Raiz(CVersao,
+             {Textos({Tabela(u"041604b0", {Texto(u"CompanyName", u"x"), Texto(u"Comments", u"abc")})}), CPortugues}));
+    const unsigned semente = std::random_device{}();
+    SCOPED_TRACE(semente);
+    std::mt19937 sorteio(semente);
+    const TPastaTemporaria pasta;
+    const auto ler = [&](const std::string& ABloco) {
+        TArquivoInfo info;
+        info.SetArquivo(pasta.Gravar(u"a.exe", Pe::MontarArquivo(true, {{0, ABloco}})));
+        for (const auto& item : info.GetItems()) EXPECT_LE(item.size(), bloco.size());
+        return info.GetVersao();
+    };
+    EXPECT_EQ(ler(bloco), u"7.2.65535.15");
+    for (std::size_t tamanho = 0; tamanho < bloco.size(); tamanho += 2) ler(bloco.substr(0, tamanho));
+    for (int rodada = 0; rodada < 300; ++rodada) {
+        std::string trocado = bloco;
+        for (auto n = 1 + sorteio() % 8; n > 0; --n) trocado[sorteio() % trocado.size()] = static_cast<char>(sorteio());
+        ler(trocado);
+    }
+}
+
 TEST(RecursosDeVersao, DeVariosIdiomas) {
     const auto bloco = [](unsigned AVersao) { return Pe::Montar(Raiz({{AVersao, 0, 0, 0}}, {})); };
     const TPastaTemporaria pasta;
@@ -174,13 +199,38 @@ TEST(RecursosDeVersao, DoCompiladorDeRecursos) {
         TArquivoInfo info;
         info.SetArquivo(arquivo(u"completo"));
         EXPECT_TRUE(info.GetNaoLiberarPacote());
-        EXPECT_EQ(info.GetVersaoMinimaBanco(), u"10.19.0.0");
-        EXPECT_EQ(info.GetVersaoMaximaConversao(), u"9.9.9.9");
-        EXPECT_EQ(info.GetNomeCompanhia(), u"Orçamentos União Ltda.");
-        EXPECT_EQ(info.GetLegalTrademarks(), u"");
         EXPECT_EQ(info.GetNome(), u"completo" + sufixo);
         EXPECT_EQ(TOryUtilsFiles::BuscarVersaoArquivo(info.GetArquivo()), u"10.20.300.65535");
     }
+}
+
+TEST(RecursosDeVersao, CadaPropriedadeTemASuaChave) {
+    constexpr struct {
+        std::u16string_view Chave;
+        std::u16string (TArquivoInfo::*Buscar)() const;
+    } CPropriedades[] = {
+        {u"CompanyName", &TArquivoInfo::GetNomeCompanhia},
+        {u"FileDescription", &TArquivoInfo::GetDescricao},
+        {u"InternalName", &TArquivoInfo::GetNomeInterno},
+        {u"LegalCopyright", &TArquivoInfo::GetLegalCopyright},
+        {u"LegalTrademarks", &TArquivoInfo::GetLegalTrademarks},
+        {u"OriginalFilename", &TArquivoInfo::GetNomeOriginal},
+        {u"ProductName", &TArquivoInfo::GetNomeProduto},
+        {u"ProductVersion", &TArquivoInfo::GetVersaoProduto},
+        {u"Comments", &TArquivoInfo::GetComentarios},
+        {u"MinVersionDataBase", &TArquivoInfo::GetVersaoMinimaBanco},
+        {u"VersaoMaximaConversao", &TArquivoInfo::GetVersaoMaximaConversao},
+    };
+    TArquivoInfo info;
+    for (const auto& propriedade : CPropriedades) {
+        EXPECT_EQ((info.*propriedade.Buscar)(), u"") << ParaUtf8(propriedade.Chave);
+        info.Adiciona(propriedade.Chave, u"o texto de " + std::u16string(propriedade.Chave));
+    }
+    for (const auto& propriedade : CPropriedades)
+        EXPECT_EQ((info.*propriedade.Buscar)(), u"o texto de " + std::u16string(propriedade.Chave));
+    EXPECT_FALSE(info.GetNaoLiberarPacote());
+    info.Adiciona(u"NaoLiberarPacote", u" True\t");
+    EXPECT_TRUE(info.GetNaoLiberarPacote()) << "blanks around it are allowed";
 }
 
 TEST(RecursosDeVersao, ListaDeTextos) {
@@ -231,8 +281,12 @@ TEST(RecursosDeVersao, VersaoDeIniEHtml) {
         info.SetArquivo(pasta.Gravar(nome, ini));
         EXPECT_EQ(info.GetVersao(), u"3.4");
         EXPECT_EQ(GetVersaoArquivo(info.GetArquivo()), u"3.4");
+        EXPECT_EQ(info.BuscarVersaoArquivo(), u"") << "it has no resource";
     }
-    EXPECT_EQ(GetVersaoArquivo(pasta.Gravar(u"estilo.css", ini)), u"") << "a page's style, but no INI";
+    TArquivoInfo estilo;
+    estilo.SetArquivo(pasta.Gravar(u"estilo.css", ini));
+    EXPECT_EQ(estilo.GetVersao(), u"") << "a page's style, but no INI";
+    EXPECT_EQ(estilo.BuscarVersaoArquivoIni(), u"3.4") << "asked for";
     EXPECT_EQ(GetVersionFromINI(pasta.Nome(u"estilo.css")), u"3.4") << "whatever the extension";
     EXPECT_EQ(GetVersionFromINI(pasta.Nome(u"falta.ini")), u"");
 }

@@ -3,7 +3,9 @@
 #include "oryutils/platform/windows/Windows.hpp"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
+#include <span>
 
 namespace OryUtils::Plataforma {
 namespace {
@@ -19,14 +21,26 @@ std::u16string BuscarNomeCompleto(std::u16string_view AArquivo) {
 }
 
 struct TValor {
-    const char* Inicio = nullptr;
-    UINT Tamanho = 0;
+    std::span<const char> Bytes;  // from its beginning to the end of the block
+    std::size_t Tamanho;          // what the file says of it; characters of a text
 };
-TValor Consultar(const std::vector<char>& ABloco, const std::u16string& ACaminho) {
+std::optional<TValor> Consultar(const std::vector<char>& ABloco, const std::u16string& ACaminho) {
     void* valor = nullptr;
     UINT tamanho = 0;
     if (ABloco.empty() || !::VerQueryValueW(ABloco.data(), ParaWide(ACaminho), &valor, &tamanho)) return {};
-    return {static_cast<const char*>(valor), tamanho};
+    // As integers: a broken resource may have its value anywhere.
+    const auto inicio = reinterpret_cast<std::uintptr_t>(valor) - reinterpret_cast<std::uintptr_t>(ABloco.data());
+    if (inicio > ABloco.size()) return {};
+    return TValor{std::span(ABloco).subspan(inicio), tamanho};
+}
+
+/// The first bytes of a value that are as T has them.
+template <typename T>
+std::optional<T> Ler(const std::optional<TValor>& AValor) {
+    if (!AValor || std::min(AValor->Tamanho, AValor->Bytes.size()) < sizeof(T)) return {};
+    T lido{};
+    std::memcpy(&lido, AValor->Bytes.data(), sizeof lido);
+    return lido;
 }
 
 }  // namespace
@@ -41,30 +55,22 @@ TVersaoDeArquivo::TVersaoDeArquivo(std::u16string_view AArquivo) {
 }
 
 std::optional<TVersaoFixa> TVersaoDeArquivo::ConsultarFixa() const {
-    const TValor valor = Consultar(FBloco, u"\\");
-    VS_FIXEDFILEINFO dados{};
-    if (!valor.Inicio || valor.Tamanho < sizeof dados) return {};
-    std::memcpy(&dados, valor.Inicio, sizeof dados);
-    return TVersaoFixa{dados.dwFileVersionMS, dados.dwFileVersionLS};
+    const auto dados = Ler<VS_FIXEDFILEINFO>(Consultar(FBloco, u"\\"));
+    if (!dados) return {};
+    return TVersaoFixa{dados->dwFileVersionMS, dados->dwFileVersionLS};
 }
 
 std::optional<TTraducao> TVersaoDeArquivo::ConsultarTraducao() const {
-    const TValor valor = Consultar(FBloco, u"\\VarFileInfo\\Translation");
-    WORD entrada[2];
-    if (!valor.Inicio || valor.Tamanho < sizeof entrada) return {};
-    std::memcpy(entrada, valor.Inicio, sizeof entrada);
-    return TTraducao{entrada[0], entrada[1]};
+    return Ler<TTraducao>(Consultar(FBloco, u"\\VarFileInfo\\Translation"));
 }
 
 std::optional<std::u16string> TVersaoDeArquivo::ConsultarTexto(std::u16string_view ATabela,
                                                                std::u16string_view AChave) const {
-    const TValor valor =
+    const auto valor =
         Consultar(FBloco, (std::u16string(u"\\StringFileInfo\\").append(ATabela) += u'\\').append(AChave));
-    if (!valor.Inicio) return {};
-    // The length is what the file says of itself; the block ends where it ends.
-    const auto resto = static_cast<std::size_t>(FBloco.data() + FBloco.size() - valor.Inicio) / sizeof(char16_t);
-    std::u16string texto(std::min<std::size_t>(valor.Tamanho, resto), u'\0');
-    std::memcpy(texto.data(), valor.Inicio, texto.size() * sizeof(char16_t));
+    if (!valor) return {};
+    std::u16string texto(std::min(valor->Tamanho, valor->Bytes.size() / sizeof(char16_t)), u'\0');
+    std::memcpy(texto.data(), valor->Bytes.data(), texto.size() * sizeof(char16_t));
     texto.resize(std::min(texto.find(u'\0'), texto.size()));
     return texto;
 }
