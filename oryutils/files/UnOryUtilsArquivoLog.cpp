@@ -141,7 +141,7 @@ std::u16string TOryUtilsArquivoLog::GetTexto() const { return FLog->GetTexto(); 
 
 void TOryUtilsArquivoLog::SetTipoPeriodicidade(TTipoPeriodicidadeLog AValor) {
     FTipoPeriodicidade = AValor;
-    SetArquivoLog(std::u16string(FArquivoLog));
+    SetArquivoLog(FArquivoLog);
 }
 
 TCodificacaoLog TOryUtilsArquivoLog::GetCodificacao() const noexcept { return FLog->GetCodificacao(); }
@@ -195,7 +195,7 @@ TDateTime TOryUtilsArquivoLog::ConferirData() {
     FinalizarLog();
     FLogIniciado = false;
     FDataControleLog = hoje;
-    SetArquivoLog(std::u16string(FArquivoLog));
+    SetArquivoLog(FArquivoLog);
     Limpar();
     return agora;
 }

@@ -112,12 +112,20 @@ public:
                                                  TTipoPeriodicidadeLog ATipoPeriodicidade, TDateTime AData);
 
 protected:
+    /// Adds a line, without looking at the date or starting a run: messages of the user interface, OnStatus and, with
+    /// SalvarAutomaticamente, a save follow.
     void AdicionarMensagem(std::u16string_view AMensagem, TColor ACor);
+    /// Ends the run of a day that is over and makes ready for the next.
     void AtualizarArquivoLog();
+    /// Puts the lines of the file in place of the list; leaves it alone when there is no file that can be read.
     void CarregarArquivo();
+    /// Brings the file up to date, in up to 14 attempts; does nothing without a name of a file.
     void SalvarArquivoLog();
+    /// The name of the file for a folder and day of its own; see the public form of it.
     std::u16string FormatarNomeArquivoLog(std::u16string_view ANome) const;
+    /// Calls OnStatus where it is assigned.
     void ValidarEventoOnStatus(std::u16string_view AStatus, TColor ACor);
+    /// Sets the last-write time of the file to AData.
     void AtualizarDataModificacaoLogFechamento(TDateTime AData);
 
 private:

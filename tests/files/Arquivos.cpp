@@ -96,6 +96,12 @@ TEST(Arquivos, DataEmpacotadaEHoraLocalDoSeuTempo) {
     EXPECT_EQ(Interno::BuscarInstanteUtc(Instante(2018, 2, 17, 23, 0, 0), FusoComVerao), 1518915600'000)
         << "a time that happens twice is its first time";
 
+    // Clocks that go forward at midnight: a day without its first hour still dates the files of that day.
+    const auto semMeiaNoite = [](std::int64_t AInstante) { return AInstante < 1541300400 ? -10800 : -7200; };
+    const auto inicio = Interno::BuscarInstanteUtc(CodificarData(2018, 11, 4), semMeiaNoite);
+    ASSERT_TRUE(inicio);
+    EXPECT_EQ(Interno::BuscarDataEmpacotada(*inicio, semMeiaNoite), Instante(2018, 11, 4, 1, 0, 0));
+
     std::mt19937 sorteio(20181104);
     for (int i = 0; i < 5000; ++i) {
         // From the first instant on whose local time comes only once.

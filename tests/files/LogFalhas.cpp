@@ -46,11 +46,13 @@ TEST_P(LogFalhas, FalhaConsertoERegravacao) {
         c.Estragar();
         Log.Adicionar(u"durante a falha", clBlue);
         EXPECT_EQ(ContarTentativas(), 14) << c.Porque;
+        EXPECT_FALSE(Log.EstahSalvo()) << c.Porque;
         EXPECT_NO_THROW(Log.FinalizarLog()) << c.Porque;
         Log.Adicionar(u"de novo", clBlue);
         EXPECT_EQ(ContarTentativas(), 14) << c.Porque;
         c.Consertar();
         EXPECT_EQ(ContarTentativas(), 1) << c.Porque;
+        EXPECT_TRUE(Log.EstahSalvo()) << c.Porque;
         ConferirArquivo(Arquivo);
         // Mended between two attempts: the attempt behind it is the last.
         c.Estragar();

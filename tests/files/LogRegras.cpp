@@ -105,6 +105,11 @@ TEST_F(LogRegras, CabecalhoMensagensERodape) {
     EXPECT_EQ(log.GetTexto(), Texto(Cabecalho()));
 }
 
+TEST_F(LogRegras, QuemNaoFinalizaNaoGrava) {
+    TLogDeTeste(Pasta.Nome("x"), Ambiente).Adicionar(u"perdida", clBlue);
+    EXPECT_TRUE(std::filesystem::is_empty(Pasta.GetPasta()));
+}
+
 TEST_F(LogRegras, FinalizarSemInicioSoEscreveORodape) {
     TLogDeTeste log(Pasta.Nome("x"), Ambiente);
     log.SetCodificacao(clUtf8);
@@ -168,7 +173,9 @@ struct TOuvinte {
     void AoFinalizar(TObjeto* ASender, std::u16string_view APasta) {
         Quem = ASender;
         Pastas.emplace_back(APasta);
+        JahGravado = std::filesystem::exists(static_cast<TOryUtilsArquivoLog*>(ASender)->GetArquivoLog());
     }
+    bool JahGravado = false;
 };
 
 TEST_F(LogRegras, Eventos) {
@@ -190,6 +197,7 @@ TEST_F(LogRegras, Eventos) {
         EXPECT_EQ(ouvinte.Linhas[i].Cor, cores[i]) << i;
     }
     EXPECT_EQ(ouvinte.Pastas, std::vector{Pasta.Nome("sub/")});
+    EXPECT_TRUE(ouvinte.JahGravado) << "who shows the folder finds the file in it";
     EXPECT_EQ(ouvinte.Quem, &log);
     EXPECT_EQ(clBlue, 0x00FF0000u);
     EXPECT_EQ(clWindowText, 0xFF000008u);
@@ -219,6 +227,20 @@ TEST_F(LogRegras, ViradaDoDia) {
         const auto dados = Plataforma::ProcurarArquivo(nome);
         ASSERT_TRUE(dados);
         EXPECT_EQ(Interno::BuscarDataEmpacotada(dados->UltimaGravacao), CodificarData(2026, 11, dia)) << dia;
+    }
+}
+
+TEST_F(LogRegras, SohOArquivoDiarioEhDatadoPeloSeuDia) {
+    Ambiente.Marcar(1999, 5, 4, 12);
+    for (const auto periodicidade : {tplUnico, tplDiario}) {
+        TLogDeTeste log(Pasta.Nome("P"), Ambiente);
+        log.SetTipoPeriodicidade(periodicidade);
+        log.Adicionar(u"x", clBlue);
+        log.FinalizarLog();
+        const auto dados = Plataforma::ProcurarArquivo(log.GetArquivoLog());
+        ASSERT_TRUE(dados);
+        EXPECT_EQ(Interno::BuscarDataEmpacotada(dados->UltimaGravacao) == CodificarData(1999, 5, 4),
+                  periodicidade == tplDiario);
     }
 }
 
@@ -301,6 +323,27 @@ TEST_F(LogRegras, CarregaOArquivoExistenteComQualquerFimDeLinha) {
     EXPECT_EQ(log.GetTexto(), Texto(Somar({{u""}, Cabecalho()}))) << "no file: the list stays as it is";
 }
 
+TEST_F(LogRegras, OExistenteEhLidoNaCodificacaoEmQueFoiEscrito) {
+    const std::vector<std::u16string> mensagens{u"ação e reação", u"ascii", u"àéîõü"};
+    for (const auto codificacao : {clPadrao, clUtf8, clWindows1252}) {
+        std::u16string escrito;
+        for (const auto& mensagem : mensagens) {
+            TLogDeTeste log(Pasta.Nome("I"), Ambiente);
+            log.SetCodificacao(codificacao);
+            log.SetUsarArquivoLogExistente(!escrito.empty());
+            log.Adicionar(mensagem, clBlue);
+            log.SalvarArquivoLog();
+            EXPECT_TRUE(log.GetTexto().starts_with(escrito)) << codificacao;
+            escrito = log.GetTexto();
+        }
+        const std::string bytes = LerBytes(Pasta.GetPasta() / "I.log");
+        if (codificacao != clPadrao)
+            EXPECT_EQ(bytes.find("a\xE7\xE3o e rea") != bytes.npos, codificacao == clWindows1252);
+        else
+            EXPECT_NE(bytes.find(Plataforma::ParaTextoDoSistema(mensagens[0])), bytes.npos);
+    }
+}
+
 TEST_F(LogRegras, CodificacaoNuncaPara) {
     const std::u16string texto = u"coração € \u4E2D \U0001F600 \xD800 fim";
     struct TCaso {
@@ -310,7 +353,7 @@ TEST_F(LogRegras, CodificacaoNuncaPara) {
     const TCaso casos[] = {
         {clUtf8, ParaUtf8(texto)},
         {clWindows1252, "cora\xE7\xE3o \x80 ? ? ? fim"},
-        {clPadrao, Plataforma::ParaTextoDoSistema(texto)},
+        {clPadrao, Plataforma::ParaTextoDoSistema(texto)},  // what that is, the tests of each system tell
     };
     const std::string quebra = ParaUtf8(Plataforma::BuscarQuebraDeLinha());
     TLogDeTeste log(Pasta.Nome("C"), Ambiente);

@@ -4,17 +4,20 @@
 #include "oryutils/files/interno/AmbienteDoLog.hpp"
 #include "oryutils/platform/Pastas.hpp"
 #include "oryutils/platform/Utf.hpp"
-#include "oryutils/runtime/NomeDeArquivo.hpp"
 
 #include <cstring>
+#include <iterator>
 
 namespace OryUtils {
 namespace {
 
 using namespace Plataforma;
 
+// Of what the library takes for delimiters the system may take only one: "C:\Logs\x.log" is all name on Linux.
 void CriarPastaQueFalta(std::u16string_view AArquivo) {
-    const std::u16string_view pasta = ExtrairPastaDoArquivo(AArquivo);
+    const char16_t separadores[] = {u'/', BuscarSeparadorDePastas()};
+    const std::u16string_view pasta =
+        AArquivo.substr(0, AArquivo.find_last_of(separadores, AArquivo.npos, std::size(separadores)) + 1);
     if (!pasta.empty() && !TOryUtilsFiles::ExisteDiretorio(pasta)) CriarPasta(pasta);
 }
 

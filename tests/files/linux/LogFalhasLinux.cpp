@@ -60,12 +60,25 @@ TEST_P(LogFalhasLinux, DiscoCheio) {
 }
 
 TEST_P(LogFalhasLinux, PastaEmQueNinguemGrava) {
-    // Not even root creates a file there.
-    TLogDeTeste log(u"/proc/ory/Log.txt", Ambiente);
+    // Not even root creates a file there: neither in a folder that is there nor in one that would have to be.
+    for (const std::u16string_view nome : {u"/proc/self/Log.txt", u"/proc/ory/Log.txt"}) {
+        TLogDeTeste log(nome, Ambiente);
+        log.SetModoGravacao(GetParam());
+        Ambiente.Tentativas = 0;
+        EXPECT_NO_THROW(log.FinalizarLog());
+        EXPECT_EQ(Ambiente.Tentativas, 14);
+        EXPECT_NE(log.GetTexto().find(u"Fim do processo"), std::u16string::npos);
+    }
+}
+
+TEST_P(LogFalhasLinux, NomeDeOutroSistema) {
+    // Here "\" is a letter of a name: the file is made, and no folder that would be none of its own.
+    TLogDeTeste log(Pasta.Nome("sub/C:\\Logs\\x.txt"), Ambiente);
     log.SetModoGravacao(GetParam());
-    EXPECT_NO_THROW(log.FinalizarLog());
-    EXPECT_EQ(Ambiente.Tentativas, 14);
-    EXPECT_NE(log.GetTexto().find(u"Fim do processo"), std::u16string::npos);
+    log.FinalizarLog();
+    EXPECT_TRUE(log.EstahSalvo());
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Pasta.GetPasta() / "sub"), {}), 1);
+    EXPECT_TRUE(std::filesystem::is_regular_file(Pasta.GetPasta() / "sub" / "C:\\Logs\\x.log"));
 }
 
 TEST_P(LogFalhasLinux, MortoNoMeioDaGravacao) {
@@ -99,6 +112,18 @@ TEST_P(LogFalhasLinux, MortoNoMeioDaGravacao) {
     const std::string texto = LerBytes(Arquivo);
     EXPECT_TRUE(texto.starts_with(pedaco + "\n"));
     EXPECT_EQ(texto, ParaUtf8(log.GetTexto()) + "\n");
+}
+
+TEST(LogCodificacao, PadraoEhUtf8) {
+    const TPastaDeTeste pasta;
+    TAmbienteDeTeste ambiente;
+    TLogDeTeste log(pasta.Nome("Padrao"), ambiente);
+    log.SetFormatoMensagem(tfmSomenteTexto);
+    log.IniciarLog();
+    log.Limpar();
+    log.Adicionar(u"coração € \u4E2D \xD800", clBlue);
+    log.SalvarArquivoLog();
+    EXPECT_EQ(LerBytes(pasta.GetPasta() / "Padrao.log"), "coração € \xE4\xB8\xAD \xEF\xBF\xBD\n");
 }
 
 INSTANTIATE_TEST_SUITE_P(Modos, LogFalhasLinux, testing::Values(mgReescrever, mgAcrescentar));

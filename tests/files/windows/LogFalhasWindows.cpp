@@ -52,6 +52,28 @@ TEST_P(LogFalhasWindows, AbertoPorOutroSemPartilhar) {
     EXPECT_EQ(ambiente.Tentativas, 2);
 }
 
+/// By the system's own code page, which knows nothing of the library's tables.
+TEST(LogCodificacao, PadraoEhAPaginaDoSistema) {
+    if (::GetACP() != 1252) GTEST_SKIP() << "code page " << ::GetACP();
+    const TPastaDeTeste pasta;
+    TAmbienteDeTeste ambiente;
+    TLogDeTeste log(pasta.Nome("Padrao"), ambiente);
+    log.SetFormatoMensagem(tfmSomenteTexto);
+    log.SetModoGravacao(mgAcrescentar);
+    log.IniciarLog();
+    log.Limpar();
+    for (const char16_t* linha : {u"coração €", u"\u4E2D", u"\U0001F600", u"\xD800", u"\u0101 (no letter like it)"})
+        log.Adicionar(linha, clBlue);
+    log.SalvarArquivoLog();
+    const std::string bytes = LerBytes(pasta.GetPasta() / "Padrao.log");
+    EXPECT_EQ(bytes, "cora\xE7\xE3o \x80\r\n?\r\n?\r\n?\r\n? (no letter like it)\r\n");
+
+    TLogDeTeste seguinte(pasta.Nome("Padrao"), ambiente);
+    seguinte.SetUsarArquivoLogExistente(true);
+    seguinte.IniciarLog();
+    EXPECT_TRUE(seguinte.GetTexto().starts_with(u"coração €\r\n?\r\n"));
+}
+
 INSTANTIATE_TEST_SUITE_P(Modos, LogFalhasWindows, testing::Values(mgReescrever, mgAcrescentar));
 
 }  // namespace
