@@ -166,8 +166,11 @@ std::string DescreverErroDeUso(const CLI::ParseError& AErro, const CLI::App& AAp
         return "argumento desconhecido:" + sobra;
     }
     std::string mensagem = AErro.what();
-    if (dynamic_cast<const CLI::ArgumentMismatch*>(&AErro))
-        return "falta o valor de " + mensagem.substr(0, mensagem.find(':'));
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&AErro)) {
+        const std::string opcao = mensagem.substr(0, mensagem.find_first_of(": "));
+        if (mensagem.find("At Most") != std::string::npos) return opcao + " tem valores demais";
+        return "falta o valor de " + opcao;
+    }
     if (dynamic_cast<const CLI::RequiredError*>(&AErro)) {
         constexpr std::string_view falta = " is required";
         return mensagem.starts_with("A subcommand") || !mensagem.ends_with(falta)

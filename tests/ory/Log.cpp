@@ -1,6 +1,9 @@
+#include "log/Log.hpp"
+
 #include "oryutils/runtime/Utf.hpp"
 
 #include "Apoio.hpp"
+#include "files/LogApoio.hpp"
 #include "operacoes/Operacoes.hpp"
 
 #include <gtest/gtest.h>
@@ -77,9 +80,43 @@ TEST_F(Log, FalhasSaoDitas) {
     EXPECT_EQ(Rodar({"log", ".log"}).Status, 2) << "no name";
     EXPECT_EQ(Rodar({"log", Nome("x"), "--codificacao", "ebcdic"}).Status, 2);
     fs::create_directories(Pasta / "p.log");
-    const TRodada rodada = Rodar({"log", Nome("p")}, "x\n");
-    EXPECT_EQ(rodada.Status, 2);
-    EXPECT_NE(rodada.Erro.find("não foi possível gravar"), std::string::npos);
+    GravarBytes(Pasta / "q", "um arquivo");
+    const std::string exemplo = std::string(ORY_PASTA_DO_PROJETO) + "/examples/clientes.csv";
+    for (const auto& [nome, motivo] :
+         {std::pair<std::string, std::string>{"p", ": é uma pasta"}, {"q/r", ": a pasta não pôde ser criada"}}) {
+        const std::string erro = "ory: não foi possível gravar " + Nome(nome) + ".log" + motivo + "\n";
+        for (const std::vector<std::string>& argumentos :
+             {std::vector{std::string("log"), Nome(nome)}, {"conferir", exemplo, "--log", Nome(nome)}}) {
+            const TRodada rodada = Rodar(argumentos, "x\n");
+            EXPECT_EQ(rodada.Status, 2);
+            EXPECT_EQ(rodada.Erro, erro);
+        }
+    }
+}
+
+/// Lines that come one by one, each on a day of its own.
+struct TEntradaDeDias final : Ory::TEntrada {
+    explicit TEntradaDeDias(TAmbienteDeTeste& AMundo) : FMundo(AMundo) {}
+    std::size_t Ler(std::span<char> ADestino) override {
+        if (FDia == 17) return 0;
+        FMundo.Marcar(2026, 11, ++FDia, 8);
+        return std::string_view("linha\n").copy(ADestino.data(), ADestino.size());
+    }
+
+private:
+    TAmbienteDeTeste& FMundo;
+    int FDia = 14;
+};
+
+TEST_F(Log, UmDiaQueNaoSeGravaEhDito) {
+    TAmbienteDeTeste mundo;
+    TEntradaDeDias entrada(mundo);
+    Ory::TSaidaDeTexto saida, erro;
+    Ory::TAmbiente ambiente{.Entrada = entrada, .Saida = saida, .Erro = erro};
+    fs::create_directories(Pasta / "S_16_11_2026.log");
+    EXPECT_EQ(Ory::EscreverLog({.Arquivo = Nome("S"), .Diario = true}, ambiente, mundo), 2);
+    EXPECT_EQ(erro.Texto, "ory: não foi possível gravar " + Nome("S_16_11_2026.log") + ": é uma pasta\n");
+    for (const char* dia : {"15", "17"}) EXPECT_EQ(Ler("S_" + std::string(dia) + "_11_2026.log").size(), 10u) << dia;
 }
 
 TEST_F(Log, DaConferencia) {

@@ -108,15 +108,35 @@ TEST_F(Versao, Comparar) {
     }
     EXPECT_EQ(Rodar({"versao", "--comparar", "7", "8", "--json"}).Saida,
               "{\"a\":\"7\",\"b\":\"8\",\"resultado\":\"menor\"}\n");
-    for (const std::vector<std::string>& errada : {std::vector<std::string>{"versao"},
-                                                   {"versao", "--comparar", "1"},
-                                                   {"versao", "--comparar", "1", "1..2"},
-                                                   {"versao", "--comparar", "1", "/nao/existe"},
-                                                   {"versao", "--comparar", "1", "2", Folha}}) {
-        const TRodada rodada = Rodar(errada);
-        EXPECT_EQ(rodada.Status, 2);
-        EXPECT_TRUE(rodada.Saida.empty());
-        EXPECT_FALSE(rodada.Erro.empty());
+}
+
+TEST_F(Versao, OQueEstahErradoEhDito) {
+    const std::string pasta = ParaUtf8(Pasta.Nome(u""));
+    const std::string ruim = ParaUtf8(Pasta.Gravar(u"ruim.ini", "[VERSAO]\nNumero=7.a\n"));
+    const struct {
+        std::vector<std::string> Argumentos;
+        std::string Erro;
+    } casos[] = {
+        {{}, "falta o arquivo; veja ory versao --ajuda"},
+        {{" "}, "o nome do arquivo está vazio"},
+        {{pasta}, "é uma pasta: " + pasta},
+        {{pasta + "*.nenhum"}, "arquivo não encontrado: " + pasta + "*.nenhum"},
+        {{"--comparar", "1"}, "falta o valor de --comparar; veja ory --ajuda"},
+        {{"--comparar", "1", "2", Folha}, "--comparar leva só as duas versões"},
+        {{"--comparar", "1", ""}, "uma das versões está vazia"},
+        {{"--comparar", "1", "1..2"}, "a versão 1..2 não serve: '' não é um valor inteiro válido"},
+        {{"--comparar", "1", ruim}, "a versão 7.a de " + ruim + " não serve: 'a' não é um valor inteiro válido"},
+        {{"--comparar", "1", "/nao/existe"}, "/nao/existe não é uma versão nem um arquivo"},
+        {{"--comparar", "1", pasta}, pasta + " não é uma versão nem um arquivo"},
+        {{"--comparar", "1", "2", "--comparar", "3", "4"}, "--comparar tem valores demais; veja ory --ajuda"},
+    };
+    for (const auto& caso : casos) {
+        std::vector<std::string> argumentos{"versao"};
+        argumentos.insert(argumentos.end(), caso.Argumentos.begin(), caso.Argumentos.end());
+        const TRodada rodada = Rodar(argumentos);
+        EXPECT_EQ(rodada.Erro, "ory: " + caso.Erro + "\n");
+        EXPECT_EQ(rodada.Status, 2) << caso.Erro;
+        EXPECT_EQ(rodada.Saida, "") << caso.Erro;
     }
 }
 

@@ -6,6 +6,7 @@
 
 #include "conferir/Progresso.hpp"
 #include "conferir/Relatorio.hpp"
+#include "log/Log.hpp"
 
 #include <exception>
 #include <memory>
@@ -80,7 +81,7 @@ public:
         if (FLog) FLog->FinalizarLog();
         return !FLog || FLog->EstahSalvo();
     }
-    std::string GetArquivo() const { return OryUtils::ParaUtf8(FLog->GetArquivoLog()); }
+    const std::u16string& GetArquivo() const { return FLog->GetArquivoLog(); }
 
 private:
     std::optional<OryUtils::TOryUtilsArquivoLog> FLog{};
@@ -145,7 +146,7 @@ TStatus Conferir(const TPedidoDeConferencia& APedido, TAmbiente& AAmbiente) {
         log.Finalizar();
         throw;
     }
-    if (!log.Finalizar()) throw EFalha("não foi possível gravar " + log.GetArquivo());
+    if (!log.Finalizar()) throw EFalha(DescreverFalhaDoLog(log.GetArquivo()));
     return status;
 }
 

@@ -1,6 +1,10 @@
 #include "log/Log.hpp"
 
 #include "oryutils/files/UnOryUtilsArquivoLog.hpp"
+#include "oryutils/files/interno/AmbienteDoLog.hpp"
+#include "oryutils/platform/Fluxo.hpp"
+#include "oryutils/platform/Pastas.hpp"
+#include "oryutils/runtime/NomeDeArquivo.hpp"
 #include "oryutils/runtime/Utf.hpp"
 
 #include "Cli.hpp"
@@ -14,9 +18,25 @@ namespace {
 
 using namespace OryUtils;
 
-struct TLogDoComando : TOryUtilsArquivoLog {
+/// A log that tells of each run whose file could not be written: one that ends with its day takes its lines with it.
+class TLogDoComando : public TOryUtilsArquivoLog {
+public:
+    TLogDoComando(const std::string& AArquivo, TAmbiente& AAmbiente, TAmbienteDoLog& AMundo)
+        : TOryUtilsArquivoLog(DeUtf8(AArquivo), AMundo), FErro(AAmbiente.Erro) {
+        SetOnAposFinalizarLog(TEventoAposFinalizarLog::De<&TLogDoComando::AoFinalizar>(*this));
+    }
     using TOryUtilsArquivoLog::SalvarArquivoLog;
-    using TOryUtilsArquivoLog::TOryUtilsArquivoLog;
+    bool FaltouAlgum() const noexcept { return FFaltou; }
+
+private:
+    void AoFinalizar(TObjeto*, std::u16string_view) {
+        if (EstahSalvo()) return;
+        FFaltou = true;
+        FErro.Escrever("ory: " + DescreverFalhaDoLog(GetArquivoLog()) + "\n");
+    }
+
+    TSaida& FErro;
+    bool FFaltou = false;
 };
 
 TCodificacaoLog LerCodificacao(const std::string& ANome) {
@@ -27,6 +47,18 @@ TCodificacaoLog LerCodificacao(const std::string& ANome) {
 }
 
 }  // namespace
+
+std::string DescreverFalhaDoLog(const std::u16string& AArquivo) {
+    std::string falha = "não foi possível gravar " + ParaUtf8(AArquivo);
+    const std::u16string_view pasta = ExtrairPastaDoArquivo(AArquivo);
+    Plataforma::TFluxo fluxo;
+    if (Plataforma::ExistePasta(AArquivo)) return falha.append(": ").append(DescreverErro(Plataforma::efEhPasta));
+    if (!pasta.empty() && !Plataforma::ExistePasta(pasta)) return falha += ": a pasta não pôde ser criada";
+    const Plataforma::TErroFluxo erro = fluxo.AbrirParaAcrescentar(ParaUtf8(AArquivo));
+    // One that is not there, or may be written to, does not tell why.
+    if (erro == Plataforma::efNenhum || erro == Plataforma::efNaoExiste) return falha;
+    return falha.append(": ").append(DescreverErro(erro));
+}
 
 void DescreverLog(CLI::App& AComando, TPedidoDeLog& APedido) {
     AComando.add_option("ARQUIVO", APedido.Arquivo, "arquivo do log; a extensão passa a ser .log")->required();
@@ -47,7 +79,11 @@ void DescreverLog(CLI::App& AComando, TPedidoDeLog& APedido) {
 }
 
 int EscreverLog(const TPedidoDeLog& APedido, TAmbiente& AAmbiente) {
-    TLogDoComando log(DeUtf8(APedido.Arquivo));
+    return EscreverLog(APedido, AAmbiente, BuscarAmbienteDoSistema());
+}
+
+int EscreverLog(const TPedidoDeLog& APedido, TAmbiente& AAmbiente, TAmbienteDoLog& AMundo) {
+    TLogDoComando log(APedido.Arquivo, AAmbiente, AMundo);
     log.SetTipoPeriodicidade(APedido.Diario ? tplDiario : tplUnico);
     if (log.GetArquivoLog().empty()) throw EFalha("não há nome de arquivo em '" + APedido.Arquivo + "'");
     log.SetFormatoMensagem(APedido.SomenteTexto ? tfmSomenteTexto : tfmComDataHora);
@@ -82,8 +118,7 @@ int EscreverLog(const TPedidoDeLog& APedido, TAmbiente& AAmbiente) {
     }
     if (!linha.empty()) terminar_linha();
     log.FinalizarLog();
-    if (!log.EstahSalvo()) throw EFalha("não foi possível gravar " + ParaUtf8(log.GetArquivoLog()));
-    return stTudoCerto;
+    return log.FaltouAlgum() ? stFalha : stTudoCerto;
 }
 
 }  // namespace Ory

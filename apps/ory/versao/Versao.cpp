@@ -2,7 +2,11 @@
 
 #include "oryutils/files/OryUtilsFiles.hpp"
 #include "oryutils/platform/DadosDoArquivo.hpp"
+#include "oryutils/platform/LeituraDeArquivo.hpp"
+#include "oryutils/platform/Pastas.hpp"
 #include "oryutils/runtime/Caixa.hpp"
+#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
 #include "oryutils/runtime/NomeDeArquivo.hpp"
 #include "oryutils/runtime/Utf.hpp"
@@ -19,6 +23,7 @@
 namespace Ory {
 namespace {
 
+namespace Plataforma = OryUtils::Plataforma;
 using OryUtils::DeUtf8;
 using OryUtils::ParaUtf8;
 using OryUtils::TArquivoInfo;
@@ -78,7 +83,7 @@ std::vector<std::u16string> Expandir(const std::string& AArquivo) {
     const std::u16string nome = DeUtf8(AArquivo);
     const std::u16string padrao = OryUtils::MinusculaDe(OryUtils::ExtrairNomeDoArquivo(nome));
     std::vector<std::u16string> arquivos;
-    if (padrao.find_first_of(u"*?") != padrao.npos && !OryUtils::Plataforma::ExisteArquivo(nome)) {
+    if (padrao.find_first_of(u"*?") != padrao.npos && !Plataforma::ExisteArquivo(nome)) {
         const std::u16string pasta(OryUtils::ExtrairPastaDoArquivo(nome));
         std::error_code erro;
         for (const auto& entrada : std::filesystem::directory_iterator(pasta.empty() ? u"." : pasta, erro)) {
@@ -196,13 +201,33 @@ void EscreverEmJson(const std::vector<TArquivoInfo>& AInfos, TAmbiente& AAmbient
     AAmbiente.Saida.Escrever("]\n");
 }
 
-/// A text of digits, points and commas is a version itself; any other names a file.
+/// Why nothing can be said of a file; empty when something can.
+std::string BuscarProblema(const std::u16string& AArquivo) {
+    if (OryUtils::Aparar(AArquivo).empty()) return "o nome do arquivo está vazio";
+    const std::string nome = ParaUtf8(AArquivo);
+    if (Plataforma::ExistePasta(AArquivo)) return "é uma pasta: " + nome;
+    if (!Plataforma::ExisteArquivo(AArquivo)) return "arquivo não encontrado: " + nome;
+    return Plataforma::TLeituraDeArquivo(AArquivo).EstahAberto() ? "" : "não foi possível ler " + nome;
+}
+
+/// A text of digits, points and commas is a version itself; any other names a file. Blank is most likely the work of a
+/// script without a value.
 std::u16string LerVersao(const std::string& ATexto) {
     const std::u16string texto = DeUtf8(ATexto);
-    if (texto.find_first_not_of(u" 0123456789.,") == texto.npos) return texto;
-    if (!OryUtils::Plataforma::ExisteArquivo(texto)) throw EFalha(ATexto + " não é uma versão nem um arquivo");
-    const std::u16string versao = TOryUtilsFiles::BuscarVersaoArquivo(texto);
-    if (versao.empty()) throw EFalha(ATexto + " não tem versão");
+    if (OryUtils::Aparar(texto).empty()) throw EFalha("uma das versões está vazia");
+    std::u16string versao = texto;
+    if (texto.find_first_not_of(u" 0123456789.,") != texto.npos) {
+        if (!Plataforma::ExisteArquivo(texto)) throw EFalha(ATexto + " não é uma versão nem um arquivo");
+        if (const std::string problema = BuscarProblema(texto); !problema.empty()) throw EFalha(problema);
+        versao = TOryUtilsFiles::BuscarVersaoArquivo(texto);
+        if (versao.empty()) throw EFalha(ATexto + " não tem versão");
+    }
+    try {
+        TOryUtilsFiles::CompararVersao(versao, versao);
+    } catch (const OryUtils::EConvertError& erro) {
+        const std::string dono = versao == texto ? "" : " de " + ATexto;
+        throw EFalha("a versão " + ParaUtf8(versao) + dono + " não serve: " + erro.what());
+    }
     return versao;
 }
 
@@ -240,10 +265,12 @@ int Comparar(const TPedidoDeVersao& APedido, TAmbiente& AAmbiente) {
 
 void DescreverVersao(CLI::App& AComando, TPedidoDeVersao& APedido) {
     AComando.add_option("ARQUIVO", APedido.Arquivos, "executáveis, bibliotecas, .ini e .html; um só mostra tudo");
-    AComando.add_option("--comparar", APedido.Comparar, "A B: duas versões, ou arquivos que têm uma")->expected(2);
+    AComando.add_option("--comparar", APedido.Comparar, "A B: duas versões, ou arquivos que têm uma")
+        ->expected(2)
+        ->allow_extra_args(false);
     AComando.add_flag("--json", APedido.Json, "em JSON: uma lista com tudo o que cada arquivo diz");
     AComando.footer(
-        "Saída do programa: 0 certo, 2 algum arquivo não foi encontrado ou a chamada está errada.\n"
+        "Saída do programa: 0 certo, 2 algum arquivo não pôde ser lido ou a chamada está errada.\n"
         "Com --comparar escreve igual, maior ou menor (A em relação a B): 0 igual, 1 maior, 3 menor, 2 falha.\n\n"
         "Exemplos:\n"
         "  ory versao Folha.exe\n"
@@ -259,10 +286,11 @@ int MostrarVersao(const TPedidoDeVersao& APedido, TAmbiente& AAmbiente) {
     for (const std::string& pedido : APedido.Arquivos)
         for (const std::u16string& arquivo : Expandir(pedido)) {
             ++pedidos;
-            if (OryUtils::Plataforma::ExisteArquivo(arquivo))
+            const std::string problema = BuscarProblema(arquivo);
+            if (problema.empty())
                 infos.push_back(Ler(arquivo));
             else
-                AAmbiente.Erro.Escrever("ory: arquivo não encontrado: " + ParaUtf8(arquivo) + "\n");
+                AAmbiente.Erro.Escrever("ory: " + problema + "\n");
         }
     if (APedido.Json)
         EscreverEmJson(infos, AAmbiente);

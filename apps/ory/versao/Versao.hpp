@@ -22,9 +22,9 @@ struct TPedidoDeVersao {
 enum TStatusDeVersao : int { svIgual = 0, svMaior = 1, svMenor = 3 };
 
 void DescreverVersao(CLI::App& AComando, TPedidoDeVersao& APedido);
-/// Writes a card for one file, a table for several, or JSON. A file that is not there is told on AAmbiente.Erro, and
-/// the status is stFalha; the others are shown. Raises EFalha for what asks for nothing, and for a version that is
-/// none.
+/// Writes a card for one file, a table for several, or JSON. A file that is not there or cannot be read is told on
+/// AAmbiente.Erro, and the status is stFalha; the others are shown. Raises EFalha for what asks for nothing, and for a
+/// version that is none.
 int MostrarVersao(const TPedidoDeVersao& APedido, TAmbiente& AAmbiente);
 
 }  // namespace Ory
