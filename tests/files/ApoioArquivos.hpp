@@ -22,7 +22,7 @@ public:
     }
 
     const std::filesystem::path& Caminho() const { return FPasta; }
-    std::u16string Nome(std::u16string_view AArquivo) const { return (FPasta / AArquivo).u16string(); }
+    std::u16string Nome(const std::filesystem::path& AArquivo) const { return (FPasta / AArquivo).u16string(); }
     /// The whole name of the file written.
     std::u16string Gravar(std::u16string_view AArquivo, std::string_view ABytes) const {
         std::ofstream(FPasta / AArquivo, std::ios::binary)

@@ -5,13 +5,14 @@
 #include "oryutils/platform/TextoDoSistema.hpp"
 #include "oryutils/runtime/Utf.hpp"
 
+#include "files/ApoioArquivos.hpp"
+
 #include <gtest/gtest.h>
 
 #include <cstddef>
 #include <filesystem>
 #include <fstream>
 #include <functional>
-#include <random>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -43,28 +44,6 @@ struct TAmbienteDeTeste final : OryUtils::TAmbienteDoLog {
 struct TLogDeTeste : OryUtils::TOryUtilsArquivoLog {
     using TOryUtilsArquivoLog::SalvarArquivoLog;
     using TOryUtilsArquivoLog::TOryUtilsArquivoLog;
-};
-
-/// A folder of its own for each test, gone at its end.
-class TPastaDeTeste {
-public:
-    TPastaDeTeste() {
-        std::random_device sorteio;
-        do FPasta = std::filesystem::temp_directory_path() / ("ory_log_" + std::to_string(sorteio()));
-        while (!std::filesystem::create_directories(FPasta));
-    }
-    ~TPastaDeTeste() {
-        std::error_code erro;
-        std::filesystem::remove_all(FPasta, erro);
-    }
-    TPastaDeTeste(const TPastaDeTeste&) = delete;
-    TPastaDeTeste& operator=(const TPastaDeTeste&) = delete;
-
-    const std::filesystem::path& GetPasta() const { return FPasta; }
-    std::u16string Nome(std::string_view ANome) const { return (FPasta / ANome).u16string(); }
-
-private:
-    std::filesystem::path FPasta;
 };
 
 inline std::string LerBytes(const std::filesystem::path& AArquivo) {

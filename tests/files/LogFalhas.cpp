@@ -1,4 +1,4 @@
-#include "LogApoio.hpp"
+#include "files/LogApoio.hpp"
 
 namespace {
 
@@ -21,9 +21,9 @@ protected:
         return Ambiente.Tentativas;
     }
 
-    const TPastaDeTeste Pasta;
+    const TPastaTemporaria Pasta;
     TAmbienteDeTeste Ambiente;
-    const fs::path Arquivo = Pasta.GetPasta() / "p" / "Falha.log";
+    const fs::path Arquivo = Pasta.Caminho() / "p" / "Falha.log";
     TLogDeTeste Log{Arquivo.u16string(), Ambiente};
 };
 
@@ -33,8 +33,8 @@ TEST_P(LogFalhas, FalhaConsertoERegravacao) {
         const char* Porque;
     };
     const TCaso casos[] = {
-        {[&] { fs::remove_all(Pasta.GetPasta() / "p"), GravarBytes(Pasta.GetPasta() / "p", "um arquivo"); },
-         [&] { fs::remove(Pasta.GetPasta() / "p"); }, "a file where the folder should be"},
+        {[&] { fs::remove_all(Pasta.Caminho() / "p"), GravarBytes(Pasta.Caminho() / "p", "um arquivo"); },
+         [&] { fs::remove(Pasta.Caminho() / "p"); }, "a file where the folder should be"},
         {[&] { fs::remove(Arquivo), fs::create_directories(Arquivo); }, [&] { fs::remove(Arquivo); },
          "a folder in the place of the file"},
         {[&] { fs::remove(Arquivo), fs::create_directories(Arquivo / "cheia"); }, [&] { fs::remove_all(Arquivo); },
@@ -125,14 +125,14 @@ TEST(LogAcrescimo, SoContinuaOQueEleMesmoDeixou) {
     const TFormatosTemporarios formatos(BuscarFormatosBrasileiros());
     for (const TCaso& c : casos)
         for (const int antes : {1, 100}) {
-            const TPastaDeTeste pasta;
+            const TPastaTemporaria pasta;
             TAmbienteDeTeste ambiente;
             TLogDeTeste log(pasta.Nome("sub/A"), ambiente);
             log.SetCodificacao(clUtf8);
             log.SetModoGravacao(mgAcrescentar);
             log.SetSalvarAutomaticamente(true);
             for (int i = 0; i < antes; ++i) log.Adicionar(u"linha", clBlue);
-            const fs::path arquivo = pasta.GetPasta() / "sub" / "A.log";
+            const fs::path arquivo = pasta.Caminho() / "sub" / "A.log";
             const std::size_t tamanho = fs::file_size(arquivo);
             EXPECT_EQ(ambiente.Bytes, tamanho);
             c.Mexer(arquivo);
@@ -165,7 +165,7 @@ TEST(LogAcrescimo, TextoMudadoNoMeioRegravaTudo) {
         {[](TLogDeTeste& l) { l.Limpar(), l.AdicionarEspacoEmBranco(500); }, false, "emptied and longer again"},
     };
     for (const TCaso& c : casos) {
-        const TPastaDeTeste pasta;
+        const TPastaTemporaria pasta;
         TAmbienteDeTeste ambiente;
         TLogDeTeste log(pasta.Nome("A"), ambiente);
         log.SetCodificacao(clUtf8);
@@ -175,7 +175,7 @@ TEST(LogAcrescimo, TextoMudadoNoMeioRegravaTudo) {
         log.SalvarArquivoLog();
         c.Mudar(log);
         log.SalvarArquivoLog();
-        const std::size_t tamanho = fs::file_size(pasta.GetPasta() / "A_15_11_2026.log");
+        const std::size_t tamanho = fs::file_size(pasta.Caminho() / "A_15_11_2026.log");
         if (c.Continua)
             EXPECT_EQ(ambiente.Bytes, tamanho) << c.Porque;
         else
@@ -185,13 +185,13 @@ TEST(LogAcrescimo, TextoMudadoNoMeioRegravaTudo) {
 
 /// A process killed in the middle of a save leaves any part of the file; the next one lives with it.
 TEST(LogAcrescimo, QualquerPedacoDeUmArquivoSeContinua) {
-    const TPastaDeTeste pasta;
+    const TPastaTemporaria pasta;
     TAmbienteDeTeste ambiente;
     TLogDeTeste antigo(pasta.Nome("M"), ambiente);
     antigo.SetCodificacao(clUtf8);
     antigo.Adicionar(u"ação \U0001F600", clBlue);
     antigo.FinalizarLog();
-    const auto arquivo = pasta.GetPasta() / "M.log";
+    const auto arquivo = pasta.Caminho() / "M.log";
     const std::string inteiro = LerBytes(arquivo);
     for (std::size_t corte = 0; corte <= inteiro.size(); corte += corte + 200 < inteiro.size() ? 17 : 1) {
         GravarBytes(arquivo, inteiro.substr(0, corte));

@@ -1,9 +1,10 @@
 #include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
 
-#include "LogApoio.hpp"
+#include "files/LogApoio.hpp"
 
 #include <map>
+#include <random>
 #include <utility>
 
 // The log beside the obvious one: a list of lines and, for each file, its whole text. Random runs, with the files
@@ -15,7 +16,7 @@ using namespace OryUtils;
 
 class TLogObvio {
 public:
-    explicit TLogObvio(const TPastaDeTeste& APasta, TAmbienteDeTeste& AAmbiente)
+    explicit TLogObvio(const TPastaTemporaria& APasta, TAmbienteDeTeste& AAmbiente)
         : FPasta(APasta), FAmbiente(AAmbiente) {}
 
     void Iniciar() {
@@ -64,7 +65,7 @@ public:
     bool ComHora = true, Automatico = false, Existente = false, Diario = false;
 
 private:
-    const TPastaDeTeste& FPasta;
+    const TPastaTemporaria& FPasta;
     TAmbienteDeTeste& FAmbiente;
     bool FIniciado = false;
 };
@@ -165,7 +166,7 @@ private:
     void Estragar() {
         const auto achado = FObvio.Arquivos.find(FObvio.Arquivo());
         if (achado == FObvio.Arquivos.end()) return;
-        const auto arquivo = FPasta.GetPasta() / achado->first;
+        const auto arquivo = FPasta.Caminho() / achado->first;
         std::vector<std::u16string>& linhas = achado->second;
         switch (Sortear(5)) {
             case 0:
@@ -179,14 +180,14 @@ private:
                 linhas.resize(linhas.size() / 2);
                 return GravarBytes(arquivo, JuntarLinhas(linhas));
             case 3: {
-                const auto outro = FPasta.GetPasta() / "novo";
+                const auto outro = FPasta.Caminho() / "novo";
                 linhas = {u"um arquivo novo de outro tamanho, que ninguém mais tem: " +
                           DeUtf8(std::to_string(Sortear(99999)))};
                 GravarBytes(outro, JuntarLinhas(linhas));
                 return std::filesystem::rename(outro, arquivo);
             }
             default:
-                std::filesystem::remove_all(FPasta.GetPasta() / FObvio.Subpasta);
+                std::filesystem::remove_all(FPasta.Caminho() / FObvio.Subpasta);
                 std::erase_if(FObvio.Arquivos, [&](const auto& a) { return a.first.starts_with(FObvio.Subpasta); });
         }
     }
@@ -198,11 +199,11 @@ private:
         ASSERT_EQ(FLog.GetArquivoLog(), FPasta.Nome(FObvio.Arquivo()));
         if (std::exchange(FTentativas, FAmbiente.Tentativas) == FAmbiente.Tentativas) return;  // nothing was saved
         for (const auto& [nome, linhas] : FObvio.Arquivos)
-            ASSERT_EQ(LerBytes(FPasta.GetPasta() / nome), JuntarLinhas(linhas)) << nome << " after step " << APasso;
+            ASSERT_EQ(LerBytes(FPasta.Caminho() / nome), JuntarLinhas(linhas)) << nome << " after step " << APasso;
     }
 
     std::mt19937 FSorteio;
-    TPastaDeTeste FPasta{};
+    TPastaTemporaria FPasta{};
     TAmbienteDeTeste FAmbiente{};
     TLogDeTeste FLog{FPasta.Nome("a/Log.txt"), FAmbiente};
     TLogObvio FObvio;
@@ -222,7 +223,7 @@ TEST(LogModelo, CorridasAoAcaso) {
 /// A day and a half of a service that logs every four seconds and saves every ten minutes.
 TEST(LogModelo, UmDiaInteiro) {
     const TFormatosTemporarios formatos(BuscarFormatosBrasileiros());
-    const TPastaDeTeste pasta;
+    const TPastaTemporaria pasta;
     TAmbienteDeTeste ambiente;
     TLogDeTeste log(pasta.Nome("Servico"), ambiente);
     log.SetCodificacao(clUtf8);
@@ -240,7 +241,7 @@ TEST(LogModelo, UmDiaInteiro) {
     log.FinalizarLog();
     std::size_t bytes = 0;
     for (const int dia : {15, 16}) {
-        const std::string texto = LerBytes(pasta.GetPasta() / ("Servico_" + std::to_string(dia) + "_11_2026.log"));
+        const std::string texto = LerBytes(pasta.Caminho() / ("Servico_" + std::to_string(dia) + "_11_2026.log"));
         bytes += texto.size();
         const auto linhas = std::count(texto.begin(), texto.end(), '\n');
         EXPECT_EQ(linhas, (dia == 15 ? CPorDia : CPorDia / 2) + 9) << dia;

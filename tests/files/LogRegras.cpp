@@ -4,7 +4,7 @@
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
 
-#include "LogApoio.hpp"
+#include "files/LogApoio.hpp"
 
 namespace {
 
@@ -36,7 +36,7 @@ protected:
     }
 
     const TFormatosTemporarios Formatos{BuscarFormatosBrasileiros()};
-    const TPastaDeTeste Pasta;
+    const TPastaTemporaria Pasta;
     TAmbienteDeTeste Ambiente;
 };
 
@@ -94,11 +94,11 @@ TEST_F(LogRegras, CabecalhoMensagensERodape) {
     log.SetFormatoMensagem(tfmComDataHora);
     linhas = Somar({linhas, {u"   ", u"", u"", u"sem hora"}});
     EXPECT_EQ(log.GetTexto(), Texto(linhas));
-    EXPECT_FALSE(std::filesystem::exists(Pasta.GetPasta() / "a")) << "nothing touches the disk before a save";
+    EXPECT_FALSE(std::filesystem::exists(Pasta.Caminho() / "a")) << "nothing touches the disk before a save";
     log.SetCodificacao(clUtf8);
     log.FinalizarLog();
     linhas = Somar({linhas, Rodape()});
-    EXPECT_EQ(LerBytes(Pasta.GetPasta() / "a/b/Importacao.log"), JuntarLinhas(linhas));
+    EXPECT_EQ(LerBytes(Pasta.Caminho() / "a/b/Importacao.log"), JuntarLinhas(linhas));
     EXPECT_EQ(Ambiente.Tentativas, 1);
     // A new run of the same object starts empty.
     log.IniciarLog();
@@ -107,14 +107,14 @@ TEST_F(LogRegras, CabecalhoMensagensERodape) {
 
 TEST_F(LogRegras, QuemNaoFinalizaNaoGrava) {
     TLogDeTeste(Pasta.Nome("x"), Ambiente).Adicionar(u"perdida", clBlue);
-    EXPECT_TRUE(std::filesystem::is_empty(Pasta.GetPasta()));
+    EXPECT_TRUE(std::filesystem::is_empty(Pasta.Caminho()));
 }
 
 TEST_F(LogRegras, FinalizarSemInicioSoEscreveORodape) {
     TLogDeTeste log(Pasta.Nome("x"), Ambiente);
     log.SetCodificacao(clUtf8);
     log.FinalizarLog();
-    EXPECT_EQ(LerBytes(Pasta.GetPasta() / "x.log"), JuntarLinhas(Rodape()));
+    EXPECT_EQ(LerBytes(Pasta.Caminho() / "x.log"), JuntarLinhas(Rodape()));
 }
 
 TEST_F(LogRegras, SalvarSemLinhasDaUmaQuebra) {
@@ -123,13 +123,13 @@ TEST_F(LogRegras, SalvarSemLinhasDaUmaQuebra) {
         log.SetModoGravacao(modo);
         log.Limpar();
         log.SalvarArquivoLog();
-        EXPECT_EQ(LerBytes(Pasta.GetPasta() / "x.log"), JuntarLinhas({u""}));
+        EXPECT_EQ(LerBytes(Pasta.Caminho() / "x.log"), JuntarLinhas({u""}));
         log.AdicionarEspacoEmBranco(1);
         log.SalvarArquivoLog();
-        EXPECT_EQ(LerBytes(Pasta.GetPasta() / "x.log"), JuntarLinhas({u""})) << "one empty line looks the same";
+        EXPECT_EQ(LerBytes(Pasta.Caminho() / "x.log"), JuntarLinhas({u""})) << "one empty line looks the same";
         log.AdicionarEspacoEmBranco(1);
         log.SalvarArquivoLog();
-        EXPECT_EQ(LerBytes(Pasta.GetPasta() / "x.log"), JuntarLinhas({u"", u""}));
+        EXPECT_EQ(LerBytes(Pasta.Caminho() / "x.log"), JuntarLinhas({u"", u""}));
     }
 }
 
@@ -213,12 +213,12 @@ TEST_F(LogRegras, ViradaDoDia) {
     log.Adicionar(u"antes", clBlue);
     Ambiente.Marcar(2026, 11, 16);
     log.Adicionar(u"depois", clBlue);
-    const auto velho = Pasta.GetPasta() / "Dia_15_11_2026.log";
+    const auto velho = Pasta.Caminho() / "Dia_15_11_2026.log";
     EXPECT_EQ(LerBytes(velho), JuntarLinhas(Somar({cabecalho, {meia}, Rodape()})))
         << "the footer tells the hour it was";
     EXPECT_EQ(log.GetTexto(), Texto(Somar({Cabecalho(), {Carimbar(u"depois")}})));
     EXPECT_EQ(log.GetArquivoLog(), Pasta.Nome("Dia_16_11_2026.log"));
-    EXPECT_FALSE(std::filesystem::exists(Pasta.GetPasta() / "Dia_16_11_2026.log"));
+    EXPECT_FALSE(std::filesystem::exists(Pasta.Caminho() / "Dia_16_11_2026.log"));
     Ambiente.Marcar(2026, 11, 17, 0, 30);
     log.FinalizarLog();
     // Finished after midnight, dated by the day that they record.
@@ -250,7 +250,7 @@ TEST_F(LogRegras, ArquivoUnicoTambemTerminaNaViradaDoDia) {
     log.Adicionar(u"ontem", clBlue);
     Ambiente.Marcar(2026, 11, 16, 8);
     log.Adicionar(u"hoje", clBlue);
-    const auto arquivo = Pasta.GetPasta() / "U.log";
+    const auto arquivo = Pasta.Caminho() / "U.log";
     EXPECT_NE(LerBytes(arquivo).find("ontem"), std::string::npos);
     log.SalvarArquivoLog();
     EXPECT_EQ(LerBytes(arquivo).find("ontem"), std::string::npos)
@@ -306,16 +306,16 @@ TEST_F(LogRegras, CarregaOArquivoExistenteComQualquerFimDeLinha) {
         {"meio \xC3", {u"meio \uFFFD"}, "cut inside a character by a kill"},
     };
     for (const TCaso& c : casos) {
-        GravarBytes(Pasta.GetPasta() / "E.log", c.Bytes);
+        GravarBytes(Pasta.Caminho() / "E.log", c.Bytes);
         TLogDeTeste log(Pasta.Nome("E"), Ambiente);
         log.SetCodificacao(clUtf8);
         log.SetUsarArquivoLogExistente(true);
         log.IniciarLog();
         EXPECT_EQ(log.GetTexto(), Texto(Somar({c.Linhas, Cabecalho()}))) << c.Porque;
         log.SalvarArquivoLog();
-        EXPECT_EQ(LerBytes(Pasta.GetPasta() / "E.log"), JuntarLinhas(Somar({c.Linhas, Cabecalho()}))) << c.Porque;
+        EXPECT_EQ(LerBytes(Pasta.Caminho() / "E.log"), JuntarLinhas(Somar({c.Linhas, Cabecalho()}))) << c.Porque;
     }
-    std::filesystem::remove(Pasta.GetPasta() / "E.log");
+    std::filesystem::remove(Pasta.Caminho() / "E.log");
     TLogDeTeste log(Pasta.Nome("E"), Ambiente);
     log.SetUsarArquivoLogExistente(true);
     log.AdicionarEspacoEmBranco(1);
@@ -336,7 +336,7 @@ TEST_F(LogRegras, OExistenteEhLidoNaCodificacaoEmQueFoiEscrito) {
             EXPECT_TRUE(log.GetTexto().starts_with(escrito)) << codificacao;
             escrito = log.GetTexto();
         }
-        const std::string bytes = LerBytes(Pasta.GetPasta() / "I.log");
+        const std::string bytes = LerBytes(Pasta.Caminho() / "I.log");
         if (codificacao != clPadrao)
             EXPECT_EQ(bytes.find("a\xE7\xE3o e rea") != bytes.npos, codificacao == clWindows1252);
         else
@@ -365,7 +365,7 @@ TEST_F(LogRegras, CodificacaoNuncaPara) {
     for (const TCaso& c : casos) {
         log.SetCodificacao(c.Codificacao);
         log.SalvarArquivoLog();
-        EXPECT_EQ(LerBytes(Pasta.GetPasta() / "C.log"), c.Esperado + quebra) << c.Codificacao;
+        EXPECT_EQ(LerBytes(Pasta.Caminho() / "C.log"), c.Esperado + quebra) << c.Codificacao;
         EXPECT_EQ(log.GetTexto(), texto) << "the memory keeps what the file cannot";
     }
     // Every byte of Windows-1252 goes there and back.
@@ -403,7 +403,7 @@ TEST_F(LogRegras, MensagemProcessadaNoRodapeFicaNoDiaQueTermina) {
     Ambiente.Marcar(2026, 11, 16);
     log.Adicionar(u"dois", clBlue);
     costura = antes;
-    EXPECT_NE(LerBytes(Pasta.GetPasta() / "R_15_11_2026.log").find("do temporizador"), std::string::npos);
+    EXPECT_NE(LerBytes(Pasta.Caminho() / "R_15_11_2026.log").find("do temporizador"), std::string::npos);
     EXPECT_EQ(log.GetTexto(), Texto(Somar({Cabecalho(), {Carimbar(u"dois")}})));
 }
 

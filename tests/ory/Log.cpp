@@ -119,6 +119,35 @@ TEST_F(Log, UmDiaQueNaoSeGravaEhDito) {
     for (const char* dia : {"15", "17"}) EXPECT_EQ(Ler("S_" + std::string(dia) + "_11_2026.log").size(), 10u) << dia;
 }
 
+struct TSaidaQueSeFecha final : Ory::TSaida {
+    void Escrever(std::string_view) override { throw Ory::ESaidaFechada(); }
+};
+struct TEntradaQueFalha final : Ory::TEntrada {
+    std::size_t Ler(std::span<char> ADestino) override {
+        if (FJahLeu) throw Ory::EFalha("não foi possível ler o cano");
+        FJahLeu = true;
+        return std::string_view("um\ndo").copy(ADestino.data(), ADestino.size());
+    }
+
+private:
+    bool FJahLeu = false;
+};
+
+TEST_F(Log, OQueJahVeioFicaNoLog) {
+    const Ory::TPedidoDeLog pedido{.Arquivo = Nome("V"), .SomenteTexto = true, .Eco = true};
+    Ory::TEntradaDeTexto texto("um\ndois\n", 3);
+    TSaidaQueSeFecha fechada;
+    Ory::TSaidaDeTexto saida, erro;
+    Ory::TAmbiente semEco{.Entrada = texto, .Saida = fechada, .Erro = erro};
+    EXPECT_EQ(Ory::EscreverLog(pedido, semEco), 0) << "as in: ory log x --eco | head -1";
+    EXPECT_EQ(Trecho(Ler("V.log"), 6, 3), (std::vector<std::string>{"um", "dois"}));
+
+    TEntradaQueFalha falha;
+    Ory::TAmbiente semEntrada{.Entrada = falha, .Saida = saida, .Erro = erro};
+    EXPECT_THROW(Ory::EscreverLog(pedido, semEntrada), Ory::EFalha);
+    EXPECT_EQ(Trecho(Ler("V.log"), 6, 3), (std::vector<std::string>{"um", "Falha: não foi possível ler o cano"}));
+}
+
 TEST_F(Log, DaConferencia) {
     const std::string exemplo = std::string(ORY_PASTA_DO_PROJETO) + "/examples/clientes.csv";
     const TRodada semLog = Rodar({"conferir", exemplo});

@@ -46,6 +46,43 @@ TCodificacaoLog LerCodificacao(const std::string& ANome) {
     return static_cast<TCodificacaoLog>(achado - CNomes.begin());
 }
 
+/// Each line of the input becomes one of the log, until the input ends.
+void LerLinhas(const TPedidoDeLog& APedido, TAmbiente& AAmbiente, TLogDoComando& ALog) {
+    std::string linha;
+    bool pendente = true;
+    const auto terminar_linha = [&] {
+        if (!linha.empty() && linha.back() == '\r') linha.pop_back();
+        ALog.Adicionar(Decodificar(linha), clWindowText);
+        pendente = true;
+        linha.clear();
+    };
+    bool eco = APedido.Eco;
+    const auto ecoar = [&](std::string_view ABytes) {
+        try {
+            if (eco) AAmbiente.Saida.Escrever(ABytes);
+        } catch (const ESaidaFechada&) {
+            eco = false;  // nobody listens any more; the log goes on
+        }
+    };
+    std::array<char, 65536> bloco;
+    while (true) {
+        if (pendente && AAmbiente.Entrada.LerEsperaria()) {
+            ALog.SalvarArquivoLog();
+            pendente = false;
+        }
+        const std::size_t lidos = AAmbiente.Entrada.Ler(bloco);
+        if (lidos == 0) break;
+        std::string_view resto(bloco.data(), lidos);
+        ecoar(resto);
+        for (std::size_t fim = 0; (fim = resto.find('\n')) != std::string_view::npos; resto.remove_prefix(fim + 1)) {
+            linha += resto.substr(0, fim);
+            terminar_linha();
+        }
+        linha += resto;
+    }
+    if (!linha.empty()) terminar_linha();
+}
+
 }  // namespace
 
 std::string DescreverFalhaDoLog(const std::u16string& AArquivo) {
@@ -91,32 +128,13 @@ int EscreverLog(const TPedidoDeLog& APedido, TAmbiente& AAmbiente, TAmbienteDoLo
     log.SetModoGravacao(APedido.Acrescentar ? mgAcrescentar : mgReescrever);
     log.SetCodificacao(LerCodificacao(APedido.Codificacao));
     log.IniciarLog();
-
-    std::string linha;
-    bool pendente = true;
-    const auto terminar_linha = [&] {
-        if (!linha.empty() && linha.back() == '\r') linha.pop_back();
-        log.Adicionar(Decodificar(linha), clWindowText);
-        pendente = true;
-        linha.clear();
-    };
-    std::array<char, 65536> bloco;
-    while (true) {
-        if (pendente && AAmbiente.Entrada.LerEsperaria()) {
-            log.SalvarArquivoLog();
-            pendente = false;
-        }
-        const std::size_t lidos = AAmbiente.Entrada.Ler(bloco);
-        if (lidos == 0) break;
-        std::string_view resto(bloco.data(), lidos);
-        if (APedido.Eco) AAmbiente.Saida.Escrever(resto);
-        for (std::size_t fim = 0; (fim = resto.find('\n')) != std::string_view::npos; resto.remove_prefix(fim + 1)) {
-            linha += resto.substr(0, fim);
-            terminar_linha();
-        }
-        linha += resto;
+    try {
+        LerLinhas(APedido, AAmbiente, log);
+    } catch (const EFalha& erro) {
+        log.Adicionar(u"Falha: " + DeUtf8(erro.what()), clWindowText);
+        log.FinalizarLog();
+        throw;
     }
-    if (!linha.empty()) terminar_linha();
     log.FinalizarLog();
     return log.FaltouAlgum() ? stFalha : stTudoCerto;
 }

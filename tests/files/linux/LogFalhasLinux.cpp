@@ -1,4 +1,4 @@
-#include "../LogApoio.hpp"
+#include "files/LogApoio.hpp"
 
 #include <csignal>
 #include <sys/resource.h>
@@ -33,9 +33,9 @@ private:
 
 class LogFalhasLinux : public testing::TestWithParam<TModoGravacao> {
 protected:
-    const TPastaDeTeste Pasta;
+    const TPastaTemporaria Pasta;
     TAmbienteDeTeste Ambiente;
-    const std::filesystem::path Arquivo = Pasta.GetPasta() / "Cheio.log";
+    const std::filesystem::path Arquivo = Pasta.Caminho() / "Cheio.log";
 };
 
 TEST_P(LogFalhasLinux, DiscoCheio) {
@@ -77,8 +77,8 @@ TEST_P(LogFalhasLinux, NomeDeOutroSistema) {
     log.SetModoGravacao(GetParam());
     log.FinalizarLog();
     EXPECT_TRUE(log.EstahSalvo());
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Pasta.GetPasta() / "sub"), {}), 1);
-    EXPECT_TRUE(std::filesystem::is_regular_file(Pasta.GetPasta() / "sub" / "C:\\Logs\\x.log"));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Pasta.Caminho() / "sub"), {}), 1);
+    EXPECT_TRUE(std::filesystem::is_regular_file(Pasta.Caminho() / "sub" / "C:\\Logs\\x.log"));
 }
 
 TEST_P(LogFalhasLinux, MortoNoMeioDaGravacao) {
@@ -115,7 +115,7 @@ TEST_P(LogFalhasLinux, MortoNoMeioDaGravacao) {
 }
 
 TEST(LogCodificacao, PadraoEhUtf8) {
-    const TPastaDeTeste pasta;
+    const TPastaTemporaria pasta;
     TAmbienteDeTeste ambiente;
     TLogDeTeste log(pasta.Nome("Padrao"), ambiente);
     log.SetFormatoMensagem(tfmSomenteTexto);
@@ -123,7 +123,7 @@ TEST(LogCodificacao, PadraoEhUtf8) {
     log.Limpar();
     log.Adicionar(u"coração € \u4E2D \xD800", clBlue);
     log.SalvarArquivoLog();
-    EXPECT_EQ(LerBytes(pasta.GetPasta() / "Padrao.log"), "coração € \xE4\xB8\xAD \xEF\xBF\xBD\n");
+    EXPECT_EQ(LerBytes(pasta.Caminho() / "Padrao.log"), "coração € \xE4\xB8\xAD \xEF\xBF\xBD\n");
 }
 
 INSTANTIATE_TEST_SUITE_P(Modos, LogFalhasLinux, testing::Values(mgReescrever, mgAcrescentar));

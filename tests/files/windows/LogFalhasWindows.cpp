@@ -1,6 +1,6 @@
 #include "oryutils/platform/windows/Windows.hpp"
 
-#include "../LogApoio.hpp"
+#include "files/LogApoio.hpp"
 
 namespace {
 
@@ -23,9 +23,9 @@ private:
 class LogFalhasWindows : public testing::TestWithParam<TModoGravacao> {};
 
 TEST_P(LogFalhasWindows, AbertoPorOutroSemPartilhar) {
-    const TPastaDeTeste pasta;
+    const TPastaTemporaria pasta;
     TAmbienteDeTeste ambiente;
-    const auto arquivo = pasta.GetPasta() / "Preso.log";
+    const auto arquivo = pasta.Caminho() / "Preso.log";
     TLogDeTeste log(arquivo.u16string(), ambiente);
     log.SetCodificacao(clUtf8);
     log.SetModoGravacao(GetParam());
@@ -55,7 +55,7 @@ TEST_P(LogFalhasWindows, AbertoPorOutroSemPartilhar) {
 /// By the system's own code page, which knows nothing of the library's tables.
 TEST(LogCodificacao, PadraoEhAPaginaDoSistema) {
     if (::GetACP() != 1252) GTEST_SKIP() << "code page " << ::GetACP();
-    const TPastaDeTeste pasta;
+    const TPastaTemporaria pasta;
     TAmbienteDeTeste ambiente;
     TLogDeTeste log(pasta.Nome("Padrao"), ambiente);
     log.SetFormatoMensagem(tfmSomenteTexto);
@@ -65,7 +65,7 @@ TEST(LogCodificacao, PadraoEhAPaginaDoSistema) {
     for (const char16_t* linha : {u"coração €", u"\u4E2D", u"\U0001F600", u"\xD800", u"\u0101 (no letter like it)"})
         log.Adicionar(linha, clBlue);
     log.SalvarArquivoLog();
-    const std::string bytes = LerBytes(pasta.GetPasta() / "Padrao.log");
+    const std::string bytes = LerBytes(pasta.Caminho() / "Padrao.log");
     EXPECT_EQ(bytes, "cora\xE7\xE3o \x80\r\n?\r\n?\r\n?\r\n? (no letter like it)\r\n");
 
     TLogDeTeste seguinte(pasta.Nome("Padrao"), ambiente);
