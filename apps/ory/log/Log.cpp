@@ -92,8 +92,8 @@ std::string DescreverFalhaDoLog(const std::u16string& AArquivo) {
     if (Plataforma::ExistePasta(AArquivo)) return falha.append(": ").append(DescreverErro(Plataforma::efEhPasta));
     if (!pasta.empty() && !Plataforma::ExistePasta(pasta)) return falha += ": a pasta não pôde ser criada";
     const Plataforma::TErroFluxo erro = fluxo.AbrirParaAcrescentar(ParaUtf8(AArquivo));
-    // One that is not there, or may be written to, does not tell why.
-    if (erro == Plataforma::efNenhum || erro == Plataforma::efNaoExiste) return falha;
+    if (erro == Plataforma::efNenhum) return falha;  // it may be written to now
+    if (erro == Plataforma::efNaoExiste) return falha += ": o arquivo não pôde ser criado";
     return falha.append(": ").append(DescreverErro(erro));
 }
 
