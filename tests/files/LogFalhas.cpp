@@ -92,6 +92,8 @@ TEST_P(LogFalhas, ExistenteQueNaoSeLeDeixaALista) {
 
 INSTANTIATE_TEST_SUITE_P(Modos, LogFalhas, testing::Values(mgReescrever, mgAcrescentar));
 
+fs::path Com(fs::path ANome, const char* AFim) { return ANome += AFim; }
+
 /// What happens to the file between two saves, early (the first appends) and late (after many).
 TEST(LogAcrescimo, SoContinuaOQueEleMesmoDeixou) {
     struct TCaso {
@@ -111,11 +113,10 @@ TEST(LogAcrescimo, SoContinuaOQueEleMesmoDeixou) {
         {[](const fs::path& a) { fs::resize_file(a, fs::file_size(a) - 1); }, false, "shorter"},
         {[](const fs::path& a) { fs::resize_file(a, 0); }, false, "emptied"},
         {[](const fs::path& a) { fs::remove(a); }, false, "gone"},
-        {[](const fs::path& a) { fs::rename(a, a.string() + ".1"); }, false, "moved away"},
-        {[](const fs::path& a) { fs::copy_file(a, a.string() + ".2"), fs::rename(a.string() + ".2", a); }, false,
+        {[](const fs::path& a) { fs::rename(a, Com(a, ".1")); }, false, "moved away"},
+        {[](const fs::path& a) { fs::copy_file(a, Com(a, ".2")), fs::rename(Com(a, ".2"), a); }, false,
          "another file of the same text"},
-        {[](const fs::path& a) { fs::rename(a.parent_path(), a.parent_path().string() + "_1"); }, false,
-         "folder moved"},
+        {[](const fs::path& a) { fs::rename(a.parent_path(), Com(a.parent_path(), "_1")); }, false, "folder moved"},
         {[&](const fs::path& a) {
              mesmoTamanho(a);
              fs::last_write_time(a, fs::last_write_time(a) + std::chrono::seconds(3));
