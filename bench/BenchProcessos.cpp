@@ -1,11 +1,12 @@
 // Commands and processes beside what one would write by hand: the start of the program true beside popen (by its path:
 // to the shell, "true" is no program), also with 1 GiB in use;
-// 100 MB of output, text included, beside a bare loop of reads of 255 bytes; the list of 1,000 processes beside ps -e.
+// 100 MB of output as text, beside loops of reads of 255 bytes; the list of 1,000 processes beside ps -e.
 
 #include "oryutils/system/OryUtilsSystem.hpp"
 
 #include <benchmark/benchmark.h>
 
+#include <codecvt>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -14,6 +15,7 @@
 #include <fcntl.h>
 #include <spawn.h>
 #include <string>
+#include <string_view>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
@@ -47,6 +49,7 @@ public:
     TArquivo& operator=(const TArquivo&) = delete;
     static constexpr const char* FNome = "/dev/shm/ory_bench_saida";
     static constexpr const char* FComando = "cat /dev/shm/ory_bench_saida";
+    static constexpr const char16_t* FComandoLargo = u"cat /dev/shm/ory_bench_saida";
 };
 
 /// 1,000 processes that do nothing.
@@ -102,23 +105,72 @@ void IniciarCom1GiB_Popen(benchmark::State& AEstado) {
 
 void Capturar_Biblioteca(benchmark::State& AEstado) {
     const TArquivo arquivo;
-    const std::string comando = TArquivo::FComando;
     for (auto _ : AEstado)
-        benchmark::DoNotOptimize(
-            TOryUtilsSistema::ExecutarComandoComRetorno(std::u16string(comando.begin(), comando.end())));
+        benchmark::DoNotOptimize(TOryUtilsSistema::ExecutarComandoComRetorno(TArquivo::FComandoLargo));
     AEstado.SetItemsProcessed(AEstado.iterations());
 }
 
 void CapturarEmLista_Biblioteca(benchmark::State& AEstado) {
     const TArquivo arquivo;
-    const std::string comando = TArquivo::FComando;
     for (auto _ : AEstado) {
         std::vector<std::u16string> linhas;
-        TOryUtilsSistema::ExecutarComandoComRetorno(std::u16string(comando.begin(), comando.end()), linhas);
+        TOryUtilsSistema::ExecutarComandoComRetorno(TArquivo::FComandoLargo, linhas);
         benchmark::DoNotOptimize(linhas.data());
     }
     AEstado.SetItemsProcessed(AEstado.iterations());
 }
+
+// The peers that give the same text: read by read of 255 bytes, trimmed, made UTF-16 and put behind the text.
+
+void DecodificarPorCodecvt(std::string_view AParte, std::u16string& ATexto) {
+    static const std::codecvt_utf8_utf16<char16_t> decodificador;
+    char16_t texto[255];
+    std::mbstate_t estado{};
+    const char* lido = nullptr;
+    char16_t* fim = nullptr;
+    decodificador.in(estado, AParte.data(), AParte.data() + AParte.size(), lido, texto, std::end(texto), fim);
+    ATexto.append(texto, fim);
+}
+
+// No decoding: right for ASCII alone.
+void Alargar(std::string_view AParte, std::u16string& ATexto) { ATexto.append(AParte.begin(), AParte.end()); }
+
+template <typename TJuntar>
+std::u16string LerTextoPorRead255(TJuntar AJuntar) {
+    constexpr std::string_view CBrancos = " \t\r\n";
+    std::u16string texto;
+    char parte[255];
+    std::FILE* comando = ::popen(TArquivo::FComando, "r");
+    std::size_t tem = 0;
+    const auto juntar = [&] {
+        const std::string_view bytes(parte, tem);
+        const std::size_t inicio = bytes.find_first_not_of(CBrancos);
+        if (inicio != bytes.npos) AJuntar(bytes.substr(inicio, bytes.find_last_not_of(CBrancos) + 1 - inicio), texto);
+        tem = 0;
+    };
+    while (true) {
+        const ssize_t lidos = ::read(::fileno(comando), parte + tem, sizeof parte - tem);
+        if (lidos <= 0) break;
+        tem += static_cast<std::size_t>(lidos);
+        if (tem == sizeof parte) juntar();  // less than that only where the command has not written more yet
+    }
+    juntar();
+    ::pclose(comando);
+    return texto;
+}
+
+template <typename TJuntar>
+void CapturarTextoPorRead255(benchmark::State& AEstado, TJuntar AJuntar) {
+    const TArquivo arquivo;
+    if (LerTextoPorRead255(AJuntar) != TOryUtilsSistema::ExecutarComandoComRetorno(TArquivo::FComandoLargo))
+        AEstado.SkipWithError("the texts differ");
+    for (auto _ : AEstado) benchmark::DoNotOptimize(LerTextoPorRead255(AJuntar));
+    AEstado.SetItemsProcessed(AEstado.iterations());
+}
+void Capturar_Read255Decodificado(benchmark::State& AEstado) {
+    CapturarTextoPorRead255(AEstado, DecodificarPorCodecvt);
+}
+void Capturar_Read255Alargado(benchmark::State& AEstado) { CapturarTextoPorRead255(AEstado, Alargar); }
 
 // The bytes are read and forgotten.
 void CapturarPorRead255(benchmark::State& AEstado) {
@@ -201,6 +253,8 @@ BENCHMARK(Iniciar_Popen)->UseRealTime();
 BENCHMARK(IniciarCom1GiB_Biblioteca)->UseRealTime();
 BENCHMARK(IniciarCom1GiB_Popen)->UseRealTime();
 BENCHMARK(Capturar_Biblioteca)->UseRealTime();
+BENCHMARK(Capturar_Read255Decodificado)->UseRealTime();
+BENCHMARK(Capturar_Read255Alargado)->UseRealTime();
 BENCHMARK(Capturar_Read255)->UseRealTime();
 BENCHMARK(CapturarEmLista_Biblioteca)->UseRealTime();
 BENCHMARK(CapturarEmLista_Read255)->UseRealTime();

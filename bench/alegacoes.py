@@ -73,9 +73,11 @@ OPERACOES = (
     Operacao("a command started, 1 GiB in use", "IniciarCom1GiB_Biblioteca", (
         Par("IniciarCom1GiB_Popen", "popen", "parte", 0.65),), "Iniciar_Vfork", "bare vfork and exec"),
     Operacao("100 MB of a command captured, one text", "Capturar_Biblioteca", (
-        Par("Capturar_Read255", "loop of read(255)", "vezes", 1.8),), "Capturar_Read64K", "loop of read(64 KiB)"),
+        Par("Capturar_Read255Decodificado", "loop of read(255), decoded", "vezes", 1.8),
+        Par("Capturar_Read255Alargado", "loop of read(255), widened", "vezes", 1.8),
+        Par("Capturar_Read255", "loop of read(255), forgotten")), "Capturar_Read64K", "loop of read(64 KiB)"),
     Operacao("100 MB of a command captured, lines", "CapturarEmLista_Biblioteca", (
-        Par("CapturarEmLista_Read255", "loop of read(255)"),), "Capturar_Read64K", "loop of read(64 KiB)"),
+        Par("CapturarEmLista_Read255", "loop of read(255), forgotten"),), "Capturar_Read64K", "loop of read(64 KiB)"),
     Operacao("1,000 processes listed", "ListarMil_Biblioteca", (Par("ListarMil_PsE", "ps -e"),),
              "ListarMil_LerArquivos", "their /proc files read"),
     Operacao("ory conferir --vereditos, 10 million CNPJs", "Vereditos_Biblioteca",

@@ -110,5 +110,24 @@ TEST(SaidaDeComando, IgualAoLacoDe255BytesQueJuntaTudoDeNovo) {
     }
 }
 
+// Long enough for the text and the list to move more than once.
+TEST(SaidaDeComando, UmaSaidaLongaNaoPerdeNada) {
+    std::string saida;
+    for (int i = 0; saida.size() < 3'000'000; ++i) saida += std::to_string(i) + "\r\n";
+    std::u16string esperado;
+    for (std::size_t i = 0; i < saida.size(); i += 255) {
+        const std::u16string parte(saida.begin() + static_cast<std::ptrdiff_t>(i),
+                                   saida.begin() + static_cast<std::ptrdiff_t>(std::min(i + 255, saida.size())));
+        esperado += Aparar(parte);
+    }
+    std::u16string texto;
+    TSaidaEmTexto destino(texto);
+    TSaidaDeComando em_texto(destino, [](std::string_view ABytes) { return DeUtf8(ABytes); });
+    em_texto.Receber(saida);
+    em_texto.FecharParte();
+    EXPECT_TRUE(texto == esperado);
+    EXPECT_TRUE(JuntarLinhas(LinhasDaSaidaDeComando(saida)) == esperado);
+}
+
 }  // namespace
 }  // namespace OryUtils::Sistema

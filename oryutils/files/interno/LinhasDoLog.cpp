@@ -1,7 +1,6 @@
 #include "oryutils/files/interno/LinhasDoLog.hpp"
 
 #include "oryutils/files/interno/CodificacaoDoLog.hpp"
-#include "oryutils/platform/Memoria.hpp"
 #include "oryutils/platform/TextoDoSistema.hpp"
 
 #include <algorithm>
@@ -11,7 +10,7 @@ namespace OryUtils {
 
 void TLinhasDoLog::Adicionar(std::u16string_view ALinha) {
     if (FLinhas.empty()) FPronto.clear();  // it may hold the text of a log without lines
-    PrepararMemoria(ALinha.size());
+    FMemoria.Preparar(FPronto, ALinha.size() + Plataforma::BuscarQuebraDeLinha().size());
     const std::size_t inicio = FPronto.size();
     FLinhas.push_back({inicio, nullptr});
     try {
@@ -23,22 +22,6 @@ void TLinhasDoLog::Adicionar(std::u16string_view ALinha) {
         FLinhas.pop_back();
         throw;
     }
-}
-
-// A long log meets a new page every few dozen lines, each of which costs more than the lines in it.
-void TLinhasDoLog::PrepararMemoria(std::size_t ALinha) {
-    constexpr std::size_t CPasso = std::size_t{128} * 1024;
-    const std::size_t tamanho = FPronto.size() + ALinha + Plataforma::BuscarQuebraDeLinha().size();
-    if (tamanho <= FPreparado || tamanho < CPasso) return;
-    if (tamanho > FPronto.capacity()) {
-        std::string maior;
-        maior.reserve(tamanho * Plataforma::BuscarFatorDeCrescimento());
-        Plataforma::PrepararEscrita(maior.data(), FPronto.size());
-        maior.append(FPronto);
-        FPronto.swap(maior);
-    }
-    FPreparado = std::min(FPronto.capacity(), tamanho + CPasso);
-    Plataforma::PrepararEscrita(FPronto.data() + FPronto.size(), FPreparado - FPronto.size());
 }
 
 void TLinhasDoLog::Inserir(std::size_t AIndice, std::u16string_view ALinha) {

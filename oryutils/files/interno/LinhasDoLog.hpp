@@ -1,6 +1,7 @@
 #pragma once
 
 #include "oryutils/files/UnOryUtilsArquivoLogTypes.hpp"
+#include "oryutils/platform/MemoriaDeTexto.hpp"
 
 #include <cstddef>
 #include <cstdint>
@@ -43,12 +44,11 @@ private:
         std::unique_ptr<std::u16string> Original;  // of a line that is not ASCII
     };
 
-    void PrepararMemoria(std::size_t ALinha);
     std::string_view BuscarBytes(std::size_t AIndice) const noexcept;
 
     std::vector<TLinha> FLinhas{};
     std::string FPronto{};
-    std::size_t FPreparado = 0;  // so far FPronto's memory has been asked for
+    Plataforma::TMemoriaDeTexto<std::string> FMemoria{};
     std::uint64_t FGeracao = 0;
     TCodificacaoLog FCodificacao = clPadrao;
 };

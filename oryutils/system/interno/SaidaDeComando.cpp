@@ -1,6 +1,5 @@
 #include "oryutils/system/interno/SaidaDeComando.hpp"
 
-#include "oryutils/platform/Memoria.hpp"
 #include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/Utf.hpp"
 #include "oryutils/system/interno/Executor.hpp"
@@ -8,7 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
-#include <exception>
+#include <new>
 #include <utility>
 
 namespace OryUtils::Sistema {
@@ -121,20 +120,45 @@ void TSaidaEmLista::Continuar(std::u16string_view ATexto) {
         FLinhas.back().append(ATexto);
 }
 
+// A long list seldom moves: all its lines would move with it.
+void TSaidaEmLista::NovaLinha(std::u16string_view ATexto) {
+    constexpr std::size_t CListaLonga = std::size_t{1} << 14;
+    if (FLinhas.size() == FLinhas.capacity() && FLinhas.size() >= CListaLonga) {
+        try {
+            FLinhas.reserve(FLinhas.size() * Plataforma::BuscarFatorDeCrescimento());
+        } catch (const std::bad_alloc&) {  // it grows as far as it needs to
+        }
+    }
+    FLinhas.emplace_back(ATexto);
+}
+
 void TSaidaEmLista::ContinuarAscii(std::string_view APartes, bool /*AQuebrasInteiras*/) {
-    std::array<char16_t, TSaidaDeComando::CTamanhoDaParte> texto;
+    std::array<char16_t, TSaidaDeComando::CTamanhoDoGrupo> texto;
+    char16_t* inicio = texto.data();  // of the line that may go on in the next chunk
+    char16_t* fim = inicio;
+    bool nada = true;
+    bool primeira = true;
+    const auto entregar = [&] {
+        const std::u16string_view linha(inicio, fim);
+        if (std::exchange(primeira, false))
+            Continuar(linha);
+        else
+            NovaLinha(linha);
+        inicio = fim;
+    };
     PercorrerPartes(APartes, [&](std::string_view AParte) {
-        if (AParte.empty()) return ParteVazia();
-        Alargar(AParte, texto.data());
-        bool primeira = true;
+        if (AParte.empty()) {
+            if (nada) ParteVazia();  // what a chunk has left behind never ends with a line break
+            return;
+        }
+        nada = false;
+        bool continua = true;
         PercorrerLinhasDeBytes(AParte, [&](std::string_view ALinha) {
-            const std::u16string_view linha(texto.data() + (ALinha.data() - AParte.data()), ALinha.size());
-            if (std::exchange(primeira, false))
-                Continuar(linha);
-            else
-                NovaLinha(linha);
+            if (!std::exchange(continua, false)) entregar();
+            fim = Alargar(ALinha, fim);
         });
     });
+    if (!nada) entregar();
 }
 
 // A list does not tell a text that ends with a line break from one that does not: setting it drops the break.
@@ -156,7 +180,7 @@ void TSaidaEmLista::Abrir() {
 }
 
 void TSaidaEmTexto::Continuar(std::u16string_view ATexto) {
-    ReservarParaPartes();
+    FMemoria.Preparar(FTexto, ATexto.size());
     FTexto.append(ATexto);
 }
 
@@ -175,23 +199,8 @@ void TSaidaEmTexto::ContinuarAscii(std::string_view APartes, bool AQuebrasInteir
         });
         fim -= 2;
     });
-    ReservarParaPartes();
+    FMemoria.Preparar(FTexto, static_cast<std::size_t>(fim - texto.data()));
     FTexto.append(texto.data(), fim);
-}
-
-void TSaidaEmTexto::ReservarParaPartes() {
-    constexpr std::size_t CMaiorGrupo = 3 * TSaidaDeComando::CTamanhoDoGrupo;
-    constexpr std::size_t CTextoLongo = 1 << 20;
-    if (FTexto.capacity() < CTextoLongo || FTexto.capacity() - FTexto.size() >= CMaiorGrupo) return;
-    std::u16string maior;
-    try {
-        maior.reserve(std::max(FTexto.capacity() * Plataforma::BuscarFatorDeCrescimento(),
-                               Plataforma::BuscarReservaDeTextoLongo() / sizeof(char16_t)));
-    } catch (const std::exception&) {
-        return;  // it grows as far as it needs to
-    }
-    maior.append(FTexto);
-    FTexto.swap(maior);
 }
 
 TSaidaDeComando::TSaidaDeComando(TDestinoDaSaida& ADestino, TDecodificador ADecodificador)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "oryutils/platform/CodificacaoAnsi.hpp"
+#include "oryutils/platform/MemoriaDeTexto.hpp"
 
 #include <functional>
 #include <string>
@@ -29,7 +30,7 @@ class TSaidaEmLista final : public TDestinoDaSaida {
 public:
     explicit TSaidaEmLista(std::vector<std::u16string>& ALinhas) : FLinhas(ALinhas) {}
     void Continuar(std::u16string_view ATexto) override;
-    void NovaLinha(std::u16string_view ATexto) override { FLinhas.emplace_back(ATexto); }
+    void NovaLinha(std::u16string_view ATexto) override;
     void ParteVazia() override;
     void ContinuarAscii(std::string_view APartes, bool AQuebrasInteiras) override;
 
@@ -50,9 +51,8 @@ public:
     void ContinuarAscii(std::string_view APartes, bool AQuebrasInteiras) override;
 
 private:
-    void ReservarParaPartes();
-
     std::u16string& FTexto;
+    Plataforma::TMemoriaDeTexto<std::u16string> FMemoria{Plataforma::BuscarReservaDeTextoLongo()};
 };
 
 /// What a command prints, taken in chunks of 255 bytes. Each chunk ends at its first zero byte, is turned into text by
