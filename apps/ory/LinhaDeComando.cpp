@@ -2,7 +2,7 @@
 
 #include "oryutils/OryUtils.hpp"
 
-#include "Cli.hpp"
+#include "Opcoes.hpp"
 #include "chamar/Chamadas.hpp"
 #include "conferir/Conferir.hpp"
 #include "log/Log.hpp"
@@ -82,29 +82,29 @@ TPedidoDeConferencia LerPedido(const TOpcoesDeConferir& ALidas) {
     return pedido;
 }
 
-void DescreverConferir(CLI::App& AComando, TOpcoesDeConferir& AOpcoes) {
+void DescreverConferir(TOpcoes AComando, TOpcoesDeConferir& AOpcoes) {
     TPedidoDeConferencia& pedido = AOpcoes.Conferencia;
-    AComando.add_option("ARQUIVO", pedido.Arquivo, "arquivo CSV; \"-\" ou nenhum: a entrada padrão");
+    AComando.Valor("ARQUIVO", pedido.Arquivo, "arquivo CSV; \"-\" ou nenhum: a entrada padrão");
     AComando
-        .add_option("--coluna", AOpcoes.Colunas,
-                    "nome=tipo: diz o que há na coluna desse nome ou dessa posição; pode repetir.\n"
-                    "Tipos: " +
-                        ListarTipos())
-        ->allow_extra_args(false);
-    AComando.add_option("--uf", pedido.Opcoes.Uf, "UF das inscrições estaduais de todo o arquivo");
-    AComando.add_option("--codificacao", AOpcoes.Codificacao, "utf-8 ou windows-1252 (padrão: detecta)");
-    AComando.add_option("--delimitador", AOpcoes.Delimitador, "um caractere ou tab (padrão: detecta ; ou ,)");
-    AComando.add_flag("--sem-cabecalho", pedido.Opcoes.SemCabecalho,
-                      "a primeira linha já é dado; as colunas vão pela posição: --coluna 2=cnpj");
-    AComando.add_option("--saida", pedido.Saida,
-                        "grava o arquivo de novo com veredito e número formatado de cada coluna conferida");
-    AComando.add_option("--log", pedido.Log, "escreve um log da conferência; a extensão passa a ser .log");
-    AComando.add_flag("--json", pedido.Json, "resumo em JSON");
-    AComando.add_option("--mostrar", pedido.Opcoes.Mostrar, "quantos inválidos mostrar por coluna (padrão: 5)");
-    AComando.add_option("--vereditos", AOpcoes.Vereditos,
-                        "tipo: em vez de CSV lê um número por linha e escreve 1 (válido) ou 0 por linha");
-    AComando.add_option("--cores", AOpcoes.Cores, "nunca ou auto (padrão: auto, só em terminal e sem NO_COLOR)");
-    AComando.footer(
+        .Valor("--coluna", AOpcoes.Colunas,
+               "nome=tipo: diz o que há na coluna desse nome ou dessa posição; pode repetir.\n"
+               "Tipos: " +
+                   ListarTipos())
+        .SemMaisValores();
+    AComando.Valor("--uf", pedido.Opcoes.Uf, "UF das inscrições estaduais de todo o arquivo");
+    AComando.Valor("--codificacao", AOpcoes.Codificacao, "utf-8 ou windows-1252 (padrão: detecta)");
+    AComando.Valor("--delimitador", AOpcoes.Delimitador, "um caractere ou tab (padrão: detecta ; ou ,)");
+    AComando.Marca("--sem-cabecalho", pedido.Opcoes.SemCabecalho,
+                   "a primeira linha já é dado; as colunas vão pela posição: --coluna 2=cnpj");
+    AComando.Valor("--saida", pedido.Saida,
+                   "grava o arquivo de novo com veredito e número formatado de cada coluna conferida");
+    AComando.Valor("--log", pedido.Log, "escreve um log da conferência; a extensão passa a ser .log");
+    AComando.Marca("--json", pedido.Json, "resumo em JSON");
+    AComando.Valor("--mostrar", pedido.Opcoes.Mostrar, "quantos inválidos mostrar por coluna (padrão: 5)");
+    AComando.Valor("--vereditos", AOpcoes.Vereditos,
+                   "tipo: em vez de CSV lê um número por linha e escreve 1 (válido) ou 0 por linha");
+    AComando.Valor("--cores", AOpcoes.Cores, "nunca ou auto (padrão: auto, só em terminal e sem NO_COLOR)");
+    AComando.Rodape(
         "Saída do programa: 0 tudo válido, 1 há inválidos, 2 não foi possível ler ou gravar.\n"
         "Um registro pode ter até 16 MiB. --saida pode ser o próprio ARQUIVO: ele só é trocado no fim.\n\n"
         "Exemplos:\n"
@@ -113,14 +113,14 @@ void DescreverConferir(CLI::App& AComando, TOpcoesDeConferir& AOpcoes) {
         "  cut -d';' -f3 clientes.csv | ory conferir --vereditos cnpj");
 }
 
-void DescreverChamar(CLI::App& AComando, TOpcoesDeChamar& AOpcoes) {
-    AComando.add_option("OPERACAO", AOpcoes.Operacao, "nome da operação; veja ory operacoes");
-    AComando.add_option("ARGUMENTO", AOpcoes.Argumentos,
-                        "um valor por argumento: texto como está, listas em JSON ([\"a\",\"b\"]),\n"
-                        "datas AAAA-MM-DDTHH:MM:SS, enumerações pelo ordinal");
-    AComando.add_flag("--lote", AOpcoes.Lote, "lê um pedido JSON por linha e responde um JSON por linha");
-    AComando.add_flag("--json", AOpcoes.Json, "resposta em JSON, como em --lote (antes da operação)");
-    AComando.footer(
+void DescreverChamar(TOpcoes AComando, TOpcoesDeChamar& AOpcoes) {
+    AComando.Valor("OPERACAO", AOpcoes.Operacao, "nome da operação; veja ory operacoes");
+    AComando.Valor("ARGUMENTO", AOpcoes.Argumentos,
+                   "um valor por argumento: texto como está, listas em JSON ([\"a\",\"b\"]),\n"
+                   "datas AAAA-MM-DDTHH:MM:SS, enumerações pelo ordinal");
+    AComando.Marca("--lote", AOpcoes.Lote, "lê um pedido JSON por linha e responde um JSON por linha");
+    AComando.Marca("--json", AOpcoes.Json, "resposta em JSON, como em --lote (antes da operação)");
+    AComando.Rodape(
         "Saída do programa: 0 certo, 1 a operação falhou, 2 chamada errada.\n\n"
         "Exemplos:\n"
         "  ory chamar ValidouCnpjCpf 1 11222333000181\n"
@@ -128,88 +128,39 @@ void DescreverChamar(CLI::App& AComando, TOpcoesDeChamar& AOpcoes) {
         "  echo '{\"op\":\"ValidouCnpjCpf\",\"args\":[1,\"11222333000181\"]}' | ory chamar --lote");
 }
 
-void DescreverOperacoes(CLI::App& AComando, TOpcoesDeOperacoes& AOpcoes) {
-    AComando.add_flag("--json", AOpcoes.Json, "lista em JSON");
-}
-
-/// The library's own words are English; these take their place.
-void Traduzir(CLI::App& AAplicativo) {
-    const auto formatador = std::make_shared<CLI::Formatter>();
-    formatador->label("Usage", "Uso");
-    formatador->label("OPTIONS", "opções");
-    formatador->label("SUBCOMMAND", "COMANDO");
-    formatador->label("SUBCOMMANDS", "COMANDOS");
-    formatador->label("Positionals", "Argumentos");
-    formatador->label("TEXT", "TEXTO");
-    formatador->label("UINT", "N");
-    formatador->label("REQUIRED", "(obrigatório)");
-    formatador->column_width(28);
-    AAplicativo.formatter(formatador);
-    AAplicativo.option_defaults()->group("Opções");
-}
-
-void PorAjuda(CLI::App& AAplicativo) {
-    AAplicativo.set_help_flag("-h,--ajuda,--help", "mostra esta ajuda")->group("Opções");
-}
-
-CLI::App* NovoComando(CLI::App& AAplicativo, const std::string& ANome, const std::string& ADescricao) {
-    CLI::App* comando = AAplicativo.add_subcommand(ANome, ADescricao);
-    comando->group("Comandos");
-    PorAjuda(*comando);
-    return comando;
-}
-
-std::string DescreverErroDeUso(const CLI::ParseError& AErro, const CLI::App& AAplicativo) {
-    if (dynamic_cast<const CLI::ExtrasError*>(&AErro)) {
-        std::string sobra;
-        for (const std::string& argumento : AAplicativo.remaining(true)) sobra += " " + argumento;
-        return "argumento desconhecido:" + sobra;
-    }
-    std::string mensagem = AErro.what();
-    if (dynamic_cast<const CLI::ArgumentMismatch*>(&AErro)) {
-        const std::string opcao = mensagem.substr(0, mensagem.find_first_of(": "));
-        if (mensagem.find("At Most") != std::string::npos) return opcao + " tem valores demais";
-        return "falta o valor de " + opcao;
-    }
-    if (dynamic_cast<const CLI::RequiredError*>(&AErro)) {
-        constexpr std::string_view falta = " is required";
-        return mensagem.starts_with("A subcommand") || !mensagem.ends_with(falta)
-                   ? "falta o comando"
-                   : "falta " + mensagem.substr(0, mensagem.size() - falta.size());
-    }
-    if (dynamic_cast<const CLI::ConversionError*>(&AErro)) return "valor inválido: " + mensagem;
-    return mensagem;
+void DescreverOperacoes(TOpcoes AComando, TOpcoesDeOperacoes& AOpcoes) {
+    AComando.Marca("--json", AOpcoes.Json, "lista em JSON");
 }
 
 /// The sub-commands, each with what was asked of it and what runs it.
 class TComandos {
 public:
-    TComandos(CLI::App& AAplicativo, std::span<const std::string> AArgumentos, TAmbiente& AAmbiente)
+    TComandos(TAplicativo& AAplicativo, std::span<const std::string> AArgumentos, TAmbiente& AAmbiente)
         : FAplicativo(AAplicativo), FArgumentos(AArgumentos), FAmbiente(AAmbiente) {}
 
     /// ADescrever gives the sub-command its options, which fill a TPedido; AExecutar runs it. The options of one whose
     /// name is not written would be described for nothing.
     template <typename TPedido>
-    void Incluir(const std::string& ANome, const std::string& ADescricao, void (*ADescrever)(CLI::App&, TPedido&),
+    void Incluir(const std::string& ANome, const std::string& ADescricao, void (*ADescrever)(TOpcoes, TPedido&),
                  int (*AExecutar)(const TPedido&, TAmbiente&)) {
-        CLI::App* comando = NovoComando(FAplicativo, ANome, ADescricao);
+        const TOpcoes comando = FAplicativo.Incluir(ANome, ADescricao);
         if (std::ranges::find(FArgumentos, ANome) == FArgumentos.end()) return;
         const auto pedido = std::make_shared<TPedido>();
-        ADescrever(*comando, *pedido);
+        ADescrever(comando, *pedido);
         FComandos.push_back({comando, [this, pedido, AExecutar] { return AExecutar(*pedido, FAmbiente); }});
     }
     /// Runs the one that was written; nothing when none was.
     std::optional<int> Executar() const {
-        const auto escrito = std::ranges::find_if(FComandos, [](const auto& c) { return c.Comando->parsed(); });
+        const auto escrito = std::ranges::find_if(FComandos, [](const auto& c) { return c.Comando.FoiEscrito(); });
         return escrito == FComandos.end() ? std::nullopt : std::optional(escrito->Executar());
     }
 
 private:
     struct TComando {
-        CLI::App* Comando;
+        TOpcoes Comando;
         std::function<int()> Executar;
     };
-    CLI::App& FAplicativo;
+    TAplicativo& FAplicativo;
     std::span<const std::string> FArgumentos;
     TAmbiente& FAmbiente;
     std::vector<TComando> FComandos{};
@@ -239,12 +190,10 @@ int ExecutarOperacoes(const TOpcoesDeOperacoes& AOpcoes, TAmbiente& AAmbiente) {
 void EscreverVersao(TSaida& ASaida) { ASaida.Escrever("ory " + std::string(OryUtils::BuscarVersaoOryUtils()) + "\n"); }
 
 int ExecutarLinhaDeComando(std::span<const std::string> AArgumentos, TAmbiente& AAmbiente) {
-    CLI::App aplicativo("Confere e formata números de cadastro brasileiros e chama as operações da OryUtils.", "ory");
-    Traduzir(aplicativo);
-    PorAjuda(aplicativo);
-    aplicativo.allow_windows_style_options(false);  // "/dados/x.csv" is a file there too
+    TAplicativo aplicativo("ory",
+                           "Confere e formata números de cadastro brasileiros e chama as operações da OryUtils.");
     bool versao = false;
-    aplicativo.add_flag("--versao,--version", versao, "mostra a versão");
+    aplicativo.Opcoes().Marca("--versao,--version", versao, "mostra a versão");
     TComandos comandos(aplicativo, AArgumentos, AAmbiente);
     comandos.Incluir("conferir", "confere os números de um arquivo CSV", DescreverConferir, ExecutarConferir);
     comandos.Incluir("chamar", "chama uma operação da biblioteca", DescreverChamar, ExecutarChamar);
@@ -259,23 +208,17 @@ int ExecutarLinhaDeComando(std::span<const std::string> AArgumentos, TAmbiente& 
                      MostrarSistema);
     comandos.Incluir("processos", "lista os processos da máquina", DescreverProcessos, MostrarProcessos);
     comandos.Incluir("servico", "mostra o estado de um serviço do sistema", DescreverServico, MostrarServico);
-    aplicativo.require_subcommand(0, 1);
 
-    std::vector<std::string> invertidos(AArgumentos.rbegin(), AArgumentos.rend());
-    try {
-        aplicativo.parse(std::move(invertidos));
-    } catch (const CLI::CallForHelp&) {
-        AAmbiente.Saida.Escrever(aplicativo.help());
+    if (!aplicativo.Ler(AArgumentos)) {
+        AAmbiente.Saida.Escrever(aplicativo.Ajuda());
         return stTudoCerto;
-    } catch (const CLI::ParseError& erro) {
-        throw EFalha(DescreverErroDeUso(erro, aplicativo) + "; veja ory --ajuda");
     }
     if (versao) {
         EscreverVersao(AAmbiente.Saida);
         return stTudoCerto;
     }
     if (const auto status = comandos.Executar()) return *status;
-    AAmbiente.Erro.Escrever(aplicativo.help());
+    AAmbiente.Erro.Escrever(aplicativo.Ajuda());
     return stFalha;
 }
 

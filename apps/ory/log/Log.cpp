@@ -7,7 +7,7 @@
 #include "oryutils/runtime/NomeDeArquivo.hpp"
 #include "oryutils/runtime/Utf.hpp"
 
-#include "Cli.hpp"
+#include "Opcoes.hpp"
 #include "conferir/Codificacao.hpp"
 
 #include <algorithm>
@@ -97,17 +97,16 @@ std::string DescreverFalhaDoLog(const std::u16string& AArquivo) {
     return falha.append(": ").append(DescreverErro(erro));
 }
 
-void DescreverLog(CLI::App& AComando, TPedidoDeLog& APedido) {
-    AComando.add_option("ARQUIVO", APedido.Arquivo, "arquivo do log; a extensão passa a ser .log")->required();
-    AComando.add_flag("--diario", APedido.Diario, "um arquivo por dia: nome_DD_MM_AAAA.log");
-    AComando.add_flag("--somente-texto", APedido.SomenteTexto, "linhas sem data e hora");
-    AComando.add_flag("--existente", APedido.Existente, "continua o arquivo que já existe, em vez de começar outro");
-    AComando.add_flag("--acrescentar", APedido.Acrescentar,
-                      "grava só o que é novo, enquanto ninguém mais mexer no arquivo (para logs longos)");
-    AComando.add_option("--codificacao", APedido.Codificacao,
-                        "do arquivo: padrao (a do sistema), utf-8 ou windows-1252");
-    AComando.add_flag("--eco", APedido.Eco, "repete as linhas na saída padrão");
-    AComando.footer(
+void DescreverLog(TOpcoes AComando, TPedidoDeLog& APedido) {
+    AComando.Valor("ARQUIVO", APedido.Arquivo, "arquivo do log; a extensão passa a ser .log").Obrigatoria();
+    AComando.Marca("--diario", APedido.Diario, "um arquivo por dia: nome_DD_MM_AAAA.log");
+    AComando.Marca("--somente-texto", APedido.SomenteTexto, "linhas sem data e hora");
+    AComando.Marca("--existente", APedido.Existente, "continua o arquivo que já existe, em vez de começar outro");
+    AComando.Marca("--acrescentar", APedido.Acrescentar,
+                   "grava só o que é novo, enquanto ninguém mais mexer no arquivo (para logs longos)");
+    AComando.Valor("--codificacao", APedido.Codificacao, "do arquivo: padrao (a do sistema), utf-8 ou windows-1252");
+    AComando.Marca("--eco", APedido.Eco, "repete as linhas na saída padrão");
+    AComando.Rodape(
         "Lê linhas da entrada padrão; o arquivo fica em dia sempre que a entrada faz uma pausa.\n"
         "Saída do programa: 0 gravado, 2 não foi possível ler ou gravar.\n\n"
         "Exemplos:\n"

@@ -4,15 +4,13 @@
 
 #include <string>
 
-namespace CLI {
-class App;
-}
-
 namespace OryUtils {
 class TAmbienteDoLog;
 }
 
 namespace Ory {
+
+class TOpcoes;
 
 /// `ory log`: a process log made of the lines of the input, as written on the command line (UTF-8).
 struct TPedidoDeLog {
@@ -27,7 +25,7 @@ struct TPedidoDeLog {
 /// The sentence for a log that could not be written, with the reason as far as the file tells it now.
 std::string DescreverFalhaDoLog(const std::u16string& AArquivo);
 
-void DescreverLog(CLI::App& AComando, TPedidoDeLog& APedido);
+void DescreverLog(TOpcoes AComando, TPedidoDeLog& APedido);
 /// Starts the log, adds the lines as they come, and finishes it at the end of the input. The file is brought up to date
 /// whenever the input has nothing more for the moment. A run that ends, with the input or with its day, and could not
 /// be saved is told on AAmbiente.Erro, and the status is stFalha. Raises EFalha for options that make no log.

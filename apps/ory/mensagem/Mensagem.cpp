@@ -3,7 +3,7 @@
 #include "oryutils/runtime/Utf.hpp"
 #include "oryutils/ui/UnOryUtilsDialogs.hpp"
 
-#include "Cli.hpp"
+#include "Opcoes.hpp"
 
 #include <algorithm>
 #include <array>
@@ -127,28 +127,25 @@ int Perguntar(const TPedidoDeMensagem& APedido, TAmbiente& AAmbiente) {
 
 }  // namespace
 
-void DescreverMensagem(CLI::App& AComando, TPedidoDeMensagem& APedido) {
-    AComando.add_option("TEXTO", APedido.Linhas, "texto da mensagem; cada argumento é uma linha");
-    AComando.add_option("--titulo", APedido.Titulo, "título da janela (padrão: o do tipo)");
-    AComando.add_option("--tipo", APedido.Tipo, "ícone e título: " + ListarNomes(CTipos) + " (padrão: informacao)");
+void DescreverMensagem(TOpcoes AComando, TPedidoDeMensagem& APedido) {
+    AComando.Valor("TEXTO", APedido.Linhas, "texto da mensagem; cada argumento é uma linha");
+    AComando.Valor("--titulo", APedido.Titulo, "título da janela (padrão: o do tipo)");
+    AComando.Valor("--tipo", APedido.Tipo, "ícone e título: " + ListarNomes(CTipos) + " (padrão: informacao)");
     AComando
-        .add_option("--botao", APedido.Botoes,
-                    "nome ou nome=texto; repita para cada botão. Nomes:\n" + ListarNomes(CBotoes) +
-                        "\n(padrão: sim e nao na confirmacao, ok nos outros tipos)")
-        ->allow_extra_args(false);
-    AComando.add_option("--padrao", APedido.Padrao, "nome do botão que recebe o foco");
-    AComando.add_option("--opcao", APedido.Opcoes, "uma opção a escolher; repita para cada uma")
-        ->allow_extra_args(false);
-    AComando.add_option("--opcao-padrao", APedido.OpcaoPadrao,
-                        "opção já escolhida, a partir de 1; 0 nenhuma (padrão: 1)");
-    AComando.add_option("--caixa", APedido.Caixa, "texto de uma caixa de checagem");
-    AComando.add_flag("--caixa-abaixo", APedido.CaixaAbaixo, "caixa abaixo dos botões");
-    AComando.add_option("--detalhe", APedido.Detalhe, "texto que o botão Mostrar Detalhes abre");
-    AComando.add_option("--fechar-em", APedido.FecharEm, "segundos até fechar sem resposta");
-    AComando
-        .add_option("--valor", APedido.Valor, "em vez de botões pergunta um texto, com este já escrito (pode ser \"\")")
-        ->each([&APedido](const std::string&) { APedido.Perguntar = true; });
-    AComando.footer(
+        .Valor("--botao", APedido.Botoes,
+               "nome ou nome=texto; repita para cada botão. Nomes:\n" + ListarNomes(CBotoes) +
+                   "\n(padrão: sim e nao na confirmacao, ok nos outros tipos)")
+        .SemMaisValores();
+    AComando.Valor("--padrao", APedido.Padrao, "nome do botão que recebe o foco");
+    AComando.Valor("--opcao", APedido.Opcoes, "uma opção a escolher; repita para cada uma").SemMaisValores();
+    AComando.Valor("--opcao-padrao", APedido.OpcaoPadrao, "opção já escolhida, a partir de 1; 0 nenhuma (padrão: 1)");
+    AComando.Valor("--caixa", APedido.Caixa, "texto de uma caixa de checagem");
+    AComando.Marca("--caixa-abaixo", APedido.CaixaAbaixo, "caixa abaixo dos botões");
+    AComando.Valor("--detalhe", APedido.Detalhe, "texto que o botão Mostrar Detalhes abre");
+    AComando.Valor("--fechar-em", APedido.FecharEm, "segundos até fechar sem resposta");
+    AComando.Valor("--valor", APedido.Valor, "em vez de botões pergunta um texto, com este já escrito (pode ser \"\")")
+        .AoLer([&APedido] { APedido.Perguntar = true; });
+    AComando.Rodape(
         "Na saída: uma linha com o texto do botão escolhido, sem \"&\" (vazia se a janela foi fechada\n"
         "e não há botão cancelar), e com --opcao mais uma com a opção (vazia se nenhuma), com --caixa mais uma com 1 "
         "ou 0.\n"

@@ -5,11 +5,9 @@
 #include <string>
 #include <vector>
 
-namespace CLI {
-class App;
-}
-
 namespace Ory {
+
+class TOpcoes;
 
 /// A dialog asked for on the command line, as it was written there (UTF-8).
 struct TPedidoDeMensagem {
@@ -32,7 +30,7 @@ struct TPedidoDeMensagem {
 enum TStatusMensagem : int { smSim = 0, smNao = 1, smCancelada = 3 };
 
 /// The options and the help of the sub-command.
-void DescreverMensagem(CLI::App& AComando, TPedidoDeMensagem& APedido);
+void DescreverMensagem(TOpcoes AComando, TPedidoDeMensagem& APedido);
 
 /// Shows the dialog by the toolkit in use (without a display it is asked on the terminal), writes the answer on
 /// AAmbiente.Saida and gives the exit status. Raises EFalha for options that make no dialog.

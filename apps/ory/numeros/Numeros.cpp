@@ -5,7 +5,7 @@
 #include "oryutils/text/OryUtilsFormulas.hpp"
 #include "oryutils/text/UnOryUtilsMatematica.hpp"
 
-#include "Cli.hpp"
+#include "Opcoes.hpp"
 
 #include <algorithm>
 #include <array>
@@ -37,11 +37,11 @@ bool EscreverExtenso(std::string_view AValor, TAmbiente& AAmbiente) {
 
 }  // namespace
 
-void DescreverFormula(CLI::App& AComando, TPedidoDeFormula& APedido) {
-    AComando.add_option("EXPRESSAO", APedido.Expressao, "a fórmula: \"salario*0,11 + MAX(a;b)\"")->required();
-    AComando.add_option("NOME=VALOR", APedido.Variaveis, "as variáveis");
-    AComando.add_option("--ajuste", APedido.Ajuste, "ajuste de cada resultado: nenhum, matematico, truncamento");
-    AComando.add_option("--casas", APedido.Casas, "casas decimais do ajuste");
+void DescreverFormula(TOpcoes AComando, TPedidoDeFormula& APedido) {
+    AComando.Valor("EXPRESSAO", APedido.Expressao, "a fórmula: \"salario*0,11 + MAX(a;b)\"").Obrigatoria();
+    AComando.Valor("NOME=VALOR", APedido.Variaveis, "as variáveis");
+    AComando.Valor("--ajuste", APedido.Ajuste, "ajuste de cada resultado: nenhum, matematico, truncamento");
+    AComando.Valor("--casas", APedido.Casas, "casas decimais do ajuste");
 }
 
 int MostrarFormula(const TPedidoDeFormula& APedido, TAmbiente& AAmbiente) {
@@ -69,8 +69,8 @@ int MostrarFormula(const TPedidoDeFormula& APedido, TAmbiente& AAmbiente) {
     return stTudoCerto;
 }
 
-void DescreverExtenso(CLI::App& AComando, TPedidoDeExtenso& APedido) {
-    AComando.add_option("VALOR", APedido.Valores, "1234,56 ou 1234.56; sem nenhum, lê um valor por linha");
+void DescreverExtenso(TOpcoes AComando, TPedidoDeExtenso& APedido) {
+    AComando.Valor("VALOR", APedido.Valores, "1234,56 ou 1234.56; sem nenhum, lê um valor por linha");
 }
 
 int MostrarExtenso(const TPedidoDeExtenso& APedido, TAmbiente& AAmbiente) {

@@ -5,11 +5,9 @@
 #include <string>
 #include <vector>
 
-namespace CLI {
-class App;
-}
-
 namespace Ory {
+
+class TOpcoes;
 
 /// `ory formula`: one formula with its variables, as written on the command line (UTF-8).
 struct TPedidoDeFormula {
@@ -18,7 +16,7 @@ struct TPedidoDeFormula {
     std::string Ajuste = "nenhum";
     unsigned Casas = 2;
 };
-void DescreverFormula(CLI::App& AComando, TPedidoDeFormula& APedido);
+void DescreverFormula(TOpcoes AComando, TPedidoDeFormula& APedido);
 /// Writes the resolved expression, " = " and the value. Raises EFalha for what is no variable; what the formula itself
 /// gets wrong is said on AAmbiente.Erro with the status stInvalido.
 int MostrarFormula(const TPedidoDeFormula& APedido, TAmbiente& AAmbiente);
@@ -27,7 +25,7 @@ int MostrarFormula(const TPedidoDeFormula& APedido, TAmbiente& AAmbiente);
 struct TPedidoDeExtenso {
     std::vector<std::string> Valores{};
 };
-void DescreverExtenso(CLI::App& AComando, TPedidoDeExtenso& APedido);
+void DescreverExtenso(TOpcoes AComando, TPedidoDeExtenso& APedido);
 /// Writes one line for each amount; an empty one, and a word on AAmbiente.Erro, for what is no amount (stInvalido).
 int MostrarExtenso(const TPedidoDeExtenso& APedido, TAmbiente& AAmbiente);
 

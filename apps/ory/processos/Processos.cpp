@@ -4,7 +4,7 @@
 #include "oryutils/runtime/Utf.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 
-#include "Cli.hpp"
+#include "Opcoes.hpp"
 #include "Tabela.hpp"
 #include "TextoNaTela.hpp"
 #include "operacoes/Json.hpp"
@@ -57,10 +57,10 @@ std::string EscreverEmJson(const std::vector<const TProcessoItem*>& AProcessos) 
 
 }  // namespace
 
-void DescreverProcessos(CLI::App& AComando, TPedidoDeProcessos& APedido) {
-    AComando.add_option("--usuario", APedido.Usuario, "só os desta conta (sem o domínio)");
-    AComando.add_flag("--json", APedido.Json, "em JSON: uma lista, com a memória em bytes");
-    AComando.footer(
+void DescreverProcessos(TOpcoes AComando, TPedidoDeProcessos& APedido) {
+    AComando.Valor("--usuario", APedido.Usuario, "só os desta conta (sem o domínio)");
+    AComando.Marca("--json", APedido.Json, "em JSON: uma lista, com a memória em bytes");
+    AComando.Rodape(
         "O que o sistema não conta de um processo de outra conta fica vazio.\n\n"
         "Exemplos:\n"
         "  ory processos\n"

@@ -4,18 +4,16 @@
 
 #include <string>
 
-namespace CLI {
-class App;
-}
-
 namespace Ory {
+
+class TOpcoes;
 
 /// `ory processos`: the processes of the machine.
 struct TPedidoDeProcessos {
     std::string Usuario{};  // UTF-8; blank: of all users
     bool Json = false;
 };
-void DescreverProcessos(CLI::App& AComando, TPedidoDeProcessos& APedido);
+void DescreverProcessos(TOpcoes AComando, TPedidoDeProcessos& APedido);
 /// Writes a table, or JSON; in the order of their numbers.
 int MostrarProcessos(const TPedidoDeProcessos& APedido, TAmbiente& AAmbiente);
 

@@ -3,21 +3,19 @@
 #include "oryutils/runtime/Utf.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 
-#include "Cli.hpp"
+#include "Opcoes.hpp"
 #include "operacoes/Json.hpp"
 
 namespace Ory {
 
 using namespace OryUtils;
 
-void DescreverServico(CLI::App& AComando, TPedidoDeServico& APedido) {
-    CLI::App* estado = AComando.add_subcommand("estado", "mostra o estado de um serviço");
-    estado->set_help_flag("-h,--ajuda,--help", "mostra esta ajuda")->group("Opções");
-    estado->add_option("NOME", APedido.Nome, "nome do serviço (não o de exibição)")->required();
-    estado->add_option("--maquina", APedido.Maquina, "outra máquina (só no Windows)");
-    estado->add_flag("--json", APedido.Json, "resposta em JSON");
-    AComando.require_subcommand(1);
-    AComando.footer(
+void DescreverServico(TOpcoes AComando, TPedidoDeServico& APedido) {
+    TOpcoes estado = AComando.SubComando("estado", "mostra o estado de um serviço");
+    estado.Valor("NOME", APedido.Nome, "nome do serviço (não o de exibição)").Obrigatoria();
+    estado.Valor("--maquina", APedido.Maquina, "outra máquina (só no Windows)");
+    estado.Marca("--json", APedido.Json, "resposta em JSON");
+    AComando.Rodape(
         "Saída do programa: 0 está rodando, 1 está em outro estado, 2 o estado não pôde ser lido.\n\n"
         "Exemplo:\n"
         "  ory servico estado OryEventosServer");

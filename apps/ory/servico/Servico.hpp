@@ -4,11 +4,9 @@
 
 #include <string>
 
-namespace CLI {
-class App;
-}
-
 namespace Ory {
+
+class TOpcoes;
 
 /// `ory servico estado`: which service of which machine, as written on the command line (UTF-8).
 struct TPedidoDeServico {
@@ -16,7 +14,7 @@ struct TPedidoDeServico {
     std::string Maquina{};
     bool Json = false;
 };
-void DescreverServico(CLI::App& AComando, TPedidoDeServico& APedido);
+void DescreverServico(TOpcoes AComando, TPedidoDeServico& APedido);
 /// Writes the state in words and the number of the process. stTudoCerto: it runs; stInvalido: it is in another state;
 /// stFalha: the state cannot be told.
 int MostrarServico(const TPedidoDeServico& APedido, TAmbiente& AAmbiente);

@@ -4,7 +4,7 @@
 #include "oryutils/runtime/Utf.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 
-#include "Cli.hpp"
+#include "Opcoes.hpp"
 #include "Tabela.hpp"
 #include "TextoNaTela.hpp"
 #include "operacoes/Json.hpp"
@@ -96,9 +96,9 @@ void EscreverItensJson(std::string& ASaida, const std::vector<TRetratoDoSistema:
 
 }  // namespace
 
-void DescreverSistema(CLI::App& AComando, TPedidoDeSistema& APedido) {
-    AComando.add_flag("--json", APedido.Json, "em JSON, espaços em bytes");
-    AComando.footer("Saída do programa: 0 certo, 1 faltou alguma resposta do sistema.");
+void DescreverSistema(TOpcoes AComando, TPedidoDeSistema& APedido) {
+    AComando.Marca("--json", APedido.Json, "em JSON, espaços em bytes");
+    AComando.Rodape("Saída do programa: 0 certo, 1 faltou alguma resposta do sistema.");
 }
 
 TRetratoDoSistema TirarRetrato() {

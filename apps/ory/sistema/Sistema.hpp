@@ -8,17 +8,15 @@
 #include <utility>
 #include <vector>
 
-namespace CLI {
-class App;
-}
-
 namespace Ory {
+
+class TOpcoes;
 
 /// `ory sistema`
 struct TPedidoDeSistema {
     bool Json = false;
 };
-void DescreverSistema(CLI::App& AComando, TPedidoDeSistema& APedido);
+void DescreverSistema(TOpcoes AComando, TPedidoDeSistema& APedido);
 
 /// What the machine tells of itself; texts in UTF-16, none where it does not tell.
 struct TRetratoDoSistema {

@@ -11,7 +11,7 @@
 #include "oryutils/runtime/NomeDeArquivo.hpp"
 #include "oryutils/runtime/Utf.hpp"
 
-#include "Cli.hpp"
+#include "Opcoes.hpp"
 #include "TextoNaTela.hpp"
 #include "operacoes/Conversao.hpp"
 
@@ -263,13 +263,13 @@ int Comparar(const TPedidoDeVersao& APedido, TAmbiente& AAmbiente) {
 
 }  // namespace
 
-void DescreverVersao(CLI::App& AComando, TPedidoDeVersao& APedido) {
-    AComando.add_option("ARQUIVO", APedido.Arquivos, "executáveis, bibliotecas, .ini e .html; um só mostra tudo");
-    AComando.add_option("--comparar", APedido.Comparar, "A B: duas versões, ou arquivos que têm uma")
-        ->expected(2)
-        ->allow_extra_args(false);
-    AComando.add_flag("--json", APedido.Json, "em JSON: uma lista com tudo o que cada arquivo diz");
-    AComando.footer(
+void DescreverVersao(TOpcoes AComando, TPedidoDeVersao& APedido) {
+    AComando.Valor("ARQUIVO", APedido.Arquivos, "executáveis, bibliotecas, .ini e .html; um só mostra tudo");
+    AComando.Valor("--comparar", APedido.Comparar, "A B: duas versões, ou arquivos que têm uma")
+        .ComValores(2)
+        .SemMaisValores();
+    AComando.Marca("--json", APedido.Json, "em JSON: uma lista com tudo o que cada arquivo diz");
+    AComando.Rodape(
         "Saída do programa: 0 certo, 2 algum arquivo não pôde ser lido ou a chamada está errada.\n"
         "Com --comparar escreve igual, maior ou menor (A em relação a B): 0 igual, 1 maior, 3 menor, 2 falha.\n\n"
         "Exemplos:\n"

@@ -5,11 +5,9 @@
 #include <string>
 #include <vector>
 
-namespace CLI {
-class App;
-}
-
 namespace Ory {
+
+class TOpcoes;
 
 /// `ory versao`: what files say of themselves, or how two versions stand to each other. Texts as written on the command
 /// line (UTF-8).
@@ -21,7 +19,7 @@ struct TPedidoDeVersao {
 /// Exit statuses of --comparar beside stFalha, for scripts.
 enum TStatusDeVersao : int { svIgual = 0, svMaior = 1, svMenor = 3 };
 
-void DescreverVersao(CLI::App& AComando, TPedidoDeVersao& APedido);
+void DescreverVersao(TOpcoes AComando, TPedidoDeVersao& APedido);
 /// Writes a card for one file, a table for several, or JSON. A file that is not there or cannot be read is told on
 /// AAmbiente.Erro, and the status is stFalha; the others are shown. Raises EFalha for what asks for nothing, and for a
 /// version that is none.
