@@ -4,12 +4,12 @@
 #include "oryutils/platform/interno/Unidades.hpp"
 #include "oryutils/platform/linux/Descritor.hpp"
 #include "oryutils/platform/linux/Exibicao.hpp"
+#include "oryutils/platform/linux/PastaInicial.hpp"
 
 #include <array>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
-#include <pwd.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -55,21 +55,12 @@ TErroRegistro DeErrno(int AErro, TErroRegistro ADemais) {
     }
 }
 
-std::string BuscarPastaPessoal() {
-    if (std::string pasta = BuscarVariavelDeAmbiente("HOME"); !pasta.empty()) return pasta;
-    std::array<char, 16384> memoria{};
-    passwd conta{};
-    passwd* achada = nullptr;
-    ::getpwuid_r(::geteuid(), &conta, memoria.data(), memoria.size(), &achada);
-    return achada && achada->pw_dir ? achada->pw_dir : "";
-}
-
 std::string BuscarPastaDoUsuario() {
     // A relative folder counts as none.
     if (const std::string pasta = BuscarVariavelDeAmbiente("XDG_CONFIG_HOME"); pasta.starts_with('/'))
         return pasta + std::string(CPastaDoUsuario);
-    const std::string pessoal = BuscarPastaPessoal();
-    return pessoal.empty() ? pessoal : pessoal + "/.config" + std::string(CPastaDoUsuario);
+    const std::string inicial = BuscarPastaInicial();
+    return inicial.empty() ? inicial : inicial + "/.config" + std::string(CPastaDoUsuario);
 }
 
 std::string BuscarPastaAcima(const std::string& APasta) {

@@ -3,12 +3,12 @@
 #include "oryutils/platform/Utf.hpp"
 #include "oryutils/platform/linux/Exibicao.hpp"
 #include "oryutils/platform/linux/PastaDeDocumentos.hpp"
+#include "oryutils/platform/linux/PastaInicial.hpp"
 
 #include <climits>
 
 #include <fstream>
 #include <iterator>
-#include <pwd.h>
 #include <unistd.h>
 #include <vector>
 
@@ -20,13 +20,6 @@ std::string SemSeparadorFinal(std::string APasta) {
     return APasta;
 }
 
-std::string BuscarPastaInicial() {
-    std::string pasta = BuscarVariavelDeAmbiente("HOME");
-    if (pasta.starts_with('/')) return SemSeparadorFinal(pasta);
-    const passwd* conta = ::getpwuid(::geteuid());
-    return conta && conta->pw_dir ? SemSeparadorFinal(conta->pw_dir) : std::string();
-}
-
 }  // namespace
 
 std::u16string BuscarCaminhoDoExecutavel() {
@@ -36,7 +29,7 @@ std::u16string BuscarCaminhoDoExecutavel() {
 }
 
 std::optional<std::u16string> BuscarPastaDeDocumentos() {
-    const std::string inicio = BuscarPastaInicial();
+    const std::string inicio = SemSeparadorFinal(BuscarPastaInicial());
     if (inicio.empty()) return std::nullopt;
     std::string configuracoes = BuscarVariavelDeAmbiente("XDG_CONFIG_HOME");
     if (!configuracoes.starts_with('/')) configuracoes = inicio + "/.config";

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+
+namespace OryUtils::Plataforma {
+
+/// The user's home folder as the environment tells it, where a relative one counts as none, else as the table of
+/// accounts does; empty when neither tells.
+std::string BuscarPastaInicial();
+
+}  // namespace OryUtils::Plataforma
