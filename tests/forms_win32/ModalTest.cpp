@@ -5,8 +5,8 @@
 #include "oryutils/ui/UnOryUtilsDialogs.hpp"
 
 #include "Auxiliares.hpp"
+#include "resistencia/Dialogos.hpp"
 #include "resistencia/Quantidade.hpp"
-#include "resistencia/Recursos.hpp"
 
 #include <thread>
 
@@ -244,33 +244,6 @@ TEST_F(FormsWin32, SoAThreadDaInterfaceMostra) {
     EXPECT_EQ(TToolkitWin32::GetThreadDeCarga(), ::GetCurrentThreadId()) << "the tests run on the main thread";
 }
 
-/// Windows of this thread, with all their children: counted too, since some systems do not count the handles.
-int ContarJanelas() {
-    int total = 0;
-    ::EnumThreadWindows(
-        ::GetCurrentThreadId(),
-        [](HWND AJanela, LPARAM ATotal) -> BOOL {
-            ++*reinterpret_cast<int*>(ATotal);
-            ::EnumChildWindows(
-                AJanela,
-                [](HWND, LPARAM AOutroTotal) -> BOOL {
-                    ++*reinterpret_cast<int*>(AOutroTotal);
-                    return TRUE;
-                },
-                ATotal);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&total));
-    return total;
-}
-
-/// The number of the next graphic handle: a system that reuses the freed ones hands out low numbers for ever.
-DWORD ProximoObjetoGrafico() {
-    const HGDIOBJ objeto = ::CreateSolidBrush(RGB(1, 2, 3));
-    ::DeleteObject(objeto);
-    return LOWORD(reinterpret_cast<std::uintptr_t>(objeto));
-}
-
 TEST_F(FormsWin32, MilFormulariosNaoDeixamNada) {
     const auto mostrar = [&] {
         TFormulario formulario;
@@ -284,52 +257,28 @@ TEST_F(FormsWin32, MilFormulariosNaoDeixamNada) {
         formulario.OnShow = fechar.Evento();
         formulario.ExecutarModal();
     };
-    const auto medir = [] {
-        return std::vector<DWORD>{::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS),
-                                  ::GetGuiResources(::GetCurrentProcess(), GR_USEROBJECTS),
-                                  static_cast<DWORD>(ContarJanelas())};
-    };
     mostrar();
-    const auto antes = medir();
-    const DWORD graficoAntes = ProximoObjetoGrafico();
-    DWORD processoAntes = 0, processoDepois = 0;
-    ::GetProcessHandleCount(::GetCurrentProcess(), &processoAntes);
+    const Testes::TRecursos antes = Testes::BuscarRecursos();
     for (int i = 0; i < 1000; ++i) mostrar();
-    ::GetProcessHandleCount(::GetCurrentProcess(), &processoDepois);
-    EXPECT_EQ(medir(), antes);
-    EXPECT_NEAR(ProximoObjetoGrafico(), graficoAntes, 20);
-    EXPECT_LE(processoDepois, processoAntes + 5);
+    Testes::ExigirSemCrescimento(antes, 20, "a thousand forms");
 }
 
 TEST_F(FormsWin32, MuitosDialogosNaoDeixamNada) {
     TOryUtilsDialogs dialogos;
-    const auto fechador = FToolkit.LigarTemporizador(1, [] {
+    bool confirmar = false;
+    const auto respondente = FToolkit.LigarTemporizador(1, [&] {
         const HWND janela = ::FindWindowW(L"TOryFormulario", nullptr);
-        if (janela && ::IsWindowVisible(janela)) ::PostMessageW(janela, WM_CLOSE, 0, 0);
+        if (!janela || !::IsWindowVisible(janela)) return;
+        if (confirmar)
+            Tecla(VK_RETURN);
+        else
+            ::PostMessageW(janela, WM_CLOSE, 0, 0);
     });
-    const auto mostrar = [&](int AVez) {
-        switch (AVez % 4) {
-            case 0:
-                dialogos.Informacao(u"Mensagem");
-                break;
-            case 1:
-                EXPECT_FALSE(dialogos.Confirmacao(u"Excluir?", btNo));
-                break;
-            case 2:
-                dialogos.ConfirmacaoCustomizada(u"?", mtWarning, {mbYes, mbNo}, 0, u"T", {u"&Um", u"&Dois"});
-                break;
-            default: {
-                std::u16string valor;
-                dialogos.InputQuery(u"T", u"Valor", valor);
-            }
-        }
-    };
-    for (int i = 0; i < 8; ++i) mostrar(i);
-    const Testes::TRecursos antes = Testes::BuscarRecursos();
-    const int vezes = Testes::Quantidade(40, 10'000);
-    for (int i = 0; i < vezes; ++i) mostrar(i);
-    FToolkit.DesligarTemporizador(fechador);
-    for (const auto& [nome, quantos] : Testes::BuscarRecursos()) EXPECT_LE(quantos, antes.at(nome) + 5) << nome;
+    Testes::MostrarSemCrescimento(Testes::QuantidadeDeDialogos(40, 10'000), [&](int AVez) {
+        confirmar = AVez % 2 == 0;
+        Testes::MostrarDialogo(dialogos, AVez, confirmar);
+    });
+    FToolkit.DesligarTemporizador(respondente);
 }
 
 TEST_F(FormsWin32, FiltroDoSeletorDeArquivos) {

@@ -2,15 +2,14 @@
 #include "oryutils/ui/UnOryUtilsDialogs.hpp"
 
 #include "qt/Roteiro.hpp"
+#include "resistencia/Dialogos.hpp"
 #include "resistencia/Quantidade.hpp"
-#include "resistencia/Recursos.hpp"
 
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
 #include <future>
-#include <malloc.h>
 #include <random>
 #include <thread>
 
@@ -172,38 +171,35 @@ TEST_F(TTesteQt, MilFormulariosNadaDeixam) {
     abrir(100);
     const qsizetype widgets = QApplication::allWidgets().size();
     const auto janelas = QGuiApplication::allWindows().size();
-    const auto ocupado = ::mallinfo2().uordblks;
+    const long ocupado = Testes::BuscarMemoriaKiB();
     abrir(1000);
     EXPECT_EQ(QApplication::allWidgets().size(), widgets);
     EXPECT_EQ(QGuiApplication::allWindows().size(), janelas);
     // One form takes tens of kilobytes; a thousand lost ones would be far above this.
-    EXPECT_LT(::mallinfo2().uordblks, ocupado + 2'000'000);
+    EXPECT_LT(Testes::BuscarMemoriaKiB(), ocupado + 2'000);
 }
 
 TEST_F(TTesteQt, MuitosDialogosNadaDeixam) {
     TOryUtilsDialogs dialogos;
-    QTimer fechador;
-    QObject::connect(&fechador, &QTimer::timeout, [] {
-        if (QDialog* dialogo = BuscarDialogo()) dialogo->reject();
+    bool confirmar = false;
+    QTimer respondente;
+    QObject::connect(&respondente, &QTimer::timeout, [&] {
+        QDialog* dialogo = BuscarDialogo();
+        if (dialogo && confirmar)
+            QTest::keyClick(dialogo, Qt::Key_Return);
+        else if (dialogo)
+            dialogo->reject();
     });
-    fechador.start(0);
-    const auto mostrar = [&](int AVezes) {
-        for (int i = 0; i < AVezes; ++i) {
-            if (i % 2)
-                dialogos.Informacao(u"Mensagem");
-            else
-                EXPECT_FALSE(dialogos.Confirmacao(u"Excluir?", btNo));
-        }
+    respondente.start(0);
+    const auto mostrar = [&](int AVez) {
+        confirmar = AVez % 2 == 0;
+        Testes::MostrarDialogo(dialogos, AVez, confirmar);
         QCoreApplication::processEvents();
     };
-    mostrar(100);
+    mostrar(0);
     const qsizetype widgets = QApplication::allWidgets().size();
-    const auto ocupado = ::mallinfo2().uordblks;
-    const Testes::TRecursos antes = Testes::BuscarRecursos();
-    mostrar(Testes::Quantidade(100, 10'000));
+    Testes::MostrarSemCrescimento(Testes::QuantidadeDeDialogos(100, 10'000), mostrar);
     EXPECT_EQ(QApplication::allWidgets().size(), widgets);
-    EXPECT_EQ(Testes::BuscarRecursos(), antes);
-    EXPECT_LT(::mallinfo2().uordblks, ocupado + 2'000'000);
 }
 
 TEST_F(TTesteQt, MedidaDeTextoBastaAoRotulo) {

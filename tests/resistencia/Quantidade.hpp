@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdlib>
+#include <string>
 #include <string_view>
 
 namespace OryUtils::Testes {
@@ -9,6 +10,12 @@ namespace OryUtils::Testes {
 inline int Quantidade(int ACurta, int ALonga) {
     const char* forma = std::getenv("ORY_RESISTENCIA");
     return forma && std::string_view(forma) == "longa" ? ALonga : ACurta;
+}
+
+/// The same for dialogs that are shown, whose number scripts/resistencia --dialogos may tell.
+inline int QuantidadeDeDialogos(int ACurta, int ALonga) {
+    const char* quantos = std::getenv("ORY_RESISTENCIA_DIALOGOS");
+    return quantos ? std::stoi(quantos) : Quantidade(ACurta, ALonga);
 }
 
 }  // namespace OryUtils::Testes

@@ -1,15 +1,27 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <map>
 #include <string>
 
 namespace OryUtils::Testes {
 
-/// What this process holds of the system, by name: open descriptors on Linux; handles, GDI and USER objects on Windows.
+/// What this process holds of the system, by name: open descriptors on Linux; handles, GDI and USER
+/// objects, windows on Windows.
 using TRecursos = std::map<std::string, long>;
 TRecursos BuscarRecursos();
 
+/// Memory that this process has taken and not given back, in KiB.
+long BuscarMemoriaKiB();
+
 /// Children that ended and were never asked for; 0 on Windows, where there are none.
 long ContarFilhosMortos();
+
+/// Fails for each kind of resource of which more than AFolga have come since AAntes.
+inline void ExigirSemCrescimento(const TRecursos& AAntes, long AFolga, const std::string& ADepoisDe) {
+    for (const auto& [nome, quantos] : BuscarRecursos())
+        EXPECT_LE(quantos, AAntes.at(nome) + AFolga) << nome << " after " << ADepoisDe;
+}
 
 }  // namespace OryUtils::Testes

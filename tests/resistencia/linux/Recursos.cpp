@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <iterator>
+#include <malloc.h>
 #include <sys/wait.h>
 
 namespace OryUtils::Testes {
@@ -9,6 +10,11 @@ namespace OryUtils::Testes {
 TRecursos BuscarRecursos() {
     const std::filesystem::directory_iterator descritores("/proc/self/fd");
     return {{"descriptors", std::distance(begin(descritores), end(descritores))}};
+}
+
+long BuscarMemoriaKiB() {
+    const auto memoria = ::mallinfo2();
+    return static_cast<long>((memoria.uordblks + memoria.hblkhd) / 1024);
 }
 
 long ContarFilhosMortos() {
