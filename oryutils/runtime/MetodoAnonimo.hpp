@@ -23,6 +23,8 @@ public:
     /// Anything that can be called with these arguments; an empty std::function or a null function makes an empty one.
     template <typename T>
     requires(!std::same_as<std::remove_cvref_t<T>, TMetodoAnonimo> && std::invocable<std::decay_t<T>&, TArgs...>)
+        // What is required leaves copies to the constructor of copies.
+        // NOLINTNEXTLINE(bugprone-forwarding-reference-overload)
         TMetodoAnonimo(T&& AChamavel) {
         std::function<void(TArgs...)> funcao(std::forward<T>(AChamavel));
         if (funcao) FAlvo = std::make_shared<std::function<void(TArgs...)>>(std::move(funcao));
