@@ -260,7 +260,7 @@ TEST_F(FormsWin32, MilFormulariosNaoDeixamNada) {
     mostrar();
     const Testes::TRecursos antes = Testes::BuscarRecursos();
     for (int i = 0; i < 1000; ++i) mostrar();
-    Testes::ExigirSemCrescimento(antes, 20, "a thousand forms");
+    Testes::ExigirSemCrescimento(antes, "a thousand forms");
 }
 
 TEST_F(FormsWin32, MuitosDialogosNaoDeixamNada) {

@@ -58,7 +58,7 @@ inline void MostrarSemCrescimento(int AVezes, const std::function<void(int)>& AM
         AMostrar(i);
         if ((i + 1) % 500 == 0 || i + 1 == AVezes) contar(i + 1);
     }
-    ExigirSemCrescimento(antes, 20, std::to_string(AVezes) + " dialogs");
+    ExigirSemCrescimento(antes, std::to_string(AVezes) + " dialogs");
     EXPECT_LE(BuscarMemoriaKiB(), memoria + CFolgaDeMemoria);
 }
 
