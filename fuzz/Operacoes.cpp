@@ -1,4 +1,6 @@
-// Every operation that programs may call, with arguments of any kind and number: an answer in JSON, always.
+// Every operation that programs may call, with arguments of any kind and number: an answer in JSON, always. Inputs are
+// short (sementes/Operacoes.opcoes): a handful of calls each, since a long one would be a hundred calls that know
+// nothing of one another, and cost as much.
 #include "operacoes/Operacoes.hpp"
 
 #include "Comum.hpp"
