@@ -68,7 +68,7 @@ TRecursos BuscarRecursos() {
             {"GDI objects", static_cast<long>(::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS))},
             {"USER objects", static_cast<long>(::GetGuiResources(::GetCurrentProcess(), GR_USEROBJECTS))},
             {"windows", ContarJanelas()},
-            {"highest USER handle", MaiorObjetoDeUsuario()},
+            {CNumeroDeTodos, MaiorObjetoDeUsuario()},
             {"next graphic handle", ProximoObjetoGrafico()}};
 }
 
