@@ -1,4 +1,4 @@
-#include "Comando.hpp"
+#include "ory/Apoio.hpp"
 #include "ui/ToolkitRoteirizado.hpp"
 
 #include <gtest/gtest.h>
@@ -8,18 +8,9 @@ namespace {
 
 using namespace OryUtils;
 
-struct TResposta {
-    int Status;
-    std::string Saida, Erro;
-};
-
-TResposta Rodar(std::vector<std::string> AArgumentos) {
-    TEntradaDeTexto entrada("");
-    TSaidaDeTexto saida, erro;
-    TAmbiente ambiente{.Entrada = entrada, .Saida = saida, .Erro = erro};
+TRodada Mostrar(std::vector<std::string> AArgumentos) {
     AArgumentos.insert(AArgumentos.begin(), "mensagem");
-    const int status = Executar(AArgumentos, ambiente);
-    return {status, saida.Texto, erro.Texto};
+    return Rodar(AArgumentos);
 }
 
 TEST(Mensagem, RespondeOQueFoiEscolhido) {
@@ -62,7 +53,7 @@ TEST(Mensagem, RespondeOQueFoiEscolhido) {
     };
     for (const TCaso& caso : casos) {
         toolkit.Roteiro = {caso.Passo};
-        const TResposta resposta = Rodar(caso.Argumentos);
+        const TRodada resposta = Mostrar(caso.Argumentos);
         EXPECT_EQ(resposta.Status, caso.Status) << caso.Porque << resposta.Erro;
         EXPECT_EQ(resposta.Saida, caso.Saida) << caso.Porque;
     }
@@ -70,7 +61,7 @@ TEST(Mensagem, RespondeOQueFoiEscolhido) {
         EXPECT_EQ(BuscarTexto(AFormulario, u"Message"), u"linha 1\r\nlinha 2");
         EXPECT_EQ(AFormulario.GetTitulo(), u"Aviso");
     });
-    Rodar({"--tipo", "aviso", "linha 1", "linha 2"});
+    Mostrar({"--tipo", "aviso", "linha 1", "linha 2"});
 }
 
 TEST(Mensagem, RecusaOQueNaoFazMensagem) {
@@ -87,7 +78,7 @@ TEST(Mensagem, RecusaOQueNaoFazMensagem) {
         {"?", "--fechar-em", "-1"},
     };
     for (const auto& caso : casos) {
-        const TResposta resposta = Rodar(caso);
+        const TRodada resposta = Mostrar(caso);
         EXPECT_EQ(resposta.Status, 2) << caso.back();
         EXPECT_EQ(resposta.Saida, "");
         EXPECT_TRUE(resposta.Erro.starts_with("ory: ")) << resposta.Erro;
