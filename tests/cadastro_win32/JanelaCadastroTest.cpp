@@ -2,9 +2,11 @@
 #include "oryutils/runtime/Utf.hpp"
 
 #include "apps/cadastro/win32/JanelaCadastro.hpp"
+#include "comum/CasosDoCadastro.hpp"
 #include "forms_win32/Auxiliares.hpp"
 
 #include <cctype>
+#include <cstring>
 
 namespace OryUtils::Cadastro {
 namespace {
@@ -38,87 +40,35 @@ protected:
     TFormatosTemporarios FFormatos{BuscarFormatosBrasileiros()};
 };
 
-struct TCaso {
-    TCampo Campo;
-    const wchar_t* Digitado;
-    const char* NaCaixa;
-    const char* Depois;  // left
-};
-constexpr TCaso CDigitados[] = {
-    {caDocumento, L"11222333000181", "11.222.333/0001-81", "11.222.333/0001-81"},
-    {caDocumento, L"12abc34501de35", "12.ABC.345/01DE-35", "12.ABC.345/01DE-35"},
-    {caCEP, L"01310x100", "01310-100", "01310-100"},
-    {caFone, L"11987654321", "(119)87654-321 ", "( 11)98765-4321"},
-    {caMunicipio, L"35a50308", "3550308", "3550308"},
-    {caValor, L"1234,5x6", "1234,56", "1.234,56"},
-    {caNascimento, L"31121999", "31/12/1999", "31/12/1999"},
-};
-
-TEST_F(JanelaCadastro, AsCaixasSeguemAsMascaras) {
-    TJanelaCadastro janela(nullptr);
-    std::deque<std::function<void()>> passos;
-    const auto ir = [&](TCampo ACampo) { ::SetFocus(janela.GetCaixa(ACampo)); };
-    for (const TCaso& c : CDigitados) {
-        passos.push_back([&] { ir(c.Campo), Escrever(c.Digitado); });
-        passos.push_back([&] {
-            EXPECT_EQ(ParaUtf8(Texto(janela.GetCaixa(c.Campo))), c.NaCaixa);
-            if (c.Campo == caValor) {
-                EXPECT_EQ(ParaUtf8(Texto(janela.GetPorExtenso())),
-                          "UM MIL E DUZENTOS E TRINTA E QUATRO REAIS E CINQUENTA E SEIS CENTAVOS");
-            }
-            ir(caIE);
-        });
-        passos.push_back([&] {
-            EXPECT_EQ(ParaUtf8(Texto(janela.GetCaixa(c.Campo))), c.Depois);
-            EXPECT_EQ(Dialogo(), nullptr);
-            EXPECT_EQ(::GetFocus(), janela.GetCaixa(caIE)) << "a good value lets the focus go";
-        });
-    }
-    Conduzir(janela, std::move(passos));
-}
-
-struct TRecusado {
-    TCampo Campo;
-    const wchar_t* Digitado;
-    const char* Aviso;
-};
-constexpr TRecusado CRecusados[] = {
-    {caNome, L"", "Informe o nome do cliente."},
-    {caDocumento, L"11222333000182", "CNPJ inválido. Verifique."},
-    {caDocumento, L"12ABC34501DE36", "CNPJ inválido. Verifique."},
-    {caCEP, L"0131010", "CEP inválido: são oito dígitos."},
-    {caFone, L"98765432", "Telefone inválido: informe o DDD e o número."},
-    {caMunicipio, L"3550309", "Código do município inválido. Verifique."},
-    {caValor, L"-", "Valor inválido. Verifique."},
-    {caNascimento, L"30021999", "Data de nascimento inválida: use dia/mês/ano, como 31/12/1999."},
-    {caNascimento, L"3112", "Data de nascimento inválida: use dia/mês/ano, como 31/12/1999."},
-};
-
-TEST_F(JanelaCadastro, SairDeUmValorRuimAvisaEDevolveOFoco) {
-    for (const TRecusado& c : CRecusados) {
+TEST_F(JanelaCadastro, AsCaixasSeguemAsMascarasESairConfere) {
+    for (const TCasoDeCampo& c : CCasosDeCampo) {
         TJanelaCadastro janela(nullptr);
         const HWND caixa = janela.GetCaixa(c.Campo);
-        std::u16string recusado;
-        Conduzir(janela, {[&] {
-                              ::SetWindowTextW(caixa, L"");
-                              ::SetFocus(caixa);
-                              Escrever(c.Digitado);
-                          },
-                          [&] {
-                              recusado = Texto(caixa);
-                              Tecla(VK_TAB);
-                          },
-                          [&] {
-                              EXPECT_EQ(Aviso(), c.Aviso);
-                              Tecla(VK_RETURN);
-                          },
-                          [&] {
-                              EXPECT_EQ(Dialogo(), nullptr) << "one warning, not a chain of them: " << c.Aviso;
-                              EXPECT_EQ(::GetFocus(), caixa) << c.Aviso;
-                              if (c.Campo != caFone) {  // its digits move right
-                                  EXPECT_EQ(ParaUtf8(Texto(caixa)), ParaUtf8(recusado)) << "to be corrected";
-                              }
-                          }});
+        const auto texto = [&] { return ParaUtf8(Texto(caixa)); };
+        std::deque<std::function<void()>> passos;
+        passos.push_back([&] {
+            ::SetWindowTextW(caixa, L"");
+            ::SetFocus(caixa);
+            Escrever(std::wstring(c.Digitado, c.Digitado + std::strlen(c.Digitado)).c_str());
+        });
+        passos.push_back([&] {
+            EXPECT_EQ(texto(), c.NaCaixa);
+            if (c.Campo == caValor && !c.Aviso) {
+                EXPECT_EQ(ParaUtf8(Texto(janela.GetPorExtenso())), CValorPorExtenso);
+            }
+            Tecla(VK_TAB);
+        });
+        if (c.Aviso)
+            passos.push_back([&] {
+                EXPECT_EQ(Aviso(), c.Aviso);
+                Tecla(VK_RETURN);
+            });
+        passos.push_back([&] {
+            EXPECT_EQ(Dialogo(), nullptr) << "one warning, not a chain of them: " << c.Digitado;
+            EXPECT_EQ(::GetFocus() == caixa, c.Aviso != nullptr) << c.Digitado;
+            EXPECT_EQ(texto(), c.Depois);
+        });
+        Conduzir(janela, std::move(passos));
     }
 }
 

@@ -8,7 +8,9 @@
 #include "oryutils/runtime/Utf.hpp"
 
 #include "Auxiliares.hpp"
+#include "forms/CasosDeEdicao.hpp"
 
+#include <cstring>
 #include <optional>
 
 namespace OryUtils {
@@ -29,68 +31,48 @@ protected:
     TFormatosTemporarios FFormatos{BuscarFormatosBrasileiros()};
 };
 
-struct TCaso {
-    void (*Formatar)(TField&);
-    TFieldType Tipo;
-    const wchar_t* Digitado;
-    WPARAM Tecla;  // pressed afterwards; 0 for none
-    const char16_t* NaCaixa;
-    const char16_t* Gravado;  // the field's text after the box is left
-    const char16_t* Exibido;
-};
-void FormatarData(TField& ACampo) { FormatarCampo(ACampo, u"99/99/9999;1;_"); }
-const TCaso CCasos[] = {
-    {FormatarCPF, ftString, L"529982a24725", 0, u"529.982.247-25", u"52998224725", u"529.982.247-25"},
-    {FormatarCPF, ftString, L"529", VK_LEFT, u"529.   .   -  ", u"529", u"529.   .   -  "},
-    {FormatarCPF, ftString, L"529\b\b4", 0, u"54 .   .   -  ", u"54", u"54 .   .   -  "},
-    {FormatarCPF, ftString, L"529", VK_HOME, u"529.   .   -  ", u"529", u"529.   .   -  "},
-    {FormatarCNPJ, ftString, L"11.222.333/0001-81", 0, u"11.222.333/0001-81", u"11222333000181", u"11.222.333/0001-81"},
-    {FormatarCEP, ftString, L"01310100", VK_DELETE, u"01310-100", u"01310100", u"01310-100"},
-    {FormatarFone, ftString, L"11987654321", 0, u"(119)87654-321 ", u"( 11)98765-4321", u"( 11)98765-4321"},
-    {FormatarData, ftDate, L"29022024", 0, u"29/02/2024", u"29/02/2024", u"29/02/2024"},
-    {FormatarCampoValor, ftFloat, L"-12x34.5,", 0, u"-1234,5", u"-1234,50", u"-1.234,50"},
-    {FormatarCampoInteiro, ftInteger, L"1,5", 0, u"15", u"15", u"15"},
+struct TDuasCaixas : TFormulario {
+    TDuasCaixas() {
+        SetTitulo(u"Edição");
+        Por<TCaixaEdicao>(*this, u"", {0, 0, 200, 22});
+        Por<TCaixaEdicao>(*this, u"", {0, 30, 200, 22});
+    }
 };
 
 TEST_F(EdicaoWin32, DigitarEDeixar) {
-    for (const TCaso& caso : CCasos) {
-        TFormulario formulario;
-        formulario.SetTitulo(u"Edição");
-        Por<TCaixaEdicao>(formulario, u"", {0, 0, 200, 22});
-        Por<TCaixaEdicao>(formulario, u"", {0, 30, 200, 22});
-        std::unique_ptr<TField> campo = EhCampoNumerico(caso.Tipo) ? std::make_unique<TNumericField>(caso.Tipo)
-                                                                   : std::make_unique<TField>(caso.Tipo);
-        caso.Formatar(*campo);
+    constexpr WPARAM CTeclas[] = {VK_LEFT, VK_RIGHT, VK_HOME, VK_END, 0, VK_DELETE};  // in the order of TTeclaMascara
+    for (const TCasoDeEdicao& caso : CCasosDeEdicao) {
+        TDuasCaixas formulario;
+        const auto campo = caso.CriarCampo();
         std::optional<TEdicaoMascaradaWin32> edicao;
         HWND caixa = nullptr, outra = nullptr;
-        const std::string porque = ParaUtf8(caso.NaCaixa);
-        Executar(formulario, {
-                                 [&] {
-                                     caixa = Filhos(Janela(formulario))[0];
-                                     outra = Filhos(Janela(formulario))[1];
-                                     edicao.emplace(caixa, *campo);
-                                     ::SetFocus(caixa);
-                                     Escrever(caso.Digitado);
-                                     if (caso.Tecla) Tecla(caso.Tecla);
-                                 },
-                                 [&] {
-                                     EXPECT_EQ(ParaUtf8(Texto(caixa)), porque);
-                                     ::SetFocus(outra);
-                                 },
-                                 [&] {
-                                     EXPECT_EQ(ParaUtf8(Texto(caixa)), ParaUtf8(caso.Exibido));
-                                     EXPECT_EQ(ParaUtf8(campo->GetTexto()), ParaUtf8(caso.Gravado)) << porque;
-                                     formulario.SetModalResult(mrOk);
-                                 },
-                             });
+        const auto digitar = [&] {
+            caixa = Filhos(Janela(formulario))[0];
+            outra = Filhos(Janela(formulario))[1];
+            edicao.emplace(caixa, *campo);
+            ::SetFocus(caixa);
+            Escrever(std::wstring(caso.Digitado, caso.Digitado + std::strlen(caso.Digitado)).c_str());
+            if (caso.Tecla == tmApagar)
+                Escrever(L"\b");
+            else if (caso.Tecla)
+                Tecla(CTeclas[*caso.Tecla]);
+        };
+        const auto deixar = [&] {
+            EXPECT_EQ(ParaUtf8(Texto(caixa)), caso.NaCaixa);
+            EXPECT_EQ(LOWORD(::SendMessageW(caixa, EM_GETSEL, 0, 0)), caso.Cursor) << caso.NaCaixa;
+            ::SetFocus(outra);
+        };
+        const auto conferir = [&] {
+            EXPECT_EQ(ParaUtf8(Texto(caixa)), caso.Exibido);
+            EXPECT_EQ(ParaUtf8(campo->GetTexto()), caso.Gravado);
+            formulario.SetModalResult(mrOk);
+        };
+        Executar(formulario, {digitar, deixar, conferir});
     }
 }
 
 TEST_F(EdicaoWin32, ColarRecortarEErro) {
-    TFormulario formulario;
-    formulario.SetTitulo(u"Edição");
-    Por<TCaixaEdicao>(formulario, u"", {0, 0, 200, 22});
-    Por<TCaixaEdicao>(formulario, u"", {0, 30, 200, 22});
+    TDuasCaixas formulario;
     TField cpf(ftString);
     FormatarCPF(cpf);
     TField data(ftDate);
@@ -131,10 +113,7 @@ TEST_F(EdicaoWin32, ColarRecortarEErro) {
 }
 
 TEST_F(EdicaoWin32, FormatosMudados) {
-    TFormulario formulario;
-    formulario.SetTitulo(u"Edição");
-    Por<TCaixaEdicao>(formulario, u"", {0, 0, 200, 22});
-    Por<TCaixaEdicao>(formulario, u"", {0, 30, 200, 22});
+    TDuasCaixas formulario;
     TNumericField valor(ftFloat);
     FormatarCampoValor(valor);
     valor.SetValor(1234.5);
@@ -159,10 +138,7 @@ TEST_F(EdicaoWin32, ValidacaoMoveOFocoAvisaEAborta) {
     using TRegra = void (*)(const TObjeto*, TWinControl*, std::u16string_view, std::u16string_view);
     const TRegra data = [](auto... AArgs) { ValidarData(AArgs...); };
     const TRegra ip = [](auto... AArgs) { ValidarIPAddress(AArgs...); };
-    TFormulario formulario;
-    formulario.SetTitulo(u"Edição");
-    Por<TCaixaEdicao>(formulario, u"", {0, 0, 200, 22});
-    Por<TCaixaEdicao>(formulario, u"", {0, 30, 200, 22});
+    TDuasCaixas formulario;
     Executar(formulario, {[&] {
                  const auto filhos = Filhos(Janela(formulario));
                  TControleWin32 controle(filhos[0]);

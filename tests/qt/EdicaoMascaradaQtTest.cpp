@@ -1,37 +1,20 @@
 // Real line edits bound to fields: typed into, pasted into, left.
-#include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 #include "oryutils/registry_numbers/UnOryUtilsFormatacoes.hpp"
-#include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/Formatos.hpp"
+#include "oryutils/runtime/Utf.hpp"
 
+#include "forms/CasosDeEdicao.hpp"
 #include "qt/Roteiro.hpp"
-#include "toolkits/qt/ControleQt.hpp"
 #include "toolkits/qt/EdicaoMascaradaQt.hpp"
 
 #include <QClipboard>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QVBoxLayout>
 
 #include <memory>
 
 namespace OryUtils {
 namespace {
-
-struct TJanela : QWidget {
-    QLineEdit* Caixa = new QLineEdit;
-    QLineEdit* Outra = new QLineEdit;
-    TJanela() {
-        auto* coluna = new QVBoxLayout(this);
-        coluna->addWidget(Caixa);
-        coluna->addWidget(Outra);
-        show();
-        activateWindow();  // a bare X server has no window manager to do it
-        EXPECT_TRUE(QTest::qWaitForWindowActive(this));
-        Outra->setFocus();
-    }
-};
 
 class EdicaoQt : public TTesteQt {
 protected:
@@ -42,51 +25,26 @@ protected:
     TFormatosTemporarios FFormatos{BuscarFormatosBrasileiros()};
 };
 
-struct TCaso {
-    void (*Formatar)(TField&);
-    TFieldType Tipo;
-    const char* Digitado;
-    Qt::Key Tecla;
-    const char* NaCaixa;
-    const char16_t* Gravado;
-    const char* Exibido;
-    int Cursor;
-};
-void FormatarData(TField& ACampo) { FormatarCampo(ACampo, u"99/99/9999;1;_"); }
-const TCaso CCasos[] = {
-    {FormatarCPF, ftString, "529982a24725", Qt::Key_Shift, "529.982.247-25", u"52998224725", "529.982.247-25", 14},
-    {FormatarCPF, ftString, "529", Qt::Key_Left, "529.   .   -  ", u"529", "529.   .   -  ", 2},
-    {FormatarCPF, ftString, "529", Qt::Key_Backspace, "52 .   .   -  ", u"52", "52 .   .   -  ", 2},
-    {FormatarCPF, ftString, "529", Qt::Key_Home, "529.   .   -  ", u"529", "529.   .   -  ", 0},
-    {FormatarCNPJ, ftString, "11.222.333/0001-81", Qt::Key_End, "11.222.333/0001-81", u"11222333000181",
-     "11.222.333/0001-81", 18},
-    {FormatarFone, ftString, "11987654321", Qt::Key_Shift, "(119)87654-321 ", u"( 11)98765-4321", "( 11)98765-4321",
-     14},
-    {FormatarData, ftDate, "29022024", Qt::Key_Shift, "29/02/2024", u"29/02/2024", "29/02/2024", 10},
-    {FormatarCampoValor, ftFloat, "-12x34.5,", Qt::Key_Shift, "-1234,5", u"-1234,50", "-1.234,50", 7},
-    {FormatarCampoInteiro, ftInteger, "1,5", Qt::Key_Shift, "15", u"15", "15", 2},
-};
-
 TEST_F(EdicaoQt, DigitarEDeixar) {
-    TJanela janela;
-    for (const TCaso& caso : CCasos) {
-        const std::unique_ptr<TField> campo = EhCampoNumerico(caso.Tipo) ? std::make_unique<TNumericField>(caso.Tipo)
-                                                                         : std::make_unique<TField>(caso.Tipo);
-        caso.Formatar(*campo);
+    constexpr Qt::Key CTeclas[] = {Qt::Key_Left, Qt::Key_Right,     Qt::Key_Home,
+                                   Qt::Key_End,  Qt::Key_Backspace, Qt::Key_Delete};  // in the order of TTeclaMascara
+    TDuasCaixas janela;
+    for (const TCasoDeEdicao& caso : CCasosDeEdicao) {
+        const auto campo = caso.CriarCampo();
         const TEdicaoMascaradaQt edicao(janela.Caixa, *campo);
         janela.Caixa->setFocus();
         QTest::keyClicks(janela.Caixa, caso.Digitado);
-        QTest::keyClick(janela.Caixa, caso.Tecla);
+        QTest::keyClick(janela.Caixa, caso.Tecla ? CTeclas[*caso.Tecla] : Qt::Key_Shift);
         EXPECT_EQ(janela.Caixa->text(), caso.NaCaixa);
         EXPECT_EQ(janela.Caixa->cursorPosition(), caso.Cursor) << caso.NaCaixa;
         janela.Outra->setFocus();
         EXPECT_EQ(janela.Caixa->text(), caso.Exibido);
-        EXPECT_EQ(campo->GetTexto(), caso.Gravado) << caso.NaCaixa;
+        EXPECT_EQ(ParaUtf8(campo->GetTexto()), caso.Gravado);
     }
 }
 
 TEST_F(EdicaoQt, ColarRecortarEErro) {
-    TJanela janela;
+    TDuasCaixas janela;
     TField cpf(ftString);
     FormatarCPF(cpf);
     auto edicao = std::make_unique<TEdicaoMascaradaQt>(janela.Caixa, cpf);
@@ -124,7 +82,7 @@ TEST_F(EdicaoQt, ColarRecortarEErro) {
 
 // What the box's own menu does, undone marks and all, counts as the same keys.
 TEST_F(EdicaoQt, OMenuDaCaixaRecortaEColaNaMascara) {
-    TJanela janela;
+    TDuasCaixas janela;
     TField cpf(ftString);
     FormatarCPF(cpf);
     const TEdicaoMascaradaQt edicao(janela.Caixa, cpf);
@@ -158,7 +116,7 @@ TEST_F(EdicaoQt, OMenuDaCaixaRecortaEColaNaMascara) {
 }
 
 TEST_F(EdicaoQt, GravarSemSairContinuaAEdicao) {
-    TJanela janela;
+    TDuasCaixas janela;
     TNumericField valor(ftFloat);
     FormatarCampoValor(valor);
     TEdicaoMascaradaQt edicao(janela.Caixa, valor);
@@ -180,7 +138,7 @@ TEST_F(EdicaoQt, GravarSemSairContinuaAEdicao) {
 }
 
 TEST_F(EdicaoQt, FormatosMudados) {
-    TJanela janela;
+    TDuasCaixas janela;
     TNumericField valor(ftFloat);
     FormatarCampoValor(valor);
     valor.SetValor(1234.5);
@@ -189,26 +147,6 @@ TEST_F(EdicaoQt, FormatosMudados) {
     DefinirFormatSettings(TFormatSettings{});
     GOryUtilsFormatacoes->GetFormatoPadraoDatasEValores().SetUsarNosControlesDevExpress(true);
     EXPECT_EQ(janela.Caixa->text(), "1,234.50");
-}
-
-TEST_F(EdicaoQt, ValidacaoMoveOFocoAvisaEAborta) {
-    using TRegra = void (*)(const TObjeto*, TWinControl*, std::u16string_view, std::u16string_view);
-    const TRegra data = [](auto... AArgs) { ValidarData(AArgs...); };
-    const TRegra ip = [](auto... AArgs) { ValidarIPAddress(AArgs...); };
-    TJanela janela;
-    TControleQt controle(janela.Caixa);
-    for (const TRegra regra : {data, ip, TRegra{ValidarCRC}, TRegra{TOryUtilsValidacoes::ValidarEmail}}) {
-        janela.Outra->setFocus();
-        QString mostrado;
-        QuandoMostrar([&] {
-            for (const QLabel* rotulo : BuscarDialogo()->findChildren<QLabel*>()) mostrado += rotulo->text();
-            QTest::keyClick(BuscarDialogo(), Qt::Key_Return);
-        });
-        EXPECT_THROW(regra(nullptr, &controle, u"x@", u"Verifique."), EAbort);
-        EXPECT_EQ(mostrado, "Verifique.");
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&janela));
-        EXPECT_EQ(QApplication::focusWidget(), janela.Caixa);
-    }
 }
 
 }  // namespace

@@ -11,39 +11,25 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <QVBoxLayout>
 
 namespace OryUtils {
 namespace {
 
-struct TJanelaHospedeira : QWidget {
-    QLineEdit* Cnpj = new QLineEdit;
-    QLineEdit* Nome = new QLineEdit;
-    TJanelaHospedeira() {
-        auto* coluna = new QVBoxLayout(this);
-        coluna->addWidget(Cnpj);
-        coluna->addWidget(Nome);
-        show();
-        activateWindow();  // a bare X server has no window manager to do it
-        EXPECT_TRUE(QTest::qWaitForWindowActive(this));
-    }
-};
-
 TEST_F(TTesteQt, ControleDoHospedeiro) {
-    TJanelaHospedeira janela;
-    const TControleQt um(janela.Cnpj);
-    const TControleQt mesmo(janela.Cnpj);
-    const TControleQt outro(janela.Nome);
+    TDuasCaixas janela;
+    const TControleQt um(janela.Caixa);
+    const TControleQt mesmo(janela.Caixa);
+    const TControleQt outro(janela.Outra);
     EXPECT_TRUE(EhMesmoControle(&um, &mesmo));
     EXPECT_FALSE(EhMesmoControle(&um, &outro));
 
     EXPECT_TRUE(um.PodeReceberFoco());
-    janela.Cnpj->setEnabled(false);
+    janela.Caixa->setEnabled(false);
     EXPECT_FALSE(um.PodeReceberFoco());
-    janela.Cnpj->setEnabled(true);
-    janela.Cnpj->hide();
+    janela.Caixa->setEnabled(true);
+    janela.Caixa->hide();
     EXPECT_FALSE(um.PodeReceberFoco());
-    janela.Cnpj->show();
+    janela.Caixa->show();
     janela.setEnabled(false);
     EXPECT_FALSE(um.PodeReceberFoco()) << "the parent is disabled";
     janela.setEnabled(true);
@@ -58,9 +44,9 @@ TEST_F(TTesteQt, ControleDoHospedeiro) {
 }
 
 TEST_F(TTesteQt, ValidacaoDevolveOFocoMostraOAvisoEAborta) {
-    TJanelaHospedeira janela;
-    janela.Nome->setFocus();
-    TControleQt controle(janela.Cnpj);
+    TDuasCaixas janela;
+    janela.Outra->setFocus();
+    TControleQt controle(janela.Caixa);
     QString mostrado;
     QuandoMostrar([&] {
         EXPECT_EQ(BuscarDialogo()->windowTitle(), "Aviso");
@@ -72,14 +58,14 @@ TEST_F(TTesteQt, ValidacaoDevolveOFocoMostraOAvisoEAborta) {
     EXPECT_THROW(ValidarDocumento(nullptr, &controle, u"11222333000182", OryTypes::tiCNPJ), EAbort);
     EXPECT_EQ(mostrado, "CNPJ inválido. Verifique.");
     EXPECT_TRUE(QTest::qWaitForWindowActive(&janela));
-    EXPECT_EQ(QApplication::focusWidget(), janela.Cnpj);
+    EXPECT_EQ(QApplication::focusWidget(), janela.Caixa);
 
-    TControleQt outro(janela.Nome);
+    TControleQt outro(janela.Outra);
     EXPECT_FALSE(ValidarDocumento(&outro, &controle, u"1", OryTypes::tiCNPJ)) << "another control's exit shows nothing";
 }
 
 TEST_F(TTesteQt, HospedeiroQueFechaSuaJanelaDuranteODialogo) {
-    auto janela = std::make_unique<TJanelaHospedeira>();
+    auto janela = std::make_unique<TDuasCaixas>();
     TFormularioCompleto f;
     EXPECT_EQ(Responder(f,
                         [&] {

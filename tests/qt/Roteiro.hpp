@@ -6,8 +6,10 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QLineEdit>
 #include <QTest>
 #include <QTimer>
+#include <QVBoxLayout>
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -53,6 +55,21 @@ protected:
     void SetUp() override {
         InstalarToolkitQt();
         BuscarToolkit().GetTamanhoFonte();  // makes the application where the host has none
+    }
+};
+
+/// A window of the host, with two boxes.
+struct TDuasCaixas : QWidget {
+    QLineEdit* Caixa = new QLineEdit;
+    QLineEdit* Outra = new QLineEdit;
+    TDuasCaixas() {
+        auto* coluna = new QVBoxLayout(this);
+        coluna->addWidget(Caixa);
+        coluna->addWidget(Outra);
+        show();
+        activateWindow();  // a bare X server has no window manager to do it
+        EXPECT_TRUE(QTest::qWaitForWindowActive(this));
+        Outra->setFocus();
     }
 };
 
