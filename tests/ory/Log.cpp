@@ -134,7 +134,7 @@ private:
 };
 
 TEST_F(Log, OQueJahVeioFicaNoLog) {
-    const Ory::TPedidoDeLog pedido{.Arquivo = Nome("V"), .SomenteTexto = true, .Eco = true};
+    const Ory::TPedidoDeLog pedido{.Arquivo = Nome("V"), .Codificacao = "utf-8", .SomenteTexto = true, .Eco = true};
     Ory::TEntradaDeTexto texto("um\ndois\n", 3);
     TSaidaQueSeFecha fechada;
     Ory::TSaidaDeTexto saida, erro;
