@@ -1,6 +1,7 @@
 #include "oryutils/OryUtils.hpp"
 #include "oryutils/c/OryCExport.hpp"
 #include "oryutils/c/oryutils.h"
+#include "oryutils/runtime/interno/PrecisaoPlena.hpp"
 
 #include "operacoes/Operacoes.hpp"
 
@@ -30,6 +31,8 @@ char* Copiar(std::string_view ATexto) noexcept {
 
 // The definitions say what is exported; the header for C knows no compiler's words for it.
 ORY_C_API char* ory_chamar(const char* requisicao) {
+    if (!OryUtils::TemPrecisaoPlena() || !OryUtils::TemDoublePadrao())
+        return OryUtils::ComPrecisaoPlena([&] { return ory_chamar(requisicao); });
     if (!requisicao) return Copiar(CAusente);
     const auto* fim = static_cast<const char*>(std::memchr(requisicao, '\0', Ory::CMaiorRequisicao + 1));
     if (!fim) return Copiar(CLonga);

@@ -5,6 +5,7 @@
 #include "oryutils/platform/Pastas.hpp"
 #include "oryutils/runtime/FormatoNumero.hpp"
 #include "oryutils/runtime/NomeDeArquivo.hpp"
+#include "oryutils/runtime/interno/PrecisaoPlena.hpp"
 
 #include <array>
 
@@ -38,6 +39,7 @@ std::u16string TOryUtilsFiles::ExtrairNomeDoArquivoSemExtensao(std::u16string_vi
 }
 
 std::u16string TOryUtilsFiles::FormatarTamanhoArquivo(std::int64_t ATamanho) {
+    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { return FormatarTamanhoArquivo(ATamanho); });
     Extended valor = static_cast<Extended>(ATamanho);
     const Extended sinal = valor < 0 ? -1 : 1;
     valor *= sinal;

@@ -5,6 +5,7 @@
 #include "oryutils/runtime/FormatoDataHora.hpp"
 #include "oryutils/runtime/FormatoNumero.hpp"
 #include "oryutils/runtime/Mascara.hpp"
+#include "oryutils/runtime/interno/PrecisaoPlena.hpp"
 
 #include <algorithm>
 #include <array>
@@ -25,6 +26,7 @@ bool EhCampoDeData(TFieldType ATipo) {
 
 /// The number of a value that is one.
 std::optional<Extended> BuscarNumero(const Variant& AValor) {
+    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { return BuscarNumero(AValor); });
     const Variant::TValor& valor = AValor.GetValor();
     if (const auto* inteiro = std::get_if<std::int64_t>(&valor)) return static_cast<Extended>(*inteiro);
     if (const auto* decimal = std::get_if<Extended>(&valor)) return *decimal;

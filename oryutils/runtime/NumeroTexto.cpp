@@ -5,6 +5,7 @@
 #include "oryutils/runtime/interno/ConversaoExata.hpp"
 #include "oryutils/runtime/interno/Estimativa.hpp"
 #include "oryutils/runtime/interno/InteiroLongo.hpp"
+#include "oryutils/runtime/interno/PrecisaoPlena.hpp"
 #include "oryutils/runtime/interno/QuinzeDigitos.hpp"
 
 #include <algorithm>
@@ -168,6 +169,7 @@ int TextoParaInt(std::u16string_view ATexto) {
 }
 
 std::optional<Extended> TentarTextoParaExtended(std::u16string_view ATexto, const TFormatSettings& AFormatos) noexcept {
+    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { return TentarTextoParaExtended(ATexto, AFormatos); });
     ATexto = Aparar(ATexto);
     const bool negativo = RetirarSinal(ATexto);
     const auto decimal = LerDecimal(ATexto, AFormatos.DecimalSeparator);
@@ -187,6 +189,7 @@ Extended TextoParaExtended(std::u16string_view ATexto, const TFormatSettings& AF
 }
 
 TDigitosDecimais SepararDigitos(Extended AValor, int AQuantidade) noexcept {
+    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { return SepararDigitos(AValor, AQuantidade); });
     std::uint64_t primeiroLongo = 1;
     for (int i = 0; i < AQuantidade; ++i) primeiroLongo *= 10;
     const TBinario binario = SepararBinario(AValor);
@@ -203,6 +206,7 @@ TQuinzeDigitos SepararQuinzeDigitosLongo(Extended AValor) noexcept {
 }
 
 Extended ArredondarPara15Digitos(Extended AValor) noexcept {
+    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { return ArredondarPara15Digitos(AValor); });
     if (!std::isfinite(AValor)) return AValor;
     const Extended magnitude = std::abs(AValor);
     if (magnitude < CPrimeiroDe16Digitos && ArredondarAoInteiro(magnitude) == magnitude)
@@ -217,6 +221,8 @@ Extended ArredondarPara15Digitos(Extended AValor) noexcept {
 
 std::u16string_view EscreverExtended(Extended AValor, std::span<char16_t, CTamanhoMaximoExtended> ADestino,
                                      char16_t ASeparadorDecimal) noexcept {
+    if (!TemPrecisaoPlena())
+        return ComPrecisaoPlena([&] { return EscreverExtended(AValor, ADestino, ASeparadorDecimal); });
     if (std::isnan(AValor)) return u"NAN";
     if (std::isinf(AValor)) return AValor < 0 ? u"-INF" : u"INF";
     if (AValor == 0) return u"0";
@@ -275,6 +281,7 @@ std::u16string InteiroParaTexto(std::int64_t AValor) {
 }
 
 std::u16string_view EscreverZeros(Extended AValor, int ADigitos, std::span<char16_t> ADestino) noexcept {
+    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { return EscreverZeros(AValor, ADigitos, ADestino); });
     if (!std::isfinite(AValor)) AValor = 0;
     const Extended magnitude = std::abs(AValor);
     std::size_t inicio = ADestino.size();

@@ -11,7 +11,9 @@
 
 namespace OryUtils {
 
-/// The extended float: 80 bits on both platforms.
+/// The extended float: 80 bits on both platforms. The operations of the library compute with all of them whatever the
+/// thread has been set to; a program's own sums have 53 bits of precision on a thread that CreateThread started, and in
+/// a program of another compiler.
 using Extended = long double;
 
 /// The readers neither allocate nor depend on the locale of the process. Nor do the writers depend on it.

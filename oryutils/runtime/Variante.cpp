@@ -2,6 +2,7 @@
 
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
+#include "oryutils/runtime/interno/PrecisaoPlena.hpp"
 
 #include <algorithm>
 #include <array>
@@ -78,6 +79,7 @@ bool EhInteiro(const Variant& AValor) { return Tem<std::int64_t>(AValor) || Tem<
 }  // namespace
 
 TMoeda TMoeda::De(Extended AValor) {
+    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { return De(AValor); });
     const Extended escalado = std::round(AValor * CDezMil);
     if (!(std::abs(escalado) < 0x1p63L))
         throw EConvertError(u"'" + ExtendedParaTexto(AValor) + u"' não é um valor monetário válido");
@@ -104,6 +106,7 @@ std::u16string VarianteParaTexto(const Variant& AValor) {
 }
 
 Variant operator+(const Variant& AUm, const Variant& AOutro) {
+    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { return AUm + AOutro; });
     for (const Variant* valor : {&AUm, &AOutro})
         if (valor->GetItens()) RecusarTipo(*valor, u"número");
     if (Tem<TNulo>(AUm) || Tem<TNulo>(AOutro)) return TNulo{};

@@ -1,6 +1,7 @@
 #include "oryutils/text/OryUtilsFormulas.hpp"
 
 #include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/runtime/interno/PrecisaoPlena.hpp"
 #include "oryutils/text/interno/FormulaAvaliador.hpp"
 
 #include <array>
@@ -14,6 +15,11 @@ constexpr std::u16string_view COperadores = u"*/+-";  // in the order of TOperCa
 Interno::TRegrasFormula BuscarRegras(TMetodoArredondamento AAjuste, std::uint8_t ACasas) {
     const TFormatSettings& formatos = FormatSettings();
     return {formatos.DecimalSeparator, formatos.ThousandSeparator, AAjuste, ACasas};
+}
+
+Extended Operar(TOperCalc AOperador, Extended AUm, Extended AOutro) noexcept {
+    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { return Operar(AOperador, AUm, AOutro); });
+    return Interno::CalcularOperacao(AOperador, AUm, AOutro);
 }
 
 }  // namespace
@@ -63,6 +69,7 @@ void TOryUtilsFormulas::LimparVariaveis() {
 }
 
 Extended TOryUtilsFormulas::Calcular(std::u16string_view AExpressao) {
+    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { return Calcular(AExpressao); });
     return Preparar().Calcular(AExpressao, &FExpressaoResolvida);
 }
 
@@ -83,6 +90,7 @@ std::vector<std::u16string> TOryUtilsFormulas::RetirarEspacosEmBranco(const std:
 }
 
 void TOryUtilsFormulas::ResolverFuncoes(std::u16string& AFormula) {
+    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { ResolverFuncoes(AFormula); });
     const std::u16string_view resolvida = Preparar().ResolverFuncoes(AFormula);
     FAvaliador->LancarErro();
     AFormula = resolvida;
@@ -99,12 +107,14 @@ void TOryUtilsFormulas::ResolverDuploSinalNegativo(std::u16string& AFormula) {
 }
 
 void TOryUtilsFormulas::ResolverParenteses(std::u16string& AFormula) {
+    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { ResolverParenteses(AFormula); });
     const std::u16string_view resolvida = Preparar().ResolverParenteses(AFormula);
     FAvaliador->LancarErro();
     AFormula = resolvida;
 }
 
 Extended TOryUtilsFormulas::CalcularExpressao(std::u16string_view ATexto) {
+    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { return CalcularExpressao(ATexto); });
     const Extended valor = Preparar().CalcularExpressao(ATexto);
     FAvaliador->LancarErro();
     return valor;
@@ -146,9 +156,24 @@ std::pair<std::u16string, std::u16string> TOryUtilsFormulas::GetArgumentos(std::
     return {std::u16string(ATexto.substr(0, separador)), std::u16string(ATexto.substr(separador + 1))};
 }
 
+Extended TOryUtilsFormulas::GetSoma(Extended AUm, Extended AOutro) noexcept { return Operar(ocSoma, AUm, AOutro); }
+
+Extended TOryUtilsFormulas::GetSubtracao(Extended AUm, Extended AOutro) noexcept {
+    return Operar(ocSubtracao, AUm, AOutro);
+}
+
+Extended TOryUtilsFormulas::GetMultiplicacao(Extended AUm, Extended AOutro) noexcept {
+    return Operar(ocMultiplicacao, AUm, AOutro);
+}
+
+Extended TOryUtilsFormulas::GetDivisao(Extended ADividendo, Extended ADivisor) noexcept {
+    return Operar(ocDivisao, ADividendo, ADivisor);
+}
+
 Extended TOryUtilsFormulas::GetInteiro(Extended AValor) noexcept { return std::trunc(AValor); }
 
 Extended TOryUtilsFormulas::GetExponencial(Extended ABase, Extended AExpoente) noexcept {
+    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { return GetExponencial(ABase, AExpoente); });
     constexpr Extended CMaiorExpoenteInteiro = 2147483647;
     if (std::trunc(AExpoente) != AExpoente || !(std::abs(AExpoente) <= CMaiorExpoenteInteiro))
         return std::pow(ABase, AExpoente);

@@ -116,13 +116,11 @@ public:
     static std::u16string GetSegundoArgumento(std::u16string_view ATexto, std::size_t APosicao);
     /// The two arguments of a function, parted at the first ";". Raises Exception when there is none.
     static std::pair<std::u16string, std::u16string> GetArgumentos(std::u16string_view ATexto);
-    static Extended GetSoma(Extended AUm, Extended AOutro) noexcept { return AUm + AOutro; }
-    static Extended GetSubtracao(Extended AUm, Extended AOutro) noexcept { return AUm - AOutro; }
-    static Extended GetMultiplicacao(Extended AUm, Extended AOutro) noexcept { return AUm * AOutro; }
+    static Extended GetSoma(Extended AUm, Extended AOutro) noexcept;
+    static Extended GetSubtracao(Extended AUm, Extended AOutro) noexcept;
+    static Extended GetMultiplicacao(Extended AUm, Extended AOutro) noexcept;
     /// 0 when ADivisor is 0.
-    static Extended GetDivisao(Extended ADividendo, Extended ADivisor) noexcept {
-        return ADivisor == 0 ? 0 : ADividendo / ADivisor;
-    }
+    static Extended GetDivisao(Extended ADividendo, Extended ADivisor) noexcept;
     static Extended GetInteiro(Extended AValor) noexcept;
     static Extended GetMaximo(Extended AUm, Extended AOutro) noexcept { return AUm >= AOutro ? AUm : AOutro; }
     static Extended GetMinimo(Extended AUm, Extended AOutro) noexcept { return AUm > AOutro ? AOutro : AUm; }

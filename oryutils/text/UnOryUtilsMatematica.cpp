@@ -2,6 +2,7 @@
 
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/runtime/interno/PrecisaoPlena.hpp"
 
 #include <array>
 #include <cmath>
@@ -67,6 +68,8 @@ Extended TOryUtilsMatematica::Arredondar(Extended AValor) { return Arredondar(AV
 
 Extended TOryUtilsMatematica::Arredondar(Extended AValor, TMetodoArredondamento AMetodo, std::uint8_t ACasas,
                                          std::uint8_t ACasasAConsiderar) {
+    if (!TemPrecisaoPlena())
+        return ComPrecisaoPlena([&] { return Arredondar(AValor, AMetodo, ACasas, ACasasAConsiderar); });
     const Extended fator = PotenciaDe10<float>(ACasas);
     if (!std::isfinite(AValor) || !std::isfinite(fator)) return AValor;
     Extended x = std::abs(AValor);
@@ -103,10 +106,12 @@ std::u16string TOryUtilsMatematica::BuscarValorPorExtenso(Extended AValor) {
 }
 
 Extended TOryUtilsMatematica::ConverterCentimetrosParaPolegadas(Extended AValor) {
+    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { return ConverterCentimetrosParaPolegadas(AValor); });
     return AValor / CCentimetrosPorPolegada;
 }
 
 int TOryUtilsMatematica::ConverterCentimetrosParaPixels(Extended AValor) {
+    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { return ConverterCentimetrosParaPixels(AValor); });
     const auto pixels_por_polegada = static_cast<Extended>(CosturaInterface().BuscarPixelsPorPolegada());
     return Baixos32Bits(std::trunc(pixels_por_polegada / CCentimetrosPorPolegada * AValor));
 }

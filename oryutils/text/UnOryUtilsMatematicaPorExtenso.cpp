@@ -1,5 +1,6 @@
 // Amounts of money in words.
 #include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/runtime/interno/PrecisaoPlena.hpp"
 #include "oryutils/runtime/interno/QuinzeDigitos.hpp"
 #include "oryutils/text/UnOryUtilsMatematica.hpp"
 #include "oryutils/text/interno/PalavrasNumeros.hpp"
@@ -95,7 +96,7 @@ TGrupos SepararGrupos(Extended AValor) noexcept {
     const std::u16string_view digitos = EscreverZeros(AValor, 1, texto);
     grupos.Quantidade = static_cast<int>((digitos.size() + 2) / 3) + 1;
     std::size_t no_grupo = (digitos.size() + 2) % 3;  // so many digits of the group follow
-    for (std::size_t i = 0, grupo = 0; grupo < 5; ++i) {
+    for (std::size_t i = 0, grupo = 0; grupo < 5 && i < digitos.size(); ++i) {
         grupos.Valor[grupo] = grupos.Valor[grupo] * 10 + static_cast<unsigned>(digitos[i] - u'0');
         if (no_grupo-- == 0) {
             no_grupo = 2;
@@ -113,6 +114,7 @@ bool PedeDe(std::int32_t AInteiro) noexcept {
 }  // namespace
 
 std::u16string TConverterPorExtenso::BuscarValorPorExtenso() const {
+    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { return BuscarValorPorExtenso(); });
     if (FValor == 0) return u"ZERO " + FMoedaNoPlural;
 
     const TGrupos grupos = SepararGrupos(FValor);

@@ -36,6 +36,22 @@ static char* compor(const char* antes, char recheio, const char* depois, size_t 
     return texto;
 }
 
+/* As the threads of Windows start (53 bits), and as programs that want to be stopped by a NaN set them. */
+static void conferir_em_outra_aritmetica(void) {
+    const unsigned short controles[] = {0x027F, 0x0372}, usual = 0x037F;
+    const unsigned doubles[] = {0x1F80, 0x1D00}, usual_double = 0x1F80;
+    for (int i = 0; i < 2; ++i) {
+        __asm__ volatile("fldcw %0\n\tldmxcsr %1" : : "m"(controles[i]), "m"(doubles[i]) : "memory");
+        conferir("18 digits", "{\"op\":\"Arredondar\",\"args\":[\"9007199254740.995\"]}",
+                 "{\"resultado\":\"9007199254741\"}");
+        conferir("the half of a cent", "{\"op\":\"BuscarValorPorExtenso\",\"args\":[\"1.005\"]}",
+                 "{\"resultado\":\"UM REAL E UM CENTAVO\"}");
+        conferir("a power", "{\"op\":\"CalcularFormula\",\"args\":[\"EXP(1,0000000001;10)\",{},0,2]}",
+                 "{\"resultado\":\"1.000000001\"}");
+        __asm__ volatile("fnclex\n\tfldcw %0\n\tldmxcsr %1" : : "m"(usual), "m"(usual_double) : "memory");
+    }
+}
+
 int main(void) {
     const size_t maior = (size_t)16 << 20;
     char* longa;
@@ -44,6 +60,7 @@ int main(void) {
     conferir("accents; Brazilian formats whatever the machine's",
              "{\"op\":\"BuscarDataPorExtenso\",\"args\":[\"2026-03-03\"]}",
              "{\"resultado\":\"Terça, 03 de Marco de 2026\"}");
+    conferir_em_outra_aritmetica();
     conferir("no request", NULL, "{\"erro\":\"requisição ausente\",\"classe\":\"EProtocolo\"}");
     conferir("an empty one", "", "{\"erro\":\"JSON inválido no byte 1\",\"classe\":\"EProtocolo\"}");
     conferir("another kind of JSON", "[1]",

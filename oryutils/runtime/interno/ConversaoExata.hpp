@@ -1,6 +1,6 @@
 #pragma once
 
-#include "oryutils/runtime/NumeroTexto.hpp"
+#include "oryutils/runtime/interno/Binario.hpp"
 
 #include <cmath>
 #include <cstdint>
@@ -21,20 +21,6 @@ struct TDecimal {
     std::int64_t Significativos = 0;  // digits from the first one that is not 0
     std::uint64_t Inicio = 0;         // the first 19 of these
 };
-
-/// A number as a 64-bit mantissa, whose highest bit is set, times 2 to Expoente.
-struct TBinario {
-    std::uint64_t Mantissa = 0;
-    int Expoente = 0;
-};
-/// AValor is positive and finite.
-inline TBinario SepararBinario(Extended AValor) noexcept {
-    TBinario binario;
-    const Extended fracao = std::frexp(AValor, &binario.Expoente);
-    binario.Mantissa = static_cast<std::uint64_t>(std::ldexp(fracao, 64));
-    binario.Expoente -= 64;
-    return binario;
-}
 
 /// The exponent of the last bit that an extended float may have.
 inline constexpr int CMenorBit = std::numeric_limits<Extended>::min_exponent - std::numeric_limits<Extended>::digits;

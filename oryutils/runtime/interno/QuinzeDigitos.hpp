@@ -1,12 +1,11 @@
 #pragma once
 
-#include "oryutils/runtime/NumeroTexto.hpp"
+#include "oryutils/runtime/interno/Binario.hpp"
 
 #include <array>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 
 namespace OryUtils {
 
@@ -48,9 +47,7 @@ inline constexpr Extended CPrimeiroDe16Digitos = 1e15L;
 inline Extended ArredondarAoInteiro(Extended AValor) noexcept { return (AValor + 0x1p63L) - 0x1p63L; }
 
 inline TQuinzeDigitos SepararQuinzeDigitos(Extended AValor) noexcept {
-    std::uint16_t expoente = 0;  // of 2, biased, behind the 64 bits of the mantissa
-    std::memcpy(&expoente, reinterpret_cast<const char*>(&AValor) + 8, sizeof expoente);
-    const int expoente2 = expoente - 16383;
+    const int expoente2 = BuscarExpoente2(AValor);
     if (expoente2 < -40 || expoente2 > 80) return SepararQuinzeDigitosLongo(AValor);
 
     // log10(2) is 1233/4096; the order is this one or the next.

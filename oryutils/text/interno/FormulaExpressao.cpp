@@ -25,13 +25,13 @@ TOperCalc OperacaoDe(char16_t AOperador) noexcept {
 Extended CalcularOperacao(TOperCalc AOperador, Extended AUm, Extended AOutro) noexcept {
     switch (AOperador) {
         case ocMultiplicacao:
-            return TOryUtilsFormulas::GetMultiplicacao(AUm, AOutro);
+            return AUm * AOutro;
         case ocDivisao:
-            return TOryUtilsFormulas::GetDivisao(AUm, AOutro);
+            return AOutro == 0 ? 0 : AUm / AOutro;
         case ocSoma:
-            return TOryUtilsFormulas::GetSoma(AUm, AOutro);
+            return AUm + AOutro;
         default:
-            return TOryUtilsFormulas::GetSubtracao(AUm, AOutro);
+            return AUm - AOutro;
     }
 }
 
