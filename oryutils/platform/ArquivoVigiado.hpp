@@ -10,8 +10,8 @@
 
 namespace OryUtils::Plataforma {
 
-/// A file kept open for writing behind its end, with a watch on what anybody else does to it: two cheap questions to
-/// the system before each write, where opening the file and comparing its mark costs several dear ones.
+/// A file kept open for writing behind its end, with a watch on what anybody else does to it: one or two cheap
+/// questions to the system before each write, where opening the file and comparing its mark costs several dear ones.
 ///
 /// (Linux) Only for a file that nobody else has open when the watch begins, on a file system of this machine. Noticed
 /// at once: the file is opened, cut, renamed, deleted, replaced, or its folder renamed. Noticed within a second: a

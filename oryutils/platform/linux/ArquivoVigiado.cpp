@@ -1,5 +1,6 @@
 #include "oryutils/platform/ArquivoVigiado.hpp"
 
+#include "oryutils/platform/linux/AvisoEmMemoria.hpp"
 #include "oryutils/platform/linux/Descritor.hpp"
 
 #include <algorithm>
@@ -92,9 +93,12 @@ public:
     /// Hands out what has happened; false when the system does not tell. Asking epoll is half as dear as asking the
     /// queue.
     bool Distribuir() {
+        if (!FAviso.PodeTerVindo()) return true;
         epoll_event evento{};
         const int prontos = ::epoll_wait(FEspera.Get(), &evento, 1, 0);
-        return prontos == 0 || (prontos > 0 && LerEventos());
+        if (prontos < 0 || (prontos > 0 && !LerEventos())) return false;
+        FAviso.Armar();
+        return true;
     }
 
 private:
@@ -127,6 +131,7 @@ private:
 
     const TDescritor FAlca{::inotify_init1(IN_NONBLOCK | IN_CLOEXEC)};
     const TDescritor FEspera{::epoll_create1(EPOLL_CLOEXEC)};
+    TAvisoEmMemoria FAviso{FAlca.Get()};
     bool FVale = false;
     std::mutex FTrava{};
     std::map<int, std::vector<TInscrito*>> FInscritos{};

@@ -10,7 +10,10 @@ class TDescritor {
 public:
     explicit TDescritor(int ANumero) noexcept : FNumero(ANumero) {}
     TDescritor(TDescritor&& AOutro) noexcept : FNumero(AOutro.Soltar()) {}
-    TDescritor& operator=(TDescritor&&) = delete;
+    TDescritor& operator=(TDescritor&& AOutro) noexcept {
+        std::swap(FNumero, AOutro.FNumero);
+        return *this;
+    }
     ~TDescritor() {
         if (!Falhou()) ::close(FNumero);
     }
