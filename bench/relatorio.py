@@ -152,12 +152,15 @@ class Crescimento:
 
 
 def ler_crescimento(arquivo):
-    pontos = defaultdict(list)
+    """Several runs of the program may follow each other: each point is the least of them. The memory that a process gets
+    makes one size slow for all of its life, and another one in the next."""
+    pontos = defaultdict(dict)
     if arquivo.exists():
         for linha in arquivo.read_text().splitlines():
             operacao, o_que, n, tempo = linha.split("\t")
-            pontos[operacao, o_que].append((int(n), float(tempo)))
-    return [Crescimento(*chave, lista) for chave, lista in pontos.items() if len(lista) > 1]
+            caso = pontos[operacao, o_que]
+            caso[int(n)] = min(float(tempo), caso.get(int(n), math.inf))
+    return [Crescimento(*chave, caso.items()) for chave, caso in pontos.items() if len(caso) > 1]
 
 
 # Charts.
