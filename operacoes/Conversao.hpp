@@ -9,6 +9,7 @@
 #include "operacoes/Json.hpp"
 
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -83,7 +84,11 @@ requires std::is_enum_v<T>
 struct TTipoJson<T> : TPorValor<T> {
     static constexpr std::string_view Nome = BuscarNomeDoTipo<T>();
     static constexpr bool TextoCru = false;
-    static T Ler(const TJson& AValor) { return static_cast<T>(LerInteiro(AValor, Nome, INT32_MIN, INT32_MAX)); }
+    // Any ordinal that the type holds, also without a name: operations say what others mean to them.
+    using TLimites = std::numeric_limits<std::underlying_type_t<T>>;
+    static T Ler(const TJson& AValor) {
+        return static_cast<T>(LerInteiro(AValor, Nome, TLimites::min(), TLimites::max()));
+    }
 };
 
 template <>

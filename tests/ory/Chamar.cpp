@@ -85,6 +85,8 @@ TEST(Chamar, DizOQueEstahErrado) {
         {R"({"op":"RepetirCaractere","args":["a",18446744073709551615]})", "veio número 18446744073709551615"},
         {R"({"op":"ConverterTeclaVirtualParaCaractere","args":[65536]})", "(de 0 a 65535)"},
         {R"({"op":"BuscarMascara","args":["1"]})", "esperava TTipoInscricao"},
+        {R"({"op":"FormatarParametroPesquisa","args":["a",1,257]})",
+         "esperava TTipoFormatoParametroPesquisa (de 0 a 255), veio número 257"},
         {R"({"op":"TextoContemItemVetor","args":["a",["b",null],true]})", "argumento 2: esperava texto, veio nulo"},
         {R"({"op":"TextoContemItemVetor","args":["a",["b"],"true"]})", "argumento 3: esperava lógico"},
         {R"({"op":"BuscarBimestre","args":["2024-02-30"]})", "esperava data-hora"},

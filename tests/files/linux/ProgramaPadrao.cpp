@@ -13,44 +13,59 @@ namespace {
 using namespace OryUtils;
 using C = TOryUtilsFiles;
 
-TEST(ProgramaPadrao, UmProgramaRecebeOsParametros) {
-    const TPastaTemporaria pasta;
-    const std::filesystem::path cano = pasta.Caminho() / "cano";
-    ASSERT_EQ(::mkfifo(cano.c_str(), 0600), 0);
-    const std::u16string programa =
-        pasta.Gravar(u"-eco.sh", "#!/bin/sh\nfor p in \"$@\"; do echo \"<$p>\"; done > \"${0%/*}/cano\"\n");
-    std::filesystem::permissions(programa, std::filesystem::perms::owner_all);
-    ASSERT_TRUE(C::AbrirArquivo(programa, u" um \"dois três\"  \"\" qua\"tro e\" '5"));
-    std::ifstream leitura(cano);  // waits for the program
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(leitura), {}), "<um>\n<dois três>\n<>\n<quatro e>\n<'5>\n");
+/// A folder with programs that tell what they do in a pipe beside them.
+struct ProgramaPadrao : testing::Test {
+    TPastaTemporaria Pasta;
+    std::filesystem::path Cano = Pasta.Caminho() / "cano";
 
-    const std::u16string quebrado = pasta.Gravar(u"quebrado.sh", "#!/nao/existe\n");
-    std::filesystem::permissions(quebrado, std::filesystem::perms::owner_all);
-    EXPECT_FALSE(C::AbrirArquivo(quebrado)) << "the system could not start it";
+    void SetUp() override { ASSERT_EQ(::mkfifo(Cano.c_str(), 0600), 0); }
+    std::u16string GravarPrograma(std::u16string_view ANome, std::string_view ATexto) const {
+        std::u16string programa = Pasta.Gravar(ANome, ATexto);
+        std::filesystem::permissions(programa, std::filesystem::perms::owner_all);
+        return programa;
+    }
+    /// Waits for the program.
+    std::string LerCano() const {
+        std::ifstream leitura(Cano);
+        return {std::istreambuf_iterator<char>(leitura), {}};
+    }
+};
+
+/// Programs of a folder first, for the time of a scope.
+class TPastaNoCaminho {
+public:
+    explicit TPastaNoCaminho(const std::filesystem::path& APasta) {
+        ::setenv("PATH", (APasta.string() + ":" + FAnterior).c_str(), 1);
+    }
+    TPastaNoCaminho(const TPastaNoCaminho&) = delete;
+    TPastaNoCaminho& operator=(const TPastaNoCaminho&) = delete;
+    ~TPastaNoCaminho() { ::setenv("PATH", FAnterior.c_str(), 1); }
+
+private:
+    std::string FAnterior = std::getenv("PATH");
+};
+
+TEST_F(ProgramaPadrao, UmProgramaRecebeOsParametros) {
+    const auto programa =
+        GravarPrograma(u"-eco.sh", "#!/bin/sh\nfor p in \"$@\"; do echo \"<$p>\"; done > \"${0%/*}/cano\"\n");
+    ASSERT_TRUE(C::AbrirArquivo(programa, u" um \"dois três\"  \"\" qua\"tro e\" '5"));
+    EXPECT_EQ(LerCano(), "<um>\n<dois três>\n<>\n<quatro e>\n<'5>\n");
+    EXPECT_FALSE(C::AbrirArquivo(GravarPrograma(u"quebrado.sh", "#!/nao/existe\n"))) << "the system could not start it";
 }
 
-TEST(ProgramaPadrao, UmLogNuncaEhExecutado) {
+TEST_F(ProgramaPadrao, UmLogNuncaEhExecutado) {
     // A disk of another system says of every file that it may be executed; the lines of a log come from anywhere.
-    const TPastaTemporaria pasta;
-    const std::filesystem::path cano = pasta.Caminho() / "cano";
-    ASSERT_EQ(::mkfifo(cano.c_str(), 0600), 0);
-    const std::u16string abridor =
-        pasta.Gravar(u"xdg-open", "#!/bin/sh\necho \"aberto ${1##*/}\" > \"${0%/*}/cano\"\n");
-    std::filesystem::permissions(abridor, std::filesystem::perms::owner_all);
-    const std::string caminhos = std::getenv("PATH");
-    ::setenv("PATH", (pasta.Caminho().string() + ":" + caminhos).c_str(), 1);
-
-    TOryUtilsArquivoLog log(pasta.Nome(u"log"));
+    GravarPrograma(u"xdg-open", "#!/bin/sh\necho \"aberto ${1##*/}\" > \"${0%/*}/cano\"\n");
+    const TPastaNoCaminho caminho(Pasta.Caminho());
+    TOryUtilsArquivoLog log(Pasta.Nome(u"log"));
     log.SetFormatoMensagem(tfmSomenteTexto);
-    log.InserirTexto(u"echo executado > '" + cano.u16string() + u"'", 0, clBlue);
+    log.InserirTexto(u"echo executado > '" + Cano.u16string() + u"'", 0, clBlue);
     log.FinalizarLog();
     for (const auto modo : {std::filesystem::perms::owner_read, std::filesystem::perms::owner_all}) {
         std::filesystem::permissions(log.GetArquivoLog(), modo);
         log.ExibirLog();
-        std::ifstream leitura(cano);  // waits for the program
-        EXPECT_EQ(std::string(std::istreambuf_iterator<char>(leitura), {}), "aberto log.log\n");
+        EXPECT_EQ(LerCano(), "aberto log.log\n");
     }
-    ::setenv("PATH", caminhos.c_str(), 1);
 }
 
 TEST(ArquivosEspeciais, UmCanoSemEscritorNaoFazEsperar) {
