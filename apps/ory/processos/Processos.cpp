@@ -24,8 +24,9 @@ std::string EscreverEmTabela(const std::vector<const TProcessoItem*>& AProcessos
     std::vector<std::string> memorias{"memória"};
     for (const TProcessoItem* processo : AProcessos) {
         ids.push_back(std::to_string(processo->IDProcesso));
-        const auto quilobytes = static_cast<OryUtils::Extended>(processo->MemoriaUsada / 1024);
-        memorias.push_back(OryUtils::ParaUtf8(OryUtils::FormatarNumero(u",0 KB", quilobytes)));
+        const std::uint64_t quilobytes = processo->MemoriaUsada / 1024;
+        memorias.push_back(
+            OryUtils::ParaUtf8(OryUtils::FormatarNumero(u",0 KB", static_cast<OryUtils::Extended>(quilobytes))));
     }
     for (std::vector<std::string>* coluna : {&ids, &memorias}) {
         std::size_t largura = 0;
