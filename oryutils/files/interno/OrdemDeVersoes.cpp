@@ -5,6 +5,7 @@
 #include "oryutils/runtime/NumeroTexto.hpp"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 #include <utility>
 
@@ -68,8 +69,8 @@ TChaveDeVersao BuscarChaveDeVersao(std::u16string_view AVersao) {
     // It raises, with the bad part in its message.
     std::u16string versao(AVersao);
     std::replace(versao.begin(), versao.end(), u',', u'.');
-    std::uint16_t maior, menor, release, build;
-    TOryUtilsFiles::DividirVersao(versao, maior, menor, release, build);
+    std::array<std::uint16_t, 4> partes{};
+    TOryUtilsFiles::DividirVersao(versao, partes[0], partes[1], partes[2], partes[3]);
     return 0;
 }
 
