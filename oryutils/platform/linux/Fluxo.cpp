@@ -42,6 +42,18 @@ TErroFluxo DeErrno(int AErro) {
 
 int Descritor(std::intptr_t AAlca) { return static_cast<int>(AAlca); }
 
+/// True when the call is to be made again: a signal came in between, or the other side of a pipe is not ready and the
+/// system was told not to wait (by whoever shares the standard streams, or at the opening).
+bool ValeRepetir(int AAlca, short AEvento) noexcept {
+    if (errno == EINTR) return true;
+    if (errno != EAGAIN) return false;
+    pollfd espera{.fd = AAlca, .events = AEvento, .revents = 0};
+    return ::poll(&espera, 1, -1) > 0 || errno == EINTR;
+}
+
+/// A pipe without a reader is refused, where opening it would wait for one.
+constexpr int CParaEscrever = O_WRONLY | O_NONBLOCK | O_CLOEXEC;
+
 TMarcaDeArquivo DeDados(const struct stat& ADados) {
     return {ADados.st_dev, ADados.st_ino, static_cast<std::uint64_t>(ADados.st_size),
             std::int64_t{ADados.st_mtim.tv_sec} * 1'000'000'000 + ADados.st_mtim.tv_nsec};
@@ -96,7 +108,7 @@ TErroFluxo TFluxo::CriarNovo(const std::string& ANome, const std::string& ASubst
 
 TErroFluxo TFluxo::CriarOuEsvaziar(const std::string& ANome) {
     Fechar();
-    const int alca = ::open(ANome.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    const int alca = ::open(ANome.c_str(), CParaEscrever | O_CREAT | O_TRUNC, 0666);
     if (alca < 0) return DeErrno(errno);
     FAlca = alca;
     FDono = true;
@@ -105,7 +117,7 @@ TErroFluxo TFluxo::CriarOuEsvaziar(const std::string& ANome) {
 
 TErroFluxo TFluxo::AbrirParaAcrescentar(const std::string& ANome) {
     Fechar();
-    const int alca = ::open(ANome.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC);
+    const int alca = ::open(ANome.c_str(), CParaEscrever | O_APPEND);
     if (alca < 0) return DeErrno(errno);
     FAlca = alca;
     FDono = true;
@@ -123,7 +135,7 @@ std::size_t TFluxo::Ler(std::span<char> ADestino, TErroFluxo& AErro) noexcept {
     while (true) {
         const ssize_t lidos = ::read(Descritor(FAlca), ADestino.data(), ADestino.size());
         if (lidos >= 0) return static_cast<std::size_t>(lidos);
-        if (errno == EINTR) continue;
+        if (ValeRepetir(Descritor(FAlca), POLLIN)) continue;
         AErro = DeErrno(errno);
         return 0;
     }
@@ -132,9 +144,10 @@ std::size_t TFluxo::Ler(std::span<char> ADestino, TErroFluxo& AErro) noexcept {
 TErroFluxo TFluxo::Escrever(std::string_view ABytes) noexcept {
     while (!ABytes.empty()) {
         const ssize_t escritos = ::write(Descritor(FAlca), ABytes.data(), ABytes.size());
-        if (escritos < 0 && errno == EINTR) continue;
-        if (escritos < 0) return DeErrno(errno);
-        ABytes.remove_prefix(static_cast<std::size_t>(escritos));
+        if (escritos >= 0)
+            ABytes.remove_prefix(static_cast<std::size_t>(escritos));
+        else if (!ValeRepetir(Descritor(FAlca), POLLOUT))
+            return DeErrno(errno);
     }
     return efNenhum;
 }
