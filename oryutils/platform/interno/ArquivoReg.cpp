@@ -35,7 +35,7 @@ std::u16string_view BuscarParteAbaixo(std::u16string_view ACaminho, std::u16stri
 // Names under which something is kept once, ignoring case; the first spelling stays.
 class TNomes {
 public:
-    void Incluir(std::u16string ANome) { FNomes.try_emplace(MinusculaDe(ANome), std::move(ANome)); }
+    void Incluir(std::u16string_view ANome) { FNomes.try_emplace(MinusculaDe(ANome), ANome); }
     void Excluir(std::u16string_view ANome) { FNomes.erase(MinusculaDe(ANome)); }
     void Limpar() { FNomes.clear(); }
     std::vector<std::u16string> Listar() const {
@@ -152,7 +152,7 @@ std::vector<std::u16string> TArquivoReg::ListarSubchaves(std::u16string_view ACh
         const std::u16string_view parte = BuscarParteAbaixo(linha.Nome, AChave);
         if (parte.empty()) continue;
         if (linha.Elemento == elChave)
-            nomes.Incluir(std::u16string(parte));
+            nomes.Incluir(parte);
         else if (AChave.size() + 1 + parte.size() == linha.Nome.size())
             nomes.Excluir(parte);
     }

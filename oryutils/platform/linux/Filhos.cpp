@@ -80,6 +80,8 @@ pid_t GerarFilho(const TPedidoDeFilho& APedido) {
         std::ranges::any_of(APedido.Argumentos, possui_zero))
         return 0;
     std::vector<char*> argumentos;
+    // The system's function predates const; it writes nothing.
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
     for (const std::string& argumento : APedido.Argumentos) argumentos.push_back(const_cast<char*>(argumento.c_str()));
     argumentos.push_back(nullptr);
     const TAtributos atributos(APedido.SessaoPropria);
