@@ -312,7 +312,7 @@ std::u16string TMascara::Sair(std::u16string_view ATexto) const {
     std::size_t vazios = 0;
     while (vazios < campos.size() && EhVazio(texto[campos[campos.size() - 1 - vazios]])) ++vazios;
     if (vazios == 0 || vazios == campos.size()) return texto;
-    const std::u16string antes = texto;
+    std::u16string antes = texto;
     for (std::size_t i = campos.size(); i-- > 0;) {
         const char16_t c = i >= vazios ? antes[campos[i - vazios]] : FBranco;
         // Places of different kinds: what does not fit further right stays.
@@ -340,7 +340,7 @@ TEdicaoMascara TMascara::Ajustar(const TEdicaoMascara& AEdicao) const {
 }
 
 TEdicaoMascara TMascara::Digitar(const TEdicaoMascara& AEdicao, char16_t ACaractere) const {
-    const TEdicaoMascara antes = Ajustar(AEdicao);
+    TEdicaoMascara antes = Ajustar(AEdicao);
     const auto [inicio, fim] = BuscarSelecao(antes);
     TEdicaoMascara depois = antes;
     if (EstahVazia()) {

@@ -43,9 +43,9 @@ constexpr auto CPotenciasDoPasso = [] {
     TInteiroLongo quociente(1);
     quociente.DeslocarEsquerda(CBitsDoDividendo);
     for (int i = 0; i <= CPassos; ++i) {
-        potencias[static_cast<std::size_t>(CPassos - i)] =
-            EstimarLongo(quociente, -CBitsDoDividendo - i * CPasso, i > 0);
-        potencias[static_cast<std::size_t>(CPassos + i)] = EstimarLongo(produto, i * CPasso, false);
+        const auto passos = static_cast<std::size_t>(i);
+        potencias[CPassos - passos] = EstimarLongo(quociente, -CBitsDoDividendo - i * CPasso, i > 0);
+        potencias[CPassos + passos] = EstimarLongo(produto, i * CPasso, false);
         produto.MultiplicarPorPotenciaDe5(CPasso);
         quociente.DividirPorPotenciaDe5(CPasso);
     }
