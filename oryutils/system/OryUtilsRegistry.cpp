@@ -154,7 +154,7 @@ TResultStatus TOryUtilsRegistro::AdicionouProgramaInicializacaoWindows(std::u16s
 }
 
 TResultStatus TOryUtilsRegistro::ExcluiuProgramaInicializacaoWindows(std::u16string_view ANome) {
-    const TResultStatus resultado = ExcluiuValor(crLocalMachine, CChaveAutoInicio, ANome);
+    TResultStatus resultado = ExcluiuValor(crLocalMachine, CChaveAutoInicio, ANome);
     if (resultado.Status) return resultado;
     return Falha(PreencherModelo(CErroAoExcluirAutoInicio, {resultado.Mensagem}));
 }

@@ -38,7 +38,7 @@ std::u16string TOryUtilsSistema::BuscarPastaConfiguracaoFormularios() {
 }
 
 std::u16string TOryUtilsSistema::BuscarPastaPadraoLogSistema() {
-    const std::u16string pasta = BuscarPastaAplicacao() + u"LogSistema";
+    std::u16string pasta = BuscarPastaAplicacao() + u"LogSistema";
     Plataforma::CriarPasta(pasta);
     return pasta;
 }

@@ -25,8 +25,9 @@ struct TDeNome {
     char16_t Minuscula = 0;
 };
 constexpr auto CDeNome = [] {
-    std::array<TDeNome, 128> tabela{};
-    for (char16_t c = 0; c < tabela.size(); ++c)
+    constexpr char16_t CFim = 128;
+    std::array<TDeNome, CFim> tabela{};
+    for (char16_t c = 0; c < CFim; ++c)
         if (EhDigito(c) || c == u'_' || c == u',') tabela[c] = {c, c};
     for (char16_t c = u'A'; c <= u'Z'; ++c) {
         const auto minuscula = static_cast<char16_t>(c + 32);
