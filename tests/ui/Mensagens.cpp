@@ -13,24 +13,22 @@ constexpr std::uint16_t CEsc = 27;
 TEST_F(TesteDialogos, CadaTipoDeBotao) {
     struct TCaso {
         TMsgDlgBtn Tipo;
-        const char16_t* Caption;
-        const char16_t* Nome;
+        const char16_t *Caption, *Nome;
         int Resultado;
-        const char* Porque;
     };
     constexpr TCaso CCasos[] = {
-        {mbYes, u"&Sim", u"Yes", 6, ""},
-        {mbNo, u"&Não", u"No", 7, ""},
-        {mbOK, u"O&K", u"OK", 1, ""},
-        {mbCancel, u"&Cancelar", u"Cancel", 2, ""},
-        {mbAbort, u"A&bortar", u"Abort", 3, ""},
-        {mbRetry, u"&Retry", u"Retry", 4, "stays in English"},
-        {mbIgnore, u"&Ignorar", u"Ignore", 5, ""},
-        {mbAll, u"To&dos", u"All", 8, ""},
-        {mbNoToAll, u"Nã&o p/ Todos", u"NoToAll", 9, ""},
-        {mbYesToAll, u"Si&m p/ Todos", u"YesToAll", 10, ""},
-        {mbHelp, u"&Ajuda", u"Help", 2, "help closes nothing: the window's button does"},
-        {mbClose, u"&Fechar", u"Close", 11, ""},
+        {mbYes, u"&Sim", u"Yes", 6},
+        {mbNo, u"&Não", u"No", 7},
+        {mbOK, u"O&K", u"OK", 1},
+        {mbCancel, u"&Cancelar", u"Cancel", 2},
+        {mbAbort, u"A&bortar", u"Abort", 3},
+        {mbRetry, u"&Retry", u"Retry", 4},  // stays in English
+        {mbIgnore, u"&Ignorar", u"Ignore", 5},
+        {mbAll, u"To&dos", u"All", 8},
+        {mbNoToAll, u"Nã&o p/ Todos", u"NoToAll", 9},
+        {mbYesToAll, u"Si&m p/ Todos", u"YesToAll", 10},
+        {mbHelp, u"&Ajuda", u"Help", 2},  // help closes nothing: the window's button does
+        {mbClose, u"&Fechar", u"Close", 11},
     };
     for (const TCaso& caso : CCasos) {
         EXPECT_EQ(OryMsg::Textos().BuscarCaption(caso.Tipo), caso.Caption);
@@ -43,7 +41,7 @@ TEST_F(TesteDialogos, CadaTipoDeBotao) {
         EXPECT_EQ(Dialogos.ConfirmacaoCustomizada(u"?", mtCustom, {caso.Tipo, caso.Tipo}, 0, u"T",
                                                   {CCaptionsBotao[caso.Tipo]}),
                   caso.Resultado)
-            << ParaUtf8(caso.Caption) << " " << caso.Porque;
+            << ParaUtf8(caso.Caption);
     }
 }
 
@@ -128,79 +126,44 @@ TEST_F(TesteDialogos, CaptionsEResultadosSeguemAsListas) {
         std::vector<TMsgDlgBtn> Botoes;
         std::vector<std::u16string> Captions;
         int Padrao;
-        std::vector<std::u16string> Nomes, Textos;
-        std::vector<int> Resultados;
-        std::size_t Foco;
-        int ComEsc;
+        const char* Esperado;  // each button's name, caption and result; a star at the focus
         const char* Porque;
     };
     const TCaso casos[] = {
-        {{mbYes, mbNo}, {u"Vai", u"Fica"}, mrNo, {u"Yes", u"No"}, {u"Vai", u"Fica"}, {6, 7}, 1, 2, "kind order"},
-        {{mbCancel, mbYes},
-         {u"Volta", u"Vai"},
-         mrYes,
-         {u"Yes", u"Cancel"},
-         {u"Volta", u"Vai"},
-         {2, 6},
-         1,
-         2,
-         "list order differs: Esc follows the result, not the kind"},
+        {{mbYes, mbNo}, {u"Vai", u"Fica"}, mrNo, "Yes=Vai 6, No=Fica 7*, ", "kind order"},
+        {{mbCancel, mbYes}, {u"Volta", u"Vai"}, mrYes, "Yes=Volta 2, Cancel=Vai 6*, ", "list order differs"},
         {{mbNo, mbOK, mbYes},
          {u"N"},
          mrNone,
-         {u"Yes", u"No", u"OK"},
-         {u"N", u"O&K", u"&Sim"},
-         {7, 1, 6},
-         1,
-         2,
+         "Yes=N 7, No=O&K 1*, OK=&Sim 6, ",
          "missing captions: usual ones of what the button answers; OK is the default"},
         {{mbYes, mbYes, mbNo},
          {u"A", u"B", u"C"},
          mrYes,
-         {u"Yes", u"No"},
-         {u"A", u"B"},
-         {6, 6},
-         1,
-         2,
+         "Yes=A 6, No=B 6*, ",
          "a repeated kind: the set is smaller than the lists"},
         {{mbRetry, mbIgnore},
          {u"R", u"I", u"sobra"},
          mrAbort,
-         {u"Retry", u"Ignore"},
-         {u"R", u"I"},
-         {4, 5},
-         0,
-         2,
+         "Retry=R 4*, Ignore=I 5, ",
          "default that no button has; a caption too many"},
-        {{mbClose, mbHelp},
-         {u"F", u"A"},
-         mrNone,
-         {u"Help", u"Close"},
-         {u"F", u"A"},
-         {11, 0},
-         1,
-         2,
-         "0 is the result of help"},
-        {{mbNo}, {u"Só"}, mrYes, {u"No"}, {u"Só"}, {7}, 0, 2, "single button"},
-        {{static_cast<TMsgDlgBtn>(99), mbYes}, {u"X"}, mrNone, {u"Yes"}, {u"X"}, {6}, 0, 2, "unknown ordinal"},
+        {{mbClose, mbHelp}, {u"F", u"A"}, mrNone, "Help=F 11, Close=A 0*, ", "0 is the result of help"},
+        {{mbNo}, {u"Só"}, mrYes, "No=Só 7*, ", "single button"},
+        {{static_cast<TMsgDlgBtn>(99), mbYes}, {u"X"}, mrNone, "Yes=X 6*, ", "unknown ordinal"},
     };
     for (const TCaso& caso : casos) {
         const auto formulario =
             OryMsg::GetConfirmationCustomForm(u"?", mtConfirmation, caso.Botoes, caso.Padrao, u"T", caso.Captions);
-        std::vector<std::u16string> nomes, textos;
-        std::vector<int> resultados;
+        std::string visto;
         for (const TBotao* botao : formulario->GetBotoes()) {
-            nomes.push_back(botao->GetNome());
-            textos.push_back(botao->GetTexto());
-            resultados.push_back(botao->GetModalResult());
+            const bool foco = formulario->GetControleAtivo() == botao;
+            EXPECT_TRUE(!foco || botao->GetPadrao()) << caso.Porque;
+            visto += ParaUtf8(botao->GetNome() + u"=" + botao->GetTexto()) + ' ' +
+                     std::to_string(botao->GetModalResult()) + (foco ? "*, " : ", ");
         }
-        EXPECT_EQ(nomes, caso.Nomes) << caso.Porque;
-        EXPECT_EQ(textos, caso.Textos) << caso.Porque;
-        EXPECT_EQ(resultados, caso.Resultados) << caso.Porque;
-        EXPECT_EQ(formulario->GetControleAtivo(), formulario->GetBotoes()[caso.Foco]) << caso.Porque;
-        EXPECT_TRUE(formulario->GetBotoes()[caso.Foco]->GetPadrao()) << caso.Porque;
+        EXPECT_EQ(visto, caso.Esperado) << caso.Porque;
         Toolkit.Roteiro.push_back([](TFormulario& AFormulario) { Teclar(AFormulario, CEsc); });
-        EXPECT_EQ(formulario->ExecutarModal(), caso.ComEsc) << caso.Porque;
+        EXPECT_EQ(formulario->ExecutarModal(), mrCancel) << caso.Porque << ": Esc follows the result, not the kind";
     }
 }
 
@@ -242,36 +205,27 @@ TEST_F(TesteDialogos, TextosTrocadosPeloHospedeiro) {
     EXPECT_EQ(CCaptionsBotao[mbYes], u"&Sim");
 }
 
+std::string ColherErro(const std::function<void()>& AAcao) {
+    try {
+        AAcao();
+    } catch (const Exception& erro) {
+        return erro.what();
+    }
+    return "nothing raised";
+}
+
 TEST_F(TesteDialogos, ParametrosObrigatorios) {
-    struct TCaso {
-        std::vector<TMsgDlgBtn> Botoes;
-        std::vector<std::u16string> Captions;
-        const char* Mensagem;
-    };
-    const TCaso casos[] = {
-        {{}, {u"a"}, "TOryUtilsDialogsFormCustomizadoIOP.Botoes: preenchimento obrigatório."},
-        {{}, {}, "TOryUtilsDialogsFormCustomizadoIOP.Botoes: preenchimento obrigatório."},
-        {{mbOK}, {}, "TOryUtilsDialogsFormCustomizadoIOP.CaptionBotoes: preenchimento obrigatório."},
-    };
-    const auto colher = [](auto AAcao) -> std::string {
-        try {
-            AAcao();
-        } catch (const Exception& erro) {
-            return erro.what();
-        }
-        return "nothing raised";
-    };
-    for (const TCaso& caso : casos) {
+    for (const bool temBotoes : {false, true}) {
         TOryUtilsDialogsFormCustomizadoComOpcoesIOP opcoes;
-        opcoes.Botoes = caso.Botoes;
-        opcoes.CaptionBotoes = caso.Captions;
+        if (temBotoes) opcoes.Botoes = {mbOK};
         TOryUtilsDialogsFormCustomizadoComDetalhesIOP detalhes;
         detalhes.Assign(opcoes);
-        EXPECT_EQ(colher([&] { opcoes.ValidarPropriedades(); }), caso.Mensagem);
-        EXPECT_EQ(colher([&] { Dialogos.ConfirmacaoCustomizadaComOpcoes(opcoes); }), caso.Mensagem);
-        EXPECT_EQ(colher([&] { Dialogos.ConfirmacaoCustomizadaComDetalhes(detalhes); }), caso.Mensagem);
-        EXPECT_EQ(colher([&] { OryMsg::ConfirmationCustom(u"", mtError, caso.Botoes, 0, u"", caso.Captions); }),
-                  caso.Mensagem);
+        const std::string mensagem = std::string("TOryUtilsDialogsFormCustomizadoIOP.") +
+                                     (temBotoes ? "CaptionBotoes" : "Botoes") + ": preenchimento obrigatório.";
+        EXPECT_EQ(ColherErro([&] { opcoes.ValidarPropriedades(); }), mensagem);
+        EXPECT_EQ(ColherErro([&] { Dialogos.ConfirmacaoCustomizadaComOpcoes(opcoes); }), mensagem);
+        EXPECT_EQ(ColherErro([&] { Dialogos.ConfirmacaoCustomizadaComDetalhes(detalhes); }), mensagem);
+        EXPECT_EQ(ColherErro([&] { OryMsg::ConfirmationCustom(u"", mtError, opcoes.Botoes, 0, u"", {}); }), mensagem);
     }
     EXPECT_TRUE(Toolkit.Titulos.empty());
     EXPECT_EQ(Dialogos.GetFormularioAtual(), nullptr);
@@ -295,14 +249,8 @@ TEST_F(TesteDialogos, OutraThreadRecebeErro) {
             Dialogos.Informacao(u"a");
         },
     };
-    for (const auto& operacao : operacoes) {
-        try {
-            operacao();
-            ADD_FAILURE() << "nothing raised";
-        } catch (const Exception& erro) {
-            EXPECT_EQ(erro.GetMensagem(), u"Formulários só podem ser mostrados pela thread da interface do usuário.");
-        }
-    }
+    for (const auto& operacao : operacoes)
+        EXPECT_EQ(ColherErro(operacao), "Formulários só podem ser mostrados pela thread da interface do usuário.");
     EXPECT_TRUE(Dialogos.GetCentralNotificacoes().GetMensagens().empty());
 }
 
