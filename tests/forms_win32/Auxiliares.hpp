@@ -4,6 +4,8 @@
 #include "oryutils/forms/win32/ToolkitWin32.hpp"
 #include "oryutils/platform/windows/Windows.hpp"
 
+#include "forms/roteiros/Roteiros.hpp"
+
 #include <gtest/gtest.h>
 
 #include <deque>
@@ -27,7 +29,7 @@ private:
 
 /// Real windows, driven from a timer: the system delivers a timer's tick only when no other message waits, so each step
 /// sees all effects of the one before it.
-class FormsWin32 : public testing::Test {
+class FormsWin32 : public testing::Test, public TUsuario {
 protected:
     void SetUp() override {
         if (!TToolkitWin32::HaAreaDeTrabalho()) GTEST_SKIP() << "no window can be created here: run under a display";
@@ -66,13 +68,34 @@ protected:
     }
 
     /// Runs AFormulario; APassos follow one another once it is shown. A form that nothing closed is a failure.
-    int Executar(TFormulario& AFormulario, std::deque<std::function<void()>> APassos) {
+    int Executar(TFormulario& AFormulario, TPassos APassos) override {
         // A form inside of another has its own steps; the outer one's wait.
         return Conduzir(
             std::move(APassos), [&] { return ::IsWindowEnabled(Janela(AFormulario)) != 0; },
             [&] { AFormulario.SetModalResult(-1); }, [&] { return AFormulario.ExecutarModal(); });
     }
 
+    bool HaFormulario() override { return ::FindWindowW(L"TOryFormulario", nullptr) != nullptr; }
+    void Teclar(std::uint16_t ATecla) override {
+        Tecla(ATecla);
+        if (ATecla == VK_SPACE) ::PostMessageW(::GetFocus(), WM_KEYUP, ATecla, 1);
+    }
+    void TeclarComAlt(char ALetra) override { AltTecla(static_cast<WPARAM>(ALetra)); }
+    void Escrever(const char* ATexto) override {
+        for (; *ATexto; ++ATexto) ::PostMessageW(::GetFocus(), WM_CHAR, static_cast<WPARAM>(*ATexto), 1);
+    }
+    void Clicar(std::u16string_view ACaption) override { Clicar(BuscarFilho(ACaption)); }
+    void ClicarComMouse(std::u16string_view ACaption) override {
+        const HWND janela = BuscarFilho(ACaption);
+        ::PostMessageW(janela, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+        ::PostMessageW(janela, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    }
+    void FecharJanela() override { ::PostMessageW(::GetActiveWindow(), WM_SYSCOMMAND, SC_CLOSE, 0); }
+
+    /// The control of the active window with that text.
+    static HWND BuscarFilho(std::u16string_view ATexto) {
+        return ::FindWindowExW(::GetActiveWindow(), nullptr, nullptr, Plataforma::ParaWide(std::u16string(ATexto)));
+    }
     static HWND Janela(const TFormulario& AFormulario) {
         return ::FindWindowW(L"TOryFormulario", Plataforma::ParaWide(AFormulario.GetTitulo()));
     }
@@ -106,10 +129,6 @@ protected:
         for (; *ATexto; ++ATexto) ::PostMessageW(::GetFocus(), WM_CHAR, *ATexto, 1);
     }
     static void Clicar(HWND AJanela) { ::PostMessageW(AJanela, BM_CLICK, 0, 0); }
-    static void ClicarComMouse(HWND AJanela) {
-        ::PostMessageW(AJanela, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
-        ::PostMessageW(AJanela, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
-    }
     /// Holds a key down, or lets it go, for the keys that follow.
     static void Digitar(int ATecla, bool APressionada) {
         BYTE teclado[256];

@@ -6,66 +6,7 @@
 namespace OryUtils {
 namespace {
 
-enum TGesto { geTecla, geAlt, geClique, geMouse, geFechar };
-struct TCasoTecla {
-    TGesto Gesto;
-    WPARAM Tecla;  // or the index of the control that is clicked
-    int Focado;    // index of the control that has the focus
-    int Esperado;
-    const char* Porque;
-};
-// Controls: 0 edit, 1 default (Yes), 2 plain (No), 3 cancel (Cancel), 4 memo, 5 check box.
-constexpr TCasoTecla CTeclas[] = {
-    {geTecla, VK_RETURN, 0, mrYes, "Enter in a box presses the default button"},
-    {geTecla, VK_RETURN, 5, mrYes, "Enter on a check box too"},
-    {geTecla, VK_RETURN, 2, mrNo, "Enter on a focused button presses that one"},
-    {geTecla, VK_SPACE, 2, mrNo, "so does the space bar"},
-    {geTecla, VK_ESCAPE, 0, mrCancel, "Esc presses the cancel button"},
-    {geTecla, VK_ESCAPE, 4, mrCancel, "also in a memo"},
-    {geAlt, 'N', 0, mrNo, "Alt and the letter of the caption"},
-    {geAlt, 'S', 4, mrYes, "Alt and the letter from a memo"},
-    {geClique, 2, 0, mrNo, "click"},
-    {geMouse, 3, 0, mrCancel, "pressed and let go by the mouse"},
-    {geFechar, 0, 0, mrCancel, "the close box"},
-};
-
-TEST_F(FormsWin32, BotoesPorTecladoEMouse) {
-    for (const TCasoTecla& c : CTeclas) {
-        TFormulario formulario;
-        formulario.SetTitulo(u"Teclado");
-        Por<TCaixaEdicao>(formulario, u"", {0, 0, 100, 22});
-        PorBotao(formulario, u"&Sim", mrYes).SetPadrao(true);
-        PorBotao(formulario, u"&Não", mrNo, 80);
-        PorBotao(formulario, u"&Cancelar", mrCancel, 160).SetCancelar(true);
-        Por<TMemorando>(formulario, u"", {0, 30, 100, 50});
-        Por<TCaixaChecagem>(formulario, u"Marca", {0, 90, 100, 17});
-        formulario.SetControleAtivo(formulario.GetControles()[static_cast<std::size_t>(c.Focado)].get());
-        const auto gesto = [&] {
-            const HWND janela = Janela(formulario);
-            const auto filhos = Filhos(janela);
-            EXPECT_EQ(::GetFocus(), filhos[static_cast<std::size_t>(c.Focado)]) << c.Porque;
-            switch (c.Gesto) {
-                case geTecla:
-                    Tecla(c.Tecla);
-                    if (c.Tecla == VK_SPACE) ::PostMessageW(::GetFocus(), WM_KEYUP, VK_SPACE, 1);
-                    break;
-                case geAlt:
-                    AltTecla(c.Tecla);
-                    break;
-                case geClique:
-                    Clicar(filhos[c.Tecla]);
-                    break;
-                case geMouse:
-                    ClicarComMouse(filhos[c.Tecla]);
-                    break;
-                case geFechar:
-                    ::PostMessageW(janela, WM_SYSCOMMAND, SC_CLOSE, 0);
-                    break;
-            }
-        };
-        EXPECT_EQ(Executar(formulario, {gesto}), c.Esperado) << c.Porque;
-    }
-}
+TEST_F(FormsWin32, RoteirosDeTodoToolkit) { ConferirRoteiros(*this); }
 
 TEST_F(FormsWin32, EscSemBotaoDeCancelarFechaEEnterNoMemorandoEscreve) {
     TFormulario formulario;
@@ -192,54 +133,19 @@ TEST_F(FormsWin32, OFormularioVeAsTeclasAntesDoControle) {
     ::CloseClipboard();
 }
 
-struct TCasoSaida {
-    bool Aceita;
-    bool PorAlt;  // else by Tab
-    std::u16string_view Esperado;
-    const char* Porque;
-};
-constexpr TCasoSaida CSaidas[] = {
-    {true, false, u"saiu A.saiu B.", "left twice, both fine"},
-    {false, false, u"saiu A.saiu A.", "refused: the focus comes back, and the box in between was never left"},
-    {true, true, u"saiu A.clicou.", "the exit comes before the click"},
-    {false, true, u"saiu A.", "a refused exit drops the click"},
-};
-
-TEST_F(FormsWin32, SairDaCaixaPodeSerRecusado) {
-    for (const TCasoSaida& c : CSaidas) {
-        TFormulario formulario;
-        formulario.SetTitulo(u"Saída");
-        std::u16string visto;
-        auto& a = Por<TCaixaEdicao>(formulario, u"", {0, 0, 100, 22});
-        auto& b = Por<TCaixaEdicao>(formulario, u"", {0, 30, 100, 22});
-        auto& salvar = PorBotao(formulario, u"&Salvar", mrNone);
-        TAcao sairA([&] {
-            visto += u"saiu A.";
-            if (c.Aceita) return;
-            a.ReceberFoco();
-            // The warning, while it is up, takes the focus away from the form: nothing is left by that.
-            TFormulario aviso;
-            aviso.SetTitulo(u"Aviso");
-            PorBotao(aviso, u"OK", mrOk).SetPadrao(true);
-            Executar(aviso, {[] { Tecla(VK_RETURN); }});
-            Abort();
-        });
-        TAcao sairB([&] { visto += u"saiu B."; });
-        TAcao clicar([&] { visto += u"clicou."; });
-        a.OnSair = sairA.Evento();
-        b.OnSair = sairB.Evento();
-        salvar.OnClick = clicar.Evento();
-        const auto sair = [&] { c.PorAlt ? AltTecla('S') : Tecla(VK_TAB); };
-        std::deque<std::function<void()>> passos{sair};
-        if (!c.PorAlt) passos.push_back(sair);
-        passos.push_back([&] {
-            EXPECT_EQ(formulario.GetControleAtivo() == &a, !c.Aceita) << c.Porque;
-            EXPECT_EQ(::GetFocus() == Filhos(Janela(formulario))[0], !c.Aceita) << c.Porque;
-            formulario.Fechar();
-        });
-        EXPECT_EQ(Executar(formulario, passos), mrCancel) << "EAbort is silent";
-        EXPECT_EQ(visto, c.Esperado) << c.Porque;
-    }
+TEST_F(FormsWin32, OQueOFocoSoAtravessouNaoFoiDeixado) {
+    TFormulario formulario;
+    formulario.SetTitulo(u"Saída");
+    auto& a = Por<TCaixaEdicao>(formulario, u"", {0, 0, 100, 22});
+    auto& b = Por<TCaixaEdicao>(formulario, u"", {0, 30, 100, 22});
+    int deA = 0, deB = 0;
+    TAcao sairA([&] { ++deA, a.ReceberFoco(), Abort(); });
+    TAcao sairB([&] { ++deB; });
+    a.OnSair = sairA.Evento();
+    b.OnSair = sairB.Evento();
+    Executar(formulario, {[] { Tecla(VK_TAB); }, [] { Tecla(VK_TAB); }, [&] { formulario.Fechar(); }});
+    EXPECT_EQ(deA, 2);
+    EXPECT_EQ(deB, 0) << "the focus came back from it before anybody was there";
 }
 
 TEST_F(FormsWin32, RedimensionarAvisaComOTamanhoNovo) {

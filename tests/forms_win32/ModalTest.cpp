@@ -98,101 +98,6 @@ TEST_F(FormsWin32, OAdaptadorEhOControleNativo) {
     EXPECT_FALSE(b.PodeReceberFoco());
 }
 
-enum TOnde { onShow, onClick, onSair, onMudar, onTemporizador, onTecla };
-
-class TLancador : public TObjeto {
-public:
-    void AoTeclar(TObjeto*, TTecla&) { throw Exception(u"tecla"); }
-};
-
-TEST_F(FormsWin32, ExcecoesSaemDepoisDoLaco) {
-    for (const TOnde onde : {onShow, onClick, onSair, onMudar, onTemporizador, onTecla}) {
-        TFormulario formulario;
-        formulario.SetTitulo(u"Exceção");
-        auto& caixa = Por<TCaixaEdicao>(formulario, u"", {0, 0, 100, 22});
-        auto& botao = PorBotao(formulario, u"&Botão", mrNone);
-        TAcao lancar([] { throw Exception(u"erro do tratador"); });
-        TLancador lancador;
-        std::function<void()> gesto = [] {};
-        switch (onde) {
-            case onShow:
-                formulario.OnShow = lancar.Evento();
-                break;
-            case onClick:
-                botao.OnClick = lancar.Evento(), gesto = [] { AltTecla('B'); };
-                break;
-            case onSair:
-                caixa.OnSair = lancar.Evento(), gesto = [] { Tecla(VK_TAB); };
-                break;
-            case onMudar:
-                caixa.OnMudar = lancar.Evento(), gesto = [] { Escrever(L"x"); };
-                break;
-            case onTemporizador:
-                gesto = [&] { lancar.Rodar(nullptr); };
-                break;
-            case onTecla:
-                formulario.OnKeyDown = TEvento<TObjeto*, TTecla&>::De<&TLancador::AoTeclar>(lancador);
-                gesto = [] { Tecla('X'); };
-                break;
-        }
-        EXPECT_THROW(Executar(formulario, {gesto}), Exception) << onde;
-        EXPECT_EQ(formulario.GetJanela(), nullptr);
-        EXPECT_EQ(::FindWindowW(L"TOryFormulario", nullptr), nullptr) << "no window is left behind";
-    }
-}
-
-TEST_F(FormsWin32, AExcecaoDeDentroPassaPeloDeForaQueAPodeTratar) {
-    TFormulario fora;
-    fora.SetTitulo(u"Fora");
-    auto& botao = PorBotao(fora, u"&Abrir", mrOk);
-    bool tratada = false;
-    TAcao abrir([&] {
-        TFormulario dentro;
-        dentro.SetTitulo(u"Dentro");
-        TAcao lancar([] { throw EConvertError(u"de dentro"); });
-        dentro.OnShow = lancar.Evento();
-        try {
-            dentro.ExecutarModal();
-        } catch (const EConvertError&) {
-            tratada = true;
-        }
-    });
-    botao.OnClick = abrir.Evento();
-    EXPECT_EQ(Executar(fora, {[] { AltTecla('A'); }}), mrOk);
-    EXPECT_TRUE(tratada);
-}
-
-TEST_F(FormsWin32, EAbortNaoFechaOFormulario) {
-    TFormulario formulario;
-    formulario.SetTitulo(u"Abortar");
-    auto& botao = PorBotao(formulario, u"&Salvar", mrOk);
-    int cliques = 0;
-    TAcao clicar([&] {
-        if (++cliques == 1) Abort();
-    });
-    botao.OnClick = clicar.Evento();
-    EXPECT_EQ(Executar(formulario, {[] { AltTecla('S'); }, [] { AltTecla('S'); }}), mrOk);
-    EXPECT_EQ(cliques, 2) << "the first click did not reach the modal result";
-}
-
-TEST_F(FormsWin32, TemporizadorFechaSozinho) {
-    TFormulario formulario;
-    formulario.SetTitulo(u"Automático");
-    PorBotao(formulario, u"OK", mrOk);
-    int tiques = 0;
-    std::uintptr_t temporizador = 0;
-    temporizador = FToolkit.LigarTemporizador(15, [&] {
-        ++tiques;
-        // Switched off from inside its own action, as an auto-closing message does.
-        FToolkit.DesligarTemporizador(temporizador);
-        formulario.Fechar();
-    });
-    EXPECT_NE(temporizador, 0u);
-    EXPECT_EQ(formulario.ExecutarModal(), mrCancel);
-    FToolkit.DesligarTemporizador(temporizador);
-    EXPECT_EQ(tiques, 1);
-}
-
 TEST_F(FormsWin32, ProcessarMensagensEntregaOQueEspera) {
     const THospede hospede;
     ::PostMessageW(hospede.CaixaA, WM_CHAR, L'z', 1);
@@ -227,32 +132,17 @@ TEST_F(FormsWin32, ADonaDestruidaLevaOFormularioJunto) {
 }
 
 TEST_F(FormsWin32, SoAThreadDaInterfaceMostra) {
-    TFormulario formulario;
-    bool propria = true;
-    bool recusou = false;
-    std::thread([&] {
-        propria = FToolkit.EhThreadDaInterface();
-        try {
-            formulario.ExecutarModal();
-        } catch (const Exception&) {
-            recusou = true;
-        }
-    }).join();
     EXPECT_TRUE(FToolkit.EhThreadDaInterface());
-    EXPECT_FALSE(propria);
-    EXPECT_TRUE(recusou);
+    std::thread([&] {
+        EXPECT_FALSE(FToolkit.EhThreadDaInterface());
+        EXPECT_THROW(TFormulario().ExecutarModal(), Exception);
+    }).join();
     EXPECT_EQ(TToolkitWin32::GetThreadDeCarga(), ::GetCurrentThreadId()) << "the tests run on the main thread";
 }
 
 TEST_F(FormsWin32, MilFormulariosNaoDeixamNada) {
     const auto mostrar = [&] {
-        TFormulario formulario;
-        formulario.SetTitulo(u"Mil");
-        Por<TIcone>(formulario, u"", {0, 0, 32, 32}).SetIdIcone(32514);
-        Por<TRotulo>(formulario, u"Mensagem", {40, 0, 100, 13});
-        auto& grupo = Por<TGrupoOpcoes>(formulario, u"Opções: ", {0, 40, 100, 60});
-        grupo.AdicionarItem(u"uma");
-        PorBotao(formulario, u"OK", mrOk);
+        TFormularioCompleto formulario;
         TAcao fechar([&] { formulario.Fechar(); });
         formulario.OnShow = fechar.Evento();
         formulario.ExecutarModal();

@@ -16,23 +16,7 @@
 namespace OryUtils {
 namespace {
 
-TEST_F(TTesteQt, TemporizadorFechaEDesligaASiMesmo) {
-    TFormularioCompleto f;
-    TToolkit& toolkit = BuscarToolkit();
-    int vezes = 0;
-    std::uintptr_t numero = 0;
-    numero = toolkit.LigarTemporizador(1, [&, guardado = std::string(64, 'x')] {
-        if (++vezes < 3) return;
-        toolkit.DesligarTemporizador(numero);
-        EXPECT_EQ(guardado.size(), 64u) << "the action outlives its timer";
-        f.Fechar();
-    });
-    EXPECT_NE(numero, 0u);
-    EXPECT_EQ(f.ExecutarModal(), mrCancel);
-    EXPECT_EQ(vezes, 3);
-    toolkit.ProcessarMensagens();
-    EXPECT_EQ(vezes, 3);
-}
+TEST_F(TTesteQt, RoteirosDeTodoToolkit) { ConferirRoteiros(*this); }
 
 TEST_F(TTesteQt, ModaisAninhadosVoltamAoDeFora) {
     TFormularioCompleto fora;
@@ -56,66 +40,6 @@ TEST_F(TTesteQt, ModaisAninhadosVoltamAoDeFora) {
                         }),
               mrCancel);
     EXPECT_EQ(interno, mrNo);
-}
-
-struct TCasoErro {
-    const char* Porque;
-    void (*Montar)(TFormularioCompleto&, TEvento<TObjeto*>, TEvento<TObjeto*, TTecla&>);
-    void (*Passos)();
-};
-const TCasoErro CErros[] = {
-    {"a button", [](auto& f, auto e, auto) { f.Sim.OnClick = e; }, [] { BuscarFilho<QPushButton>(0)->click(); }},
-    {"the show event", [](auto& f, auto e, auto) { f.OnShow = e; }, nullptr},
-    {"a key", [](auto& f, auto, auto t) { f.OnKeyDown = t; }, [] { QTest::keyClick(BuscarDialogo(), Qt::Key_A); }},
-    {"a typed letter", [](auto& f, auto e, auto) { f.Edicao.OnMudar = e; },
-     [] { QTest::keyClick(BuscarFilho<QLineEdit>(), Qt::Key_A); }},
-    {"the focus that leaves", [](auto& f, auto e, auto) { f.Edicao.OnSair = e; },
-     [] { BuscarFilho<QPushButton>(1)->setFocus(); }},
-};
-
-TEST_F(TTesteQt, ExcecaoDeManipuladorSaiDeExecutarModal) {
-    for (const TCasoErro& c : CErros) {
-        TFormularioCompleto f;
-        TOuvinte<TObjeto*> evento{[](TObjeto*) { throw EConvertError(u"não é número"); }};
-        TOuvinte<TObjeto*, TTecla&> tecla{[](TObjeto*, TTecla&) { throw EConvertError(u"não é número"); }};
-        c.Montar(f, evento.GetEvento(), tecla.GetEvento());
-        if (c.Passos) QuandoMostrar(c.Passos);
-        EXPECT_THROW(f.ExecutarModal(), EConvertError) << c.Porque;
-        EXPECT_EQ(f.GetJanela(), nullptr) << c.Porque;
-        EXPECT_EQ(BuscarDialogo(), nullptr) << c.Porque;
-    }
-}
-
-TEST_F(TTesteQt, ExcecaoDoInternoChegaAoManipuladorDoExterno) {
-    TFormularioCompleto fora;
-    TFormularioCompleto dentro;
-    TOuvinte<TObjeto*> falhar{[](TObjeto*) { throw std::string("qualquer tipo"); }};
-    bool pegou = false;
-    TOuvinte<TObjeto*> abrir{[&](TObjeto*) {
-        try {
-            dentro.ExecutarModal();
-        } catch (const std::string&) {
-            pegou = true;
-        }
-    }};
-    dentro.OnShow = falhar.GetEvento();
-    fora.Nao.OnClick = abrir.GetEvento();
-    EXPECT_EQ(Responder(fora, [] { BuscarFilho<QPushButton>(1)->click(); }), mrNo);
-    EXPECT_TRUE(pegou);
-}
-
-TEST_F(TTesteQt, AbortEhSilenciosoEmTodaParte) {
-    TFormularioCompleto f;
-    TOuvinte<TObjeto*> abortar{[](TObjeto*) { Abort(); }};
-    f.OnShow = abortar.GetEvento();
-    f.Sim.OnClick = abortar.GetEvento();
-    EXPECT_EQ(Responder(f,
-                        [&] {
-                            QTest::keyClick(BuscarDialogo(), Qt::Key_Return);
-                            EXPECT_EQ(f.GetModalResult(), mrNone) << "the aborted button closes nothing";
-                            BuscarFilho<QPushButton>(1)->click();
-                        }),
-              mrNo);
 }
 
 TEST_F(TTesteQt, TemporizadorQueFalhaSaiPorProcessarMensagens) {

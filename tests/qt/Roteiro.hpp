@@ -2,17 +2,21 @@
 
 #include "oryutils/forms/Toolkit.hpp"
 
+#include "forms/roteiros/Roteiros.hpp"
 #include "toolkits/qt/ToolkitQt.hpp"
 
 #include <QApplication>
 #include <QDialog>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <map>
+#include <memory>
 #include <vector>
 
 namespace OryUtils {
@@ -42,19 +46,50 @@ inline int Responder(TFormulario& AFormulario, std::function<void()> APassos) {
     return AFormulario.ExecutarModal();
 }
 
-/// A method bound as an event, from a closure that the test keeps.
-template <typename... TArgs>
-struct TOuvinte {
-    std::function<void(TArgs...)> Acao;
-    void Chamar(TArgs... AArgs) { Acao(AArgs...); }
-    TEvento<TArgs...> GetEvento() { return TEvento<TArgs...>::template De<&TOuvinte::Chamar>(*this); }
-};
+/// A key of the window in front, as the window system gives it.
+inline void DarTecla(Qt::Key ATecla, Qt::KeyboardModifiers AModificadores = Qt::NoModifier) {
+    QTest::keyClick(BuscarDialogo()->windowHandle(), ATecla, AModificadores);
+}
 
-class TTesteQt : public testing::Test {
+class TTesteQt : public testing::Test, public TUsuario {
 protected:
     void SetUp() override {
         InstalarToolkitQt();
         BuscarToolkit().GetTamanhoFonte();  // makes the application where the host has none
+    }
+
+    int Executar(TFormulario& AFormulario, TPassos APassos) override {
+        Seguir(std::make_shared<TPassos>(std::move(APassos)));
+        return AFormulario.ExecutarModal();
+    }
+    bool HaFormulario() override { return BuscarDialogo() != nullptr; }
+    void Teclar(std::uint16_t ATecla) override {
+        const std::map<int, Qt::Key> teclas{{9, Qt::Key_Tab}, {13, Qt::Key_Return}, {27, Qt::Key_Escape}};
+        const auto tecla = teclas.find(ATecla);
+        DarTecla(tecla == teclas.end() ? static_cast<Qt::Key>(ATecla) : tecla->second);
+    }
+    void TeclarComAlt(char ALetra) override { DarTecla(static_cast<Qt::Key>(ALetra), Qt::AltModifier); }
+    void Escrever(const char* ATexto) override { QTest::keyClicks(QApplication::focusWidget(), ATexto); }
+    void Clicar(std::u16string_view ACaption) override { BuscarBotao(ACaption)->click(); }
+    void ClicarComMouse(std::u16string_view ACaption) override {
+        QTest::mouseClick(BuscarBotao(ACaption), Qt::LeftButton);
+    }
+    void FecharJanela() override { BuscarDialogo()->close(); }
+
+private:
+    static void Seguir(const std::shared_ptr<TPassos>& APassos) {
+        if (APassos->empty()) return;
+        QuandoMostrar([APassos] {
+            const auto passo = std::move(APassos->front());
+            APassos->pop_front();
+            passo();
+            Seguir(APassos);
+        });
+    }
+    static QPushButton* BuscarBotao(std::u16string_view ACaption) {
+        for (QPushButton* botao : BuscarDialogo()->findChildren<QPushButton*>())
+            if (botao->text() == QStringView(ACaption)) return botao;
+        return nullptr;
     }
 };
 
@@ -70,49 +105,6 @@ struct TDuasCaixas : QWidget {
         activateWindow();  // a bare X server has no window manager to do it
         EXPECT_TRUE(QTest::qWaitForWindowActive(this));
         Outra->setFocus();
-    }
-};
-
-/// Edit, memo, check box, three options and the buttons Sim (default), Não, Cancelar (cancel).
-struct TFormularioCompleto : TFormulario {
-    TIcone& Icone = Adicionar<TIcone>();
-    TRotulo& Mensagem = Adicionar<TRotulo>();
-    TCaixaEdicao& Edicao = Adicionar<TCaixaEdicao>();
-    TMemorando& Memorando = Adicionar<TMemorando>();
-    TCaixaChecagem& Caixa = Adicionar<TCaixaChecagem>();
-    TGrupoOpcoes& Grupo = Adicionar<TGrupoOpcoes>();
-    TBotao& Sim = Adicionar<TBotao>();
-    TBotao& Nao = Adicionar<TBotao>();
-    TBotao& Cancelar = Adicionar<TBotao>();
-
-    TFormularioCompleto() {
-        SetTitulo(u"Confirmação");
-        SetTamanhoCliente(420, 330);
-        Icone.SetIdIcone(32514);
-        Icone.SetRetangulo({10, 10, 32, 32});
-        Mensagem.SetTexto(u"Gravar & sair?\r\nHá alterações.");
-        Mensagem.SetRetangulo({60, 10, 300, 40});
-        Edicao.SetRetangulo({60, 60, 200, 24});
-        Memorando.SetRetangulo({60, 90, 300, 60});
-        Caixa.SetTexto(u"Não &perguntar de novo");
-        Caixa.SetRetangulo({60, 155, 300, 20});
-        Grupo.SetTexto(u"Opções: ");
-        Grupo.SetRetangulo({60, 180, 200, 100});
-        for (const char16_t* item : {u"Uma", u"Outra", u"Nenhuma"}) Grupo.AdicionarItem(item);
-        const struct {
-            TBotao& Botao;
-            const char16_t* Texto;
-            int Resultado;
-        } botoes[] = {{Sim, u"&Sim", mrYes}, {Nao, u"&Não", mrNo}, {Cancelar, u"&Cancelar", mrCancel}};
-        int left = 60;
-        for (const auto& b : botoes) {
-            b.Botao.SetTexto(b.Texto);
-            b.Botao.SetModalResult(b.Resultado);
-            b.Botao.SetRetangulo({left, 295, 75, 25});
-            left += 78;
-        }
-        Sim.SetPadrao(true);
-        Cancelar.SetCancelar(true);
     }
 };
 
