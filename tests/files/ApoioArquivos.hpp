@@ -9,9 +9,9 @@
 /// A folder of the test's own, with a name that asks for UTF-16; it goes with its files at the end.
 class TPastaTemporaria {
 public:
-    TPastaTemporaria() {
+    explicit TPastaTemporaria(std::u16string_view APrefixo = u"Versões de teste ") {
         std::random_device sorteio;
-        do FPasta = std::filesystem::temp_directory_path() / (u"Versões de teste " + DeNumero(sorteio()));
+        do (FPasta = std::filesystem::temp_directory_path() / APrefixo) += std::to_string(sorteio());
         while (!std::filesystem::create_directory(FPasta));
     }
     TPastaTemporaria(const TPastaTemporaria&) = delete;
@@ -22,6 +22,7 @@ public:
     }
 
     const std::filesystem::path& Caminho() const { return FPasta; }
+    std::filesystem::path operator/(const std::filesystem::path& AArquivo) const { return FPasta / AArquivo; }
     std::u16string Nome(const std::filesystem::path& AArquivo) const { return (FPasta / AArquivo).u16string(); }
     /// The whole name of the file written.
     std::u16string Gravar(std::u16string_view AArquivo, std::string_view ABytes) const {
@@ -31,10 +32,5 @@ public:
     }
 
 private:
-    static std::u16string DeNumero(unsigned ANumero) {
-        const std::string texto = std::to_string(ANumero);
-        return {texto.begin(), texto.end()};
-    }
-
     std::filesystem::path FPasta;
 };

@@ -49,6 +49,8 @@ TEST(Resistencia, OperacoesDoSistema) {
         std::function<void()> Fazer;
     };
     const TCaso casos[] = {
+        {"ExecutouComando", [] { S::ExecutouComando(Comando(u"nada"), true, false); }},
+        {"ExecutarComandoComRetorno of no program", [] { S::ExecutarComandoComRetorno(u"este-programa-nao-existe"); }},
         {"BuscarListaDeProcessosWindows", [] { S::BuscarListaDeProcessosWindows(u""); }},
         {"ProcessoEstahRodando", [] { S::ProcessoEstahRodando(u"este-programa-nao-existe", u""); }},
         {"FinalizouProcesso", [] { S::FinalizouProcesso(u"este-programa-nao-existe"); }},
@@ -76,7 +78,7 @@ TEST(Resistencia, OperacoesDoSistema) {
         {"BuscarPastaArquivoDeProgramas", [] { S::BuscarPastaArquivoDeProgramas(); }},
         {"BuscarPastaTempWindows", [] { S::BuscarPastaTempWindows(); }},
         {"BuscarVersaoArquivo", [&] { TOryUtilsFiles::BuscarVersaoArquivo(eu); }},
-        {"ExisteDiretorio", [&] { TOryUtilsFiles::ExisteDiretorio(pasta.Texto()); }},
+        {"ExisteDiretorio", [&] { TOryUtilsFiles::ExisteDiretorio(pasta.Nome(u"")); }},
         {"TRegistry",
          [] {
              TRegistry registro;
@@ -86,7 +88,7 @@ TEST(Resistencia, OperacoesDoSistema) {
         {"BuscarStatusServico", [] { S::BuscarStatusServico(u"", u"este-servico-nao-existe"); }},
         {"Log",
          [&] {
-             TOryUtilsArquivoLog log(pasta.Texto() + u"/x.log");
+             TOryUtilsArquivoLog log(pasta.Nome(u"x.log"));
              log.Adicionar(u"linha", clBlue);
              log.FinalizarLog();
          }},

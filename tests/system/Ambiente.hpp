@@ -8,4 +8,18 @@ namespace Testes {
 std::string BuscarVariavel(const std::string& ANome);
 void DefinirVariavel(const std::string& ANome, const std::string& AValor);
 
+/// The variable has that value while this lives.
+class TVariavel {
+public:
+    TVariavel(const std::string& ANome, const std::string& AValor) : FNome(ANome), FAnterior(BuscarVariavel(ANome)) {
+        DefinirVariavel(FNome, AValor);
+    }
+    ~TVariavel() { DefinirVariavel(FNome, FAnterior); }
+    TVariavel(const TVariavel&) = delete;
+    TVariavel& operator=(const TVariavel&) = delete;
+
+private:
+    const std::string FNome, FAnterior;
+};
+
 }  // namespace Testes

@@ -2,35 +2,17 @@
 
 #include "oryutils/runtime/Costura.hpp"
 
-#include <filesystem>
-#include <fstream>
+#include "files/ApoioArquivos.hpp"
+
 #include <functional>
 #include <string>
 #include <string_view>
 
 namespace OryUtils::Testes {
 
-/// A new folder that goes with the object.
-class TPastaTemporaria {
-public:
-    TPastaTemporaria() {
-        static int contador = 0;
-        const auto base = std::filesystem::temp_directory_path();
-        // Tests of several build trees may run at the same time.
-        do FCaminho = base / ("orysistema" + std::to_string(++contador));
-        while (!std::filesystem::create_directory(FCaminho));
-    }
-    ~TPastaTemporaria() {
-        std::error_code erro;
-        std::filesystem::remove_all(FCaminho, erro);
-    }
-    TPastaTemporaria(const TPastaTemporaria&) = delete;
-    TPastaTemporaria& operator=(const TPastaTemporaria&) = delete;
-    std::filesystem::path operator/(const std::string& ANome) const { return FCaminho / ANome; }
-    std::u16string Texto() const { return FCaminho.u16string(); }
-
-private:
-    std::filesystem::path FCaminho;
+/// With a name that programs of the tests, too, read in any encoding.
+struct TPastaTemporaria : ::TPastaTemporaria {
+    TPastaTemporaria() : ::TPastaTemporaria(u"orysistema") {}
 };
 
 /// The program of the tests (tests/system/programas) as the first words of a command line, to be followed by more.

@@ -2,7 +2,6 @@
 #include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 #include "oryutils/system/interno/Executor.hpp"
-#include "oryutils/system/interno/SaidaDeComando.hpp"
 
 #include "system/Auxiliar.hpp"
 
@@ -71,16 +70,19 @@ TEST(Comandos, QuemHerdaASaidaAindaEscreve) {
 // The program prints at once, so the chunks are those of the bytes.
 TEST(Comandos, CemMegabytes) {
     constexpr std::size_t CBytes = 100'000'000;
-    const TLinhas linhas = Executar(Comando(u"linhas 100000000"));
-    std::string bloco;
-    while (bloco.size() < 64000) bloco += std::string(999, static_cast<char>('a' + bloco.size() / 1000 % 26)) + '\n';
-    TLinhas esperado;
-    Sistema::TSaidaEmLista lista(esperado);
-    Sistema::TSaidaDeComando saida(lista, [](std::string_view) { return std::u16string(); });
-    for (std::size_t resto = CBytes; resto > 0; resto -= std::min(resto, bloco.size()))
-        saida.Receber(std::string_view(bloco).substr(0, resto));
-    saida.FecharParte();
-    EXPECT_TRUE(linhas == esperado);
+    std::u16string bloco;
+    while (bloco.size() < 64000)
+        bloco += std::u16string(999, static_cast<char16_t>(u'a' + bloco.size() / 1000 % 26)) + u'\n';
+    std::u16string saida;
+    while (saida.size() < CBytes) saida += bloco;
+    saida.resize(CBytes);
+    std::u16string esperado;
+    for (std::size_t i = 0; i < CBytes; i += 255)
+        for (const char16_t letra : Aparar(std::u16string_view(saida).substr(i, 255)))
+            letra == u'\n' ? esperado += u"\r\n" : esperado += letra;
+    const std::u16string comando = Comando(u"linhas 100000000");
+    EXPECT_TRUE(TOryUtilsSistema::ExecutarComandoComRetorno(comando) == esperado);
+    EXPECT_TRUE(Sistema::JuntarLinhas(Executar(comando)) == esperado);
 }
 
 TEST(Comandos, BytesQuebradosSaoLidosParteAParte) {
@@ -151,7 +153,8 @@ TEST(Comandos, ModoAdministradorDesligado) {
     EXPECT_TRUE(sistema.GetAtivarExecucaoComandosModoAdministrador());
     sistema.SetAtivarExecucaoComandosModoAdministrador(false);
     const TPastaTemporaria pasta;
-    const TAoProcessarMensagens restaura([] {});
+    bool bloqueadas = false;
+    const TAoProcessarMensagens ao_processar([&] { bloqueadas |= desabilitadas; });
     CosturaInterface().DesabilitarJanelas = [] {
         desabilitadas = true;
         return std::shared_ptr<void>(&desabilitadas, [](void*) { desabilitadas = false; });
@@ -159,7 +162,7 @@ TEST(Comandos, ModoAdministradorDesligado) {
     TOryUtilsSystemDadosComandoModoAdministradorIOP dados;
     dados.Aplicacao = Testes::ProgramaAuxiliar().u16string();
     dados.Parametros = u"criar \"um arquivo\"";
-    dados.Diretorio = pasta.Texto();
+    dados.Diretorio = pasta.Caminho().u16string();
     dados.BloquearTela = true;
     std::uint32_t id = 0;
     dados.MetodoRetornoCriacaoProcesso = [&](const TOryUtilsSystemDadosRetornoProcessoModoAdminIOP& ARetorno) {
@@ -173,21 +176,14 @@ TEST(Comandos, ModoAdministradorDesligado) {
     EXPECT_NE(id, 0U);
     EXPECT_EQ(dados.IDProcesso, id);
 
-    EXPECT_TRUE(
-        sistema.ExecutouComandoModoAdministrador(nullptr, dados.Aplicacao, u"criar outro", pasta.Texto(), true));
+    EXPECT_TRUE(sistema.ExecutouComandoModoAdministrador(nullptr, dados.Aplicacao, u"criar outro",
+                                                         pasta.Caminho().u16string(), true));
     EXPECT_TRUE(std::filesystem::exists(pasta / "outro"));
 
     dados.Parametros = u"dormir";
     dados.TempoLimiteProcesso = 30;
-    bool bloqueadas = false;
-    {
-        const TAoProcessarMensagens ao_processar([&] { bloqueadas |= desabilitadas; });
-        CosturaInterface().DesabilitarJanelas = [] {
-            desabilitadas = true;
-            return std::shared_ptr<void>(&desabilitadas, [](void*) { desabilitadas = false; });
-        };
-        EXPECT_TRUE(sistema.ExecutouComandoModoAdministrador(dados));
-    }
+    EXPECT_TRUE(sistema.ExecutouComandoModoAdministrador(dados));
+    EXPECT_TRUE(bloqueadas) << "while it waited";
     EXPECT_FALSE(desabilitadas) << "the limit gives the windows back";
     EXPECT_TRUE(TOryUtilsSistema::FinalizouProcessoPeloPID(dados.IDProcesso).Status);
 }

@@ -27,8 +27,7 @@ protected:
     /// Nothing of the program stays behind; on Windows its file could not be deleted.
     ~Processos() override {
         TOryUtilsSistema::FinalizouProcesso(Nome());
-        for (const Plataforma::TProcessoIniciado& processo : FIniciados)
-            Plataforma::EsperarProcesso(processo, Plataforma::CEsperaSemLimite, false);
+        EsperarFim();
     }
     std::uint32_t Iniciar() {
         FIniciados.push_back(*Plataforma::CriarProcesso(Comando(u"dormir", FPrograma), false));

@@ -1,13 +1,10 @@
 #pragma once
 
+#include "files/ApoioArquivos.hpp"
 #include "system/Ambiente.hpp"
 
-#include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <initializer_list>
 #include <iterator>
-#include <random>
 #include <string>
 #include <string_view>
 
@@ -17,22 +14,10 @@ namespace Testes {
 /// looks before its own folders. Everything is as before when it goes.
 class TProgramasFalsos {
 public:
-    TProgramasFalsos()
-        : FPathAnterior(BuscarVariavel("PATH")),
-          FAnterior(std::filesystem::current_path()),
-          FPrograma(std::filesystem::absolute(ORY_PROGRAMA_FALSO)) {
-        FPasta = std::filesystem::temp_directory_path() / ("ory_falsos_" + std::to_string(std::random_device{}()));
-        std::filesystem::create_directories(FPasta);
-        constexpr char CSeparador = std::filesystem::path::preferred_separator == '/' ? ':' : ';';
-        DefinirVariavel("PATH", FPasta.string() + CSeparador + FPathAnterior);
-        DefinirVariavel("ORY_PROGRAMAS_FALSOS", FPasta.string());
-        std::filesystem::current_path(FPasta);
-    }
+    TProgramasFalsos() { std::filesystem::current_path(FPasta.Caminho()); }
     ~TProgramasFalsos() {
         std::error_code erro;
         std::filesystem::current_path(FAnterior, erro);
-        DefinirVariavel("PATH", FPathAnterior);
-        std::filesystem::remove_all(FPasta, erro);
     }
     TProgramasFalsos(const TProgramasFalsos&) = delete;
     TProgramasFalsos& operator=(const TProgramasFalsos&) = delete;
@@ -56,10 +41,12 @@ public:
     }
 
 private:
-    std::string FPathAnterior;
-    std::filesystem::path FAnterior;
-    std::filesystem::path FPrograma;
-    std::filesystem::path FPasta{};
+    static constexpr char CSeparador = std::filesystem::path::preferred_separator == '/' ? ':' : ';';
+    const std::filesystem::path FAnterior = std::filesystem::current_path();
+    const std::filesystem::path FPrograma = std::filesystem::absolute(ORY_PROGRAMA_FALSO);
+    const TPastaTemporaria FPasta{u"ory_falsos_"};
+    const TVariavel FPath{"PATH", FPasta.Caminho().string() + CSeparador + BuscarVariavel("PATH")};
+    const TVariavel FVariavel{"ORY_PROGRAMAS_FALSOS", FPasta.Caminho().string()};
 };
 
 }  // namespace Testes

@@ -11,6 +11,7 @@
 
 using namespace OryUtils;
 using Teste::CChave;
+using Teste::CConselho;
 using Teste::LerDoSistema;
 using Teste::TRegistro;
 using Teste::TValorPreservado;
@@ -130,21 +131,16 @@ TEST_F(TRegistro, FalhasDizemChaveEValor) {
     EXPECT_FALSE(motivo.empty());
     Falhou(registro.ExcluiuChave(crLocalMachine, CChave, u"Sub"),
            u"Não foi possível excluir a chave/valor << Sub >>.\r\nErro ocorrido: \r\n\r\n" + motivo, "a missing key");
-    Falhou(
-        registro.ExcluiuProgramaInicializacaoWindows(u"OryUtils %s Teste"),
-        u"Não foi possível excluir a configuração de auto início da aplicação com o Windows.\r\n\r\nErro ocorrido: "
-        u"\r\n\r\nErro ao excluir valor do registro do Windows.\r\nChave: "
-        u"Software\\Microsoft\\Windows\\CurrentVersion\\Run\r\nValor: OryUtils %s Teste.\r\n\r\nEm algumas versões do "
-        u"Windows, o acesso à configurações de registradores necessita que a aplicação possua privilégios de "
-        u"administrador.\r\n\r\nExecute a aplicação em modo administrador e tente novamente.",
-        "a missing entry");
+    Falhou(registro.ExcluiuProgramaInicializacaoWindows(u"OryUtils %s Teste"),
+           u"Não foi possível excluir a configuração de auto início da aplicação com o Windows.\r\n\r\nErro ocorrido: "
+           u"\r\n\r\nErro ao excluir valor do registro do Windows.\r\nChave: " +
+               std::u16string(CRun) + u"\r\nValor: OryUtils %s Teste" + std::u16string(CConselho),
+           "a missing entry");
     const std::u16string longo(16384, u'n');
     Falhou(registro.AdicionouProgramaInicializacaoWindows(longo, u"x.exe"),
            u"Não foi possível configurar aplicação para iniciar automaticamente com o Windows.\r\n\r\nAplicação: " +
-               longo + u" \r\n\r\nErro ocorrido: \r\n\r\nFalha ao definir dados para '" + longo +
-               u"'.\r\n\r\nEm algumas versões do Windows, o acesso à configurações de registradores necessita que a "
-               u"aplicação possua privilégios de administrador.\r\n\r\nExecute a aplicação em modo administrador e "
-               u"tente novamente.",
+               longo + u" \r\n\r\nErro ocorrido: \r\n\r\nFalha ao definir dados para '" + longo + u"'" +
+               std::u16string(CConselho),
            "a name that the registry does not take");
 }
 

@@ -12,6 +12,11 @@
 namespace Teste {
 
 inline constexpr std::u16string_view CChave = u"Software\\OryUtilsTeste";
+/// The end of messages about settings of the machine.
+inline constexpr std::u16string_view CConselho =
+    u".\r\n\r\nEm algumas versões do Windows, o acesso à configurações de registradores necessita que a aplicação "
+    u"possua "
+    u"privilégios de administrador.\r\n\r\nExecute a aplicação em modo administrador e tente novamente.";
 
 /// (Linux) points the store to an empty folder of this test; it goes with the object. (Windows) nothing.
 class TRegistroIsolado {

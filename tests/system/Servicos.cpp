@@ -62,45 +62,25 @@ TEST(ConfiguracaoDeServico, ComandosEMensagens) {
             EXPECT_EQ(caso.Configurar(Responder(comando, resposta)), (TResultStatus{false, mensagem}));
         }
     }
-}
-
-TEST(ConfiguracaoDeServico, NenhumValorSaiDasAspas) {
-    struct TCaso {
-        std::u16string_view Valor, EntreAspas;
-    };
-    for (const auto& [valor, esperado] : {
-             TCaso{u"C:\\Program Files\\Ory\\x.exe", u"C:\\Program Files\\Ory\\x.exe"},
-             TCaso{u"C:\\Ory\\", u"C:\\Ory\\\\"},
-             TCaso{u"a\" start= disabled", u"a\\\" start= disabled"},
-             TCaso{u"a\\\"b\\\\", u"a\\\\\\\"b\\\\\\\\"},
-         })
-        EXPECT_EQ(Sistema::EscaparEntreAspas(valor), esperado);
     EXPECT_EQ(Sistema::MontarComandoDependencia(u"a b", u"c\"d"), u"sc config \"a b\" depend= \"c\\\"d\"");
 }
 
 TEST(Firewall, ComandosDosDoisDialetos) {
-    const auto porta = [](Sistema::TDialetoFirewall d) {
-        return Sistema::MontarLiberacaoDePorta(d, tpTCP, 3050, u"FB");
-    };
-    const auto semPorta = [](Sistema::TDialetoFirewall d) { return Sistema::MontarExclusaoDePorta(d, tpUDP, 80); };
-    const auto programa = [](Sistema::TDialetoFirewall d) {
-        return Sistema::MontarLiberacaoDePrograma(d, u"C:\\a b.exe", u"Ory");
-    };
-    const auto semPrograma = [](Sistema::TDialetoFirewall d) {
-        return Sistema::MontarExclusaoDePrograma(d, u"C:\\a b.exe", u"Ory");
-    };
     using Sistema::dfAntigo, Sistema::dfAvancado;
-    EXPECT_EQ(porta(dfAvancado),
-              u"netsh advfirewall firewall add rule name=\"FB\" dir=in action=allow protocol=TCP localport=3050");
-    EXPECT_EQ(porta(dfAntigo), u"netsh firewall set portopening TCP 3050 \"FB\"");
-    EXPECT_EQ(semPorta(dfAvancado), u"netsh advfirewall firewall delete rule name=all protocol=UDP localport=80");
-    EXPECT_EQ(semPorta(dfAntigo), u"netsh firewall delete portopening protocol=UDP port=80");
-    EXPECT_EQ(programa(dfAvancado),
-              u"netsh advfirewall firewall add rule name=\"Ory\" dir=in action=allow "
-              u"program=\"C:\\a b.exe\" enable=yes");
-    EXPECT_EQ(programa(dfAntigo), u"netsh firewall set allowedprogram \"C:\\a b.exe\" \"Ory\" ENABLE");
-    EXPECT_EQ(semPrograma(dfAvancado), u"netsh advfirewall firewall delete rule name=\"Ory\" program=\"C:\\a b.exe\"");
-    EXPECT_EQ(semPrograma(dfAntigo), u"netsh firewall delete allowedprogram \"C:\\a b.exe\"");
+    const auto conferir = [](const auto& AMontar, std::u16string_view AAvancado, std::u16string_view AAntigo) {
+        EXPECT_EQ(AMontar(dfAvancado), u"netsh advfirewall firewall " + std::u16string(AAvancado));
+        EXPECT_EQ(AMontar(dfAntigo), u"netsh firewall " + std::u16string(AAntigo));
+    };
+    conferir([](auto d) { return Sistema::MontarLiberacaoDePorta(d, tpTCP, 3050, u"FB"); },
+             u"add rule name=\"FB\" dir=in action=allow protocol=TCP localport=3050",
+             u"set portopening TCP 3050 \"FB\"");
+    conferir([](auto d) { return Sistema::MontarExclusaoDePorta(d, tpUDP, 80); },
+             u"delete rule name=all protocol=UDP localport=80", u"delete portopening protocol=UDP port=80");
+    conferir([](auto d) { return Sistema::MontarLiberacaoDePrograma(d, u"C:\\a b.exe", u"Ory"); },
+             u"add rule name=\"Ory\" dir=in action=allow program=\"C:\\a b.exe\" enable=yes",
+             u"set allowedprogram \"C:\\a b.exe\" \"Ory\" ENABLE");
+    conferir([](auto d) { return Sistema::MontarExclusaoDePrograma(d, u"C:\\a b.exe", u"Ory"); },
+             u"delete rule name=\"Ory\" program=\"C:\\a b.exe\"", u"delete allowedprogram \"C:\\a b.exe\"");
     for (int versao = vwUnknown; versao <= vwWinVista; ++versao)
         EXPECT_EQ(Sistema::DialetoDe(static_cast<TVersaoWindows>(versao)),
                   versao == vwUnknown || versao == vwWinVista ? dfAvancado : dfAntigo);
@@ -112,18 +92,15 @@ TEST(Firewall, RespostasEMensagens) {
     for (const char16_t* resposta : {u"Ok.", u"tudo oK", u"Token"})
         EXPECT_TRUE(Sistema::LiberouPorta(Responder(comando, resposta), dfAvancado, tpTCP, 1, u"x").Status);
     const auto negar = Responder(comando, u"Acesso negado");
-    EXPECT_EQ(Sistema::LiberouPorta(negar, dfAvancado, tpTCP, 3050, u"x").Mensagem,
-              u"Não foi possível liberar a porta << 3050 >> no firewall do Windows.\r\n\r\nErro ocorrido: "
-              u"\r\n\r\nAcesso negado");
-    EXPECT_EQ(Sistema::ExcluiuPorta(negar, dfAvancado, tpTCP, 3050).Mensagem,
-              u"Não foi possível excluir a porta << 3050 >> do firewall do Windows.\r\n\r\nErro ocorrido: "
-              u"\r\n\r\nAcesso negado");
-    EXPECT_EQ(Sistema::LiberouPrograma(negar, dfAvancado, u"%s.exe", u"x").Mensagem,
-              u"Não foi possível liberar o programa << %s.exe >> no firewall do Windows.\r\n\r\nErro ocorrido: "
-              u"\r\n\r\nAcesso negado");
-    EXPECT_EQ(Sistema::ExcluiuPrograma(negar, dfAvancado, u"a.exe", u"x").Mensagem,
-              u"Não foi possível excluir o programa << a.exe >> do firewall do Windows.\r\n\r\nErro ocorrido: "
-              u"\r\n\r\nAcesso negado");
+    const std::pair<TResultStatus, std::u16string> falhas[] = {
+        {Sistema::LiberouPorta(negar, dfAvancado, tpTCP, 3050, u"x"), u"liberar a porta << 3050 >> no"},
+        {Sistema::ExcluiuPorta(negar, dfAvancado, tpTCP, 3050), u"excluir a porta << 3050 >> do"},
+        {Sistema::LiberouPrograma(negar, dfAvancado, u"%s.exe", u"x"), u"liberar o programa << %s.exe >> no"},
+        {Sistema::ExcluiuPrograma(negar, dfAvancado, u"a.exe", u"x"), u"excluir o programa << a.exe >> do"},
+    };
+    for (const auto& [falha, oque] : falhas)
+        EXPECT_EQ(falha.Mensagem,
+                  u"Não foi possível " + oque + u" firewall do Windows.\r\n\r\nErro ocorrido: \r\n\r\nAcesso negado");
     // A command that cannot be started prints nothing, and so opens nothing.
     EXPECT_FALSE(Sistema::ExcluiuPrograma(Responder(comando, u""), dfAvancado, u"a.exe", u"x").Status);
 }
@@ -132,12 +109,12 @@ TEST(Firewall, ProgramasDeVerdadeRecebemOsArgumentos) {
     Testes::TProgramasFalsos programas;
     programas.Por("sc", {"[SC] ChangeServiceConfig SUCCESS", "[SC] OpenService FAILED 5:\r\n\r\nAccess is denied."});
     programas.Por("netsh", {"Ok.\r\n", "No rules match the specified criteria."});
-    EXPECT_TRUE(TOryUtilsSistema::ConfigurouUsuarioLogonServico(u"Ory", u".\\ana", u"a\" b & c;$(d)").Status);
+    EXPECT_TRUE(TOryUtilsSistema::ConfigurouUsuarioLogonServico(u"Ory\\", u".\\ana", u"a\\\" b & c;$(d)").Status);
     EXPECT_FALSE(TOryUtilsSistema::ConfigurouAcaoPadraoRecuperacaoServico(u"Ory Eventos").Status);
     EXPECT_TRUE(TOryUtilsSistema::LiberouPortaFirewallWindows(tpTCP, 3050, u"Banco | x").Status);
     EXPECT_FALSE(TOryUtilsSistema::ExcluiuProgramaFirewallWindows(u"/a b/c", u"Ory").Status);
     EXPECT_EQ(programas.LerChamadas(),
-              "sc|config|Ory|obj=|.\\ana|password=|a\" b & c;$(d)\n"
+              "sc|config|Ory\\|obj=|.\\ana|password=|a\\\" b & c;$(d)\n"
               "sc|failure|Ory Eventos|actions=|restart/0/restart/0//|reset=|240\n"
               "netsh|advfirewall|firewall|add|rule|name=Banco | x|dir=in|action=allow|protocol=TCP|localport=3050\n"
               "netsh|advfirewall|firewall|delete|rule|name=Ory|program=/a b/c\n");

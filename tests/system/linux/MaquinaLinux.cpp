@@ -25,6 +25,7 @@
 using namespace OryUtils;
 using namespace OryUtils::Plataforma;
 using Testes::TLista;
+using Testes::TVariavel;
 
 namespace {
 
@@ -126,14 +127,12 @@ TEST(MaquinaLinux, Pastas) {
     EXPECT_EQ(GetWindowsDrive(), u"/");
     EXPECT_TRUE(ExistePasta(GetWindowsSystemDir()));
 
-    const std::string temporaria = Testes::BuscarVariavel("TMPDIR");
     const std::pair<const char*, const char*> casos[] = {
         {"/var/tmp//", "/var/tmp"}, {"", "/tmp"}, {"tmp", "/tmp"}, {"/", "/"}};
     for (const auto& [valor, pasta] : casos) {
-        Testes::DefinirVariavel("TMPDIR", valor);
+        const TVariavel temporaria("TMPDIR", valor);
         EXPECT_EQ(ParaUtf8(GetPastaTempWindows()), pasta);
     }
-    Testes::DefinirVariavel("TMPDIR", temporaria);
 }
 
 TEST(MaquinaLinux, PastaDeDocumentos) {
@@ -153,13 +152,9 @@ TEST(MaquinaLinux, PastaDeDocumentos) {
     for (const TCaso& caso : CCasos)
         EXPECT_EQ(LerPastaDeDocumentos(caso.Texto, "/home/ana"), caso.Pasta) << caso.Porque;
 
-    const std::string inicio = Testes::BuscarVariavel("HOME");
-    const std::string configuracoes = Testes::BuscarVariavel("XDG_CONFIG_HOME");
-    Testes::DefinirVariavel("XDG_CONFIG_HOME", "/nao/existe");
-    Testes::DefinirVariavel("HOME", "/home/ana/");
+    const TVariavel configuracoes("XDG_CONFIG_HOME", "/nao/existe");
+    const TVariavel inicio("HOME", "/home/ana/");
     EXPECT_EQ(GetPastaMeusDocumentos(), u"/home/ana/Documents");
-    Testes::DefinirVariavel("HOME", inicio);
-    Testes::DefinirVariavel("XDG_CONFIG_HOME", configuracoes);
 }
 
 TEST(MaquinaLinux, TabelaDeMontagens) {
@@ -213,14 +208,12 @@ TEST(MaquinaLinux, TabelasDeRede) {
 }
 
 TEST(MaquinaLinux, SemExibicaoNaoHaTeclado) {
-    const std::string exibicao = Testes::BuscarVariavel("DISPLAY");
     for (const char* nenhuma : {"", ":9797"}) {
-        Testes::DefinirVariavel("DISPLAY", nenhuma);
+        const TVariavel exibicao("DISPLAY", nenhuma);
         SimularPressionamentoTecla(0x41, {ssCtrl}, false);
         EXPECT_FALSE(S::TeclaEstahPressionada(0x41));
         EXPECT_EQ(S::BuscarTempoInatividadeSistema(), 0u);
     }
-    Testes::DefinirVariavel("DISPLAY", exibicao);
 }
 
 }  // namespace

@@ -2,52 +2,16 @@
 #include "oryutils/platform/linux/Elevacao.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 
+#include "system/Ambiente.hpp"
 #include "system/Auxiliar.hpp"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <optional>
-
 namespace OryUtils {
 namespace {
 
-using Testes::Comando;
 using Testes::TPastaTemporaria;
-
-/// A variable of the environment, given back its value at the end.
-class TVariavel {
-public:
-    TVariavel(const char* ANome, const std::string& AValor) : FNome(ANome) {
-        if (const char* valor = std::getenv(ANome)) FAnterior = valor;
-        ::setenv(ANome, AValor.c_str(), 1);
-    }
-    ~TVariavel() { FAnterior ? ::setenv(FNome, FAnterior->c_str(), 1) : ::unsetenv(FNome); }
-    TVariavel(const TVariavel&) = delete;
-    TVariavel& operator=(const TVariavel&) = delete;
-
-private:
-    const char* FNome;
-    std::optional<std::string> FAnterior;
-};
-
-std::ptrdiff_t ContarDescritores() {
-    return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), std::filesystem::directory_iterator());
-}
-
-TEST(ProcessosLinux, NadaFicaAberto) {
-    std::vector<std::u16string> linhas;
-    TOryUtilsSistema::ExecutarComandoComRetorno(Comando(u"nada"), linhas);
-    const std::ptrdiff_t antes = ContarDescritores();
-    for (int i = 0; i < 5; ++i) {
-        TOryUtilsSistema::ExecutarComandoComRetorno(Comando(u"nada"), linhas);
-        TOryUtilsSistema::ExecutarComandoComRetorno(u"este-programa-nao-existe", linhas);
-        TOryUtilsSistema::ExecutouComando(Comando(u"nada"), i % 2 == 0, false);
-        TOryUtilsSistema::BuscarListaDeProcessosWindows(u"");
-        TOryUtilsSistema::FinalizouProcesso(u"este-programa-nao-existe");
-    }
-    EXPECT_EQ(ContarDescritores(), antes);
-}
+using ::Testes::TVariavel;
 
 TEST(ProcessosLinux, OProgramaEhProcuradoNoPathESemShell) {
     const TPastaTemporaria pasta;

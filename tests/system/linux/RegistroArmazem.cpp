@@ -4,72 +4,47 @@
 #include "oryutils/runtime/NumeroTexto.hpp"
 #include "oryutils/system/OryUtilsRegistry.hpp"
 
+#include "system/Ambiente.hpp"
 #include "system/RegistroDeTeste.hpp"
 
-#include <cstdlib>
-#include <cstring>
-#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <random>
-#include <spawn.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
-#include <vector>
 
 using namespace OryUtils;
 using Teste::CChave;
+using Testes::TVariavel;
 
 namespace {
 
-// The program of programas/Gravador.cpp, its output in a pipe.
+// The program of programas/Gravador.cpp.
 class TGravador {
 public:
-    TGravador(const std::string& APrefixo, long APrimeiro, long AQuantos, long ANomes, long ATamanho) {
-        std::string partes[] = {ORY_GRAVADOR,
-                                APrefixo,
-                                std::to_string(APrimeiro),
-                                std::to_string(AQuantos),
-                                std::to_string(ANomes),
-                                std::to_string(ATamanho)};
-        std::vector<char*> argumentos;
-        for (std::string& parte : partes) argumentos.push_back(parte.data());
-        argumentos.push_back(nullptr);
-        int tubo[2];
-        if (::pipe2(tubo, O_CLOEXEC) != 0) return;
-        posix_spawn_file_actions_t acoes;
-        ::posix_spawn_file_actions_init(&acoes);
-        ::posix_spawn_file_actions_adddup2(&acoes, tubo[1], STDOUT_FILENO);
-        if (::posix_spawn(&FProcesso, ORY_GRAVADOR, &acoes, nullptr, argumentos.data(), environ) != 0) FProcesso = -1;
-        ::posix_spawn_file_actions_destroy(&acoes);
-        ::close(tubo[1]);
-        FSaida = ::fdopen(tubo[0], "r");
+    TGravador(char APrefixo, long APrimeiro, long AQuantos, long ANomes, long ATamanho) {
+        std::string comando = std::string("exec '" ORY_GRAVADOR "' ") + APrefixo;
+        for (const long numero : {APrimeiro, AQuantos, ANomes, ATamanho}) comando += ' ' + std::to_string(numero);
+        FSaida = ::popen(comando.c_str(), "r");
+        FProcesso = LerNumero().value_or(0);
     }
-    ~TGravador() {
-        if (FSaida) std::fclose(FSaida);
-    }
+    ~TGravador() { ::pclose(FSaida); }
     TGravador(const TGravador&) = delete;
     TGravador& operator=(const TGravador&) = delete;
 
     bool Iniciou() const { return FProcesso > 0; }
     /// The next number that it says to have written; none at the end.
-    std::optional<long> LerConfirmacao() {
+    std::optional<long> LerNumero() {
         long numero = 0;
         if (std::fscanf(FSaida, "%ld", &numero) == 1) return numero;
         return {};
     }
-    void Matar() { ::kill(FProcesso, SIGKILL); }
-    int Esperar() {
-        int estado = 0;
-        ::waitpid(FProcesso, &estado, 0);
-        return estado;
-    }
+    void Matar() { ::kill(static_cast<pid_t>(FProcesso), SIGKILL); }
 
 private:
-    pid_t FProcesso = -1;
     std::FILE* FSaida = nullptr;
+    long FProcesso = 0;
 };
 
 std::u16string TextoDe(long ANumero, std::size_t ATamanho) {
@@ -103,18 +78,17 @@ TEST_F(TArmazem, MilGravadoresMortosNaoEstragamNada) {
     std::vector<std::u16string> esperados(CNomes);
     int mortosNoMeio = 0;
     for (int rodada = 0; rodada < 1000; ++rodada) {
-        TGravador gravador("v", escrito + 1, 1'000'000, CNomes, CTamanho);
+        TGravador gravador('v', escrito + 1, 1'000'000, CNomes, CTamanho);
         ASSERT_TRUE(gravador.Iniciou());
         const auto confirmar = [&](std::optional<long> ANumero) {
             if (ANumero) escrito = *ANumero;
             if (ANumero) esperados[static_cast<std::size_t>(escrito % CNomes)] = TextoDe(escrito, CTamanho);
             return ANumero.has_value();
         };
-        for (auto i = sorteio() % 3 + 1; i > 0; --i) ASSERT_TRUE(confirmar(gravador.LerConfirmacao()));
+        for (auto i = sorteio() % 3 + 1; i > 0; --i) ASSERT_TRUE(confirmar(gravador.LerNumero()));
         for (volatile auto espera = sorteio() % 400'000; espera > 0;) espera = espera - 1;
         gravador.Matar();
-        gravador.Esperar();
-        while (confirmar(gravador.LerConfirmacao())) {
+        while (confirmar(gravador.LerNumero())) {
         }
         mortosNoMeio += std::filesystem::exists(BuscarArquivo() + ".novo");
 
@@ -138,12 +112,10 @@ TEST_F(TArmazem, OitoGravadoresAoMesmoTempoNaoPerdemNada) {
     {
         std::vector<std::unique_ptr<TGravador>> gravadores;
         for (char c = 'a'; c < 'i'; ++c)
-            gravadores.push_back(std::make_unique<TGravador>(std::string(1, c), 0, CQuantos, CQuantos, 40));
-        for (const auto& gravador : gravadores) {
-            while (gravador->LerConfirmacao()) {
+            gravadores.push_back(std::make_unique<TGravador>(c, 0, CQuantos, CQuantos, 40));
+        for (const auto& gravador : gravadores)
+            while (gravador->LerNumero()) {
             }
-            EXPECT_EQ(gravador->Esperar(), 0);
-        }
     }
     ASSERT_TRUE(Acessor.OpenKey(CChave, false));
     for (char16_t c = u'a'; c < u'i'; ++c)
@@ -162,7 +134,7 @@ TEST_F(TArmazem, CadaRaizTemSeuArquivoESuasPermissoes) {
     const std::string pasta = Isolado.Pasta + "/a/b";
     for (const mode_t mascara : {mode_t{0}, mode_t{077}}) {
         fs::remove_all(Isolado.Pasta + "/a");
-        ::setenv("ORYUTILS_REGISTRO", pasta.c_str(), 1);
+        const TVariavel armazem("ORYUTILS_REGISTRO", pasta);
         const mode_t anterior = ::umask(mascara);
         TOryUtilsRegistro registro;
         registro.AdicionarValor(crLocalMachine, u"Software", 1, u"x");
@@ -174,24 +146,16 @@ TEST_F(TArmazem, CadaRaizTemSeuArquivoESuasPermissoes) {
         EXPECT_EQ(BuscarModo(pasta + "/HKEY_LOCAL_MACHINE.reg.trava"), 0600u);
     }
     // The user's folder, as the variables tell it; a relative one counts as none.
-    ::unsetenv("ORYUTILS_REGISTRO");
     const std::string casa = Isolado.Pasta + "/casa";
     fs::create_directory(casa);
-    const char* antes = std::getenv("HOME");
-    const std::string casaDeAntes = antes ? antes : "/";
-    const char* configAntes = std::getenv("XDG_CONFIG_HOME");
-    const std::string config = configAntes ? configAntes : "";
-    ::setenv("HOME", casa.c_str(), 1);
+    const TVariavel nenhum("ORYUTILS_REGISTRO", ""), inicio("HOME", casa);
     for (const auto& [variavel, esperada] : {std::pair{casa + "/xdg", casa + "/xdg/oryutils"},
                                              std::pair{std::string("rel"), casa + "/.config/oryutils"}}) {
-        ::setenv("XDG_CONFIG_HOME", variavel.c_str(), 1);
+        const TVariavel configuracoes("XDG_CONFIG_HOME", variavel);
         TOryUtilsRegistro().AdicionarValor(crCurrentUser, u"Software", 1, u"x");
         EXPECT_EQ(BuscarModo(esperada), 0700u);
         EXPECT_EQ(BuscarModo(esperada + "/HKEY_CURRENT_USER.reg"), 0600u);
     }
-    ::setenv("HOME", casaDeAntes.c_str(), 1);
-    configAntes ? ::setenv("XDG_CONFIG_HOME", config.c_str(), 1) : ::unsetenv("XDG_CONFIG_HOME");
-    ::setenv("ORYUTILS_REGISTRO", Isolado.Pasta.c_str(), 1);
 }
 
 TEST_F(TArmazem, QuemNaoPodeGravarSoLe) {
@@ -214,10 +178,8 @@ TEST_F(TArmazem, QuemNaoPodeGravarSoLe) {
     EXPECT_EQ(motivo, Plataforma::erAcessoNegado);
     EXPECT_FALSE(resultado.Status);
     EXPECT_EQ(tempo.Mensagem,
-              u"Não foi possível atualizar a configuração de timeout de inicialização de serviços "
-              u"ServicesPipeTimeout.\r\n\r\nEm algumas versões do Windows, o acesso à configurações de registradores "
-              u"necessita que a aplicação possua privilégios de administrador.\r\n\r\nExecute a aplicação em modo "
-              u"administrador e tente novamente.");
+              u"Não foi possível atualizar a configuração de timeout de inicialização de serviços ServicesPipeTimeout" +
+                  std::u16string(Teste::CConselho));
 }
 
 TEST_F(TArmazem, ArquivoEstragadoFicaComoEsta) {

@@ -3,12 +3,12 @@
 #include "oryutils/platform/linux/Systemd.hpp"
 #include "oryutils/system/interno/Servicos.hpp"
 
+#include "files/ApoioArquivos.hpp"
+#include "system/Ambiente.hpp"
+
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
+#include <iterator>
 
 using namespace OryUtils;
 using namespace Plataforma;
@@ -35,9 +35,8 @@ esac
 
 class ServicosLinux : public testing::Test {
 protected:
-    void SetUp() override {
-        FPasta = fs::temp_directory_path() / ("ory_systemd_" + std::to_string(::getpid()));
-        fs::create_directories(FPasta / "unidades");
+    ServicosLinux() {
+        fs::create_directory(FPasta / "unidades");
         Escrever("systemctl", CSystemctl);
         fs::permissions(FPasta / "systemctl", fs::perms::owner_all);
         Escrever("situacao", "degraded\n");
@@ -45,27 +44,20 @@ protected:
         Escrever("congelado", "FreezerState=running\n");
         Escrever("id", "MainPID=0\n");
         Escrever("trabalho", "");
-        FCaminho = std::getenv("PATH");
-        ::setenv("PATH", (FPasta.string() + ":" + FCaminho).c_str(), 1);
-        ::setenv("ORY_TESTE_SYSTEMD", FPasta.c_str(), 1);
-    }
-    void TearDown() override {
-        ::setenv("PATH", FCaminho.c_str(), 1);
-        fs::remove_all(FPasta);
     }
     void Escrever(const char* ANome, std::string_view ATexto) { std::ofstream(FPasta / ANome) << ATexto; }
     std::string Ler(const fs::path& ANome) {
-        std::ostringstream texto;
-        texto << std::ifstream(FPasta / ANome).rdbuf();
-        return texto.str();
+        std::ifstream arquivo(FPasta / ANome);
+        return {std::istreambuf_iterator<char>(arquivo), {}};
     }
     Sistema::TAbrirGerenciador Abrir() {
         return [this](std::u16string_view AMaquina, TAcessoGerenciador AAcesso) {
             return AMaquina.empty() ? AbrirSystemd((FPasta / "unidades").string(), AAcesso) : nullptr;
         };
     }
-    fs::path FPasta;
-    std::string FCaminho;
+    const TPastaTemporaria FPasta;
+    const Testes::TVariavel FCaminho{"PATH", FPasta.Caminho().string() + ":" + Testes::BuscarVariavel("PATH")};
+    const Testes::TVariavel FVariavel{"ORY_TESTE_SYSTEMD", FPasta.Caminho().string()};
 };
 
 TEST_F(ServicosLinux, DaInstalacaoARemocao) {
@@ -112,7 +104,7 @@ TEST_F(ServicosLinux, SemSystemdRespondeErro) {
         EXPECT_EQ(Sistema::BuscarStatusServico(Abrir(), u"", u"Ory"), sswErro);
         EXPECT_FALSE(Sistema::InstalouServico(Abrir(), u"Ory", u"", u"/bin/true").Status);
     }
-    ::setenv("PATH", "/nao/existe", 1);
+    const Testes::TVariavel caminho("PATH", "/nao/existe");
     EXPECT_FALSE(Sistema::DesinstalouServico(Abrir(), u"Ory").Status);
     const TResultStatus semSc = TOryUtilsSistema::ConfigurouDependenciaServico(u"Ory", u"Firebird");
     EXPECT_FALSE(semSc.Status);

@@ -1,13 +1,14 @@
 // Writes settings until it has written them all or is killed:
 //   gravador_de_ajustes PREFIX FIRST COUNT NAMES LENGTH
-// Setting i is PREFIX + (i modulo NAMES), its text the digits of i repeated up to LENGTH. Each number is printed when
-// its setting is written.
+// Setting i is PREFIX + (i modulo NAMES), its text the digits of i repeated up to LENGTH. Its own process number is
+// printed first, and each number when its setting is written.
 #include "oryutils/runtime/NumeroTexto.hpp"
 #include "oryutils/runtime/Utf.hpp"
 #include "oryutils/system/OryUtilsRegistry.hpp"
 
 #include <cstdio>
 #include <cstdlib>
+#include <unistd.h>
 
 using namespace OryUtils;
 
@@ -18,6 +19,8 @@ int main(int AQuantidade, char** AArgumentos) {
     const long quantos = std::atol(AArgumentos[3]);
     const long nomes = std::atol(AArgumentos[4]);
     const auto tamanho = static_cast<std::size_t>(std::atol(AArgumentos[5]));
+    std::printf("%d\n", ::getpid());
+    std::fflush(stdout);
     TOryUtilsRegistro registro;
     for (long i = primeiro; i < primeiro + quantos; ++i) {
         std::u16string texto;
