@@ -41,9 +41,31 @@ struct TAmbienteDeTeste final : OryUtils::TAmbienteDoLog {
 };
 
 /// A log with its seams open.
-struct TLogDeTeste : OryUtils::TOryUtilsArquivoLog {
+class TLogDeTeste : public OryUtils::TOryUtilsArquivoLog {
+public:
     using TOryUtilsArquivoLog::SalvarArquivoLog;
-    using TOryUtilsArquivoLog::TOryUtilsArquivoLog;
+
+    TLogDeTeste(std::u16string_view AArquivo, TAmbienteDeTeste& AAmbiente)
+        : TOryUtilsArquivoLog(AArquivo, AAmbiente), FAmbiente(AAmbiente) {}
+    /// One in UTF-8.
+    TLogDeTeste(std::u16string_view AArquivo, TAmbienteDeTeste& AAmbiente, OryUtils::TModoGravacao AModo)
+        : TLogDeTeste(AArquivo, AAmbiente) {
+        SetCodificacao(OryUtils::clUtf8);
+        SetModoGravacao(AModo);
+    }
+    /// Of one save.
+    int ContarTentativas() {
+        FAmbiente.Tentativas = 0;
+        EXPECT_NO_THROW(SalvarArquivoLog());
+        return FAmbiente.Tentativas;
+    }
+    /// The bytes of a file in UTF-8 with every line that the memory holds.
+    std::string Esperar() const {
+        return OryUtils::ParaUtf8(GetTexto()) + OryUtils::ParaUtf8(OryUtils::Plataforma::BuscarQuebraDeLinha());
+    }
+
+private:
+    TAmbienteDeTeste& FAmbiente;
 };
 
 inline std::string LerBytes(const std::filesystem::path& AArquivo) {

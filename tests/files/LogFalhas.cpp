@@ -9,24 +9,12 @@ namespace fs = std::filesystem;
 
 class LogFalhas : public testing::TestWithParam<TModoGravacao> {
 protected:
-    LogFalhas() {
-        Log.SetCodificacao(clUtf8), Log.SetModoGravacao(GetParam()), Log.SetFormatoMensagem(tfmSomenteTexto);
-    }
-    /// The file holds every line that the memory holds.
-    void ConferirArquivo(const fs::path& AArquivo) {
-        const std::string quebra = ParaUtf8(Plataforma::BuscarQuebraDeLinha());
-        EXPECT_EQ(LerBytes(AArquivo), ParaUtf8(Log.GetTexto()) + quebra);
-    }
-    int ContarTentativas() {
-        Ambiente.Tentativas = 0;
-        EXPECT_NO_THROW(Log.SalvarArquivoLog());
-        return Ambiente.Tentativas;
-    }
+    LogFalhas() { Log.SetFormatoMensagem(tfmSomenteTexto); }
 
     const TPastaTemporaria Pasta;
     TAmbienteDeTeste Ambiente;
     const fs::path Arquivo = Pasta.Caminho() / "p" / "Falha.log";
-    TLogDeTeste Log{Arquivo.u16string(), Ambiente};
+    TLogDeTeste Log{Arquivo.u16string(), Ambiente, GetParam()};
 };
 
 TEST_P(LogFalhas, FalhaConsertoERegravacao) {
@@ -43,35 +31,34 @@ TEST_P(LogFalhas, FalhaConsertoERegravacao) {
          "a folder with something in it"},
     };
     Log.Adicionar(u"começo", clBlue);
-    EXPECT_EQ(ContarTentativas(), 1) << "a missing folder is no fault: it is created";
+    EXPECT_EQ(Log.ContarTentativas(), 1) << "a missing folder is no fault: it is created";
     for (const TCaso& c : casos) {
         c.Estragar();
         Log.Adicionar(u"durante a falha", clBlue);
-        EXPECT_EQ(ContarTentativas(), 14) << c.Porque;
+        EXPECT_EQ(Log.ContarTentativas(), 14) << c.Porque;
         EXPECT_FALSE(Log.EstahSalvo()) << c.Porque;
         EXPECT_NO_THROW(Log.FinalizarLog()) << c.Porque;
         Log.Adicionar(u"de novo", clBlue);
-        EXPECT_EQ(ContarTentativas(), 14) << c.Porque;
+        EXPECT_EQ(Log.ContarTentativas(), 14) << c.Porque;
         c.Consertar();
-        EXPECT_EQ(ContarTentativas(), 1) << c.Porque;
+        EXPECT_EQ(Log.ContarTentativas(), 1) << c.Porque;
         EXPECT_TRUE(Log.EstahSalvo()) << c.Porque;
-        ConferirArquivo(Arquivo);
+        EXPECT_EQ(LerBytes(Arquivo), Log.Esperar());
         // Mended between two attempts: the attempt behind it is the last.
         c.Estragar();
         Ambiente.AoTentar = [&](int ATentativa) {
             if (ATentativa == 5) c.Consertar(), fs::create_directories(Arquivo.parent_path());
         };
         Log.Adicionar(u"mais uma", clBlue);
-        EXPECT_EQ(ContarTentativas(), 5) << c.Porque;
+        EXPECT_EQ(Log.ContarTentativas(), 5) << c.Porque;
         Ambiente.AoTentar = nullptr;
-        ConferirArquivo(Arquivo);
+        EXPECT_EQ(LerBytes(Arquivo), Log.Esperar());
     }
 }
 
 TEST_P(LogFalhas, NomeSemArquivo) {
     for (const std::u16string_view nome : {u"", u"   ", u"/tmp/.log"}) {
-        TLogDeTeste log(nome, Ambiente);
-        log.SetModoGravacao(GetParam());
+        TLogDeTeste log(nome, Ambiente, GetParam());
         log.SetSalvarAutomaticamente(true);
         log.Adicionar(u"só na memória", clBlue);
         log.FinalizarLog();
@@ -129,9 +116,7 @@ TEST(LogAcrescimo, SoContinuaOQueEleMesmoDeixou) {
     const auto conferir = [](const TCaso& c, int antes) {
         const TPastaTemporaria pasta;
         TAmbienteDeTeste ambiente;
-        TLogDeTeste log(pasta.Nome("sub/A"), ambiente);
-        log.SetCodificacao(clUtf8);
-        log.SetModoGravacao(mgAcrescentar);
+        TLogDeTeste log(pasta.Nome("sub/A"), ambiente, mgAcrescentar);
         log.SetSalvarAutomaticamente(true);
         for (int i = 0; i < antes; ++i) log.Adicionar(u"linha", clBlue);
         const fs::path arquivo = pasta.Caminho() / "sub" / "A.log";
@@ -141,7 +126,7 @@ TEST(LogAcrescimo, SoContinuaOQueEleMesmoDeixou) {
         ambiente.Bytes = 0;
         ambiente.Tentativas = 0;
         log.Adicionar(u"depois", clBlue);
-        const std::string esperado = ParaUtf8(log.GetTexto()) + ParaUtf8(Plataforma::BuscarQuebraDeLinha());
+        const std::string esperado = log.Esperar();
         EXPECT_EQ(LerBytes(arquivo), esperado) << c.Porque << ", after " << antes;
         EXPECT_EQ(ambiente.Bytes, c.Continua ? esperado.size() - tamanho : esperado.size())
             << c.Porque << ", after " << antes;
@@ -175,9 +160,7 @@ TEST(LogAcrescimo, TextoMudadoNoMeioRegravaTudo) {
     for (const TCaso& c : casos) {
         const TPastaTemporaria pasta;
         TAmbienteDeTeste ambiente;
-        TLogDeTeste log(pasta.Nome("A"), ambiente);
-        log.SetCodificacao(clUtf8);
-        log.SetModoGravacao(mgAcrescentar);
+        TLogDeTeste log(pasta.Nome("A"), ambiente, mgAcrescentar);
         log.SetTipoPeriodicidade(tplDiario);
         log.Adicionar(u"linha", clBlue);
         log.SalvarArquivoLog();
@@ -195,20 +178,18 @@ TEST(LogAcrescimo, TextoMudadoNoMeioRegravaTudo) {
 TEST(LogAcrescimo, QualquerPedacoDeUmArquivoSeContinua) {
     const TPastaTemporaria pasta;
     TAmbienteDeTeste ambiente;
-    TLogDeTeste antigo(pasta.Nome("M"), ambiente);
-    antigo.SetCodificacao(clUtf8);
+    TLogDeTeste antigo(pasta.Nome("M"), ambiente, mgReescrever);
     antigo.Adicionar(u"ação \U0001F600", clBlue);
     antigo.FinalizarLog();
     const auto arquivo = pasta.Caminho() / "M.log";
     const std::string inteiro = LerBytes(arquivo);
     for (std::size_t corte = 0; corte <= inteiro.size(); corte += corte + 200 < inteiro.size() ? 17 : 1) {
         GravarBytes(arquivo, inteiro.substr(0, corte));
-        TLogDeTeste novo(pasta.Nome("M"), ambiente);
-        novo.SetCodificacao(clUtf8);
+        TLogDeTeste novo(pasta.Nome("M"), ambiente, mgReescrever);
         novo.SetUsarArquivoLogExistente(true);
         novo.Adicionar(u"continua", clBlue);
         novo.SalvarArquivoLog();
-        ASSERT_EQ(LerBytes(arquivo), ParaUtf8(novo.GetTexto()) + ParaUtf8(Plataforma::BuscarQuebraDeLinha())) << corte;
+        ASSERT_EQ(LerBytes(arquivo), novo.Esperar()) << corte;
         const std::u16string antes = DeUtf8(inteiro.substr(0, inteiro.substr(0, corte).rfind('\n') + 1));
         ASSERT_TRUE(novo.GetTexto().starts_with(antes)) << corte;
     }

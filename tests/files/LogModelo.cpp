@@ -71,9 +71,7 @@ private:
 
 class TCorrida {
 public:
-    explicit TCorrida(std::uint32_t ASemente) : FSorteio(ASemente), FObvio(FPasta, FAmbiente) {
-        FLog.SetCodificacao(clUtf8);
-    }
+    explicit TCorrida(std::uint32_t ASemente) : FSorteio(ASemente), FObvio(FPasta, FAmbiente) {}
     void Correr(int APassos) {
         for (int i = 0; i < APassos && !testing::Test::HasFailure(); ++i) {
             const int passo = Sortear(16);
@@ -96,32 +94,21 @@ private:
     void Passar(int APasso) {
         const bool sim = Sortear(2) == 1;
         switch (APasso) {
-            case 0: {
-                FLog.SetSalvarAutomaticamente(sim);
-                FObvio.Automatico = sim;
-                return;
-            }
-            case 1: {
-                FLog.SetUsarArquivoLogExistente(sim);
-                FObvio.Existente = sim;
-                return;
-            }
-            case 2: {
-                FLog.SetFormatoMensagem(sim ? tfmComDataHora : tfmSomenteTexto);
+            case 0:
+                return FLog.SetSalvarAutomaticamente(FObvio.Automatico = sim);
+            case 1:
+                return FLog.SetUsarArquivoLogExistente(FObvio.Existente = sim);
+            case 2:
                 FObvio.ComHora = sim;
-                return;
-            }
-            case 3: {
-                FLog.SetTipoPeriodicidade(sim ? tplDiario : tplUnico);
+                return FLog.SetFormatoMensagem(sim ? tfmComDataHora : tfmSomenteTexto);
+            case 3:
                 FObvio.Diario = sim;
-                return;
-            }
+                return FLog.SetTipoPeriodicidade(sim ? tplDiario : tplUnico);
             case 4:
                 return FLog.SetModoGravacao(sim ? mgAcrescentar : mgReescrever);
-            case 5: {
+            case 5:
                 FObvio.Subpasta = sim ? "a/" : "b/c/";
                 return FLog.SetArquivoLog(FPasta.Nome(FObvio.Subpasta + "Outro.txt"));
-            }
             case 6: {
                 constexpr double CAvancos[] = {0, 1.0 / 86400, 0.3, 1, -0.05};
                 FAmbiente.Agora = FAmbiente.Agora + CAvancos[Sortear(std::size(CAvancos))];
@@ -207,7 +194,7 @@ private:
     std::mt19937 FSorteio;
     TPastaTemporaria FPasta{};
     TAmbienteDeTeste FAmbiente{};
-    TLogDeTeste FLog{FPasta.Nome("a/Log.txt"), FAmbiente};
+    TLogDeTeste FLog{FPasta.Nome("a/Log.txt"), FAmbiente, mgReescrever};
     TLogObvio FObvio;
 };
 
@@ -226,10 +213,8 @@ TEST(LogModelo, UmDiaInteiro) {
     const TFormatosTemporarios formatos(BuscarFormatosBrasileiros());
     const TPastaTemporaria pasta;
     TAmbienteDeTeste ambiente;
-    TLogDeTeste log(pasta.Nome("Servico"), ambiente);
-    log.SetCodificacao(clUtf8);
+    TLogDeTeste log(pasta.Nome("Servico"), ambiente, mgAcrescentar);
     log.SetTipoPeriodicidade(tplDiario);
-    log.SetModoGravacao(mgAcrescentar);
     constexpr int CPasso = 4;
     constexpr int CPorDia = 24 * 3600 / CPasso;
     constexpr int CPorGravacao = 150;

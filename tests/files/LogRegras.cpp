@@ -146,20 +146,11 @@ TEST_F(LogRegras, CadaArquivoTemADataDoSeuDia) {
         ASSERT_TRUE(dados);
         EXPECT_EQ(Interno::BuscarDataEmpacotada(dados->UltimaGravacao), CodificarData(2026, 11, dia)) << dia;
     }
-}
-
-TEST_F(LogRegras, SohOArquivoDiarioEhDatadoPeloSeuDia) {
-    Ambiente.Marcar(1999, 5, 4, 12);
-    for (const auto periodicidade : {tplUnico, tplDiario}) {
-        TLogDeTeste log(Pasta.Nome("P"), Ambiente);
-        log.SetTipoPeriodicidade(periodicidade);
-        log.Adicionar(u"x", clBlue);
-        log.FinalizarLog();
-        const auto dados = Plataforma::ProcurarArquivo(log.GetArquivoLog());
-        ASSERT_TRUE(dados);
-        EXPECT_EQ(Interno::BuscarDataEmpacotada(dados->UltimaGravacao) == CodificarData(1999, 5, 4),
-                  periodicidade == tplDiario);
-    }
+    Ambiente.Marcar(1999, 5, 4);
+    TLogDeTeste unico(Pasta.Nome("Unico"), Ambiente);
+    unico.FinalizarLog();
+    const auto dados = Plataforma::ProcurarArquivo(unico.GetArquivoLog());
+    EXPECT_GT(Interno::BuscarDataEmpacotada(dados.value().UltimaGravacao), CodificarData(1999, 5, 5)) << "of today";
 }
 
 TEST_F(LogRegras, AFormaDaHoraEhUmaSoEmTodoOLog) {
@@ -188,12 +179,10 @@ TEST_F(LogRegras, CarregaOArquivoExistenteComQualquerFimDeLinha) {
          "ação\n",
          {u"ação"},
          "the mark of an editor"},
-        {"meio \xC3", {u"meio \uFFFD"}, "cut inside a character by a kill"},
     };
     for (const TCaso& c : casos) {
         GravarBytes(Pasta.Caminho() / "E.log", c.Bytes);
-        TLogDeTeste log(Pasta.Nome("E"), Ambiente);
-        log.SetCodificacao(clUtf8);
+        TLogDeTeste log(Pasta.Nome("E"), Ambiente, mgReescrever);
         log.SetUsarArquivoLogExistente(true);
         log.IniciarLog();
         EXPECT_EQ(log.GetTexto(), Texto(Somar({c.Linhas, Cabecalho()}))) << c.Porque;
@@ -241,8 +230,7 @@ TEST_F(LogRegras, CodificacaoNuncaPara) {
         {clPadrao, Plataforma::ParaTextoDoSistema(texto)},  // what that is, the tests of each system tell
     };
     const std::string quebra = ParaUtf8(Plataforma::BuscarQuebraDeLinha());
-    TLogDeTeste log(Pasta.Nome("C"), Ambiente);
-    log.SetModoGravacao(mgAcrescentar);
+    TLogDeTeste log(Pasta.Nome("C"), Ambiente, mgAcrescentar);
     log.SetFormatoMensagem(tfmSomenteTexto);
     log.IniciarLog();
     log.Limpar();
@@ -274,8 +262,7 @@ TEST_F(LogRegras, ExibirAvisaQuandoNaoHaArquivo) {
 TEST_F(LogRegras, MensagemProcessadaNoRodapeFicaNoDiaQueTermina) {
     static TLogDeTeste* GLog;
     static int GRestam;
-    TLogDeTeste log(Pasta.Nome("R"), Ambiente);
-    log.SetCodificacao(clUtf8);
+    TLogDeTeste log(Pasta.Nome("R"), Ambiente, mgReescrever);
     log.SetTipoPeriodicidade(tplDiario);
     log.Adicionar(u"um", clBlue);
     GLog = &log;

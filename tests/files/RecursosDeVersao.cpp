@@ -56,80 +56,59 @@ Pe::TNo Binario(Pe::TNo ANo) {
     return ANo;
 }
 
+/// A resource in Portuguese with those texts.
+Pe::TNo EmPortugues(std::vector<Pe::TNo> ATextos) {
+    return Raiz(CVersao, {Textos({Tabela(u"041604b0", std::move(ATextos))}), CPortugues});
+}
+/// One of one comment, in a table of that name.
+Pe::TNo EmOutraTabela(std::u16string_view ATabela, unsigned AIdioma) {
+    return Raiz(CVersao, {Textos({Tabela(ATabela, {Texto(u"Comments", u"x")})}), Traducoes({{AIdioma, 1200}})});
+}
+
 TEST(RecursosDeVersao, FeitosAMao) {
     const struct {
         const char* Porque;
         Pe::TNo No;
-        std::u16string_view Versao;
         TLista Itens;
+        std::u16string_view Versao = u"7.2.65535.15";
     } casos[] = {
         {"keys come in the order asked for, whatever that of the file; other keys are not asked for",
-         Raiz(CVersao,
-              {Textos({Tabela(u"041604b0", {Texto(u"VersaoMaximaConversao", u"7.1"), Texto(u"OutraChave", u"?"),
-                                            Texto(u"NaoLiberarPacote", u" True "), Texto(u"FileVersion", u"7.2"),
-                                            Texto(u"CompanyName", u"Orçamentos & Cia 😀")})}),
-               CPortugues}),
-         u"7.2.65535.15",
+         EmPortugues({Texto(u"VersaoMaximaConversao", u"7.1"), Texto(u"OutraChave", u"?"),
+                      Texto(u"NaoLiberarPacote", u" True "), Texto(u"FileVersion", u"7.2"),
+                      Texto(u"CompanyName", u"Orçamentos & Cia 😀")}),
          {u"CompanyName=Orçamentos & Cia 😀", u"FileVersion=7.2", u"NaoLiberarPacote= True ",
           u"VersaoMaximaConversao=7.1"}},
         {"only the first translation counts",
          Raiz(CVersao, {Traducoes({{0x416, 1252}, {0x409, 1200}}),
                         Textos({Tabela(u"040904b0", {Texto(u"Comments", u"english")}),
                                 Tabela(u"041604e4", {Texto(u"Comments", u"português")})})}),
-         u"7.2.65535.15",
          {u"Comments=português"}},
-        {"four digits of language make a group of five: not found",
-         Raiz(CVersao, {Textos({Tabela(u"100904b0", {Texto(u"Comments", u"x")})}), Traducoes({{0x1009, 1200}})}),
-         u"7.2.65535.15",
-         {}},
+        {"four digits of language make a group of five: not found", EmOutraTabela(u"100904b0", 0x1009), {}},
         {"the same language found under the name that is asked for",
-         Raiz(CVersao, {Textos({Tabela(u"0100904b0", {Texto(u"Comments", u"x")})}), Traducoes({{0x1009, 1200}})}),
-         u"7.2.65535.15",
+         EmOutraTabela(u"0100904b0", 0x1009),
          {u"Comments=x"}},
-        {"numbers are not padded",
-         Raiz(CVersao, {Textos({Tabela(u"000004b0", {Texto(u"Comments", u"x")})}), Traducoes({{0, 1200}})}),
-         u"7.2.65535.15",
-         {}},
-        {"0 is the digit 0",
-         Raiz(CVersao, {Textos({Tabela(u"0004b0", {Texto(u"Comments", u"x")})}), Traducoes({{0, 1200}})}),
-         u"7.2.65535.15",
-         {u"Comments=x"}},
+        {"0 is the digit 0, not padded", EmOutraTabela(u"0004b0", 0), {u"Comments=x"}},
         {"no fixed part: no version, but texts",
          Raiz({}, {Textos({Tabela(u"041604b0", {Texto(u"ProductVersion", u"9")})}), CPortugues}),
-         u"",
-         {u"ProductVersion=9"}},
+         {u"ProductVersion=9"},
+         u""},
         {"no translation: no texts, but a version",
-         Raiz({{1, 0, 0, 2}}, {Textos({Tabela(u"041604b0", {Texto(u"ProductVersion", u"9")})})}),
-         u"1.0.0.2",
+         Raiz(CVersao, {Textos({Tabela(u"041604b0", {Texto(u"ProductVersion", u"9")})})}),
          {}},
-        {"no children at all", Raiz(CVersao, {}), u"7.2.65535.15", {}},
-        {"letter case of tables and keys does not matter; the key is written as asked for",
-         Raiz(CVersao, {Textos({Tabela(u"041604B0", {Texto(u"COMMENTS", u"x")})}), CPortugues}),
-         u"7.2.65535.15",
-         {u"Comments=x"}},
-        {"of two keys the first one",
+        {"no children at all", Raiz(CVersao, {}), {}},
+        {"letter case of tables and keys does not matter; the key is written as asked for; of two the first",
          Raiz(CVersao,
-              {Textos({Tabela(u"041604b0", {Texto(u"Comments", u"1"), Texto(u"Comments", u"2")})}), CPortugues}),
-         u"7.2.65535.15",
+              {Textos({Tabela(u"041604B0", {Texto(u"COMMENTS", u"1"), Texto(u"Comments", u"2")})}), CPortugues}),
          {u"Comments=1"}},
         {"empty values, with and without their end",
-         Raiz(CVersao,
-              {Textos({Tabela(u"041604b0",
-                              {Texto(u"CompanyName", u""), {.Chave = u"Comments"}, Texto(u"ProductName", u"x")})}),
-               CPortugues}),
-         u"7.2.65535.15",
+         EmPortugues({Texto(u"CompanyName", u""), {.Chave = u"Comments"}, Texto(u"ProductName", u"x")}),
          {u"CompanyName=", u"ProductName=x", u"Comments="}},
         {"a value ends at its first 0, or where its length says",
-         Raiz(CVersao, {Textos({Tabela(u"041604b0", {Texto(u"CompanyName", std::u16string_view(u"a\0b", 3)),
-                                                     ComTamanho(Texto(u"ProductName", u"abcdef"), 3)})}),
-                        CPortugues}),
-         u"7.2.65535.15",
+         EmPortugues(
+             {Texto(u"CompanyName", std::u16string_view(u"a\0b", 3)), ComTamanho(Texto(u"ProductName", u"abcdef"), 3)}),
          {u"CompanyName=a", u"ProductName=abc"}},
         {"lengths in bytes, as some resource compilers count them, end at the 0",
-         Raiz(CVersao, {Textos({Tabela(u"041604b0", {ComTamanho(Texto(u"CompanyName", u"abc"), 8),
-                                                     Binario(Texto(u"ProductName", u"abcd"))})}),
-                        CPortugues}),
-         u"7.2.65535.15",
+         EmPortugues({ComTamanho(Texto(u"CompanyName", u"abc"), 8), Binario(Texto(u"ProductName", u"abcd"))}),
          {u"CompanyName=abc", u"ProductName=abcd"}},
         {"filling counted in the lengths",
          Raiz(CVersao, {ComSobra(Textos({ComSobra(Tabela(u"041604b0", {ComSobra(Texto(u"CompanyName", u"ab"), 7),
@@ -137,7 +116,6 @@ TEST(RecursosDeVersao, FeitosAMao) {
                                                   6)}),
                                  4),
                         ComSobra(CPortugues, 8)}),
-         u"7.2.65535.15",
          {u"CompanyName=ab", u"ProductName=c"}},
     };
     const TPastaTemporaria pasta;
@@ -149,9 +127,7 @@ TEST(RecursosDeVersao, FeitosAMao) {
 
 // On Windows the system's functions meet them first; what they then say of a block may lie outside of it.
 TEST(RecursosDeVersao, Quebrados) {
-    const std::string bloco = Pe::Montar(
-        Raiz(CVersao,
-             {Textos({Tabela(u"041604b0", {Texto(u"CompanyName", u"x"), Texto(u"Comments", u"abc")})}), CPortugues}));
+    const std::string bloco = Montar(EmPortugues({Texto(u"CompanyName", u"x"), Texto(u"Comments", u"abc")}));
     const unsigned semente = std::random_device{}();
     SCOPED_TRACE(semente);
     std::mt19937 sorteio(semente);
@@ -174,12 +150,14 @@ TEST(RecursosDeVersao, Quebrados) {
 TEST(RecursosDeVersao, DeVariosIdiomas) {
     const auto bloco = [](unsigned AVersao) { return Pe::Montar(Raiz({{AVersao, 0, 0, 0}}, {})); };
     const TPastaTemporaria pasta;
-    Conferir(pasta.Gravar(u"a.exe", Pe::MontarArquivo(true, {{0, bloco(1)}, {0x409, bloco(2)}, {0x40C, bloco(3)}})),
-             u"1.0.0.0", {}, "no language");
-    Conferir(pasta.Gravar(u"b.exe", Pe::MontarArquivo(true, {{0x407, bloco(1)}, {0x409, bloco(2)}, {0x40C, bloco(3)}})),
-             u"2.0.0.0", {}, "English of the United States");
-    Conferir(pasta.Gravar(u"c.exe", Pe::MontarArquivo(true, {{0x407, bloco(2)}, {0x40C, bloco(3)}})), u"2.0.0.0", {},
-             "the first one");
+    const auto conferir = [&](std::array<unsigned, 3> AIdiomas, std::u16string_view AVersao, const char* APorque) {
+        const auto [um, dois, tres] = AIdiomas;
+        Conferir(pasta.Gravar(u"a.exe", Pe::MontarArquivo(true, {{um, bloco(1)}, {dois, bloco(2)}, {tres, bloco(3)}})),
+                 AVersao, {}, APorque);
+    };
+    conferir({0, 0x409, 0x40C}, u"1.0.0.0", "no language");
+    conferir({0x407, 0x409, 0x40C}, u"2.0.0.0", "English of the United States");
+    conferir({0x407, 0x40C, 0x410}, u"1.0.0.0", "the first one");
 }
 
 TEST(RecursosDeVersao, DoCompiladorDeRecursos) {
@@ -252,10 +230,8 @@ std::u16string GAviso;
 TEST(RecursosDeVersao, ArquivosSemRecurso) {
     const TPastaTemporaria pasta;
     TArquivoInfo info;
-    info.SetArquivo(pasta.Gravar(
-        u"a.exe", Pe::MontarArquivo(
-                      true, {{0, Pe::Montar(Raiz(CVersao, {Textos({Tabela(u"041604b0", {Texto(u"Comments", u"x")})}),
-                                                           CPortugues}))}})));
+    const std::string bloco = Montar(EmPortugues({Texto(u"Comments", u"x")}));
+    info.SetArquivo(pasta.Gravar(u"a.exe", Pe::MontarArquivo(true, {{0, bloco}})));
     EXPECT_EQ(info.GetComentarios(), u"x");
     for (const auto& nome : {pasta.Gravar(u"texto.txt", "MZ"), pasta.Gravar(u"vazio.exe", ""), pasta.Nome(u"falta.exe"),
                              pasta.Caminho().u16string(), std::u16string(u"kernel32.dll"),

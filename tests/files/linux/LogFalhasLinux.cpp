@@ -39,31 +39,25 @@ protected:
 };
 
 TEST_P(LogFalhasLinux, DiscoCheio) {
-    TLogDeTeste log(Arquivo.u16string(), Ambiente);
-    log.SetModoGravacao(GetParam());
+    TLogDeTeste log(Arquivo.u16string(), Ambiente, GetParam());
     for (int i = 0; i < 60; ++i) log.Adicionar(u"uma linha que já cabia no disco", clBlue);
     log.SalvarArquivoLog();
     {
         const TLimiteDeTamanho limite(std::filesystem::file_size(Arquivo) + 20);
         log.Adicionar(u"uma linha que não cabe mais", clBlue);
-        Ambiente.Tentativas = 0;
-        EXPECT_NO_THROW(log.SalvarArquivoLog());
-        EXPECT_EQ(Ambiente.Tentativas, 14);
+        EXPECT_EQ(log.ContarTentativas(), 14);
     }
     log.Adicionar(u"há espaço de novo", clBlue);
-    Ambiente.Tentativas = 0;
     Ambiente.Bytes = 0;
-    log.SalvarArquivoLog();
-    EXPECT_EQ(Ambiente.Tentativas, 1);
-    EXPECT_EQ(LerBytes(Arquivo), ParaUtf8(log.GetTexto()) + "\n");
+    EXPECT_EQ(log.ContarTentativas(), 1);
+    EXPECT_EQ(LerBytes(Arquivo), log.Esperar());
     EXPECT_EQ(Ambiente.Bytes, LerBytes(Arquivo).size()) << "after a fault the whole is written";
 }
 
 TEST_P(LogFalhasLinux, PastaEmQueNinguemGrava) {
     // Not even root creates a file there: neither in a folder that is there nor in one that would have to be.
     for (const std::u16string_view nome : {u"/proc/self/Log.txt", u"/proc/ory/Log.txt"}) {
-        TLogDeTeste log(nome, Ambiente);
-        log.SetModoGravacao(GetParam());
+        TLogDeTeste log(nome, Ambiente, GetParam());
         Ambiente.Tentativas = 0;
         EXPECT_NO_THROW(log.FinalizarLog());
         EXPECT_EQ(Ambiente.Tentativas, 14);
@@ -73,8 +67,7 @@ TEST_P(LogFalhasLinux, PastaEmQueNinguemGrava) {
 
 TEST_P(LogFalhasLinux, NomeDeOutroSistema) {
     // Here "\" is a letter of a name: the file is made, and no folder that would be none of its own.
-    TLogDeTeste log(Pasta.Nome("sub/C:\\Logs\\x.txt"), Ambiente);
-    log.SetModoGravacao(GetParam());
+    TLogDeTeste log(Pasta.Nome("sub/C:\\Logs\\x.txt"), Ambiente, GetParam());
     log.FinalizarLog();
     EXPECT_TRUE(log.EstahSalvo());
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Pasta.Caminho() / "sub"), {}), 1);
@@ -91,8 +84,7 @@ TEST_P(LogFalhasLinux, MortoNoMeioDaGravacao) {
         const rlimit semDespejo{0, 0};
         ::setrlimit(RLIMIT_CORE, &semDespejo);
         std::signal(SIGXFSZ, SIG_DFL);
-        TLogDeTeste log(Arquivo.u16string(), Ambiente);
-        log.SetModoGravacao(GetParam());
+        TLogDeTeste log(Arquivo.u16string(), Ambiente, GetParam());
         log.SetSalvarAutomaticamente(true);
         for (int i = 0; i < 100; ++i) log.Adicionar(u"até morrer", clBlue);
         ::_exit(0);
@@ -104,14 +96,13 @@ TEST_P(LogFalhasLinux, MortoNoMeioDaGravacao) {
     ASSERT_EQ(pedaco.size(), CLimite);
     ASSERT_NE(pedaco.back(), '\n');
 
-    TLogDeTeste log(Arquivo.u16string(), Ambiente);
+    TLogDeTeste log(Arquivo.u16string(), Ambiente, GetParam());
     log.SetUsarArquivoLogExistente(true);
-    log.SetModoGravacao(GetParam());
     log.Adicionar(u"o processo seguinte", clBlue);
     log.SalvarArquivoLog();
     const std::string texto = LerBytes(Arquivo);
     EXPECT_TRUE(texto.starts_with(pedaco + "\n"));
-    EXPECT_EQ(texto, ParaUtf8(log.GetTexto()) + "\n");
+    EXPECT_EQ(texto, log.Esperar());
 }
 
 TEST(LogCodificacao, PadraoEhUtf8) {

@@ -18,7 +18,10 @@ struct ProgramaPadrao : testing::Test {
     TPastaTemporaria Pasta;
     std::filesystem::path Cano = Pasta.Caminho() / "cano";
 
-    void SetUp() override { ASSERT_EQ(::mkfifo(Cano.c_str(), 0600), 0); }
+    const std::string Caminho = std::getenv("PATH");
+
+    ProgramaPadrao() { EXPECT_EQ(::mkfifo(Cano.c_str(), 0600), 0); }
+    ~ProgramaPadrao() override { ::setenv("PATH", Caminho.c_str(), 1); }
     std::u16string GravarPrograma(std::u16string_view ANome, std::string_view ATexto) const {
         std::u16string programa = Pasta.Gravar(ANome, ATexto);
         std::filesystem::permissions(programa, std::filesystem::perms::owner_all);
@@ -29,20 +32,6 @@ struct ProgramaPadrao : testing::Test {
         std::ifstream leitura(Cano);
         return {std::istreambuf_iterator<char>(leitura), {}};
     }
-};
-
-/// Programs of a folder first, for the time of a scope.
-class TPastaNoCaminho {
-public:
-    explicit TPastaNoCaminho(const std::filesystem::path& APasta) {
-        ::setenv("PATH", (APasta.string() + ":" + FAnterior).c_str(), 1);
-    }
-    TPastaNoCaminho(const TPastaNoCaminho&) = delete;
-    TPastaNoCaminho& operator=(const TPastaNoCaminho&) = delete;
-    ~TPastaNoCaminho() { ::setenv("PATH", FAnterior.c_str(), 1); }
-
-private:
-    std::string FAnterior = std::getenv("PATH");
 };
 
 TEST_F(ProgramaPadrao, UmProgramaRecebeOsParametros) {
@@ -56,7 +45,7 @@ TEST_F(ProgramaPadrao, UmProgramaRecebeOsParametros) {
 TEST_F(ProgramaPadrao, UmLogNuncaEhExecutado) {
     // A disk of another system says of every file that it may be executed; the lines of a log come from anywhere.
     GravarPrograma(u"xdg-open", "#!/bin/sh\necho \"aberto ${1##*/}\" > \"${0%/*}/cano\"\n");
-    const TPastaNoCaminho caminho(Pasta.Caminho());
+    ::setenv("PATH", (Pasta.Caminho().string() + ":" + Caminho).c_str(), 1);
     TOryUtilsArquivoLog log(Pasta.Nome(u"log"));
     log.SetFormatoMensagem(tfmSomenteTexto);
     log.InserirTexto(u"echo executado > '" + Cano.u16string() + u"'", 0, clBlue);
