@@ -4,14 +4,10 @@
 
 #include "Apoio.hpp"
 #include "files/LogApoio.hpp"
-#include "operacoes/Operacoes.hpp"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <random>
 
 namespace {
 
@@ -19,12 +15,6 @@ namespace fs = std::filesystem;
 
 class Log : public testing::Test {
 protected:
-    Log() {
-        do Pasta = fs::temp_directory_path() / ("ory_cmd_log_" + std::to_string(std::random_device{}()));
-        while (!fs::create_directories(Pasta));
-    }
-    ~Log() override { fs::remove_all(Pasta); }
-
     /// The lines of a file of the folder, without what ends them.
     std::vector<std::string> Ler(const std::string& ANome) const {
         std::vector<std::string> linhas;
@@ -35,14 +25,14 @@ protected:
         }
         return linhas;
     }
-    std::string Nome(const std::string& ANome) const { return (Pasta / ANome).string(); }
+    std::string Nome(const std::string& ANome) const { return OryUtils::ParaUtf8(Pasta.Nome(ANome)); }
     static std::vector<std::string> Trecho(const std::vector<std::string>& ALinhas, std::size_t AInicio,
                                            std::size_t AFim) {
         return {ALinhas.begin() + static_cast<std::ptrdiff_t>(AInicio),
                 ALinhas.end() - static_cast<std::ptrdiff_t>(AFim)};
     }
 
-    fs::path Pasta;
+    const TPastaTemporaria Pasta;
     const std::string Asteriscos = std::string(78, '*');
 };
 
@@ -66,8 +56,8 @@ TEST_F(Log, LinhasDaEntrada) {
 
 TEST_F(Log, DiarioComHora) {
     EXPECT_EQ(Rodar({"log", Nome("D"), "--diario"}, "x\n").Status, 0);
-    ASSERT_EQ(std::distance(fs::directory_iterator(Pasta), {}), 1);
-    const std::string nome = fs::directory_iterator(Pasta)->path().filename().string();
+    ASSERT_EQ(std::distance(fs::directory_iterator(Pasta.Caminho()), {}), 1);
+    const std::string nome = fs::directory_iterator(Pasta.Caminho())->path().filename().string();
     std::string forma = nome;
     std::replace_if(
         forma.begin(), forma.end(), [](char c) { return c >= '0' && c <= '9'; }, '9');
@@ -164,11 +154,6 @@ TEST_F(Log, DaConferencia) {
     EXPECT_EQ(Rodar({"conferir", Nome("nenhum.csv"), "--log", Nome("F")}).Status, 2);
     ASSERT_EQ(Ler("F.log").size(), 11u);
     EXPECT_NE(Ler("F.log")[7].find("Falha: "), std::string::npos);
-}
-
-TEST_F(Log, NomeComoRegra) {
-    EXPECT_EQ(Ory::Chamar(R"({"op":"FormatarNomeArquivoLog","args":["","C:\\Logs\\Importacao.txt",1,"2026-11-15"]})"),
-              R"({"resultado":"C:\\Logs\\Importacao_15_11_2026.log"})");
 }
 
 }  // namespace

@@ -14,8 +14,6 @@ TEST(Numeros, OperacoesPeloNome) {
         {R"({"op":"Arredondar:metodo","args":["1",1,256,10]})",
          R"({"erro":"esperado: inteiro de 0 a 255","classe":"EArgumento"})"},
         {R"({"op":"SomarCombinacaoBinaria","args":[[true,false,true],1,false]})", R"({"resultado":5})"},
-        {R"({"op":"EstahNaCombinacaoBinaria","args":[5,4]})", R"({"resultado":true})"},
-        {R"({"op":"ConverterCentimetrosParaPolegadas","args":["5.08"]})", R"({"resultado":"2"})"},
         {R"({"op":"CalcularFormula","args":["x*TAXA",{"X":"1.5","Taxa":3},0,2]})", R"({"resultado":"4.5"})"},
         {R"({"op":"CalcularFormula","args":["10/3",{},1,2]})", R"({"resultado":"3.33"})"},
         {R"({"op":"CalcularFormula","args":["Y",{},0,2]})",

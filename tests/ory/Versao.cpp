@@ -143,16 +143,12 @@ TEST_F(Versao, OQueEstahErradoEhDito) {
 TEST_F(Versao, OperacoesPeloNome) {
     const OryUtils::TFormatosTemporarios formatos(OryUtils::BuscarFormatosBrasileiros());
     constexpr std::string_view CPerguntas[][2] = {
-        {R"({"op":"CompararVersao","args":["1.10.0.0","1,9,0,0"]})", R"({"resultado":0})"},
         {R"({"op":"CompareVersion","args":["x","1"]})",
          R"({"erro":"'x' não é um valor inteiro válido","classe":"EConvertError"})"},
         {R"({"op":"DividirVersao","args":["1.2"]})", R"({"resultado":[1,0,0,2]})"},
-        {R"({"op":"FormatarVersaoArquivo","args":["1.2.3.4",2]})", R"({"resultado":"1.2"})"},
         {R"({"op":"OrdenarListaDeVersoes","args":[["2.0.0.0","1","","1.10","1.9"]]})",
          R"({"resultado":["1","2.0.0.0","","1.9","1.10"]})"},
         {R"({"op":"EhArquivoEXE","args":["A.EXE"]})", R"({"resultado":true})"},
-        {R"({"op":"isADll","args":["A.EXE"]})", R"({"resultado":false})"},
-        {R"({"op":"GetExtensionFromFile","args":["a.exe"]})", R"({"resultado":".EXE"})"},
         {R"({"op":"FormatarTamanhoArquivo","args":[1536]})", R"({"resultado":"1,5 KB"})"},
         {R"({"op":"BuscarVersaoArquivo","args":["/nao/existe.exe"]})", R"({"resultado":""})"},
     };
