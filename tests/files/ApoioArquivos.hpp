@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <random>
 #include <string>
 #include <string_view>
@@ -34,3 +35,13 @@ public:
 private:
     std::filesystem::path FPasta;
 };
+
+inline std::string LerBytes(const std::filesystem::path& AArquivo) {
+    std::ifstream arquivo(AArquivo, std::ios::binary);
+    return {std::istreambuf_iterator<char>(arquivo), {}};
+}
+
+inline void GravarBytes(const std::filesystem::path& AArquivo, std::string_view ABytes,
+                        std::ios::openmode AModo = std::ios::trunc) {
+    std::ofstream(AArquivo, std::ios::binary | std::ios::out | AModo) << std::string_view(ABytes);  // closed at once
+}

@@ -10,8 +10,6 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
-#include <filesystem>
-#include <fstream>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -67,16 +65,6 @@ public:
 private:
     TAmbienteDeTeste& FAmbiente;
 };
-
-inline std::string LerBytes(const std::filesystem::path& AArquivo) {
-    std::ifstream arquivo(AArquivo, std::ios::binary);
-    return {std::istreambuf_iterator<char>(arquivo), {}};
-}
-
-inline void GravarBytes(const std::filesystem::path& AArquivo, std::string_view ABytes,
-                        std::ios::openmode AModo = std::ios::trunc) {
-    std::ofstream(AArquivo, std::ios::binary | std::ios::out | AModo) << std::string_view(ABytes);  // closed at once
-}
 
 /// The lines with the system's break behind each, in UTF-8: the file of a log in clUtf8.
 inline std::string JuntarLinhas(const std::vector<std::u16string>& ALinhas) {

@@ -3,9 +3,14 @@
 #include "oryutils/runtime/Formatos.hpp"
 
 #include "Comando.hpp"
+#include "operacoes/Operacoes.hpp"
 
+#include <gtest/gtest.h>
+
+#include <initializer_list>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 /// What a run of the command gave.
@@ -23,4 +28,10 @@ inline TRodada Rodar(const std::vector<std::string>& AArgumentos, std::string_vi
     Ory::TAmbiente ambiente{.Entrada = entrada, .Saida = saida, .Erro = erro};
     const int status = Ory::Executar(AArgumentos, ambiente);
     return {status, saida.Texto, erro.Texto};
+}
+
+/// Each request, called as programs do, and its answer.
+inline void ConferirChamadas(std::initializer_list<std::pair<std::string_view, std::string_view>> ACasos) {
+    const OryUtils::TFormatosTemporarios formatos(OryUtils::BuscarFormatosBrasileiros());
+    for (const auto& [pergunta, resposta] : ACasos) EXPECT_EQ(Ory::Chamar(pergunta), resposta) << pergunta;
 }

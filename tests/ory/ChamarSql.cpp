@@ -1,16 +1,9 @@
-#include "operacoes/Operacoes.hpp"
-
-#include <gtest/gtest.h>
+#include "Apoio.hpp"
 
 namespace {
 
-struct TCaso {
-    const char* Requisicao;
-    const char* Resposta;
-};
-
 TEST(ChamarSql, FiltroEComandos) {
-    constexpr TCaso CCasos[] = {
+    ConferirChamadas({
         {R"j({"op":"MontarFiltroSql","args":[{"tabela":"f","campo":"nome","condicao":12,"valor":"d'á"},[],""]})j",
          R"j({"resultado":"( F.NOME LIKE '%d''á%' )"})j"},
         {R"j({"op":"MontarFiltroSql","args":[{"operador":1,"filhos":[
@@ -32,8 +25,7 @@ TEST(ChamarSql, FiltroEComandos) {
         {R"j({"op":"CriarCondicaoSQL","args":[["a","b"]," OR "]})j", R"j({"resultado":"((a) OR b)"})j"},
         {R"j({"op":"FormatarParametroPesquisa","args":["1.234,56",7,0]})j", R"j({"resultado":"1234.56"})j"},
         {R"j({"op":"Iif","args":[true,[1,[2,null]],0]})j", R"j({"resultado":[1,[2,null]]})j"},
-    };
-    for (const TCaso& c : CCasos) EXPECT_EQ(Ory::Chamar(c.Requisicao), c.Resposta);
+    });
 }
 
 // Groups within groups may not exhaust the stack; nor may lists within lists.

@@ -1,4 +1,3 @@
-#include "oryutils/platform/Arquivos.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 #include "oryutils/runtime/Formatos.hpp"
 #include "oryutils/runtime/Utf.hpp"
@@ -6,13 +5,12 @@
 
 #include "Apoio.hpp"
 #include "conferir/Conferencia.hpp"
+#include "files/ApoioArquivos.hpp"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <random>
 #include <string>
 #include <vector>
@@ -52,8 +50,7 @@ TEST(Conferir, ExemploDeClientes) {
     const TRodada rodada = Rodar({"conferir", CExemplos + "clientes.csv", "--json", "--mostrar", "100"});
     ASSERT_EQ(rodada.Status, 1) << rodada.Erro;
     // The column "esperado" of the example names the columns that its line has wrong.
-    std::ifstream arquivo(CExemplos + "clientes.csv", std::ios::binary);
-    const std::string texto{std::istreambuf_iterator<char>(arquivo), {}};
+    const std::string texto = LerBytes(CExemplos + "clientes.csv");
     const json resumo = json::parse(rodada.Saida);
     std::size_t numero = 0;
     std::size_t conferidas = 0;
@@ -291,20 +288,16 @@ TEST(Conferir, VereditosSaemUmPorLinha) {
 }
 
 TEST(Conferir, SaidaTrocaOArquivoSoNoFim) {
-    const std::string nome = testing::TempDir() + "/ory_conferir.csv";
-    const auto gravar = [&](std::string_view ATexto) { std::ofstream(nome, std::ios::binary) << ATexto; };
-    const auto ler = [&] {
-        std::ifstream arquivo(nome, std::ios::binary);
-        return std::string{std::istreambuf_iterator<char>(arquivo), {}};
-    };
-    gravar("cpf\n52998224725\n");
+    const TPastaTemporaria pasta;
+    const auto arquivo = pasta / u"x.csv";
+    const std::string nome = OryUtils::ParaUtf8(pasta.Gravar(u"x.csv", "cpf\n52998224725\n"));
     EXPECT_EQ(Rodar({"conferir", nome, "--saida", nome}).Status, 0);
-    EXPECT_EQ(ler(), "cpf;cpf_veredito;cpf_formatado\n52998224725;valido;529.982.247-25\n");
-    gravar("cpf\n\"52998224725\n");
+    EXPECT_EQ(LerBytes(arquivo), "cpf;cpf_veredito;cpf_formatado\n52998224725;valido;529.982.247-25\n");
+    GravarBytes(arquivo, "cpf\n\"52998224725\n");
     EXPECT_EQ(Rodar({"conferir", nome, "--saida", nome}).Status, 2);
-    EXPECT_EQ(ler(), "cpf\n\"52998224725\n");
-    EXPECT_FALSE(std::filesystem::exists(nome + ".parte"));
-    EXPECT_EQ(OryUtils::Plataforma::ExcluirArquivo(nome), OryUtils::Plataforma::efNenhum);
+    EXPECT_EQ(LerBytes(arquivo), "cpf\n\"52998224725\n");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(pasta.Caminho()), {}), 1) << "nothing beside it";
+    EXPECT_TRUE(std::filesystem::remove(arquivo)) << "nobody holds it";
 }
 
 struct TSaidaCheia final : Ory::TSaida {

@@ -1,11 +1,9 @@
 #include "Apoio.hpp"
-#include "operacoes/Operacoes.hpp"
 
 #include <gtest/gtest.h>
 
 TEST(Numeros, OperacoesPeloNome) {
-    const OryUtils::TFormatosTemporarios formatos(OryUtils::BuscarFormatosBrasileiros());
-    constexpr std::string_view CPerguntas[][2] = {
+    ConferirChamadas({
         {R"({"op":"BuscarValorPorExtenso","args":["1001.01"]})", R"({"resultado":"UM MIL E UM REAIS E UM CENTAVO"})"},
         {R"({"op":"BuscarValorPorExtenso","args":[-1]})",
          R"({"erro":"O valor deve ser sempre maior ou igual a 0,00","classe":"Exception"})"},
@@ -18,8 +16,7 @@ TEST(Numeros, OperacoesPeloNome) {
         {R"({"op":"CalcularFormula","args":["10/3",{},1,2]})", R"({"resultado":"3.33"})"},
         {R"({"op":"CalcularFormula","args":["Y",{},0,2]})",
          R"({"erro":"Variável 'Y' não existe.","classe":"Exception"})"},
-    };
-    for (const auto& [pergunta, resposta] : CPerguntas) EXPECT_EQ(Ory::Chamar(pergunta), resposta) << pergunta;
+    });
 }
 
 TEST(Numeros, FormulaMostraAExpressaoResolvida) {

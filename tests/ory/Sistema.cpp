@@ -5,7 +5,6 @@
 
 #include "Apoio.hpp"
 #include "operacoes/Json.hpp"
-#include "operacoes/Operacoes.hpp"
 
 #include <gtest/gtest.h>
 
@@ -38,7 +37,7 @@ TEST(Sistema, ComandoMostraEstaMaquina) {
 }
 
 TEST(Sistema, OperacoesPeloNome) {
-    constexpr std::string_view CPerguntas[][2] = {
+    ConferirChamadas({
         {R"({"op":"FormatarBytes","args":[9223372036854775807,4]})", R"({"resultado":8388607})"},
         {R"({"op":"ExtrairEnderecoMACComandoARP","args":["x\r\n 10.0.0.1 0a-1b-2c-3d-4e-5f din"]})",
          R"({"resultado":"0A-1B-2C-3D-4E-5F"})"},
@@ -49,6 +48,5 @@ TEST(Sistema, OperacoesPeloNome) {
         {R"({"op":"InformacoesDetalhadas","args":["","",-9223372036854775808,1,9]})",
          R"({"resultado":"Informações detalhadas da unidade: \r\n\r\nUnidade:  \r\nNome:  \r\nEspaço total: )"
          R"(-9223372036854775808 \r\nEspaço livre: 1 \r\nEspaço usado: 9223372036854775807 "})"},
-    };
-    for (const auto& [pergunta, resposta] : CPerguntas) EXPECT_EQ(Ory::Chamar(pergunta), resposta) << pergunta;
+    });
 }

@@ -4,7 +4,6 @@
 #include "Apoio.hpp"
 #include "files/ApoioArquivos.hpp"
 #include "files/ConstrutorPe.hpp"
-#include "operacoes/Operacoes.hpp"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -141,8 +140,7 @@ TEST_F(Versao, OQueEstahErradoEhDito) {
 }
 
 TEST_F(Versao, OperacoesPeloNome) {
-    const OryUtils::TFormatosTemporarios formatos(OryUtils::BuscarFormatosBrasileiros());
-    constexpr std::string_view CPerguntas[][2] = {
+    ConferirChamadas({
         {R"({"op":"CompareVersion","args":["x","1"]})",
          R"({"erro":"'x' não é um valor inteiro válido","classe":"EConvertError"})"},
         {R"({"op":"DividirVersao","args":["1.2"]})", R"({"resultado":[1,0,0,2]})"},
@@ -151,8 +149,7 @@ TEST_F(Versao, OperacoesPeloNome) {
         {R"({"op":"EhArquivoEXE","args":["A.EXE"]})", R"({"resultado":true})"},
         {R"({"op":"FormatarTamanhoArquivo","args":[1536]})", R"({"resultado":"1,5 KB"})"},
         {R"({"op":"BuscarVersaoArquivo","args":["/nao/existe.exe"]})", R"({"resultado":""})"},
-    };
-    for (const auto& [pergunta, resposta] : CPerguntas) EXPECT_EQ(Ory::Chamar(pergunta), resposta) << pergunta;
+    });
     std::string pedido = R"({"op":"GetVersionFromINI","args":[)";
     pedido += nlohmann::json(Pagina).dump() + "]}";
     EXPECT_EQ(Ory::Chamar(pedido), R"({"resultado":"7,2,0,16"})");

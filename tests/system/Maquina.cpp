@@ -1,4 +1,4 @@
-// Rules of the machine that need no machine.
+// Rules of the machine, most of which need no machine.
 #include "oryutils/runtime/Formatos.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 #include "oryutils/system/interno/RegrasDeDiscos.hpp"
@@ -73,6 +73,25 @@ TEST(Maquina, EspacoLivre) {
                                  detalhes}));
     const std::int64_t muito = std::int64_t{1} << 40;  // its low 32 bits are zero
     EXPECT_FALSE(Sistema::ConferirEspacoLivre(disco, muito).Status);
+}
+
+TEST(Maquina, OQueExisteEOQueNao) {
+    using S = TOryUtilsSistema;
+    for (const char16_t* unidade : {u"", u"1", u"/nao/existe", u"\\\\servidor\\x", u"CD"}) {
+        const auto disco = S::BuscarInformacoesDiscoRigido(unidade, fbBytes);
+        EXPECT_EQ(disco->EspacoTotal, 0) << ParaUtf8(unidade);
+        EXPECT_EQ(disco->NomeVolume, u"Não identificado");
+        EXPECT_EQ(S::BuscarQuantidadeEspacoLivreEmDisco(unidade, fbBytes), 0);
+        EXPECT_FALSE(S::ValidouEspacoLivreEmDisco(unidade, 1, fbBytes).Status);
+    }
+    for (const char16_t* texto : {u"", u"nada", u"1.2.3.4.5"}) {
+        EXPECT_EQ(S::BuscarNomeComputadorPeloIP(texto), u"");
+        EXPECT_EQ(GetMacAddress2(texto), u"");
+    }
+    EXPECT_FALSE(S::EhIPLocal(u"192.0.2.254", false));
+    EXPECT_TRUE(S::EhIPLocal(S::BuscarIPLocal(), false));
+    EXPECT_EQ(S::BuscarIPPeloNomeComputador(u""), S::BuscarIPLocal()) << "the empty name is this machine";
+    EXPECT_EQ(S::BuscarIPPeloNomeComputador(u"127.0.0.3"), u"127.0.0.3");
 }
 
 TEST(Maquina, IndiceDaUnidade) {

@@ -31,6 +31,15 @@ void Falhou(const TResultStatus& AResultado, std::u16string_view AMensagem, cons
     EXPECT_EQ(AResultado.Mensagem, AMensagem) << APorque;
 }
 
+std::u16string MensagemDe(const auto& AAcao) {
+    try {
+        AAcao();
+    } catch (const ERegistryException& falha) {
+        return falha.GetMensagem();
+    }
+    return u"";
+}
+
 TEST_F(TRegistro, EscreveCadaTipoComoOSistemaOLe) {
     enum TCor { cVerde, cAzul };
     enum class TForma { Redonda };
@@ -87,20 +96,12 @@ TEST_F(TRegistro, LeDeVoltaORecusaOutroTipo) {
     EXPECT_EQ(registro.GetValorRegistro(crLocalMachine, CChave, u"falta"), u"");
     EXPECT_EQ(registro.GetValorRegistro(crLocalMachine, u"Nao\\Existe", u"s"), u"");
 
-    const auto mensagem = [](auto AAcao) -> std::u16string {
-        try {
-            AAcao();
-        } catch (const ERegistryException& falha) {
-            return falha.GetMensagem();
-        }
-        return u"";
-    };
     TRegistry& acessor = registro.GetChave(crLocalMachine, CChave);
-    EXPECT_EQ(mensagem([&] { acessor.ReadString(u"i"); }), u"Tipo de dado inválido para 'i'");
-    EXPECT_EQ(mensagem([&] { acessor.ReadInteger(u"s"); }), u"Tipo de dado inválido para 's'");
-    EXPECT_EQ(mensagem([&] { acessor.ReadFloat(u"i"); }), u"Tipo de dado inválido para 'i'");
-    EXPECT_EQ(mensagem([&] { acessor.ReadInteger(u"falta"); }), u"Falha ao obter dados de 'falta'");
-    EXPECT_EQ(mensagem([&] { registro.GetValorRegistro(crLocalMachine, CChave, u"i"); }),
+    EXPECT_EQ(MensagemDe([&] { acessor.ReadString(u"i"); }), u"Tipo de dado inválido para 'i'");
+    EXPECT_EQ(MensagemDe([&] { acessor.ReadInteger(u"s"); }), u"Tipo de dado inválido para 's'");
+    EXPECT_EQ(MensagemDe([&] { acessor.ReadFloat(u"i"); }), u"Tipo de dado inválido para 'i'");
+    EXPECT_EQ(MensagemDe([&] { acessor.ReadInteger(u"falta"); }), u"Falha ao obter dados de 'falta'");
+    EXPECT_EQ(MensagemDe([&] { registro.GetValorRegistro(crLocalMachine, CChave, u"i"); }),
               u"Tipo de dado inválido para 'i'");
     EXPECT_FALSE(registro.GetChave(crLocalMachine, u"").GetCurrentPath().size()) << "the root itself opens";
 }
@@ -270,12 +271,8 @@ TEST_F(TRegistro, CotaDeObjetosGDI) {
     cota.Excluir();
     Falhou(registro.AlterouCotaLimiteObjetosGDI(255), mensagem(u"65536"), "nothing is written");
     EXPECT_EQ(LerDoSistema(CGDI, u"GDIProcessHandleQuota"), u"");
-    try {
-        registro.BuscarValorCotaLimiteObjetosGDI();
-        FAIL() << "there is no quota to read";
-    } catch (const ERegistryException& falha) {
-        EXPECT_EQ(falha.GetMensagem(), u"Falha ao obter dados de 'GDIProcessHandleQuota'");
-    }
+    EXPECT_EQ(MensagemDe([&] { registro.BuscarValorCotaLimiteObjetosGDI(); }),
+              u"Falha ao obter dados de 'GDIProcessHandleQuota'");
     EXPECT_EQ(registro.AlterouCotaLimiteObjetosGDI(65536), TResultStatus());
     EXPECT_EQ(LerDoSistema(CGDI, u"GDIProcessHandleQuota"), u"dword:00010000");
     EXPECT_EQ(registro.BuscarValorCotaLimiteObjetosGDI(), u"65536");

@@ -1,12 +1,9 @@
 #include "oryutils/system/interno/SaidaDeComando.hpp"
 
 #include "oryutils/runtime/Caracteres.hpp"
-#include "oryutils/runtime/Utf.hpp"
 #include "oryutils/system/interno/Executor.hpp"
 
-#include <gtest/gtest.h>
-
-#include <random>
+#include "text/Apoio.hpp"
 
 namespace OryUtils::Sistema {
 namespace {
@@ -40,10 +37,9 @@ void LerParte(TLinhas& ALinhas, std::string_view AParte) {
 }
 
 TEST(SaidaDeComando, IgualAoLacoDe255BytesQueJuntaTudoDeNovo) {
-    const unsigned semente = std::random_device{}();
-    std::mt19937 sorteio(semente);
+    Testes::TSorteio sorteio;
     const auto ate = [&](std::size_t ALimite) {
-        return std::uniform_int_distribution<std::size_t>(0, ALimite)(sorteio);
+        return static_cast<std::size_t>(sorteio.Numero(0, static_cast<int>(ALimite)));
     };
     const std::string_view pedacos[] = {"a",  "b",  " ", " ",    "\r\n", "\n",   "\n",
                                         "\r", "\t", "ç", "\xC3", "😀",    "\xFF", std::string_view("\0", 1)};
@@ -77,9 +73,9 @@ TEST(SaidaDeComando, IgualAoLacoDe255BytesQueJuntaTudoDeNovo) {
             alvo.FecharParte();
             em_texto.FecharParte();
         }
-        ASSERT_EQ(obtido, esperado) << "seed " << semente << ", round " << rodada;
+        ASSERT_EQ(obtido, esperado) << sorteio.Semente() << ", round " << rodada;
         if (vazia) {
-            ASSERT_EQ(texto, JuntarLinhas(esperado)) << "seed " << semente << ", round " << rodada;
+            ASSERT_EQ(texto, JuntarLinhas(esperado)) << sorteio.Semente() << ", round " << rodada;
         }
     }
 }

@@ -1,20 +1,18 @@
+#include "oryutils/runtime/Utf.hpp"
+
+#include "files/ApoioArquivos.hpp"
 #include "ory/Apoio.hpp"
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
-#include <fstream>
 #include <sys/stat.h>
 
 namespace {
 
 /// A file of customers that only its owner may read stays so when it is written anew over itself.
 TEST(ConferirSaida, QuemPodiaLerOArquivoEhQuemPodeLerONovo) {
-    const std::string nome = (std::filesystem::temp_directory_path() / "orysaidaprotegida.csv").string();
+    const TPastaTemporaria pasta;
     const mode_t mascara = ::umask(022);
     for (const mode_t modo : {mode_t{0600}, mode_t{0664}, mode_t{0640}}) {
-        std::filesystem::remove(nome);
-        std::ofstream(nome) << "cnpj\n11222333000181\n";
+        const std::string nome = OryUtils::ParaUtf8(pasta.Gravar(u"x.csv", "cnpj\n11222333000181\n"));
         ASSERT_EQ(::chmod(nome.c_str(), modo), 0);
         ASSERT_EQ(Rodar({"conferir", nome, "--saida", nome}).Status, 0);
         struct stat dados {};
@@ -23,7 +21,6 @@ TEST(ConferirSaida, QuemPodiaLerOArquivoEhQuemPodeLerONovo) {
         EXPECT_GT(dados.st_size, 22) << "written anew";
     }
     ::umask(mascara);
-    std::filesystem::remove(nome);
 }
 
 }  // namespace

@@ -33,19 +33,10 @@ TEST(MaquinaWindows, NomesEVersao) {
 }
 
 TEST(MaquinaWindows, Enderecos) {
-    const std::u16string local = S::BuscarIPLocal();
-    EXPECT_EQ(S::BuscarIPPeloNomeComputador(u""), local) << "the empty name is this machine";
     EXPECT_NE(S::BuscarIPPeloNomeComputador(S::BuscarNomeComputador()), u"");
-    EXPECT_EQ(S::BuscarIPPeloNomeComputador(u"127.0.0.3"), u"127.0.0.3");
     EXPECT_EQ(S::BuscarIPPeloNomeComputador(std::u16string(1000, u'x')), u"");
-    EXPECT_TRUE(S::EhIPLocal(local, false));
-    EXPECT_FALSE(S::EhIPLocal(u"192.0.2.254", false));
     // Equal: two answers that differ would have been looked into further.
     EXPECT_EQ(GetEnderecoMac(u"127.0.0.1"), GetMacAddress2(u"localhost"));
-    for (const char16_t* texto : {u"", u"nada", u"1.2.3.4.5"}) {
-        EXPECT_EQ(S::BuscarNomeComputadorPeloIP(texto), u"");
-        EXPECT_EQ(GetMacAddress2(texto), u"");
-    }
 }
 
 TEST(MaquinaWindows, Discos) {
@@ -67,12 +58,6 @@ TEST(MaquinaWindows, Discos) {
     for (int i = 0; i < 26; ++i)
         if (mapa >> i & 1) esperadas.push_back(std::u16string(1, static_cast<char16_t>(u'A' + i)) + u":\\");
     EXPECT_EQ(unidades, esperadas);
-    for (const char16_t* unidade : {u"", u"1", u"\\\\servidor\\x", u"CD"}) {
-        const auto disco = S::BuscarInformacoesDiscoRigido(unidade, fbBytes);
-        EXPECT_EQ(disco->EspacoTotal, 0) << ParaUtf8(unidade);
-        EXPECT_EQ(disco->NomeVolume, u"Não identificado");
-        EXPECT_FALSE(S::ValidouEspacoLivreEmDisco(unidade, 1, fbBytes).Status);
-    }
 }
 
 TEST(MaquinaWindows, Pastas) {
