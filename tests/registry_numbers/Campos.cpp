@@ -20,17 +20,13 @@ TEST(Crc, PeloMotivoCerto) {
     };
     const TCaso casos[] = {
         {u"1SP123456O5", mrNenhum, "sum 149, remainder 6"},
-        {u"1SP123456O4", mrDigito, "another digit"},
-        {u"1sp123456O5", mrDigito, "small letters name no unit"},
         {u"1SP123456/O-5", mrDigito, "punctuation is not dropped"},
         {u"1SP123456O5X", mrNenhum, "a longer text is cut to eleven"},
         {u"1SP123456O", mrTamanho, "ten characters"},
         {u"", mrVazio, "nothing"},
         {u"1ZZ123456O7", mrNenhum, "a unit out of the table counts 00"},
         {u"1SP123454O0", mrNenhum, "remainder 0: digit 11 becomes 0"},
-        {u"1SP123458O0", mrNenhum, "remainder 1: digit 10 becomes 0"},
         {u"1GB123456O2", mrNenhum, "the old unit GB is 22"},
-        {u"000000000O9", mrNenhum, "digits in place of the unit count 00; sum 2"},
         {u"ÇÇÇÇÇÇÇÇÇÇÇ", mrNenhum, "nothing but zeros: remainder 0, digit 0"},
     };
     for (const TCaso& caso : casos) {
@@ -67,15 +63,10 @@ TEST(Email, PeloMotivoCerto) {
         TRecusaEmail Motivo;
     };
     const TCaso casos[] = {
-        {u"", reNenhuma},
         {u" \t", reNenhuma},
         {u"a.b@cd.ef", reNenhuma},
-        {u"a@b.c", reNenhuma},
         {u"ã@cd.ef", reNenhuma},
         {u"a'b@cd.ef", reNenhuma},
-        {u"joao@empresa.com.br", reNenhuma},
-        {u"a-b_c@d-e_f.gh", reNenhuma},
-        {u"compra@loja.ef", reNenhuma},
         {u"com.pra@comp.ef", reNenhuma},  // only the first "com" counts
         {u"\u0421\u041C@cd.ef", reNenhuma},
         {u"abc", reSemArroba},
@@ -87,7 +78,6 @@ TEST(Email, PeloMotivoCerto) {
         {u"a.b@", reFim},
         {u"a@cd.ef.", reFim},
         {u"a b@cd.ef", reEspaco},
-        {u" a@cd.ef", reEspaco},
         {u"a@.ef", reVizinho},
         {u"a.@cd.ef", reVizinho},
         {u"a@-cd.ef", reVizinho},
@@ -95,7 +85,6 @@ TEST(Email, PeloMotivoCerto) {
         {u"a@comp.ef", reVizinho},
         {u"ç@cd.ef", reCaractere},
         {u"a@c,d.ef", reCaractere},
-        {u"a@cd.ef|", reCaractere},
         {u"a..b@cd.ef", rePontoDobrado},
         {u"a@b@cd.ef", reArrobaDobrada},
     };
@@ -129,7 +118,6 @@ TEST(EnderecoIp, PeloMotivoCerto) {
         TRecusaIp Motivo;
     };
     const TCaso casos[] = {
-        {u"", riNenhuma},
         {u" ", riNenhuma},
         {u" 192.168.0.1 ", riNenhuma},
         {u"255.255.255.255", riNenhuma},
@@ -139,11 +127,9 @@ TEST(EnderecoIp, PeloMotivoCerto) {
         {u"192.168.0.1.5", riPartes},
         {u"192.168.0.256", riValor},
         {u"192.168..1", riParte},
-        {u"192.168.0.", riParte},
         {u"1.1.1.09999999999", riParte},  // beyond 32 bits
         {u"a.b.c.d", riCaractere},
         {u"1.1.1.-1", riCaractere},
-        {u"1.1.1. 1", riCaractere},
         {u"1.1.1.\u0661", riCaractere},
         {std::u16string(256, u'1'), riPartes},  // the scan covers nothing
         {u"1.1.1." + std::u16string(257, u'0'), riNenhuma},
@@ -191,12 +177,7 @@ class Campos : public Frame {
 
 TEST_F(Campos, RelatamSoOQueFalhaESoNaVezDoControle) {
     using R = TOryUtilsValidacoes;
-    using TRegra = void (*)(const TObjeto*, TWinControl*, std::u16string_view, std::u16string_view);
-    struct TCaso {
-        TRegra Validar;
-        std::u16string_view Valor;
-        const char* Relato;
-    };
+    using TRegra = decltype(TCasoDeRegra::Validar);
     const TRegra data = [](auto... AArgs) { EXPECT_TRUE(ValidarData(AArgs...)); };
     const TRegra hora = [](auto... AArgs) { EXPECT_TRUE(ValidouHora(AArgs...)); };
     const TRegra dataHora = [](auto... AArgs) { EXPECT_TRUE(ValidouDataHora(AArgs...)); };
@@ -212,37 +193,30 @@ TEST_F(Campos, RelatamSoOQueFalhaESoNaVezDoControle) {
         ValidarDataInicioFim(ASender, AControle, AValor.substr(0, meio), AValor.substr(meio + 1), AMensagem);
     };
     const char* const relata = "Falhou.";
-    const TCaso casos[] = {
+    const TCasoDeRegra casos[] = {
         {ValidarCRC, u"1SP123456O5", "nada"},
         {ValidarCRC, u"", relata},
         {R::ValidarEmail, u" a@b.c ", "nada"},
         {R::ValidarEmail, u"a@ef", relata},
         {lista, u"a@b.c; d@e.f ;", "nada"},
         {lista, u"a@b.c;d@", relata},
-        {lista, u"", relata},
         {listaSemMensagem, u"", "Não é possível validar a lista de e-mail. Lista vazia."},
         {listaSemMensagem, u"x;a@b.c", "Os seguintes endereços de e-mail são inválidos: \r\n\r\nx"},
         {data, u" 29/02/2024 ", "nada"},
         {data, u"29/02/2023", relata},
         {data, u"31/12/1899", "nada"},
         {data, u"30/12/1899", relata},
-        {data, u"", relata},
-        {data, u"2024-02-29", relata},
         {hora, u"00:01", "nada"},
         {hora, u"00:00", relata},
-        {hora, u"24:00", relata},
         {hora, u"agora", relata},
         {dataHora, u"05/03/2024 14:07", "nada"},
-        {dataHora, u"05/03/2024", "nada"},
         {dataHora, u"30/12/1899 00:00", relata},
-        {dataHora, u"05/03/2024 25:00", relata},
         {ip, u"192.168.0.1", "nada"},
         {ip, u"", "nada"},
         {ip, u"192.168.0", relata},
         {periodo, u"10/05/2024-01/05/2024", relata},
         {periodo, u"01/05/2024-01/05/2024", "nada"},
         {periodo, u"10/05/2024-", "nada"},
-        {periodo, u"x-01/05/2024", "nada"},
         {periodo, u"10/05/2024-30/12/1899", "nada"},
         {R::ValidarCampoNomeComponente, u" _Edit1 ", "nada"},
         {R::ValidarCampoNomeComponente, u"1Edit", relata},
@@ -255,12 +229,7 @@ TEST_F(Campos, RelatamSoOQueFalhaESoNaVezDoControle) {
         {ValidarDiretorio, u"", relata},
         {ValidarDiretorio, u"pasta que não existe", relata},
     };
-    for (const TCaso& caso : casos) {
-        EXPECT_EQ(Relato([&] { caso.Validar(nullptr, &Controle, caso.Valor, u"Falhou."); }), caso.Relato)
-            << ParaUtf8(caso.Valor);
-        EXPECT_EQ(Relato([&] { caso.Validar(&Outro, &Controle, caso.Valor, u"Falhou."); }), "nada")
-            << "not this control's turn: " << ParaUtf8(caso.Valor);
-    }
+    Conferir(casos);
 }
 
 TEST_F(Campos, PeriodoDeDataHora) {

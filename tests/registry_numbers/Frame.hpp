@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,13 @@ struct TControleFalso : TWinControl {
     const void* GetIdentidade() const noexcept override { return Identidade; }
     bool PodeReceberFoco() const override { return Focavel; }
     void ReceberFoco() override { GRelatos.emplace_back(u"foco"); }
+};
+
+/// A rule of a field over a value, and what it reports when asked to say "Falhou.".
+struct TCasoDeRegra {
+    void (*Validar)(const TObjeto*, TWinControl*, std::u16string_view, std::u16string_view);
+    std::u16string_view Valor;
+    const char* Relato;
 };
 
 class Frame : public testing::Test {
@@ -43,6 +51,16 @@ protected:
             EXPECT_EQ(GRelatos.size(), 2U);
             EXPECT_EQ(GRelatos.front(), u"foco");
             return ParaUtf8(GRelatos.back());
+        }
+    }
+
+    /// Each case at this control's turn, and at another one's.
+    void Conferir(std::span<const TCasoDeRegra> ACasos) {
+        for (const TCasoDeRegra& caso : ACasos) {
+            EXPECT_EQ(Relato([&] { caso.Validar(nullptr, &Controle, caso.Valor, u"Falhou."); }), caso.Relato)
+                << ParaUtf8(caso.Valor);
+            EXPECT_EQ(Relato([&] { caso.Validar(&Outro, &Controle, caso.Valor, u"Falhou."); }), "nada")
+                << "not this control's turn: " << ParaUtf8(caso.Valor);
         }
     }
 

@@ -112,32 +112,23 @@ TEST(IE, RecusaPeloMotivoCerto) {
         TMotivoRecusa Esperado;
         const char* Porque;
     };
-    const std::u16string megabyte(1 << 20, u'1');
     const TCaso casos[] = {
         {u"XX", u"ISENTO", mrNenhum, "exempt whatever the unit"},
-        {u"SP", u"isenta", mrNenhum, "either case"},
         {u"SP", u"Contribuinte não isento.", mrNenhum, "the word anywhere"},
         {u"SP", u"ISEN", mrVazio, "half the word"},
-        {u"SP", u"", mrVazio, "empty"},
         {u"EX", u"", mrVazio, "empty, also for export"},
         {u"EX", u"123", mrNenhum, "export"},
         {u"EX", u"000000000", mrRepetido, "zeros alone"},
         {u"EX", u"123456789012345", mrTamanho, "fifteen characters"},
-        {u"RS", megabyte, mrTamanho, "a megabyte"},
         {u"RS", u"224/3658792", mrVazio, "punctuation empties it"},
-        {u"RS", u"2243658792 ", mrVazio, "so does a blank"},
         {u"RS", u"２243658792", mrVazio, "and a full-width digit"},
         {u"RS", u"2243658792", mrNenhum, "right"},
         {u"rs", u"2243658792", mrNenhum, "lower-case unit"},
         {u"RS", u"2243658793", mrDigito, "wrong digit"},
         {u"RS", u"224365879", mrTamanho, "short"},
         {u"XY", u"2243658792", mrUf, "no such unit"},
-        {u"RSS", u"2243658792", mrUf, "no such unit"},
         {u"", u"2243658792", mrUf, "no unit"},
         {u"ſp", u"110042490114", mrUf, "a letter whose upper case is S"},
-        {u"SP", u"110042490114", mrNenhum, "industrial form"},
-        {u"SP", u"110042491114", mrDigito, "wrong first digit"},
-        {u"SP", u"P011004243002", mrNenhum, "rural form"},
         {u"SP", u"p011004243002", mrNenhum, "rural form in lower case"},
         {u"SP", u"P-01100424.3/002", mrVazio, "rural form with punctuation"},
         {u"SP", u"P01100424300P", mrCaractere, "a second P"},

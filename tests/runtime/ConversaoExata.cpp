@@ -13,21 +13,6 @@ namespace {
 
 const TFormatSettings CPonto{.DecimalSeparator = u'.'};
 
-/// What all the digits give for a text of digits and an exponent.
-std::optional<Extended> LerComTodosOsDigitos(std::u16string_view ADigitos, int AExpoente) {
-    TDecimal decimal{.Digitos = ADigitos, .Expoente = AExpoente};
-    for (const char16_t c : ADigitos)
-        if (decimal.Significativos > 0 || c != u'0')
-            if (++decimal.Significativos <= CDigitosEm64Bits)
-                decimal.Inicio = decimal.Inicio * 10 + static_cast<unsigned>(c - u'0');
-    return ConverterExato(decimal);
-}
-
-void CompararLeitura(const std::u16string& ADigitos, int AExpoente) {
-    const std::u16string texto = ADigitos + u"E" + InteiroParaTexto(AExpoente);
-    ASSERT_EQ(TentarTextoParaExtended(texto, CPonto), LerComTodosOsDigitos(ADigitos, AExpoente)) << ParaUtf8(texto);
-}
-
 // Subnormals included, and whatever order one estimate takes.
 TEST(ConversaoExata, EscritaEmTodaAFaixa) {
     const auto semente = std::random_device{}();
@@ -46,15 +31,21 @@ TEST(ConversaoExata, EscritaEmTodaAFaixa) {
     }
 }
 
+// With all the digits as with the first ones, which the C library is asked about elsewhere.
 TEST(ConversaoExata, LeituraEmTodaAFaixa) {
     const auto semente = std::random_device{}();
     SCOPED_TRACE(testing::Message() << "seed " << semente);
     std::mt19937_64 gerador(semente);
     for (int i = 0; i < 3000; ++i) {
-        std::u16string digitos;
-        for (auto n = gerador() % 60 + 1; n > 0; --n) digitos += static_cast<char16_t>(u'0' + gerador() % 10);
-        digitos += u'1';
-        CompararLeitura(digitos, static_cast<int>(gerador() % 9850) - 4990 + (i % 2 ? 0 : 20));
+        std::u16string digitos = u"7";
+        for (auto n = gerador() % 60; n > 0; --n) digitos += static_cast<char16_t>(u'0' + gerador() % 10);
+        const int expoente = static_cast<int>(gerador() % 9850) - 4980;
+        const TDecimal decimal{.Digitos = digitos,
+                               .Expoente = expoente,
+                               .Significativos = static_cast<std::int64_t>(digitos.size()),
+                               .Inicio = std::stoull(ParaUtf8(digitos.substr(0, CDigitosEm64Bits)))};
+        ASSERT_EQ(ConverterExato(decimal), TentarTextoParaExtended(digitos + u"E" + InteiroParaTexto(expoente), CPonto))
+            << ParaUtf8(digitos) << ' ' << expoente;
     }
 }
 
@@ -78,23 +69,30 @@ std::pair<std::u16string, int> BuscarMeio(std::uint64_t AMantissa, int APotencia
 }
 
 // Cut off after some digits, the middle lies so near to the text that no estimate tells on which side the text is.
-TEST(ConversaoExata, PertoDosMeios) {
+TEST(ConversaoExata, PertoDosMeiosENeles) {
     const auto semente = std::random_device{}();
     SCOPED_TRACE(testing::Message() << "seed " << semente);
     std::mt19937_64 gerador(semente);
-    for (int i = 0; i < 60; ++i) {
+    for (int i = 0; i < 100; ++i) {
         const std::uint64_t mantissa = gerador() | std::uint64_t{1} << 63;
-        const int potencia = static_cast<int>(gerador() % 8000) + 70;
-        auto [digitos, expoente] = BuscarMeio(mantissa, potencia, 36 + gerador() % 20);
-        const std::size_t quantos = digitos.size();
-        CompararLeitura(digitos, expoente);
-        const Extended abaixo = std::ldexp(static_cast<Extended>(mantissa), 1 - potencia);
-        EXPECT_EQ(TentarTextoParaExtended(digitos + u"E" + InteiroParaTexto(expoente), CPonto), abaixo);
-        // One more in the last place.
-        const std::size_t lugar = digitos.find_last_not_of(u'9');
-        ++digitos[lugar];
-        digitos.resize(lugar + 1);
-        CompararLeitura(digitos, expoente + static_cast<int>(quantos - digitos.size()));
+        const int potencia = i < 20 ? 0 : static_cast<int>(gerador() % (i % 2 ? 60 : 8000));  // 0: an integer
+        const auto escalar = [=](Extended AMantissa) { return std::ldexp(AMantissa, 1 - potencia); };
+        const Extended abaixo = escalar(static_cast<Extended>(mantissa)), acima = abaixo + escalar(1);
+        const auto ler = [](const std::u16string& ADigitos, int AExpoente) {
+            return TentarTextoParaExtended(ADigitos + u"E" + InteiroParaTexto(AExpoente), CPonto);
+        };
+        const auto [meio, expoente] = BuscarMeio(mantissa, potencia, std::u16string::npos);
+        EXPECT_EQ(ler(meio, expoente), mantissa % 2 ? acima : abaixo) << "to even";
+        EXPECT_EQ(ler(u"0" + meio + u"." + std::u16string(12'000, u'0') + u"1", expoente), acima)
+            << "a digit far behind";
+        auto [cortado, expoenteDoCorte] = BuscarMeio(mantissa, potencia, 24 + gerador() % 32);
+        if (expoenteDoCorte == expoente) continue;
+        EXPECT_EQ(ler(cortado, expoenteDoCorte), abaixo) << ParaUtf8(cortado);
+        const std::size_t quantos = cortado.size();
+        const std::size_t lugar = cortado.find_last_not_of(u'9');
+        ++cortado[lugar];  // one more in the last place
+        cortado.resize(lugar + 1);
+        EXPECT_EQ(ler(cortado, expoenteDoCorte + static_cast<int>(quantos - cortado.size())), acima);
     }
 }
 

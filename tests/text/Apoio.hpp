@@ -31,9 +31,9 @@ private:
 };
 
 /// Any code unit: lone surrogates, controls and pairs.
-inline constexpr char16_t CUnidadesHostis[] = {0,  1,    8,    9,    13,    10,     32,     34,     39,    60, 62,
-                                               47, 92,   59,   46,   44,    45,     95,     61,     38,    97, 65,
-                                               48, 0xE9, 0xC9, 0xFF, 0x178, 0xD83D, 0xDE00, 0xD800, 0xFFFF};
+inline constexpr char16_t CUnidadesHostis[] = {0,  1,    8,    9,    13,    10,     32,     34,     39,     60,    62,
+                                               47, 92,   59,   46,   44,    45,     95,     61,     38,     97,    65,
+                                               48, 0xE9, 0xC9, 0xFF, 0x178, 0xD83D, 0xDE00, 0xD800, 0xFFFF, 0x1000};
 inline constexpr std::u16string_view CHostis(CUnidadesHostis, std::size(CUnidadesHostis));
 
 }  // namespace Testes
