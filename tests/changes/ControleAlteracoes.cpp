@@ -159,6 +159,40 @@ TEST(ControleAlteracoes, FechamentosSaoContadosELiberados) {
     EXPECT_EQ(capturado.use_count(), 1);
 }
 
+// Upgrades interrupted anywhere: whatever fails on the way, in the end each step has done its work once, in order.
+TEST(ControleAlteracoes, AtualizacaoInterrompidaContinua) {
+    const auto semente = std::random_device{}();
+    SCOPED_TRACE("seed " + std::to_string(semente));
+    std::mt19937 gerador(semente);
+    for (int rodada = 0; rodada < 200; ++rodada) {
+        const int quantos = static_cast<int>(gerador() % 40);
+        TDeposito deposito{.Versao = u"000"};
+        std::vector<int> feitos;
+        int execucoes = 0;
+        while (static_cast<int>(feitos.size()) < quantos && ++execucoes < 10000) {
+            TOryUtilsControleAlteracoes controle(u"");
+            deposito.Ligar(controle);
+            bool falhou = false;  // an application that lets nothing run behind a failure
+            // What is done is left out, as the runner would stop at it.
+            for (int i = static_cast<int>(feitos.size()); i < quantos; ++i) {
+                std::u16string versao = u"000";
+                versao[1] = static_cast<char16_t>(u'0' + (i + 1) / 10);
+                versao[2] = static_cast<char16_t>(u'0' + (i + 1) % 10);
+                controle.Adicionar(versao, [&, i] {
+                    if (falhou || gerador() % 8 == 0) {
+                        falhou = true;
+                        Abort();
+                    }
+                    feitos.push_back(i);
+                });
+            }
+            controle.Executar();
+        }
+        ASSERT_EQ(static_cast<int>(feitos.size()), quantos);
+        for (int i = 0; i < quantos; ++i) ASSERT_EQ(feitos[static_cast<std::size_t>(i)], i);
+    }
+}
+
 // The run beside the plain words of its rule, over versions in any order.
 TEST(ControleAlteracoes, QualquerOrdemPelaRegra) {
     const auto semente = std::random_device{}();

@@ -5,28 +5,28 @@
 
 #include <gtest/gtest.h>
 
-#include <utility>
-#include <vector>
+#include <algorithm>
+#include <cstring>
+#include <random>
 
-// The library's own reader against files that mean no good; those of any bytes are in fuzz/RecursoDeVersao.cpp. It is
-// part of the Linux library; its sources know no system, so that these tests run everywhere.
+// The library's own reader against files that mean no good. It is part of the Linux library; its sources know no
+// system, so that these tests run everywhere.
 
 namespace {
 
 using namespace OryUtils::Plataforma;
 
-/// A file of ATamanho bytes, zeros but for the pieces of it that are told with their places. Counts what is read.
+/// Bytes in memory, at AInicio of a file of ATamanho bytes that is otherwise zeros. Counts what is read.
 class TFonteDeTeste final : public TFonteDeBytes {
 public:
-    using TPedacos = std::vector<std::pair<std::uint64_t, std::string_view>>;
-    TFonteDeTeste(TPedacos APedacos, std::uint64_t ATamanho) : FPedacos(std::move(APedacos)), FTamanho(ATamanho) {}
+    explicit TFonteDeTeste(std::string_view ABytes, std::uint64_t AInicio = 0, std::uint64_t ATamanho = 0)
+        : FBytes(ABytes), FInicio(AInicio), FTamanho(std::max<std::uint64_t>(ATamanho, AInicio + ABytes.size())) {}
 
     std::size_t Ler(std::uint64_t AInicio, std::span<char> ADestino) const override {
         std::size_t lidos = 0;
         for (; lidos < ADestino.size() && AInicio + lidos < FTamanho; ++lidos) {
-            ADestino[lidos] = '\0';
-            for (const auto& [inicio, bytes] : FPedacos)
-                if (AInicio + lidos - inicio < bytes.size()) ADestino[lidos] = bytes[AInicio + lidos - inicio];
+            const std::uint64_t lugar = AInicio + lidos;
+            ADestino[lidos] = lugar >= FInicio && lugar - FInicio < FBytes.size() ? FBytes[lugar - FInicio] : '\0';
         }
         Lidos += lidos;
         return lidos;
@@ -35,8 +35,8 @@ public:
     mutable std::size_t Lidos = 0;
 
 private:
-    TPedacos FPedacos;
-    std::uint64_t FTamanho;
+    std::string_view FBytes;
+    std::uint64_t FInicio, FTamanho;
 };
 
 /// Asks everything that is ever asked; the version and one text, or "-".
@@ -62,7 +62,7 @@ constexpr const char* CResposta = "1.2 t abc";
 constexpr std::size_t CMaisQueSePrecisaLer = 6u << 20;
 
 std::string LerArquivo(std::string_view ABytes) {
-    const TFonteDeTeste fonte({{0, ABytes}}, ABytes.size());
+    const TFonteDeTeste fonte(ABytes);
     const auto bloco = LerRecursoDeVersaoPe(fonte);
     EXPECT_LE(fonte.Lidos, CMaisQueSePrecisaLer);
     return bloco.empty() ? "" : Perguntar(bloco);
@@ -85,11 +85,30 @@ TEST(LeitorPe, Truncado) {
     }
 }
 
-TEST(LeitorPe, BlocoTruncado) {
+TEST(LeitorPe, BlocoTruncadoOuTrocado) {
     for (std::size_t tamanho = 0; tamanho <= CBloco.size(); ++tamanho) {
         const std::vector<char> copia(CBloco.begin(), CBloco.begin() + static_cast<std::ptrdiff_t>(tamanho));
         const std::string resposta = Perguntar(copia);
         EXPECT_TRUE(tamanho == CBloco.size() ? resposta == CResposta : resposta != CResposta) << tamanho;
+    }
+    for (std::size_t i = 0; i < CBloco.size(); ++i)
+        for (const int valor : {0, 1, 0x7F, 0x80, 0xFF}) {
+            std::vector<char> copia(CBloco.begin(), CBloco.end());
+            copia[i] = static_cast<char>(valor);
+            EXPECT_LE(Perguntar(copia).size(), CBloco.size()) << i;
+        }
+}
+
+TEST(LeitorPe, CadaByteTrocado) {
+    std::mt19937 sorteio(20261121);
+    for (const bool de64 : {false, true}) {
+        const std::string inteiro = Pe::MontarArquivo(de64, {{0x416, CBloco}, {0x409, CBloco}});
+        for (std::size_t i = 0; i < inteiro.size(); ++i)
+            for (const unsigned valor : {0u, 1u, 0x7Fu, 0x80u, 0xFFu, static_cast<unsigned>(sorteio() & 0xFF)}) {
+                std::string trocado = inteiro;
+                trocado[i] = static_cast<char>(valor);
+                LerArquivo(trocado);
+            }
     }
 }
 
@@ -130,6 +149,24 @@ TEST(LeitorPe, Contraditorio) {
     }
 }
 
+TEST(LeitorPe, AleatorioComMarcasCertas) {
+    const unsigned semente = std::random_device{}();
+    std::mt19937 sorteio(semente);
+    SCOPED_TRACE(semente);
+    const std::string inteiro = Pe::MontarArquivo(true, {{0, CBloco}});
+    for (int rodada = 0; rodada < 3000; ++rodada) {
+        std::string arquivo = inteiro;
+        for (auto n = sorteio() % 40; n > 0; --n) {
+            // Most of what is read lies in the headers and in the first bytes of the section.
+            const std::size_t faixa = sorteio() % 2 ? 0x1A0 : arquivo.size();
+            arquivo[sorteio() % faixa] = static_cast<char>(sorteio());
+        }
+        LerArquivo(arquivo);
+        std::shuffle(arquivo.begin() + 0x200, arquivo.end(), sorteio);
+        Perguntar(std::span(arquivo).subspan(0x200));
+    }
+}
+
 TEST(LeitorPe, QuatroGigabytesNaoSaoLidos) {
     // The headers at the beginning, the section near the end of the 4 GiB.
     constexpr std::uint32_t CLonge = 0xFFFF'0000;
@@ -138,9 +175,21 @@ TEST(LeitorPe, QuatroGigabytesNaoSaoLidos) {
     cabecalhos.resize(Pe::CInicioDaSecao);
     Trocar32(cabecalhos, 0x40 + 24 + 224 + 20, CLonge);
 
-    const TFonteDeTeste fonte({{0, cabecalhos}, {CLonge, secao}}, 1ull << 33);
+    class TFonteDupla final : public TFonteDeBytes {
+    public:
+        TFonteDupla(std::string_view AInicio, std::string_view AFim)
+            : FInicio(AInicio), FFim(AFim, CLonge, 1ull << 33) {}
+        std::size_t Ler(std::uint64_t ALugar, std::span<char> ADestino) const override {
+            return (ALugar < CLonge ? FInicio : FFim).Ler(ALugar, ADestino);
+        }
+        std::size_t BuscarLidos() const { return FInicio.Lidos + FFim.Lidos; }
+
+    private:
+        TFonteDeTeste FInicio, FFim;
+    };
+    const TFonteDupla fonte(cabecalhos, secao);
     EXPECT_EQ(Perguntar(LerRecursoDeVersaoPe(fonte)), CResposta);
-    EXPECT_LE(fonte.Lidos, 4096u);
+    EXPECT_LE(fonte.BuscarLidos(), 4096u);
 }
 
 }  // namespace

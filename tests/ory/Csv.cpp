@@ -25,11 +25,34 @@ TRegistros LerTudo(std::string_view ATexto, char ADelimitador, std::size_t ABloc
     return registros;
 }
 
+struct TCaso {
+    std::string_view Texto;
+    TRegistros Esperado;
+    const char* Porque;
+};
+
 TEST(Csv, LeOQueEscrevemPorAi) {
     using namespace std::string_literals;
-    EXPECT_EQ(LerTudo("a;\0b\n"s, ';', 4, 3), (TRegistros{{"a", "\0b"s}})) << "NUL is data";
-    EXPECT_EQ(LerTudo("\xEF\xBB\xBFú;b\n", ';', 4, 3), (TRegistros{{"ú", "b"}})) << "mark of UTF-8";
-    EXPECT_EQ(LerTudo("", ';', 4, 3), TRegistros());
+    using namespace std::string_view_literals;
+    const TCaso casos[] = {
+        {"a;b\n1;2\n", {{"a", "b"}, {"1", "2"}}, "LF"},
+        {"a;b\r\n1;2\r\n", {{"a", "b"}, {"1", "2"}}, "CR LF"},
+        {"a\r;b\n", {{"a\r", "b"}}, "a CR alone is data"},
+        {"\"a\nb\";c\nd;e\n", {{"a\nb", "c"}, {"d", "e"}}, "line break inside quotes"},
+        {"\"a\"\"b\";\"\"\r\n", {{"a\"b", ""}}, "doubled quote, empty quoted field"},
+        {"5\" x;y\"z\n", {{"5\" x", "y\"z"}}, "a quote inside an unquoted field is data"},
+        {"\"a\"b;c\n", {{"ab", "c"}}, "text behind the closing quote"},
+        {"a;\0b\n"sv, {{"a", "\0b"s}}, "NUL is data"},
+        {"\xEF\xBB\xBF"
+         "a;b\n",
+         {{"a", "b"}},
+         "mark of UTF-8"},
+        {"", {}, "nothing"},
+    };
+    for (const TCaso& caso : casos) {
+        EXPECT_EQ(LerTudo(caso.Texto, ';', 1 << 20, 1 << 20), caso.Esperado) << caso.Porque;
+        EXPECT_EQ(LerTudo(caso.Texto, ';', 4, 3), caso.Esperado) << caso.Porque << ", in small blocks";
+    }
 }
 
 TEST(Csv, BlocosDeQualquerTamanhoDaoOsMesmosRegistros) {

@@ -12,7 +12,6 @@
 #include <fstream>
 #include <random>
 #include <set>
-#include <sstream>
 
 namespace OryUtils {
 namespace {
@@ -79,13 +78,32 @@ TEST(CpfCnpj, IgualALeituraLenta) {
 }
 
 TEST(CpfCnpj, RecusaPeloMotivoCerto) {
+    EXPECT_EQ(ConferirCpf<char16_t>(u"529.982.247-25"), mrNenhum);
     EXPECT_EQ(ConferirCpf<char16_t>(u"529.982.247-24"), mrDigito);
     EXPECT_EQ(ConferirCpf<char16_t>(u"529.982.247-2x"), mrTamanho) << "letters are dropped, then a digit is missing";
+    EXPECT_EQ(ConferirCpf<char16_t>(u""), mrTamanho);
+    EXPECT_EQ(ConferirCpf<char16_t>(u" 5 2 9 9 8 2 2 4 7 2 5 cpf"), mrNenhum);
+    EXPECT_EQ(ConferirCpf<char>("52998224725"), mrNenhum);
+    EXPECT_EQ(ConferirCnpj<char16_t>(u"11.222.333/0001-81"), mrNenhum);
     EXPECT_EQ(ConferirCpf<char16_t>(u"11.222.333/0001-81"), mrTamanho);
-    EXPECT_TRUE(ValidouCnpjCpf(tiCPF, u"11111111111")) << "repeated digits pass";
+    EXPECT_EQ(ConferirCnpj<char16_t>(std::u16string(1 << 20, u'1')), mrTamanho);
     EXPECT_EQ(ConferirCnpj<char16_t>(std::u16string(1 << 20, u'.') + u"11222333000181"), mrNenhum);
+    for (char16_t c = u'0'; c <= u'9'; ++c)
+        EXPECT_TRUE(ValidouCnpjCpf(tiCPF, std::u16string(11, c))) << "repeated digits pass";
+    EXPECT_TRUE(ValidouCnpjCpf(tiCNPJ, u"00000000000000"));
     for (int tipo = 0; tipo <= 11; ++tipo)
         EXPECT_EQ(ValidouCnpjCpf(static_cast<TTipoInscricao>(tipo), u"11222333000181"), tipo == tiCNPJ) << tipo;
+}
+
+TEST(CpfCnpj, UmDigitoTrocadoSeNota) {
+    // No weight is a multiple of 11, so a change shows, except where two remainders share the digit 0.
+    const std::u16string cnpj = u"11222333000181";
+    for (std::size_t lugar = 0; lugar < cnpj.size(); ++lugar)
+        for (char16_t c = u'0'; c <= u'9'; ++c) {
+            std::u16string outro = cnpj;
+            outro[lugar] = c;
+            EXPECT_EQ(ValidouCnpjCpf(tiCNPJ, outro), outro == cnpj) << ParaUtf8(outro);
+        }
 }
 
 TEST(CnpjAlfanumerico, RecusaPeloMotivoCerto) {
@@ -94,14 +112,21 @@ TEST(CnpjAlfanumerico, RecusaPeloMotivoCerto) {
         TMotivoRecusa Esperado;
         const char* Porque;
     };
+    const std::u16string megabyte(1 << 20, u'A');
     const TCaso casos[] = {
         {u"12.ABC.345/01DE-35", mrNenhum, "formatted"},
         {u"12abc34501de35", mrNenhum, "bare, lower case"},
+        {u" 12 ABC 345 01DE 35\t", mrNenhum, "blanks"},
+        {u"11.222.333/0001-81", mrNenhum, "numeric"},
         {u"12.ABC.345/01DE-36", mrDigito, "second digit"},
         {u"12.ABC.345/01DE-25", mrDigito, "first digit"},
         {u"12.ABC.345/01DE-3A", mrCaractere, "check digits are digits"},
+        {u"12.ABC.345/01DÉ-35", mrCaractere, "an accented letter"},
         {u"12_ABC34501DE35", mrCaractere, "another separator"},
         {u"12ABC34501DE3", mrTamanho, "short"},
+        {u"12ABC34501DE355", mrTamanho, "long"},
+        {u"", mrTamanho, "empty"},
+        {megabyte, mrCaractere, "a megabyte"},
     };
     for (const TCaso& caso : casos) EXPECT_EQ(ConferirCnpjAlfanumerico(caso.Numero), caso.Esperado) << caso.Porque;
     EXPECT_EQ(ConferirCnpjAlfanumerico<char>("12.ABC.345/01DE-35"), mrNenhum);
@@ -127,15 +152,20 @@ TEST(CnpjAlfanumerico, Formato) {
 }
 
 TEST(Pis, RecusaPeloMotivoCerto) {
+    EXPECT_EQ(ConferirPis(u"12345678919"), mrNenhum);
     EXPECT_EQ(ConferirPis(u"1234 5678 919"), mrNenhum);
     EXPECT_EQ(ConferirPis(u"12345678918"), mrDigito);
     EXPECT_EQ(ConferirPis(u"123.45678.91-9"), mrTamanho);
     EXPECT_EQ(ConferirPis(u"1234567891a"), mrCaractere);
     EXPECT_EQ(ConferirPis(u"-0000000001"), mrCaractere) << "the number that also stands for no number";
     EXPECT_EQ(ConferirPis(u"\t2345678919"), mrCaractere) << "only spaces are dropped";
+    EXPECT_EQ(ConferirPis(std::u16string(1 << 20, u'1')), mrTamanho);
+    EXPECT_EQ(ConferirPis(u"00000000000"), mrNenhum);
 }
 
 TEST(Cei, RecusaPeloMotivoCerto) {
+    EXPECT_EQ(ConferirCei(u"000000000000"), mrNenhum);
+    EXPECT_EQ(ConferirCei(u"00.000.00000/00"), mrNenhum);
     EXPECT_EQ(ConferirCei(u"\t11.583.00249/85 "), mrNenhum);
     EXPECT_EQ(ConferirCei(u"11.583.00249/84"), mrDigito);
     EXPECT_EQ(ConferirCei(u"11583002498"), mrTamanho);
@@ -177,13 +207,19 @@ TEST(Cnh, RecusaPeloMotivoCerto) {
     const std::u16string megabyte(1 << 20, u'1');
     const TCaso casos[] = {
         {u"0", mrRepetido, mrRepetido, mrNenhum, "the integer 0"},
+        {u" 00", mrRepetido, mrRepetido, mrNenhum, "the integer 0 after blanks"},
         {u"00 ", mrRepetido, mrRepetido, mrRepetido, "a blank after it"},
+        {u"", mrRepetido, mrRepetido, mrRepetido, "empty"},
+        {u"11111111111", mrRepetido, mrRepetido, mrRepetido, "one digit"},
         {u"11111111112", mrRepetido, mrRepetido, mrRepetido, "the last digit does not save it"},
         {u"12345678900", mrNenhum, mrDigito, mrNenhum, "new format"},
+        {u"12345678909", mrNenhum, mrDigito, mrNenhum, "digit 11 takes no part"},
         {u"12345678910", mrDigito, mrDigito, mrDigito, "digit 10"},
         {u"2650306461", mrNenhum, mrNenhum, mrNenhum, "zero-filled; its ten digits pass the old format too"},
         {u"026.503.064-61", mrRepetido, mrRepetido, mrRepetido, "punctuation"},
+        {u"-2650306461", mrRepetido, mrRepetido, mrRepetido, "a sign"},
         {u"123456789", mrDigito, mrNenhum, mrNenhum, "old format"},
+        {u"12a", mrRepetido, mrRepetido, mrRepetido, "not a number"},
         {megabyte, mrRepetido, mrRepetido, mrRepetido, "too large for a number"},
     };
     for (const TCaso& caso : casos) {
@@ -242,10 +278,12 @@ TEST(Municipio, CadaPrefixoTemUmDigito) {
 }
 
 TEST(Municipio, RecusaPeloMotivoCerto) {
+    EXPECT_EQ(ConferirCodigoMunicipio(u"3550308"), mrNenhum);
     EXPECT_EQ(ConferirCodigoMunicipio(u" 355.030.8. "), mrNenhum);
     EXPECT_EQ(ConferirCodigoMunicipio(u"3550307"), mrDigito);
     EXPECT_EQ(ConferirCodigoMunicipio(u"355030x"), mrDigito) << "the last character is compared as text";
     EXPECT_EQ(ConferirCodigoMunicipio(u"355030"), mrTamanho);
+    EXPECT_EQ(ConferirCodigoMunicipio(u"35503088"), mrTamanho);
     EXPECT_EQ(ConferirCodigoMunicipioOficial(u"2.201.919"), mrNenhum);
     try {
         ConferirCodigoMunicipio(u"35x0308");
@@ -255,30 +293,39 @@ TEST(Municipio, RecusaPeloMotivoCerto) {
     }
 }
 
-/// A column of a file of the examples; no value of theirs is between quotes.
-std::vector<std::u16string> LerColuna(const char* AArquivo, int AColuna) {
+/// The column of that name of a file of the examples.
+std::vector<std::u16string> LerColuna(const char* AArquivo, const std::string& AColuna) {
     std::ifstream arquivo(std::string(ORY_PASTA_DO_PROJETO "/examples/") + AArquivo);
     std::vector<std::u16string> valores;
     std::string linha;
-    std::getline(arquivo, linha);  // the names of the columns
+    std::ptrdiff_t coluna = -1;
     while (std::getline(arquivo, linha)) {
-        if (linha.ends_with('\r')) linha.pop_back();
-        std::istringstream campos(linha);
-        std::string campo;
-        for (int i = 0; i <= AColuna; ++i) std::getline(campos, campo, ',');
-        valores.push_back(DeUtf8(campo));
+        if (!linha.empty() && linha.back() == '\r') linha.pop_back();
+        std::vector<std::string> campos(1);
+        bool aspas = false;
+        for (const char c : linha)
+            if (c == '"')
+                aspas = !aspas;
+            else if (c == ',' && !aspas)
+                campos.emplace_back();
+            else
+                campos.back() += c;
+        if (coluna < 0)
+            coluna = std::ranges::find(campos, AColuna) - campos.begin();
+        else
+            valores.push_back(DeUtf8(campos.at(static_cast<std::size_t>(coluna))));
     }
     return valores;
 }
 
 TEST(DadosReais, Bancos) {
-    const auto cnpjs = LerColuna("bancos.csv", 1);
+    const auto cnpjs = LerColuna("bancos.csv", "cnpj");
     EXPECT_EQ(cnpjs.size(), 511U);
     for (const auto& cnpj : cnpjs) EXPECT_TRUE(ValidouCnpjCpf(tiCNPJ, cnpj)) << ParaUtf8(cnpj);
 }
 
 TEST(DadosReais, Municipios) {
-    const auto codigos = LerColuna("municipios.csv", 0);
+    const auto codigos = LerColuna("municipios.csv", "codigo_municipio");
     EXPECT_EQ(codigos.size(), 5571U);
     std::set<std::u16string> fora;
     for (const auto& codigo : codigos) {

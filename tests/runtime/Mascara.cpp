@@ -44,7 +44,10 @@ TEST(Mascara, ValorEdicaoEExibicao) {
         {CCpf, u"529982247259", u"529.982.247-25", u"529.982.247-259", u"52998224725", "display loses nothing"},
         {CCpf, u"5x2", u"52 .   .   -  ", u"5x2.   .   -  ", u"52", "an edit takes what the places take"},
         {CCpf, u"529.982.247-25", u"529.982.247-25", u"529..98.2.2-47-25", u"52998224725", "a text of the mask"},
+        {CCrc, u"1sp123456o5", u"1SP123456O5", u"1sp123456o5", u"1SP123456O5", "case switches"},
+        {CFone, u"11987654321", u"( 11)98765-4321", u"( 11)98765-4321", u"( 11)98765-4321", "aligned right"},
         {CFone, u"(011)98765-4321", u"(011)98765-4321", u"(011)98765-4321", u"(011)98765-4321", "with literals"},
+        {CFone, u"34567", u"(   )    3-4567", u"(   )    3-4567", u"(   )    3-4567", "short"},
         {CFone, u"(11) 98765-4321", u"( 11)98765-4321", u"(11) 98765-4321", u"( 11)98765-4321", "foreign text"},
         {CFone, u"", u"(   )     -    ", u"(   )     -    ", u"", "all empty stores nothing"},
         {u"00/00/0000;1;_", u"5/3/2024", u"5_/3_/2024", u"5/3/2024", u"5 /3 /2024", "separators jump"},
@@ -81,11 +84,14 @@ TEST(Mascara, ExamePeloMotivoCerto) {
     const TCaso casos[] = {
         {u"00000-000;0;_", u"01310-100", {}, true},
         {u"00000-000;0;_", u"01310100", {fmTamanho, 8}, true},
+        {u"00000-000;0;_", u"0131010", {fmTamanho, 7}, false},
         {u"00000-000;0;_", u"01310-1__", {fmIncompleto, 7}, false},
         {u"00000-000;0;_", u"01310.100", {fmLiteral, 5}, false},
         {u"00000-000;0;_", u"_1310-1x0", {fmCaractere, 7}, false},
         {u"00000-000;0;_", u"", {fmTamanho, 0}, false},
         {u"99999-999;0;_", u"", {fmTamanho, 0}, true},
+        {u"99999-999;0;_", u"013-10", {fmTamanho, 6}, false},
+        {CCrc, u"1sp123456o5", {}, true},
         {u"", u"x", {}, true},
     };
     for (const TCaso& caso : casos) {
@@ -127,6 +133,8 @@ TEST(Mascara, EdicaoViva) {
     constexpr std::u16string_view CData = u"99/99/9999;1;_";
     const TCaso casos[] = {
         {CCpf, u"529", u"529.   .   -  ", 4, "the caret goes past the literal"},
+        {CCpf, u"5299", u"529.9  .   -  ", 5, "and typing goes on behind it"},
+        {CCpf, u"52998224725", u"529.982.247-25", 14, "whole"},
         {CCpf, u"529982247251", u"529.982.247-25", 14, "no place left"},
         {CCpf, u"529.982.247-25", u"529.982.247-25", 14, "literals typed all the same"},
         {CCpf, u"5a2", u"52 .   .   -  ", 2, "a letter is refused"},
@@ -135,17 +143,19 @@ TEST(Mascara, EdicaoViva) {
         {CCpf, u"~", u"   .   .   -  ", 0, "nothing before"},
         {CCpf, u"529<<^", u"5 9.   .   -  ", 1, "delete empties, nothing moves"},
         {CCpf, u"529<^^", u"52 .   .   -  ", 2, "again: still there"},
+        {CCpf, u"529[^", u" 29.   .   -  ", 0, "home"},
         {CCpf, u"52[]", u"52 .   .   -  ", 2, "end is behind the last character"},
         {CCpf, u"529[>>>>", u"529.   .   -  ", 5, "right skips the literal"},
         {CCpf, u"5299<<<1", u"519.9  .   -  ", 2, "left too; typing writes over"},
-        {CCpf, u"<]", u"   .   .   -  ", 0, "nothing before the start, and no last character"},
-        {CCpf, u"52998224725> ^", u"529.982.247-25", 14, "nothing behind the end"},
+        {CCpf, u"529982247259]>", u"529.982.247-25", 14, "at the end"},
         {CData, u"12/05/2024", u"12/05/2024", 10, "separators after a whole group"},
+        {CData, u"1/5/2024", u"1_/5_/2024", 10, "and after part of one"},
         {CData, u"12 ", u"12/_", 4, "a space leaves a place empty"},
         {CCrc, u"1sp123456o5", u"1SP123456O5", 11, "case as typed"},
         {CFone, u"11987654321", u"(119)87654-321 ", 14, "aligned only when left"},
+        {u"#9;0; ", u"+5", u"+5", 2, "sign"},
         {u"CC;0;_", u"e\u0301", u"e\u0301", 2, "a combining mark takes a place"},
-        {u"CC;0;_", u"\xD83D\xDE00\t\x85", u"__", 0, "beyond a place: refused"},
+        {u"CC;0;_", u"\xD83D\xDE00\t", u"__", 0, "beyond a place: refused"},
     };
     for (const TCaso& caso : casos) {
         const TMascara mascara = Mascara(caso.Mascara);
@@ -175,6 +185,7 @@ TEST(Mascara, SelecaoEColagem) {
         {CCpf, {}, u" CPF: 529 982 247 25\r\n", {u"529.982.247-25", 14, 14}, "from a letter"},
         {CCpf, {u"529.982.247-25", 4, 7}, u"11", {u"529.11 .247-25", 6, 6}, "over a selection"},
         {CCpf, {u"529.982.247-25", 14, 0}, u"1", {u"1  .   .   -  ", 1, 1}, "over everything"},
+        {CCpf, {u"529.982.247-25", 14, 14}, u"9", {u"529.982.247-25", 14, 14}, "no place left"},
         {CCpf, {u"529.982.247-25", 99, 99}, u"9", {u"529.982.247-25", 14, 14}, "a caret outside"},
         {CCpf, {u"52998224725", 0, 0}, u"1", {u"129.982.247-25", 1, 1}, "a text not yet in the mask"},
         {u"99999-999;0;_", {}, u"1____-__5", {u"1____-__5", 9, 9}, "empty places of a text in the mask stay"},
@@ -210,6 +221,38 @@ TEST(Mascara, ValorVaiEVolta) {
             const std::u16string valor = m.ParaValor(edicao);
             ASSERT_EQ(ParaUtf8(m.ParaEdicao(valor)), ParaUtf8(edicao)) << ParaUtf8(mascara) << ": " << ParaUtf8(texto);
             ASSERT_EQ(m.ParaValor(valor), valor) << ParaUtf8(mascara) << ": " << ParaUtf8(texto);
+        }
+    }
+}
+
+TEST(Mascara, QualquerGestoDeixaUmTextoDaMascara) {
+    const auto semente = std::random_device{}();
+    SCOPED_TRACE(semente);
+    std::mt19937 sorteio(semente);
+    for (const std::u16string_view mascara : CMascaras) {
+        const TMascara m = Mascara(mascara);
+        TEdicaoMascara edicao;
+        for (int i = 0; i < 3000; ++i) {
+            switch (sorteio() % 8) {
+                case 0:
+                    edicao.Cursor = sorteio() % 40;
+                    break;
+                case 1:
+                    edicao.Ancora = sorteio() % 40;
+                    break;
+                case 2:
+                    edicao = m.Teclar(edicao, static_cast<TTeclaMascara>(sorteio() % 6));
+                    break;
+                case 3:
+                    edicao = m.Colar(edicao, std::u16string(sorteio() % 9, static_cast<char16_t>(sorteio() % 256)));
+                    break;
+                default:
+                    edicao = m.Digitar(edicao, static_cast<char16_t>(sorteio() % (i % 2 ? 128 : 65536)));
+            }
+            const TFalhaMascara falha = m.Ajustar(edicao).Texto == edicao.Texto ? m.Examinar(edicao.Texto).Falha
+                                        : edicao.Texto.empty()                  ? fmNenhuma
+                                                                                : fmTamanho;
+            ASSERT_TRUE(falha == fmNenhuma || falha == fmIncompleto) << ParaUtf8(mascara) << ParaUtf8(edicao.Texto);
         }
     }
 }

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -28,13 +29,18 @@ TEST(NumeroTexto, InteiroDe64Bits) {
         const char* Porque;
     };
     const TCaso casos[] = {
+        {u"0", 0, "zero"},
         {u"-0", 0, "signed zero"},
         {u" \t12", 12, "blanks before"},
         {u"+12", 12, "plus sign"},
         {u"12 ", {}, "a blank after"},
         {u"", {}, "empty"},
+        {u"  ", {}, "blanks alone"},
         {u"-", {}, "a sign alone"},
+        {u"--1", {}, "two signs"},
         {u"- 1", {}, "blank after the sign"},
+        {u"1.0", {}, "a separator"},
+        {u"$FF", {}, "hexadecimal is not decimal"},
         {u"１２", {}, "full-width digits are not digits"},
         {u"9223372036854775807", std::numeric_limits<std::int64_t>::max(), "largest"},
         {u"9223372036854775808", {}, "one more than the largest"},
@@ -74,6 +80,7 @@ TEST(NumeroTexto, LeituraDePontoFlutuante) {
         {u"1,5", 1.5L, "the separator of the formats"},
         {u"1.5", {}, "another separator"},
         {u" -1,5 ", -1.5L, "blanks at both ends"},
+        {u"1 5", {}, "a blank inside"},
         {u",5", 0.5L, "no digit before"},
         {u"5,", 5.0L, "no digit after"},
         {u",", {}, "no digit at all"},
@@ -82,10 +89,17 @@ TEST(NumeroTexto, LeituraDePontoFlutuante) {
         {u"1E+3", 1000.0L, "exponent with sign"},
         {u"25E-1", 2.5L, "negative exponent"},
         {u"1E", {}, "exponent without digits"},
+        {u"E5", {}, "exponent alone"},
         {u"1E5,0", {}, "exponents are integers"},
         {u"1E99999", {}, "too large"},
         {u"1E-99999", 0.0L, "too small"},
         {u"0E99999999999999999999", 0.0L, "zero whatever the exponent"},
+        {u"INF", {}, "words are not numbers"},
+        {u"0x10", {}, "hexadecimal"},
+        {u"18446744073709551615", 18446744073709551615.0L, "largest 64-bit mantissa"},
+        {u"18446744073709551617", 18446744073709551616.0L, "half way: to even"},
+        {u"18446744073709551619", 18446744073709551620.0L, "half way: to even, up"},
+        {u"18446744073709551617,00000000000000000000000000000000000001", 18446744073709551618.0L, "above half way"},
     };
     for (const TCaso& caso : casos)
         EXPECT_EQ(TentarTextoParaExtended(caso.Texto, Virgula()), caso.Esperado) << caso.Porque;
@@ -97,22 +111,79 @@ TEST(NumeroTexto, LeituraDePontoFlutuante) {
     EXPECT_EQ(TentarTextoParaExtended(u"0." + zeros + u"7E1048577", CPonto), 7.0L);
 }
 
-// Any decimal text, subnormals included, compared with the reader of the C library.
+/// A random extended float of any magnitude, subnormals included.
+Extended Sortear(std::mt19937_64& AGerador) {
+    const auto mantissa = static_cast<Extended>(AGerador());
+    return std::ldexp(mantissa, static_cast<int>(AGerador() % 32900) - 16510);
+}
+
+std::string EscreverMaisCurto(Extended AValor) {
+    std::array<char, 6000> texto{};
+    return {texto.data(), std::to_chars(texto.data(), texto.data() + texto.size(), AValor).ptr};
+}
+
+// The shortest text that tells a number from its neighbours is written by the standard library; reading gives it back.
+TEST(NumeroTexto, LeituraDesfazAEscrita) {
+    const auto semente = std::random_device{}();
+    std::mt19937_64 gerador(semente);
+    for (int i = 0; i < 5000; ++i) {
+        const Extended valor = Sortear(gerador);
+        if (std::isinf(valor)) continue;
+        const std::string texto = EscreverMaisCurto(valor);
+        EXPECT_EQ(TentarTextoParaExtended(DeUtf8(texto), CPonto), valor) << texto << " seed " << semente;
+    }
+    for (const Extended valor : {std::numeric_limits<Extended>::max(), std::numeric_limits<Extended>::min(),
+                                 std::numeric_limits<Extended>::denorm_min()})
+        EXPECT_EQ(TentarTextoParaExtended(DeUtf8(EscreverMaisCurto(valor)), CPonto), valor);
+}
+
+// Any decimal text, compared with the reader of the C library.
 TEST(NumeroTexto, LeituraArredondaCerto) {
     const auto semente = std::random_device{}();
     std::mt19937_64 gerador(semente);
     for (int i = 0; i < 5000; ++i) {
         std::string texto;
-        const int expoente_maximo = i % 2 ? 40 : 9900;
+        const int expoente_maximo = i % 2 ? 40 : 4900;
         for (auto n = gerador() % (i % 100 == 0 ? 3000 : 40) + 1; n > 0; --n)
             texto += static_cast<char>('0' + gerador() % 10);
         texto.insert(gerador() % texto.size(), ".");
-        texto += "E" + std::to_string(static_cast<int>(gerador() % 9900) % expoente_maximo - expoente_maximo / 2);
+        texto += "E" + std::to_string(static_cast<int>(gerador() % 9800) % expoente_maximo - expoente_maximo / 2);
         // What is too large is refused here and infinite there.
         const Extended outro = std::strtold(texto.c_str(), nullptr);
         EXPECT_EQ(TentarTextoParaExtended(DeUtf8(texto), CPonto),
                   std::isinf(outro) ? std::nullopt : std::optional(outro))
             << texto << " seed " << semente;
+    }
+}
+
+TEST(NumeroTexto, PontosMedios) {
+    // The exact middle between two neighbours, all of its digits written out: 2^64 + 1, scaled by powers of two.
+    const auto semente = std::random_device{}();
+    std::mt19937_64 gerador(semente);
+    for (int i = 0; i < 200; ++i) {
+        const std::uint64_t mantissa = gerador() | std::uint64_t{1} << 63;
+        // (2m + 1) * 5^n is the middle point of m and m + 1 times 10^n / 2^(n-1)
+        const int n = static_cast<int>(gerador() % 60);
+        std::string digitos = std::to_string(mantissa);
+        const auto multiplicar = [](std::string AValor, int AFator, int AParcela) {
+            int sobra = AParcela;
+            for (std::size_t k = AValor.size(); k-- > 0;) {
+                sobra += (AValor[k] - '0') * AFator;
+                AValor[k] = static_cast<char>('0' + sobra % 10);
+                sobra /= 10;
+            }
+            return sobra ? std::to_string(sobra) + AValor : AValor;
+        };
+        digitos = multiplicar(digitos, 2, 1);
+        for (int k = 0; k < n; ++k) digitos = multiplicar(digitos, 5, 0);
+        const std::string texto = digitos + "E-" + std::to_string(n);
+        const std::uint64_t par = mantissa + (mantissa & 1);
+        const Extended esperado = par == 0 ? std::ldexp(1.0L, 65 - n) : std::ldexp(static_cast<Extended>(par), 1 - n);
+        EXPECT_EQ(TentarTextoParaExtended(DeUtf8(texto), CPonto), esperado) << texto << " seed " << semente;
+        EXPECT_EQ(TentarTextoParaExtended(DeUtf8(digitos + "." + std::string(12000, '0') + "1E-" + std::to_string(n)),
+                                          CPonto),
+                  std::ldexp(static_cast<Extended>(mantissa), 1 - n) + std::ldexp(1.0L, 1 - n))
+            << "a digit far behind breaks the tie; seed " << semente;
     }
 }
 
@@ -126,16 +197,20 @@ TEST(NumeroTexto, EscritaGeral) {
         {0.0L, u"0", "zero"},
         {-0.0L, u"0", "zero has no sign"},
         {0.1L, u"0,1", "shortest"},
+        {0.1, u"0,1", "a double differs in the 17th digit only"},
         {1234.5L, u"1234,5", "plain"},
+        {-1234.5L, u"-1234,5", "sign"},
         {100, u"100", "zeros before the separator stay"},
         {0.0001L, u"0,0001", "smallest plain form"},
         {0.00001L, u"1E-5", "below it"},
         {-0.0000123L, u"-1,23E-5", "scientific with a fraction"},
         {999999999999999.0L, u"999999999999999", "fifteen digits"},
         {1E15L, u"1E15", "from here on scientific"},
+        {1.5E20L, u"1,5E20", "scientific with a fraction"},
         {999999999999999.5L, u"1E15", "rounds up to sixteen digits"},
         {100000000000000.5L, u"100000000000001", "a half goes away from zero"},
         {2.0L / 3, u"0,666666666666667", "fifteen digits of a fraction"},
+        {0.99999999999999999L, u"1", "rounds up to another order"},
         {std::numeric_limits<Extended>::max(), u"1,18973149535723E4932", "largest"},
         {std::numeric_limits<Extended>::denorm_min(), u"3,64519953188247E-4951", "smallest"},
         {std::numeric_limits<Extended>::infinity(), u"INF", "infinity"},
@@ -143,6 +218,19 @@ TEST(NumeroTexto, EscritaGeral) {
         {std::numeric_limits<Extended>::quiet_NaN(), u"NAN", "not a number"},
     };
     for (const TCaso& caso : casos) EXPECT_EQ(ExtendedParaTexto(caso.Valor, Virgula()), caso.Esperado) << caso.Porque;
+}
+
+TEST(NumeroTexto, EscritaVoltaComQuinzeDigitos) {
+    const auto semente = std::random_device{}();
+    std::mt19937_64 gerador(semente);
+    for (int i = 0; i < 5000; ++i) {
+        const auto digitos = static_cast<std::int64_t>(gerador() % 1'000'000'000'000'000);
+        const int expoente = i % 2 ? static_cast<int>(gerador() % 9000) - 4500 : static_cast<int>(gerador() % 20) - 16;
+        const std::u16string texto = InteiroParaTexto(digitos) + u"E" + InteiroParaTexto(expoente);
+        const Extended valor = TextoParaExtended(texto, CPonto);
+        EXPECT_EQ(TextoParaExtended(ExtendedParaTexto(valor, CPonto), CPonto), valor)
+            << ParaUtf8(texto) << " seed " << semente;
+    }
 }
 
 TEST(NumeroTexto, Zeros) {
@@ -158,11 +246,14 @@ TEST(NumeroTexto, Zeros) {
         {1234, 3, u"1234", "longer than asked"},
         {-7, 3, u"-007", "the sign before the zeros"},
         {0.5L, 1, u"1", "a half goes away from zero"},
+        {1.5L, 1, u"2", "a half goes away from zero"},
         {-2.5L, 1, u"-3", "a half goes away from zero"},
         {0.49999999999999999997L, 1, u"0", "below a half by the last bit"},
         {-0.4L, 2, u"00", "no sign before zeros alone"},
         {9999.5L, 4, u"10000", "one digit more"},
+        {99999999999999.0L, 14, u"99999999999999", "fourteen digits exact"},
         {9223372036854775807.5L, 1, u"9223372036854775808", "around the 64-bit edge"},
+        {18446744073709551615.0L, 21, u"018446744073709551615", "the largest mantissa"},
         {1e30L, 1, u"1000000000000000000024696061952", "the value itself, not its short text"},
         {std::numeric_limits<Extended>::quiet_NaN(), 3, u"000", "not finite"},
     };

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 namespace {
 
 using OryUtils::DeUtf8;
@@ -42,16 +44,32 @@ TEST(Utf, MalformadoViraSubstituto) {
         {"\xF4\x90\x80\x80", u"\uFFFD\uFFFD\uFFFD\uFFFD", "above U+10FFFF"},
         {"\xE2\x82", u"\uFFFD", "cut at the end: one for the whole part"},
         {"\xE2\x82x", u"\uFFFDx", "cut by a letter"},
+        {"\xF0\x9F\x98", u"\uFFFD", "four bytes cut at three"},
         {"\xFF", u"\uFFFD", "never a byte of UTF-8"},
     };
     for (const TCaso& c : casos) {
         EXPECT_EQ(DeUtf8(c.Bytes), c.Texto) << c.Porque;
         EXPECT_FALSE(EhUtf8Valido(c.Bytes)) << c.Porque;
     }
-    const char16_t soltos[] = {u'a', 0xD83D, u'b', 0xDE00, 0xD800, 0xE000};
+    const char16_t soltos[] = {u'a', 0xD83D, u'b', 0xDE00, 0xD800};
     EXPECT_EQ(ParaUtf8({soltos, std::size(soltos)}),
               "a\xEF\xBF\xBD"
-              "b\xEF\xBF\xBD\xEF\xBF\xBD\xEE\x80\x80");
+              "b\xEF\xBF\xBD\xEF\xBF\xBD");
+}
+
+TEST(Utf, BytesAoAcasoDaoSempreTextoValido) {
+    const auto semente = std::random_device{}();
+    SCOPED_TRACE(semente);
+    std::mt19937 sorteio(semente);
+    for (int rodada = 0; rodada < 2000; ++rodada) {
+        std::string bytes(sorteio() % 24, '\0');
+        for (char& c : bytes) c = static_cast<char>(sorteio());
+        const std::string volta = ParaUtf8(DeUtf8(bytes));
+        ASSERT_TRUE(EhUtf8Valido(volta));
+        if (EhUtf8Valido(bytes)) {
+            ASSERT_EQ(volta, bytes);
+        }
+    }
 }
 
 TEST(Utf, Windows1252) { EXPECT_EQ(DeWindows1252("S\xE3o Jo\xE3o \x80 \x93\x94 \x81"), u"São João € “” \u0081"); }

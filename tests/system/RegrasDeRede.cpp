@@ -13,6 +13,11 @@ using Testes::TLista;
 
 namespace {
 
+constexpr std::u16string_view CTabelaArp =
+    u"\r\nInterface: 192.168.0.10 --- 0x3\r\n  Endereço IP           Endereço físico       Tipo\r\n"
+    u"  192.168.0.1           00-1a-2b-3c-4d-5e     dinâmico\r\n"
+    u"  192.168.0.255         ff-ff-ff-ff-ff-ff     estático\r\n";
+
 TEST(ArpDoSistema, EnderecosDasLinhasDeInterface) {
     struct TCaso {
         TLista Linhas, Enderecos;
@@ -53,12 +58,29 @@ std::u16string ExtrairDevagar(const std::u16string& ATexto) {
 }
 
 TEST(ArpDoSistema, EnderecoMacNoTexto) {
+    struct TCaso {
+        std::u16string_view Texto, Mac;
+        const char* Porque;
+    };
+    const TCaso casos[] = {
+        {CTabelaArp, u"00-1A-2B-3C-4D-5E", "the first one, in upper case"},
+        {u"", u"", "empty"},
+        {u"192.168.0.1 -- 1-2 a- -ab", u"", "no two characters before a hyphen"},
+        {u"ab-", u"AB-", "the text ends early"},
+        {u"Data-base", u"TA-BASE", "any two characters, letters too"},
+        {u"1 a-\r\n-b-\r\nxy-z", u"XY-Z", "a blank and a hyphen are no half; lines are parted"},
+        {u"00-1a-2b-3c      12345", u"00-1A-2B-3C", "blanks at the end of the seventeen"},
+        {u"00-1a\r\n2b-3c", u"00-1A\r\n2B-3C", "the seventeen go on over the line end"},
+        {u"00-1a-2b-3c-4d-5e-6f", u"00-1A-2B-3C-4D-5E", "and no further"},
+    };
+    for (const TCaso& caso : casos)
+        EXPECT_EQ(TOryUtilsSistema::ExtrairEnderecoMACComandoARP(caso.Texto), caso.Mac) << caso.Porque;
+
     Testes::TSorteio sorteio;
     for (int vez = 0; vez < 20000; ++vez) {
         const bool hostil = vez % 4 == 0;
         const std::u16string texto = sorteio.Texto(hostil ? Testes::CHostis : u"a1é-- \t\r\n\r\n", 0, 40);
-        ASSERT_EQ(TOryUtilsSistema::ExtrairEnderecoMACComandoARP(texto), ExtrairDevagar(texto))
-            << sorteio.Semente() << " turn " << vez;
+        ASSERT_EQ(Sistema::ExtrairEnderecoMac(texto), ExtrairDevagar(texto)) << sorteio.Semente() << " turn " << vez;
     }
     EXPECT_EQ(Sistema::ExtrairEnderecoMac(std::u16string(1 << 20, u'-')), u"");
 }
@@ -97,6 +119,7 @@ TEST(ArpDoSistema, UmPingQuandoATabelaNaoTemEntradas) {
         {{{u"Nenhuma entrada ARP encontrada."}}, comPing, u"", "not there either; the language does not matter"},
         {{{u"no entries"}}, umaVez, u"", "only a capital N tells it"},
         {{{u" No ARP Entries Found."}}, umaVez, u"", "and only as the first character"},
+        {{{}}, umaVez, u"", "a command that printed nothing"},
     };
     for (const TCaso& caso : casos) {
         TTerminalDeTeste terminal{.Respostas = caso.Respostas};
@@ -116,6 +139,7 @@ TEST(EnderecoMac, FontesEmOrdem) {
     };
     const TCaso casos[] = {
         {u"10.0.0.9", {u"aa", u"aa"}, {u"bb"}, {}, u"aa", "n10.0.0.9 n10.0.0.9 ", "two equal answers are enough"},
+        {u"10.0.0.9", {u"", u""}, {u"bb"}, {}, u"", "n10.0.0.9 n10.0.0.9 ", "even when both are empty"},
         {u"10.0.0.9", {u"aa", u"ab"}, {u"bb"}, {}, u"bb", "n10.0.0.9 n10.0.0.9 a10.0.0.9 ", "the adapter decides"},
         {u"10.0.0.9", {u"aa", u"ab"}, {u"00-00"}, {}, u"aa", "n10.0.0.9 n10.0.0.9 a10.0.0.9 ", "zeros do not"},
         {u"10.0.0.9", {u"aa", u"ab"}, {u" ", u"bb"}, {}, u"aa", "n10.0.0.9 n10.0.0.9 a10.0.0.9 ", "only the first"},
@@ -129,14 +153,28 @@ TEST(EnderecoMac, FontesEmOrdem) {
         std::string perguntas;
         std::size_t vez = 0;
         const auto anotar = [&](char ATipo, std::u16string_view AIP) { perguntas += ATipo + ParaUtf8(AIP) + " "; };
-        const Sistema::TFontesDeEnderecoMac fontes{
-            .IPLocal = [] { return u"10.0.0.2"; },
-            .Rede = [&](std::u16string_view AIP) { return anotar('n', AIP), caso.Rede[vez++]; },
-            .Adaptadores = [&](std::u16string_view AIP) { return anotar('a', AIP), caso.Adaptadores; },
-            .TodosOsAdaptadores = [&] { return anotar('t', u""), caso.Todos; },
-            .ARP = [&](std::u16string_view AIP) { return anotar('p', AIP), u"pp"; },
-        };
-        EXPECT_EQ(Sistema::BuscarEnderecoMac(caso.IP, fontes), caso.Mac) << caso.Porque;
+        const std::u16string mac = Sistema::BuscarEnderecoMac(caso.IP, {.IPLocal = [] { return u"10.0.0.2"; },
+                                                                        .Rede =
+                                                                            [&](std::u16string_view AIP) {
+                                                                                anotar('n', AIP);
+                                                                                return caso.Rede[vez++];
+                                                                            },
+                                                                        .Adaptadores =
+                                                                            [&](std::u16string_view AIP) {
+                                                                                anotar('a', AIP);
+                                                                                return caso.Adaptadores;
+                                                                            },
+                                                                        .TodosOsAdaptadores =
+                                                                            [&] {
+                                                                                anotar('t', u"");
+                                                                                return caso.Todos;
+                                                                            },
+                                                                        .ARP =
+                                                                            [&](std::u16string_view AIP) {
+                                                                                anotar('p', AIP);
+                                                                                return std::u16string(u"pp");
+                                                                            }});
+        EXPECT_EQ(mac, caso.Mac) << caso.Porque;
         EXPECT_EQ(perguntas, caso.Perguntas) << caso.Porque;
     }
 }
@@ -161,14 +199,13 @@ TEST(EnderecoMac, IPLocal) {
     };
     for (const TCaso& caso : casos) {
         bool consultou = false;
-        const Sistema::TFontesDeIPLocal fontes{
-            .NomeComputador = [] { return u"PC1"; },
-            .IPLocal = [] { return u"10.0.0.2"; },
-            .ListaViaARP =
-                [&] {
-                    return consultou = true, TLista{u"fe80::1", u"10.0.1.2"};
-                },
-        };
+        const Sistema::TFontesDeIPLocal fontes{.NomeComputador = [] { return u"PC1"; },
+                                               .IPLocal = [] { return u"10.0.0.2"; },
+                                               .ListaViaARP =
+                                                   [&] {
+                                                       consultou = true;
+                                                       return TLista{u"fe80::1", u"10.0.1.2"};
+                                                   }};
         EXPECT_EQ(Sistema::EhIPLocal(caso.IP, caso.ConsultarARP, fontes), caso.Local) << caso.Porque;
         EXPECT_EQ(consultou, caso.ConsultarARP) << caso.Porque;
     }
@@ -185,6 +222,9 @@ TEST(ArpDoSistema, ProgramasDeVerdade) {
     programas.Por("arp", {"No ARP Entries Found.\n", "  10.0.0.7   aA-bB-cc-dd-ee-01   dynamic\n"});
     EXPECT_EQ(BuscarEnderecoMacViaARP(u"10.0.0.7"), u"AA-BB-CC-DD-EE-01");
     EXPECT_EQ(programas.LerChamadas(), "arp|-a|10.0.0.7\nping|10.0.0.7|-i|1|-n|2\narp|-a|10.0.0.7\n");
+    programas.Por("arp", {"nO entries\n"});
+    EXPECT_EQ(BuscarEnderecoMacViaARP(u"10.0.0.8"), u"");
+    EXPECT_EQ(programas.LerChamadas(), "arp|-a|10.0.0.8\n");
 }
 
 }  // namespace

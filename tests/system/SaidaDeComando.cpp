@@ -1,9 +1,12 @@
 #include "oryutils/system/interno/SaidaDeComando.hpp"
 
 #include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/runtime/Utf.hpp"
 #include "oryutils/system/interno/Executor.hpp"
 
-#include "text/Apoio.hpp"
+#include <gtest/gtest.h>
+
+#include <random>
 
 namespace OryUtils::Sistema {
 namespace {
@@ -36,10 +39,37 @@ void LerParte(TLinhas& ALinhas, std::string_view AParte) {
     ALinhas = LinhasDe(JuntarLinhas(ALinhas) + std::u16string(Aparar(DeUtf8(AParte))));
 }
 
+std::string Linha(std::size_t ATamanho, char ALetra) { return std::string(ATamanho, ALetra); }
+
+TEST(SaidaDeComando, OQueSePerdeNasEmendas) {
+    struct TCaso {
+        std::string Saida;
+        TLinhas Esperado;
+        const char* Porque;
+    };
+    const auto largo = [](const std::string& ATexto) { return std::u16string(ATexto.begin(), ATexto.end()); };
+    const TCaso casos[] = {
+        {"", {}, "nothing printed"},
+        {" \r\n\t ", {}, "nothing but blanks"},
+        {"\r\n um \r\n\n dois\rtres\n", {u"um ", u"", u" dois", u"tres"}, "only the ends of the chunk are trimmed"},
+        {Linha(254, 'a') + "\nb", {largo(Linha(254, 'a') + "b")}, "a line break at the end of a chunk fuses two lines"},
+        {Linha(255, 'a') + "\nb", {largo(Linha(255, 'a') + "b")}, "so does one at the beginning"},
+        {Linha(254, 'a') + "\r\nb", {largo(Linha(254, 'a') + "b")}, "and one cut in two"},
+        {Linha(251, 'a') + "\nb\nc", {largo(Linha(251, 'a')), u"b", u"c"}, "inside a chunk it stays"},
+        {Linha(254, 'a') + "\xC3\xA7z",
+         {largo(Linha(254, 'a')) + u"\xFFFD\xFFFDz"},
+         "each half of a cut letter is malformed"},
+        {Linha(253, 'a') + "\xC3\xA7z", {largo(Linha(253, 'a')) + u"çz"}, "a letter that just fits"},
+        {std::string("um\0dois", 7) + Linha(248, 'x') + "fim", {u"umfim"}, "a chunk ends at its zero byte"},
+    };
+    for (const TCaso& caso : casos) EXPECT_EQ(LinhasDaSaidaDeComando(caso.Saida), caso.Esperado) << caso.Porque;
+}
+
 TEST(SaidaDeComando, IgualAoLacoDe255BytesQueJuntaTudoDeNovo) {
-    Testes::TSorteio sorteio;
+    const unsigned semente = std::random_device{}();
+    std::mt19937 sorteio(semente);
     const auto ate = [&](std::size_t ALimite) {
-        return static_cast<std::size_t>(sorteio.Numero(0, static_cast<int>(ALimite)));
+        return std::uniform_int_distribution<std::size_t>(0, ALimite)(sorteio);
     };
     const std::string_view pedacos[] = {"a",  "b",  " ", " ",    "\r\n", "\n",   "\n",
                                         "\r", "\t", "ç", "\xC3", "😀",    "\xFF", std::string_view("\0", 1)};
@@ -73,11 +103,30 @@ TEST(SaidaDeComando, IgualAoLacoDe255BytesQueJuntaTudoDeNovo) {
             alvo.FecharParte();
             em_texto.FecharParte();
         }
-        ASSERT_EQ(obtido, esperado) << sorteio.Semente() << ", round " << rodada;
+        ASSERT_EQ(obtido, esperado) << "seed " << semente << ", round " << rodada;
         if (vazia) {
-            ASSERT_EQ(texto, JuntarLinhas(esperado)) << sorteio.Semente() << ", round " << rodada;
+            ASSERT_EQ(texto, JuntarLinhas(esperado)) << "seed " << semente << ", round " << rodada;
         }
     }
+}
+
+// Long enough for the text and the list to move more than once.
+TEST(SaidaDeComando, UmaSaidaLongaNaoPerdeNada) {
+    std::string saida;
+    for (int i = 0; saida.size() < 3'000'000; ++i) saida += std::to_string(i) + "\r\n";
+    std::u16string esperado;
+    for (std::size_t i = 0; i < saida.size(); i += 255) {
+        const std::u16string parte(saida.begin() + static_cast<std::ptrdiff_t>(i),
+                                   saida.begin() + static_cast<std::ptrdiff_t>(std::min(i + 255, saida.size())));
+        esperado += Aparar(parte);
+    }
+    std::u16string texto;
+    TSaidaEmTexto destino(texto);
+    TSaidaDeComando em_texto(destino, [](std::string_view ABytes) { return DeUtf8(ABytes); });
+    em_texto.Receber(saida);
+    em_texto.FecharParte();
+    EXPECT_TRUE(texto == esperado);
+    EXPECT_TRUE(JuntarLinhas(LinhasDaSaidaDeComando(saida)) == esperado);
 }
 
 }  // namespace

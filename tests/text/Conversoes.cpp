@@ -1,7 +1,8 @@
 #include "oryutils/runtime/Caixa.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/runtime/Utf.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
+
+#include "text/Apoio.hpp"
 
 #include <gtest/gtest.h>
 
@@ -10,13 +11,21 @@
 namespace {
 
 using S = OryUtils::TOryUtilsStrings;
+using Testes::CHostis;
+using Testes::TSorteio;
 
 TEST(Strings, Base64Conhecido) {
     struct TCaso {
         std::u16string_view Texto, Base64;
     };
     constexpr TCaso CCasos[] = {
-        {u"", u""}, {u"f", u"Zg=="}, {u"fooba", u"Zm9vYmE="}, {u"Ação", u"QcOnw6Nv"}, {u"\U0001F600>?", u"8J+YgD4/"},
+        {u"", u""},
+        {u"f", u"Zg=="},
+        {u"fo", u"Zm8="},
+        {u"foo", u"Zm9v"},
+        {u"fooba", u"Zm9vYmE="},
+        {u"Ação", u"QcOnw6Nv"},
+        {u"\U0001F600>?", u"8J+YgD4/"},
     };
     for (const TCaso& c : CCasos) {
         EXPECT_EQ(S::ConverterTextoParaBase64(c.Texto), c.Base64);
@@ -35,6 +44,18 @@ TEST(Strings, Base64Recusado) {
         FAIL();
     } catch (const OryUtils::EConvertError& falha) {
         EXPECT_EQ(falha.GetMensagem(), u"O texto não está em Base64: caractere inválido na posição 3.");
+    }
+}
+
+TEST(Strings, Base64VaiEVolta) {
+    TSorteio sorteio;
+    for (int i = 0; i < 20000; ++i) {
+        const std::u16string texto = sorteio.Texto(CHostis, 0, 20);
+        ASSERT_EQ(S::ConverterBase64ParaTexto(S::ConverterTextoParaBase64(texto)), texto) << sorteio.Semente();
+    }
+    for (unsigned c = 0; c <= 0xFFFF; ++c) {
+        const std::u16string texto(1, static_cast<char16_t>(c));
+        ASSERT_EQ(S::ConverterBase64ParaTexto(S::ConverterTextoParaBase64(texto)), texto) << c;
     }
 }
 

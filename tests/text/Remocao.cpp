@@ -39,10 +39,14 @@ TEST(Strings, Remocao) {
         {OryUtils::RemoverCaracter(u"\u2013a\u20ACb\u2013", u"\u20AC\u2013\u2013"), u"ab", "characters above code 255"},
         {OryUtils::RemoverCaracteres({u'a'}, u"Banana"), u"Bnn", ""},
         {OryUtils::RemoverCaracteres({u'É', u'a'}, u"éÉAae"), u"e", "ignores case, accents too"},
+        {OryUtils::RemoverCaracterSomenteDeStrings(u" 'a,b',c ", u'x'), u"'a b',c", "the comma, whatever is asked"},
         {OryUtils::RemoverCaracterSomenteDeStrings(u"a,'b,'',c,", u','), u"a,'b '' c ", "each quote toggles"},
         {TOryUtilsStrings::SubstituirCaracteresAcentuados(u"a é.1", u"<>"), u"a<><>.1", "longer than one"},
-        {OryUtils::SubstituirCaracteres(u"abc", u"", u"x"), u"abc", "an empty text occurs nowhere"},
+        {TOryUtilsStrings::SubstituirCaracteresAcentuados(u"ç-ã", u""), u"", ""},
+        {OryUtils::SubstituirMultiplosTextos(u"abc", {u"a", u"b"}, {u"x"}, false), u"xc", "no partner: nothing"},
+        {OryUtils::SubstituirMultiplosTextos(u"abc", {u"a", u"xb"}, {u"x", u"y"}, false), u"yc", "on the result"},
         {OryUtils::SubstituirMultiplosTextos(u"São SÃO", {u"são"}, {u"x"}, true), u"x x", "ignoring case"},
+        {OryUtils::SubstituirMultiplosTextos(u"aaa", {u"aa"}, {u"aab"}, false), u"aaba", "what is put in is not seen"},
     };
     for (const TCaso& c : casos) EXPECT_EQ(c.Obtido, c.Esperado) << c.Porque;
 }
@@ -79,6 +83,17 @@ TEST(Strings, SubstituicaoPorPassosComoADevagar) {
         }
     }
     EXPECT_GT(semFim, 100) << "the endless ones must be among what is tried";
+}
+
+TEST(Strings, SubstituicaoPorPassos) {
+    EXPECT_EQ(OryUtils::SubstituirCaracteres(u"a.b.c", u".", u", "), u"a, b, c");
+    EXPECT_EQ(OryUtils::SubstituirCaracteres(u"xaay", u"aa", u"b"), u"xbay") << "only the first character goes";
+    EXPECT_EQ(OryUtils::SubstituirCaracteres(u"aAa", u"A", u""), u"aa");
+    EXPECT_EQ(OryUtils::SubstituirCaracteres(u"abc", u"", u"x"), u"abc") << "an empty text occurs nowhere";
+    EXPECT_EQ(OryUtils::SubstituirCaracteres(u"abc", u"x", u"xx"), u"abc") << "endless only where it occurs";
+    EXPECT_THROW(OryUtils::SubstituirCaracteres(u"abc", u"b", u"bb"), OryUtils::Exception);
+    EXPECT_THROW(OryUtils::SubstituirCaracteres(u"ababaa", u"abaa", u"aab"), OryUtils::Exception)
+        << "endless only because of what stands before it";
 }
 
 std::u16string TrocarDevagar(std::u16string_view ATexto, const std::u16string& AAntigo, const std::u16string& ANovo) {
