@@ -133,21 +133,6 @@ TEST_F(FormsWin32, OFormularioVeAsTeclasAntesDoControle) {
     ::CloseClipboard();
 }
 
-TEST_F(FormsWin32, OQueOFocoSoAtravessouNaoFoiDeixado) {
-    TFormulario formulario;
-    formulario.SetTitulo(u"Saída");
-    auto& a = Por<TCaixaEdicao>(formulario, u"", {0, 0, 100, 22});
-    auto& b = Por<TCaixaEdicao>(formulario, u"", {0, 30, 100, 22});
-    int deA = 0, deB = 0;
-    TAcao sairA([&] { ++deA, a.ReceberFoco(), Abort(); });
-    TAcao sairB([&] { ++deB; });
-    a.OnSair = sairA.Evento();
-    b.OnSair = sairB.Evento();
-    Executar(formulario, {[] { Tecla(VK_TAB); }, [] { Tecla(VK_TAB); }, [&] { formulario.Fechar(); }});
-    EXPECT_EQ(deA, 2);
-    EXPECT_EQ(deB, 0) << "the focus came back from it before anybody was there";
-}
-
 TEST_F(FormsWin32, RedimensionarAvisaComOTamanhoNovo) {
     TFormulario formulario;
     formulario.SetTitulo(u"Tamanho");

@@ -125,9 +125,11 @@ struct TCasoDeSaida {
     std::string_view Esperado;
     const char* Porque;
 };
+constexpr auto CTeclarTab = [](TUsuario& u) { u.Teclar(CTab); };
 constexpr auto CClicarSalvar = [](TUsuario& u) { u.ClicarComMouse(u"&Salvar"); };
 constexpr TCasoDeSaida CSaidas[] = {
-    {true, [](TUsuario& u) { u.Teclar(CTab); }, "saiu A.saiu B.", "left twice, both fine"},
+    {true, CTeclarTab, "saiu A.saiu B.", "left twice, both fine"},
+    {false, CTeclarTab, "saiu A.saiu A.", "the focus comes back from B before anybody is there"},
     {true, CClicarSalvar, "saiu A.clicou.clicou.", "the exit comes before the click"},
     {false, CClicarSalvar, "saiu A.saiu A.", "a refused exit drops the click"},
 };

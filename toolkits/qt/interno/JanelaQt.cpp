@@ -309,9 +309,12 @@ void TJanelaQt::GravarMemorandos() {
 // or show a message; but always before whatever the user did next.
 bool TJanelaQt::AvisarSaidas() {
     GravarMemorandos();
+    const bool antes = std::exchange(FAvisandoSaidas, true);
+    bool todas = true;
     for (TCaixaEdicao* caixa : std::exchange(FSaidas, {}))
-        if (!TGuardaQt::Executar([&] { caixa->OnSair(caixa); })) return false;
-    return true;
+        todas = todas && TGuardaQt::Executar([&] { caixa->OnSair(caixa); });
+    FAvisandoSaidas = antes;
+    return todas;
 }
 
 void TJanelaQt::Avisar(const std::function<void()>& AAcao) {
@@ -350,7 +353,9 @@ bool TJanelaQt::eventFilter(QObject* AObjeto, QEvent* AEvento) {
         case QEvent::FocusOut: {
             // A window or a menu that comes to the front takes nothing away from the form's own control.
             const Qt::FocusReason motivo = static_cast<QFocusEvent*>(AEvento)->reason();
-            const bool sai = motivo != Qt::ActiveWindowFocusReason && motivo != Qt::PopupFocusReason;
+            // Nor was anybody yet in a box that a handler takes the focus back from.
+            const bool sai =
+                motivo != Qt::ActiveWindowFocusReason && motivo != Qt::PopupFocusReason && !FAvisandoSaidas;
             if (!controle || !sai || controle->GetTipo() != tcCaixaEdicao) break;
             FSaidas.push_back(static_cast<TCaixaEdicao*>(controle));
             QMetaObject::invokeMethod(

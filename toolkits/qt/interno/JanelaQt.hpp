@@ -60,6 +60,7 @@ private:
     const QEvent* FTeclaTratada = nullptr;
     QEventLoop* FLaco = nullptr;
     std::vector<TCaixaEdicao*> FSaidas;
+    bool FAvisandoSaidas = false;
 };
 
 }  // namespace OryUtils
