@@ -30,7 +30,12 @@ std::string Descrever(Extended AValor, Extended AOutro) {
         por(operacao(AValor, AOutro));
     por(F::GetExponencial(AOutro, 7));
     por(F::GetExponencial(AOutro, 0.5L));
-    return texto;
+    F formula;
+    std::u16string passos = u"ABS(0-1/3)+(1/7)";
+    formula.ResolverFuncoes(passos);
+    formula.ResolverParenteses(passos);
+    por(formula.CalcularExpressao(passos));
+    return texto + ParaUtf8(passos);
 }
 
 }  // namespace
