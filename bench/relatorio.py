@@ -55,11 +55,10 @@ class Medidas:
         tempos = [t for lista in self.rodadas.get(nome, {}).values() for t in lista]
         return statistics.median(tempos) if tempos else None
 
-    def faixa(self, nome, outro):
-        """The least and the greatest ratio of the medians of a round: outro / nome."""
+    def razoes(self, nome, outro):
+        """outro / nome in each round, of the medians of that round: what the machine did to a round it did to both."""
         comuns = self.rodadas.get(nome, {}).keys() & self.rodadas.get(outro, {}).keys()
-        razoes = [statistics.median(self.rodadas[outro][r]) / statistics.median(self.rodadas[nome][r]) for r in comuns]
-        return (min(razoes), max(razoes)) if razoes else None
+        return [statistics.median(self.rodadas[outro][r]) / statistics.median(self.rodadas[nome][r]) for r in comuns]
 
 
 def escrever_tempo(ns):
@@ -81,8 +80,9 @@ class Linha:
         self.nosso = medidas.mediana(operacao.medida)
         self.dele = medidas.mediana(par.medida) if par else None
         self.limite = medidas.mediana(operacao.limite) if operacao.limite else None
-        self.vezes = self.dele / self.nosso if self.nosso and self.dele else None
-        self.faixa = medidas.faixa(operacao.medida, par.medida) if par else None
+        razoes = medidas.razoes(operacao.medida, par.medida) if par else []
+        self.vezes = statistics.median(razoes) if razoes else None
+        self.faixa = (min(razoes), max(razoes)) if razoes else None
 
     @property
     def cumpriu(self):
@@ -95,7 +95,7 @@ class Linha:
             return ""
         if self.vezes is None:
             return "not measured"
-        menor, maior = self.faixa or (self.vezes, self.vezes)
+        menor, maior = self.faixa
         if self.par.tipo == "vezes" or (not self.par.meta and self.vezes >= 1):
             return f"{escrever_numero(self.vezes)} times as fast ({escrever_numero(menor)} to {escrever_numero(maior)})"
         return (f"{escrever_numero(1 / self.vezes)} of its time "
