@@ -5,7 +5,7 @@
 #include "oryutils/runtime/FormatoDataHora.hpp"
 #include "oryutils/runtime/FormatoNumero.hpp"
 #include "oryutils/runtime/Mascara.hpp"
-#include "oryutils/runtime/interno/PrecisaoPlena.hpp"
+#include "oryutils/runtime/interno/ValorDeMoeda.hpp"
 
 #include <algorithm>
 #include <array>
@@ -26,11 +26,10 @@ bool EhCampoDeData(TFieldType ATipo) {
 
 /// The number of a value that is one.
 std::optional<Extended> BuscarNumero(const Variant& AValor) {
-    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { return BuscarNumero(AValor); });
     const Variant::TValor& valor = AValor.GetValor();
     if (const auto* inteiro = std::get_if<std::int64_t>(&valor)) return static_cast<Extended>(*inteiro);
     if (const auto* decimal = std::get_if<Extended>(&valor)) return *decimal;
-    if (const auto* moeda = std::get_if<TMoeda>(&valor)) return static_cast<Extended>(moeda->DezMilesimos) / 10000;
+    if (const auto* moeda = std::get_if<TMoeda>(&valor)) return BuscarValorDaMoeda(*moeda);
     return std::nullopt;
 }
 
@@ -93,6 +92,7 @@ std::u16string TNumericField::Formatar(std::u16string_view AFormato) const {
 }
 
 Variant TNumericField::Converter(const Variant& AValor) const {
+    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { return Converter(AValor); });
     if (const std::u16string* texto = AValor.GetTexto()) return LerTexto(*texto);
     const auto numero = BuscarNumero(AValor);
     if (!numero) RecusarTipo();

@@ -3,6 +3,7 @@
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
 #include "oryutils/runtime/interno/PrecisaoPlena.hpp"
+#include "oryutils/runtime/interno/ValorDeMoeda.hpp"
 
 #include <algorithm>
 #include <array>
@@ -67,7 +68,7 @@ Extended ConverterEmNumero(const Variant& AValor) {
     if (const auto* logico = std::get_if<bool>(&valor)) return *logico ? -1 : 0;
     if (const auto* inteiro = std::get_if<std::int64_t>(&valor)) return static_cast<Extended>(*inteiro);
     if (const auto* decimal = std::get_if<Extended>(&valor)) return *decimal;
-    if (const auto* moeda = std::get_if<TMoeda>(&valor)) return static_cast<Extended>(moeda->DezMilesimos) / CDezMil;
+    if (const auto* moeda = std::get_if<TMoeda>(&valor)) return BuscarValorDaMoeda(*moeda);
     if (const auto* data = std::get_if<TDateTime>(&valor)) return data->Valor;
     if (const auto* texto = AValor.GetTexto())
         if (const auto numero = TentarTextoParaExtended(*texto)) return *numero;

@@ -3,6 +3,7 @@
 #include "oryutils/runtime/Caixa.hpp"
 #include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/Modelo.hpp"
+#include "oryutils/runtime/interno/ValorDeMoeda.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 #include "oryutils/system/interno/ChavesDoRegistro.hpp"
 #include "oryutils/system/interno/CotaObjetosGDI.hpp"
@@ -42,7 +43,7 @@ struct TGravacao {
         Registro.WriteInteger(Valor, static_cast<std::int32_t>(static_cast<std::uint32_t>(AConteudo)));
     }
     void operator()(Extended AConteudo) const { Registro.WriteFloat(Valor, static_cast<double>(AConteudo)); }
-    void operator()(TMoeda AConteudo) const { (*this)(static_cast<Extended>(AConteudo.DezMilesimos) / 10'000); }
+    void operator()(TMoeda AConteudo) const { (*this)(BuscarValorDaMoeda(AConteudo)); }
     void operator()(TDateTime AConteudo) const { (*this)(Extended{static_cast<double>(AConteudo)}); }
     void operator()(const std::u16string& AConteudo) const { Registro.WriteString(Valor, AConteudo); }
     void operator()(const auto&) const {}

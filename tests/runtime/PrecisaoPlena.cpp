@@ -1,6 +1,7 @@
 // The same digits whatever precision the calling program has set the processor to.
 #include "oryutils/runtime/interno/PrecisaoPlena.hpp"
 
+#include "oryutils/runtime/Campos.hpp"
 #include "oryutils/runtime/FormatoNumero.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
 #include "oryutils/runtime/Utf.hpp"
@@ -33,6 +34,11 @@ std::string Descrever(Extended AValor, std::u16string_view ATexto) {
     std::u16string textos = ExtendedParaTexto(AValor) + u' ' + FormatarZeros(AValor, 3) + u' ';
     textos += FormatarNumero(u",0.00", AValor) + u' ' + FormatarNumero(u"0.##E+00", AValor) + u' ';
     textos += VarianteParaTexto(Variant(AValor) + Variant(TMoeda{12345})) + u' ';
+    TNumericField inteiro(ftLargeint);
+    inteiro.SetValor(AValor);
+    textos += VarianteParaTexto(inteiro.GetValor()) + u' ';
+    inteiro.SetValor(TMoeda{9'223'372'036'854'775'000});
+    textos += VarianteParaTexto(inteiro.GetValor()) + u' ';
     return ParaUtf8(textos) + Hex(ArredondarPara15Digitos(AValor)) + Hex(TextoParaExtendedPadrao(ATexto, -1));
 }
 

@@ -68,8 +68,10 @@ bool TAvisoEmMemoria::Preparar() noexcept {
 }
 
 bool TAvisoEmMemoria::ValeAqui() const noexcept {
+    // The thread first: no other one looks at what it writes.
+    if (FDona.load(std::memory_order_relaxed) != BuscarNumeroDaThread()) return false;
     const auto* const neste_processo = static_cast<const bool*>(FProcesso.get());
-    return neste_processo && *neste_processo && FDona.load(std::memory_order_relaxed) == BuscarNumeroDaThread();
+    return neste_processo && *neste_processo;
 }
 
 bool TAvisoEmMemoria::PodeTerVindo() noexcept {
