@@ -2,13 +2,13 @@
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 
-#include <algorithm>
 #include <chrono>
 
 namespace OryUtils {
 namespace {
 
-/// The limit is that of the whole wait, however often messages wake it.
+/// The limit is that of the whole wait, however often messages wake it: also where nobody takes them from the queue and
+/// they wake every wait at once.
 void EsperarComMensagens(const Plataforma::TProcessoIniciado& AProcesso, std::uint32_t ALimite) {
     using TRelogio = std::chrono::steady_clock;
     const auto inicio = TRelogio::now();
@@ -17,7 +17,8 @@ void EsperarComMensagens(const Plataforma::TProcessoIniciado& AProcesso, std::ui
         CosturaInterface().ProcessarMensagens();
         if (ALimite == CSemTempoLimite) continue;
         const auto passou = std::chrono::duration_cast<std::chrono::milliseconds>(TRelogio::now() - inicio).count();
-        resta = static_cast<std::uint32_t>(std::max<std::int64_t>(static_cast<std::int64_t>(ALimite) - passou, 0));
+        if (passou >= ALimite) return;
+        resta = ALimite - static_cast<std::uint32_t>(passou);
     }
 }
 

@@ -8,6 +8,9 @@ namespace Testes {
 std::string BuscarVariavel(const std::string& ANome);
 void DefinirVariavel(const std::string& ANome, const std::string& AValor);
 
+/// Gives this thread a message to process, where waits are woken by messages.
+void EnviarMensagemAEstaThread();
+
 /// The variable has that value while this lives.
 class TVariavel {
 public:

@@ -4,9 +4,13 @@
 
 #include "files/ApoioArquivos.hpp"
 
+#include <gtest/gtest.h>
+
+#include <chrono>
 #include <functional>
 #include <string>
 #include <string_view>
+#include <thread>
 
 namespace OryUtils::Testes {
 
@@ -24,6 +28,21 @@ inline std::u16string Comando(std::u16string_view AArgumentos,
     return u"\"" + APrograma.u16string() + u"\" " + std::u16string(AArgumentos);
 }
 inline std::u16string EntreAspas(const std::filesystem::path& ACaminho) { return u"\"" + ACaminho.u16string() + u"\""; }
+
+/// The command line of the auxiliary program that sleeps, and the wait until it does. One that is killed before it is
+/// up leaves its console behind under Wine, waiting for it and holding what the tests write to.
+class TDorminhoco {
+public:
+    std::u16string Argumentos() const { return u"dormir " + EntreAspas(FPasta / "acordou"); }
+    void Esperar() const {
+        for (int vez = 0; vez < 30000 && !std::filesystem::exists(FPasta / "acordou"); ++vez)
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        EXPECT_TRUE(std::filesystem::exists(FPasta / "acordou")) << "it did not start";
+    }
+
+private:
+    TPastaTemporaria FPasta;
+};
 
 /// While it lives, AAcao is called whenever the library lets the application process its messages.
 class TAoProcessarMensagens {

@@ -3,6 +3,7 @@
 #include "oryutils/system/OryUtilsSystem.hpp"
 #include "oryutils/system/interno/Executor.hpp"
 
+#include "system/Ambiente.hpp"
 #include "system/Auxiliar.hpp"
 
 #include <gtest/gtest.h>
@@ -15,6 +16,7 @@ namespace {
 using Testes::Comando;
 using Testes::EntreAspas;
 using Testes::TAoProcessarMensagens;
+using Testes::TDorminhoco;
 using Testes::TPastaTemporaria;
 using TLinhas = std::vector<std::u16string>;
 
@@ -107,9 +109,11 @@ TEST(Comandos, AsMensagensFluemEUmaPausaFechaAParte) {
         if (++vezes >= 2 && std::chrono::steady_clock::now() - inicio > std::chrono::milliseconds(1500))
             std::ofstream(pasta / "siga") << "sim";
     });
+    ::Testes::EnviarMensagemAEstaThread();  // and nobody ever takes it
     EXPECT_EQ(Executar(Comando(u"parar a " + EntreAspas(pasta / "siga") + u" b")), TLinhas{u"ab"})
         << "the line break was at the end of what was read at once";
     EXPECT_GE(vezes, 2);
+    EXPECT_LT(vezes, 500) << "it waits between two looks";
 }
 
 TEST(Comandos, DormirDeixaAsMensagensFluir) {
@@ -126,7 +130,8 @@ TEST(Comandos, ProcessoCriadoEAguardado) {
     EXPECT_TRUE(std::filesystem::exists(pasta / "um")) << "it has ended when the wait is over";
 
     TOryUtilsSystemDadosCriacaoProcessoIOP dados;
-    dados.Comando = Comando(u"dormir");
+    const TDorminhoco dorminhoco;
+    dados.Comando = Comando(dorminhoco.Argumentos());
     dados.AguardarProcesso = true;
     dados.TempoLimiteProcesso = 1;
     TOryUtilsSystemDadosRetornoProcessoIOP avisado;
@@ -140,6 +145,7 @@ TEST(Comandos, ProcessoCriadoEAguardado) {
     EXPECT_EQ(retorno->InformacaoProcesso.IDProcesso, dados.IDProcesso);
     EXPECT_NE(retorno->InformacaoProcesso.Processo, 0);
     EXPECT_TRUE(TOryUtilsSistema::ProcessoEstahRodando(dados.IDProcesso, u"")) << "the limit of the wait has passed";
+    dorminhoco.Esperar();
     EXPECT_TRUE(TOryUtilsSistema::FinalizouProcessoPeloPID(dados.IDProcesso).Status);
 
     dados.Comando = u"este-programa-nao-existe";
@@ -154,7 +160,11 @@ TEST(Comandos, ModoAdministradorDesligado) {
     sistema.SetAtivarExecucaoComandosModoAdministrador(false);
     const TPastaTemporaria pasta;
     bool bloqueadas = false;
-    const TAoProcessarMensagens ao_processar([&] { bloqueadas |= desabilitadas; });
+    // Messages never end: each one that is processed brings the next.
+    const TAoProcessarMensagens ao_processar([&] {
+        bloqueadas |= desabilitadas;
+        ::Testes::EnviarMensagemAEstaThread();
+    });
     CosturaInterface().DesabilitarJanelas = [] {
         desabilitadas = true;
         return std::shared_ptr<void>(&desabilitadas, [](void*) { desabilitadas = false; });
@@ -169,6 +179,7 @@ TEST(Comandos, ModoAdministradorDesligado) {
         EXPECT_TRUE(ARetorno.CriouProcesso);
         EXPECT_FALSE(desabilitadas) << "it is told before the wait";
         id = ARetorno.IDProcesso;
+        ::Testes::EnviarMensagemAEstaThread();
     };
     EXPECT_TRUE(sistema.ExecutouComandoModoAdministrador(dados));
     EXPECT_TRUE(std::filesystem::exists(pasta / "um arquivo")) << "waited for, in the working folder";
@@ -180,11 +191,14 @@ TEST(Comandos, ModoAdministradorDesligado) {
                                                          pasta.Caminho().u16string(), true));
     EXPECT_TRUE(std::filesystem::exists(pasta / "outro"));
 
-    dados.Parametros = u"dormir";
+    const TDorminhoco dorminhoco;
+    dados.Parametros = dorminhoco.Argumentos();
     dados.TempoLimiteProcesso = 30;
     EXPECT_TRUE(sistema.ExecutouComandoModoAdministrador(dados));
     EXPECT_TRUE(bloqueadas) << "while it waited";
     EXPECT_FALSE(desabilitadas) << "the limit gives the windows back";
+    EXPECT_TRUE(TOryUtilsSistema::ProcessoEstahRodando(dados.IDProcesso, u"")) << "the limit ended the wait";
+    dorminhoco.Esperar();
     EXPECT_TRUE(TOryUtilsSistema::FinalizouProcessoPeloPID(dados.IDProcesso).Status);
 }
 

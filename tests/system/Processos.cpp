@@ -30,7 +30,9 @@ protected:
         EsperarFim();
     }
     std::uint32_t Iniciar() {
-        FIniciados.push_back(*Plataforma::CriarProcesso(Comando(u"dormir", FPrograma), false));
+        const Testes::TDorminhoco dorminhoco;
+        FIniciados.push_back(*Plataforma::CriarProcesso(Comando(dorminhoco.Argumentos(), FPrograma), false));
+        dorminhoco.Esperar();
         return FIniciados.back().ID;
     }
     void EsperarFim() {

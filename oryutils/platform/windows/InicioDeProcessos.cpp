@@ -12,6 +12,14 @@ namespace {
 // A pipe has no signal to wait on together with messages: it is looked at so often, more often when output flows.
 constexpr DWORD CMaiorIntervalo = 10;
 
+/// Waits for a handle or a message. A message that is told is an old one from then on, also where the system would wake
+/// every further wait by it: an application that leaves it in the queue must not keep the processor busy.
+DWORD EsperarAlcaOuMensagem(DWORD AQuantidade, const HANDLE* AAlca, DWORD ALimite) {
+    const DWORD situacao = ::MsgWaitForMultipleObjects(AQuantidade, AAlca, FALSE, ALimite, QS_ALLINPUT);
+    if (situacao == WAIT_OBJECT_0 + AQuantidade) ::GetQueueStatus(QS_ALLINPUT);
+    return situacao;
+}
+
 HANDLE AlcaDe(const TAlcaDeProcesso& AAlca) { return reinterpret_cast<HANDLE>(AAlca.Get()); }
 TAlcaDeProcesso Assumir(HANDLE AAlca) { return TAlcaDeProcesso(reinterpret_cast<std::intptr_t>(AAlca)); }
 
@@ -65,15 +73,14 @@ std::optional<TProcessoIniciado> ExecutarPeloSistema(const TPedidoDeExecucao& AP
 
 TEspera EsperarProcesso(const TProcessoIniciado& AProcesso, std::uint32_t ALimite, bool AAcordar) {
     const HANDLE processo = AlcaDe(AProcesso.Processo);
-    const DWORD situacao = AAcordar ? ::MsgWaitForMultipleObjects(1, &processo, FALSE, ALimite, QS_ALLINPUT)
-                                    : ::WaitForSingleObject(processo, ALimite);
+    const DWORD situacao =
+        AAcordar ? EsperarAlcaOuMensagem(1, &processo, ALimite) : ::WaitForSingleObject(processo, ALimite);
     if (situacao == WAIT_TIMEOUT) return epTempo;
     return situacao == WAIT_OBJECT_0 + 1 ? epMensagens : epTerminou;
 }
 
 TEspera EsperarMensagens(std::uint32_t ALimite) {
-    return ::MsgWaitForMultipleObjects(0, nullptr, FALSE, ALimite, QS_ALLINPUT) == WAIT_OBJECT_0 ? epMensagens
-                                                                                                 : epTempo;
+    return EsperarAlcaOuMensagem(0, nullptr, ALimite) == WAIT_OBJECT_0 ? epMensagens : epTempo;
 }
 
 std::unique_ptr<TProcessoCapturado> TProcessoCapturado::Iniciar(std::u16string_view ALinhaDeComando) {
@@ -114,7 +121,7 @@ TProcessoCapturado::TLeitura TProcessoCapturado::Ler(std::span<char> ADestino, s
         // The end of the process is most often the end of the output: it is not slept through.
         const bool vivo = ::WaitForSingleObject(processo, 0) == WAIT_TIMEOUT;
         const DWORD quantidade = vivo ? 1 : 0;
-        const DWORD situacao = ::MsgWaitForMultipleObjects(quantidade, &processo, FALSE, intervalo, QS_ALLINPUT);
+        const DWORD situacao = EsperarAlcaOuMensagem(quantidade, &processo, intervalo);
         if (situacao == WAIT_OBJECT_0 + quantidade) return lcNada;
     }
     DWORD lidos = 0;

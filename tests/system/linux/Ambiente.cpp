@@ -16,4 +16,6 @@ void DefinirVariavel(const std::string& ANome, const std::string& AValor) {
         ::setenv(ANome.c_str(), AValor.c_str(), 1);
 }
 
+void EnviarMensagemAEstaThread() {}
+
 }  // namespace Testes

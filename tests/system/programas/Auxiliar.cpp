@@ -7,12 +7,13 @@
 //   morrer              prints a word and is killed
 //   criar NOME          makes a file
 //   parar A NOME B      prints A, waits until the file exists, prints B
-//   dormir              lives for a minute
+//   dormir NOME         makes a file when it is up and lives for a minute
 #include "Sistema.hpp"
 
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -67,7 +68,8 @@ int main(int AQuantidade, char** AArgumentos) {
         while (!Existe(argumentos[2])) Sistema::EsperarUmPouco();
         Escrever(argumentos[3] + '\n');
     } else if (acao == "dormir") {
-        for (int i = 0; i < 60000; ++i) Sistema::EsperarUmPouco();
+        std::ofstream(argumentos[1]) << "feito";
+        for (const std::time_t fim = std::time(nullptr) + 60; std::time(nullptr) < fim;) Sistema::EsperarUmPouco();
     }
     return 0;
 }

@@ -15,4 +15,6 @@ void DefinirVariavel(const std::string& ANome, const std::string& AValor) {
     ::SetEnvironmentVariableA(ANome.c_str(), AValor.empty() ? nullptr : AValor.c_str());
 }
 
+void EnviarMensagemAEstaThread() { ::PostThreadMessageW(::GetCurrentThreadId(), WM_NULL, 0, 0); }
+
 }  // namespace Testes
