@@ -24,7 +24,7 @@ using namespace Testes;
 using S = TOryUtilsSistema;
 
 TEST(Resistencia, ComandosComSaida) {
-    const int vezes = Quantidade(1'000, 100'000);
+    const int vezes = Quantidade(300, 100'000);
     std::vector<std::u16string> linhas;
     const auto rodar = [&](int AVez) {
         linhas.clear();
