@@ -9,6 +9,9 @@ foreach(alvo gtest gtest_main)
   endif()
 endforeach()
 
+# In seconds. Only what hangs takes so long: a busy machine has been seen to need five times what a quiet one does.
+set(ORY_TEMPO_LIMITE 900)
+
 # ory_teste(nome LIGA alvo... [FONTES arquivo...])
 #   Test program testes_<nome> from tests/<nome>/*.cpp and the folder of this system in it, linux/ or windows/ (or
 #   FONTES), linked with the rooms it tests and nothing above.
@@ -35,6 +38,5 @@ function(ory_teste nome)
     target_link_options(testes_${nome} PRIVATE -static)
   endif()
   add_test(NAME ${nome} COMMAND testes_${nome})
-  # Only what hangs takes so long: a busy machine has been seen to need five times what a quiet one does.
-  set_tests_properties(${nome} PROPERTIES TIMEOUT 900)
+  set_tests_properties(${nome} PROPERTIES TIMEOUT ${ORY_TEMPO_LIMITE})
 endfunction()

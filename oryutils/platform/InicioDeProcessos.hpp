@@ -43,7 +43,7 @@ struct TPedidoDeExecucao {
 ORY_API std::optional<TProcessoIniciado> ExecutarPeloSistema(const TPedidoDeExecucao& APedido);
 
 /// Waits for the end of a process, at most ALimite milliseconds. AAcordar: epMensagens as soon as messages of the
-/// application wait (Linux: they may wait, every few milliseconds).
+/// application wait, once for each (Linux: they may wait, every few milliseconds).
 ORY_API TEspera EsperarProcesso(const TProcessoIniciado& AProcesso, std::uint32_t ALimite, bool AAcordar);
 /// Waits for messages of the application, at most ALimite milliseconds: epMensagens (see above) or epTempo.
 ORY_API TEspera EsperarMensagens(std::uint32_t ALimite);

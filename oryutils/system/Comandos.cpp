@@ -1,5 +1,6 @@
 #include "oryutils/platform/InicioDeProcessos.hpp"
 #include "oryutils/platform/Processos.hpp"
+#include "oryutils/platform/interno/Prazo.hpp"
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 #include "oryutils/system/interno/SaidaDeComando.hpp"
@@ -94,14 +95,9 @@ bool TOryUtilsSistema::EstahRodandoComoAdministrador() { return Plataforma::EhAd
 bool TOryUtilsSistema::EhSistemaOperacional64bits() { return Plataforma::EhProcessoDe32BitsEmSistemaDe64(); }
 
 void TOryUtilsSistema::Dormir(std::uint32_t AMilissegundos) {
-    using TRelogio = std::chrono::steady_clock;
-    const auto inicio = TRelogio::now();
-    while (true) {
-        const auto passou = std::chrono::duration_cast<std::chrono::milliseconds>(TRelogio::now() - inicio).count();
-        if (passou >= static_cast<std::int64_t>(AMilissegundos)) return;
-        const auto resta = static_cast<std::uint32_t>(static_cast<std::int64_t>(AMilissegundos) - passou);
+    const Plataforma::Interno::TPrazo prazo(AMilissegundos);
+    while (const std::uint32_t resta = prazo.Resta())
         if (Plataforma::EsperarMensagens(resta) == Plataforma::epMensagens) ProcessarMensagens();
-    }
 }
 
 void ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando, std::vector<std::u16string>& ASaida) {

@@ -1,8 +1,7 @@
 #include "oryutils/platform/InicioDeProcessos.hpp"
+#include "oryutils/platform/interno/Prazo.hpp"
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
-
-#include <chrono>
 
 namespace OryUtils {
 namespace {
@@ -10,15 +9,12 @@ namespace {
 /// The limit is that of the whole wait, however often messages wake it: also where nobody takes them from the queue and
 /// they wake every wait at once.
 void EsperarComMensagens(const Plataforma::TProcessoIniciado& AProcesso, std::uint32_t ALimite) {
-    using TRelogio = std::chrono::steady_clock;
-    const auto inicio = TRelogio::now();
+    const Plataforma::Interno::TPrazo prazo(ALimite);
     std::uint32_t resta = ALimite;
     while (Plataforma::EsperarProcesso(AProcesso, resta, true) == Plataforma::epMensagens) {
         CosturaInterface().ProcessarMensagens();
-        if (ALimite == CSemTempoLimite) continue;
-        const auto passou = std::chrono::duration_cast<std::chrono::milliseconds>(TRelogio::now() - inicio).count();
-        if (passou >= ALimite) return;
-        resta = ALimite - static_cast<std::uint32_t>(passou);
+        resta = prazo.Resta();
+        if (resta == 0) return;
     }
 }
 

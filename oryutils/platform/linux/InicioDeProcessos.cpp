@@ -2,13 +2,13 @@
 
 #include "oryutils/platform/LinhaDeComando.hpp"
 #include "oryutils/platform/Utf.hpp"
+#include "oryutils/platform/interno/Prazo.hpp"
 #include "oryutils/platform/linux/Descritor.hpp"
 #include "oryutils/platform/linux/Elevacao.hpp"
 #include "oryutils/platform/linux/Filhos.hpp"
 
 #include <algorithm>
 #include <cerrno>
-#include <chrono>
 #include <fcntl.h>
 #include <poll.h>
 #include <unistd.h>
@@ -67,15 +67,12 @@ std::optional<TProcessoIniciado> ExecutarPeloSistema(const TPedidoDeExecucao& AP
 }
 
 TEspera EsperarProcesso(const TProcessoIniciado& AProcesso, std::uint32_t ALimite, bool AAcordar) {
-    using TRelogio = std::chrono::steady_clock;
     const auto pid = static_cast<pid_t>(AProcesso.ID);
-    const auto inicio = TRelogio::now();
+    const Interno::TPrazo prazo(ALimite);
     while (true) {
-        const auto passou = std::chrono::duration_cast<std::chrono::milliseconds>(TRelogio::now() - inicio).count();
-        const std::int64_t resta = ALimite == CEsperaSemLimite ? CFatia : ALimite - passou;
-        const auto espera = std::clamp<std::int64_t>(resta, 0, CFatia);
-        if (EsperarFilho(pid, AProcesso.Processo.Get(), static_cast<int>(espera))) return epTerminou;
-        if (resta <= espera && ALimite != CEsperaSemLimite) return epTempo;
+        const std::uint32_t resta = prazo.Resta();
+        if (EsperarFilho(pid, AProcesso.Processo.Get(), static_cast<int>(std::min(resta, CFatia)))) return epTerminou;
+        if (resta <= CFatia) return epTempo;
         if (AAcordar) return epMensagens;
     }
 }
