@@ -9,8 +9,8 @@
 #include "oryutils/system/OryUtilsSystem.hpp"
 
 #include "CasosDeCrescimento.hpp"
-#include "operacoes/Operacoes.hpp"
-#include "operacoes/Vinculo.hpp"
+#include "operations/Operacoes.hpp"
+#include "operations/Vinculo.hpp"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,7 +1,7 @@
 // The SQL filter against the same text concatenated with fmt::format.
 //   FiltroN: the tree of N conditions is filled in and written; TextoN: only written.
 // Each item is one whole text. Five kinds of condition take turns, the same ones that npm/filtro_sql.mjs gives to knex.
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/sql/UnOryUtilsClasseFiltroSql.hpp"
 
 #include <benchmark/benchmark.h>

@@ -3,11 +3,11 @@
 //     that writes the whole file each time, for 2,000 lines.
 //   LogInteiro: 100,000 lines saved once, beside one write of the same text.
 // "bytes" is what was written for each byte that the file has at the end. --pasta=X writes below X.
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/files/UnOryUtilsArquivoLog.hpp"
 #include "oryutils/files/interno/AmbienteDoLog.hpp"
 #include "oryutils/platform/Fluxo.hpp"
 #include "oryutils/runtime/Formatos.hpp"
-#include "oryutils/runtime/Utf.hpp"
 
 #include <benchmark/benchmark.h>
 
@@ -82,7 +82,7 @@ void LogLinhas_UmaEscrita(benchmark::State& AEstado) {
     const std::string linha = "[21/11/2026 14:07:05]: " + std::string(CMensagem) + "\n";
     const std::string nome = (GPasta / "escrita.log").string();
     for (auto _ : AEstado) {
-        Plataforma::TFluxo fluxo;
+        Interno::TFluxo fluxo;
         fluxo.CriarOuEsvaziar(nome);
         for (int i = 0; i < 10'000; ++i) fluxo.Escrever(linha);
         fluxo.Fechar();
@@ -127,7 +127,7 @@ void LogInteiro_UmaEscrita(benchmark::State& AEstado) {
     for (int i = 0; i < CInteiro; ++i) texto.append("[21/11/2026 14:07:05]: ").append(CMensagem).append("\n");
     const std::string nome = (GPasta / "escrita.log").string();
     for (auto _ : AEstado) {
-        Plataforma::TFluxo fluxo;
+        Interno::TFluxo fluxo;
         fluxo.CriarOuEsvaziar(nome);
         fluxo.Escrever(texto);
         fluxo.Fechar();

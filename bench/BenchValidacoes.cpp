@@ -1,8 +1,8 @@
 // The validations against a plain loop, on the same list: half CPF and half CNPJ, formatted, bare and odd, some wrong.
 // The limit is each character read once. With an argument "--escrever=ARQUIVO" the lists and the verdicts are written
 // for the other benchmarks to read.
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
-#include "oryutils/runtime/Utf.hpp"
 
 #include "UmaLeitura.hpp"
 

@@ -1,17 +1,17 @@
 // Any text of an exported registry file and any edit: what is written reads back, and all else stays as it was.
-#include "oryutils/platform/interno/ArquivoReg.hpp"
+#include "oryutils/readers/ArquivoReg.hpp"
 
-#include "oryutils/platform/Caixa.hpp"
-#include "oryutils/platform/interno/NomesRegistro.hpp"
-#include "oryutils/platform/interno/Unidades.hpp"
+#include "oryutils/characters/Caixa.hpp"
+#include "oryutils/characters/Unidades.hpp"
+#include "oryutils/readers/NomesRegistro.hpp"
 
 #include "Comum.hpp"
 
 #include <map>
 
 using namespace OryUtils;
-using Plataforma::TDadoRegistro;
-using Plataforma::Interno::TArquivoReg;
+using Interno::TArquivoReg;
+using Interno::TDadoRegistro;
 
 namespace {
 
@@ -76,14 +76,14 @@ std::u16string MontarTexto(Fuzz::TEntrada& AEntrada) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
     static_cast<void>(TArquivoReg::DeBytes({reinterpret_cast<const char*>(ABytes), ATamanho}));
     Fuzz::TEntrada entrada(ABytes, ATamanho);
-    auto arquivo = TArquivoReg::DeBytes("\xFF\xFE" + Plataforma::Interno::BytesDeUnidades(MontarTexto(entrada)));
+    auto arquivo = TArquivoReg::DeBytes("\xFF\xFE" + Interno::BytesDeUnidades(MontarTexto(entrada)));
     if (!arquivo) return 0;
     TConteudo esperado = LerTudo(*arquivo);
     for (int passos = 0; passos < 4 && (passos == 0 || !entrada.Acabou()); ++passos) {
         static constexpr std::u16string_view CChaves[] = {u"\\a", u"\\A\\b", u"", u"\\a\\b\\c", u"\\n"};
         const std::u16string chave = CRaiz + std::u16string(CChaves[entrada.Byte() % std::size(CChaves)]);
         std::u16string nome = entrada.Byte() % 2 ? u"N" : entrada.Texto(4);
-        if (!Plataforma::Interno::EhNomeDeValorValido(nome)) nome.clear();
+        if (!Interno::EhNomeDeValorValido(nome)) nome.clear();
         const bool existia = esperado.contains(MinusculaDe(chave));
         const auto acima = [&] {
             for (std::size_t barra = chave.find(u'\\'); barra < chave.size(); barra = chave.find(u'\\', barra + 1))

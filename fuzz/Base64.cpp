@@ -1,8 +1,8 @@
 // Any text as Base64, and any bytes there and back; UTF of all kinds, malformed too.
 #include "oryutils/text/interno/Base64.hpp"
 
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/runtime/Utf.hpp"
 #include "oryutils/text/interno/Utf8Exato.hpp"
 
 #include "Comum.hpp"

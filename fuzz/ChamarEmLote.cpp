@@ -1,7 +1,7 @@
 // Any bytes as requests of `ory chamar --lote`: each line has its answer, which is JSON.
 #include "Comum.hpp"
 #include "chamar/Chamadas.hpp"
-#include "operacoes/Json.hpp"
+#include "operations/Json.hpp"
 
 #include <algorithm>
 

@@ -2,15 +2,15 @@
 // and no value becomes another argument.
 #include "oryutils/system/interno/Firewall.hpp"
 
-#include "oryutils/platform/LinhaDeComando.hpp"
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
+#include "oryutils/readers/LinhaDeComando.hpp"
 #include "oryutils/system/interno/SaidaDeComando.hpp"
 
 #include "Comum.hpp"
 
 using namespace OryUtils;
-using namespace OryUtils::Plataforma;
-using namespace OryUtils::Sistema;
+using namespace OryUtils::Interno;
+using namespace OryUtils::Interno;
 
 namespace {
 

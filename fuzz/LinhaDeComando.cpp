@@ -1,9 +1,9 @@
 // Any text as a command line; any arguments quoted by the rules of Windows come back as they were.
-#include "oryutils/platform/LinhaDeComando.hpp"
+#include "oryutils/readers/LinhaDeComando.hpp"
 
 #include "Comum.hpp"
 
-using namespace OryUtils::Plataforma;
+using namespace OryUtils::Interno;
 
 namespace {
 

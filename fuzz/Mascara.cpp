@@ -1,5 +1,5 @@
 // Any mask, any value and any gestures: the text stays one of the mask, and the value goes and comes back.
-#include "oryutils/runtime/Mascara.hpp"
+#include "oryutils/fields/Mascara.hpp"
 
 #include "oryutils/runtime/Excecoes.hpp"
 

@@ -1,7 +1,7 @@
 // Any text as a number, beside the C library; any number as text and back.
 #include "oryutils/runtime/NumeroTexto.hpp"
 
-#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/characters/Caracteres.hpp"
 
 #include "Comum.hpp"
 

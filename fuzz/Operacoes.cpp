@@ -1,10 +1,10 @@
 // Every operation that programs may call, with arguments of any kind and number: an answer in JSON, always. Inputs are
 // short (sementes/Operacoes.opcoes): a handful of calls each, since a long one would be a hundred calls that know
 // nothing of one another, and cost as much.
-#include "operacoes/Operacoes.hpp"
+#include "operations/Operacoes.hpp"
 
 #include "Comum.hpp"
-#include "operacoes/Json.hpp"
+#include "operations/Json.hpp"
 
 #include <algorithm>
 

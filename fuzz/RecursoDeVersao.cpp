@@ -1,14 +1,14 @@
 // Any bytes as a PE file and as a version resource, and a right file with any of its bytes changed. What is found lies
 // inside; the way to it is short.
-#include "oryutils/platform/linux/BlocoDeVersao.hpp"
-#include "oryutils/platform/linux/RecursoDeVersaoPe.hpp"
+#include "oryutils/readers/BlocoDeVersao.hpp"
+#include "oryutils/readers/RecursoDeVersaoPe.hpp"
 
 #include "../tests/files/ConstrutorPe.hpp"
 #include "Comum.hpp"
 
 #include <algorithm>
 
-using namespace OryUtils::Plataforma;
+using namespace OryUtils::Interno;
 
 namespace {
 

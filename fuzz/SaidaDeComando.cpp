@@ -1,13 +1,13 @@
 // Any bytes as what a command prints, in any pieces, and as the answers of "arp".
 #include "oryutils/system/interno/SaidaDeComando.hpp"
 
-#include "oryutils/platform/Caixa.hpp"
+#include "oryutils/characters/Caixa.hpp"
 #include "oryutils/system/interno/RegrasDeRede.hpp"
 
 #include "Comum.hpp"
 
 using namespace OryUtils;
-using namespace OryUtils::Sistema;
+using namespace OryUtils::Interno;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
     Fuzz::TEntrada entrada(ABytes, ATamanho);
@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t AT
 
     std::vector<std::u16string> linhas, empedacos;
     std::u16string texto;
-    Plataforma::TDecodificadorAnsi decodificador;
+    Interno::TDecodificadorAnsi decodificador;
     const auto decodificar = [&](std::string_view AParte) { return decodificador.Decodificar(AParte); };
     TSaidaEmLista lista(linhas), lista2(empedacos);
     TSaidaEmTexto emtexto(texto);

@@ -1,8 +1,8 @@
 // Any text as what systemctl and sc answer; any name, account and password as part of a command or of a unit's file:
 // none of them becomes another argument or another line.
-#include "oryutils/platform/LinhaDeComando.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/linux/Systemd.hpp"
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/readers/LinhaDeComando.hpp"
 #include "oryutils/system/interno/ComandosServico.hpp"
 
 #include "Comum.hpp"
@@ -10,8 +10,8 @@
 #include <algorithm>
 
 using namespace OryUtils;
-using namespace OryUtils::Plataforma;
-using namespace OryUtils::Sistema;
+using namespace OryUtils::Interno;
+using namespace OryUtils::Interno;
 
 namespace {
 

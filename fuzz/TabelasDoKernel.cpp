@@ -1,10 +1,10 @@
 // Any text as the tables of /proc: mounts, neighbours, routes.
-#include "oryutils/platform/linux/TabelaDeMontagens.hpp"
-#include "oryutils/platform/linux/TabelasDeRede.hpp"
+#include "oryutils/readers/TabelaDeMontagens.hpp"
+#include "oryutils/readers/TabelasDeRede.hpp"
 
 #include "Comum.hpp"
 
-using namespace OryUtils::Plataforma;
+using namespace OryUtils::Interno;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
     Fuzz::TEntrada entrada(ABytes, ATamanho);

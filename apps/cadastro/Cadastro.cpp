@@ -1,8 +1,8 @@
 #include "apps/cadastro/Cadastro.hpp"
 
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 #include "oryutils/registry_numbers/UnOryUtilsFormatacoes.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/Formatos.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"

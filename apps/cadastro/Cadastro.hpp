@@ -1,7 +1,7 @@
 #pragma once
 
-#include "oryutils/forms/EditorDeCampo.hpp"
-#include "oryutils/runtime/Campos.hpp"
+#include "oryutils/fields/Campos.hpp"
+#include "oryutils/fields/EditorDeCampo.hpp"
 #include "oryutils/runtime/Controle.hpp"
 
 #include <array>

@@ -2,7 +2,7 @@
 
 namespace Ory {
 
-using namespace OryUtils::Plataforma;
+using namespace OryUtils::Interno;
 
 std::string_view DescreverErro(TErroFluxo AErro) {
     switch (AErro) {

@@ -22,7 +22,7 @@ struct ESaidaFechada : std::runtime_error {
 };
 
 /// Why a file could not be used, as the end of a sentence: "o arquivo não existe".
-std::string_view DescreverErro(OryUtils::Plataforma::TErroFluxo AErro);
+std::string_view DescreverErro(OryUtils::Interno::TErroFluxo AErro);
 
 /// Bytes to read.
 class TEntrada {
@@ -43,26 +43,26 @@ public:
 
 class TEntradaDeFluxo final : public TEntrada {
 public:
-    TEntradaDeFluxo(OryUtils::Plataforma::TFluxo AFluxo, std::string ANome)
+    TEntradaDeFluxo(OryUtils::Interno::TFluxo AFluxo, std::string ANome)
         : FFluxo(std::move(AFluxo)), FNome(std::move(ANome)) {}
     std::size_t Ler(std::span<char> ADestino) override;
     bool LerEsperaria() override { return FFluxo.LerEsperaria(); }
-    OryUtils::Plataforma::TFluxo& GetFluxo() { return FFluxo; }
+    OryUtils::Interno::TFluxo& GetFluxo() { return FFluxo; }
 
 private:
-    OryUtils::Plataforma::TFluxo FFluxo;
+    OryUtils::Interno::TFluxo FFluxo;
     std::string FNome;
 };
 
 class TSaidaDeFluxo final : public TSaida {
 public:
-    TSaidaDeFluxo(OryUtils::Plataforma::TFluxo AFluxo, std::string ANome)
+    TSaidaDeFluxo(OryUtils::Interno::TFluxo AFluxo, std::string ANome)
         : FFluxo(std::move(AFluxo)), FNome(std::move(ANome)) {}
     void Escrever(std::string_view ABytes) override;
-    OryUtils::Plataforma::TFluxo& GetFluxo() { return FFluxo; }
+    OryUtils::Interno::TFluxo& GetFluxo() { return FFluxo; }
 
 private:
-    OryUtils::Plataforma::TFluxo FFluxo;
+    OryUtils::Interno::TFluxo FFluxo;
     std::string FNome;
 };
 

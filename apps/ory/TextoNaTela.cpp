@@ -1,6 +1,6 @@
 #include "TextoNaTela.hpp"
 
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
 #include "oryutils/platform/Terminal.hpp"
 
 #include "Comando.hpp"
-#include "operacoes/Operacoes.hpp"
+#include "operations/Operacoes.hpp"
 
 int main(int AQuantidade, char** AArgumentos) {
-    using namespace OryUtils::Plataforma;
+    using namespace OryUtils::Interno;
     const TTerminalUtf8 terminal;
     Ory::PrepararProcesso();
 

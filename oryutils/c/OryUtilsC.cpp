@@ -3,7 +3,7 @@
 #include "oryutils/c/oryutils.h"
 #include "oryutils/runtime/interno/PrecisaoPlena.hpp"
 
-#include "operacoes/Operacoes.hpp"
+#include "operations/Operacoes.hpp"
 
 #include <cstdlib>
 #include <cstring>

@@ -1,7 +1,7 @@
 #include "oryutils/changes/UnOryUtilsControleAlteracoes.hpp"
 
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/runtime/Utf.hpp"
 
 #include <exception>
 #include <utility>

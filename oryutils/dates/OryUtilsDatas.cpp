@@ -1,8 +1,8 @@
 #include "oryutils/dates/OryUtilsDatas.hpp"
 
+#include "oryutils/characters/Caixa.hpp"
 #include "oryutils/dates/interno/DatasInterno.hpp"
 #include "oryutils/dates/interno/FormatosFixos.hpp"
-#include "oryutils/runtime/Caixa.hpp"
 #include "oryutils/runtime/DataXml.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
@@ -116,7 +116,7 @@ std::u16string TOryUtilsDatas::BuscarDataFormatada(TDateTime AData, bool AAdicio
 std::u16string TOryUtilsDatas::BuscarDataFormatada(TDateTime AData, TTipoFormatoData ATipoFormatacao,
                                                    std::u16string_view AMascara, bool AAdicionarAspas) {
     std::u16string texto = Aparar(AMascara).empty()
-                               ? DatasInterno::FormatarPeloTipo(ATipoFormatacao, AData, FormatSettings())
+                               ? Interno::FormatarPeloTipo(ATipoFormatacao, AData, FormatSettings())
                                : FormatarDataHora(AMascara, AData);
     if (AAdicionarAspas) return PorEntreAspas(texto);
     return texto;
@@ -188,11 +188,11 @@ std::u16string TOryUtilsDatas::ConverterMilisegundosParaTempo(int AMilisegundos,
 
 TDateTime TOryUtilsDatas::BuscarDataHoraMedidaTempo(TDateTime ADataHoraBase,
                                                     OryTypes::TTipoMedidaTempo ATipoMedidaTempo, int AQuantidade) {
-    return DatasInterno::Deslocar(ADataHoraBase, ATipoMedidaTempo, AQuantidade, Agora);
+    return Interno::Deslocar(ADataHoraBase, ATipoMedidaTempo, AQuantidade, Agora);
 }
 
 std::u16string TOryUtilsDatas::FormatarData(std::u16string_view ATexto) {
-    return DatasInterno::Completar(ATexto, FormatSettings());
+    return Interno::Completar(ATexto, FormatSettings());
 }
 
 }  // namespace OryUtils

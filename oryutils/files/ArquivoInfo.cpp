@@ -1,11 +1,11 @@
+#include "oryutils/characters/Caixa.hpp"
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/files/OryUtilsFiles.hpp"
 #include "oryutils/files/interno/DataDoArquivo.hpp"
 #include "oryutils/platform/DadosDoArquivo.hpp"
 #include "oryutils/platform/LeituraDeArquivo.hpp"
 #include "oryutils/platform/VersaoDeArquivo.hpp"
 #include "oryutils/runtime/ArquivoIni.hpp"
-#include "oryutils/runtime/Caixa.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/NomeDeArquivo.hpp"
@@ -35,7 +35,7 @@ std::u16string ParaHexadecimal(std::uint16_t AValor) {
 std::u16string LerVersaoIni(std::u16string_view AArquivo) { return LerArquivoIni(AArquivo, u"VERSAO", u"Numero"); }
 
 std::u16string LerVersaoFixa(std::u16string_view AArquivo) {
-    const auto versao = Plataforma::TVersaoDeArquivo(AArquivo).ConsultarFixa();
+    const auto versao = Interno::TVersaoDeArquivo(AArquivo).ConsultarFixa();
     if (!versao) return {};
     const auto [mais, menos] = *versao;
     std::u16string texto;
@@ -63,8 +63,8 @@ void TArquivoInfo::SetArquivo(std::u16string_view AArquivo) {
 
 void TArquivoInfo::CarregaDados() {
     Clear();
-    if (!Plataforma::ExisteArquivo(FArquivo)) return;
-    const Plataforma::TVersaoDeArquivo versao(FArquivo);
+    if (!Interno::ExisteArquivo(FArquivo)) return;
+    const Interno::TVersaoDeArquivo versao(FArquivo);
     const auto traducao = versao.ConsultarTraducao();
     if (!traducao) return;
     const std::u16string tabela = ParaHexadecimal(traducao->Idioma) + ParaHexadecimal(traducao->PaginaDeCodigo);
@@ -104,12 +104,12 @@ std::u16string TArquivoInfo::BuscarVersaoArquivo() const { return LerVersaoFixa(
 std::u16string TArquivoInfo::BuscarVersaoArquivoIni() const { return LerVersaoIni(FArquivo); }
 
 std::u16string TArquivoInfo::GetNome() const {
-    const auto dados = Plataforma::ProcurarArquivo(FArquivo);
+    const auto dados = Interno::ProcurarArquivo(FArquivo);
     return dados ? dados->Nome : std::u16string();
 }
 
 std::u16string TArquivoInfo::GetTamanho() const {
-    const auto dados = Plataforma::ProcurarArquivo(FArquivo);
+    const auto dados = Interno::ProcurarArquivo(FArquivo);
     return InteiroParaTexto(dados ? static_cast<std::int64_t>(dados->Tamanho) : 0);
 }
 
@@ -120,12 +120,12 @@ std::u16string TArquivoInfo::GetTamanhoFormatado() const {
 std::u16string TArquivoInfo::GetExtensao() const { return MinusculaDe(ExtrairExtensaoDoArquivo(FArquivo)); }
 
 TDateTime TArquivoInfo::GetData() const {
-    const Plataforma::TLeituraDeArquivo arquivo(FArquivo);
+    const Interno::TLeituraDeArquivo arquivo(FArquivo);
     return arquivo.EstahAberto() ? Interno::BuscarDataEmpacotada(arquivo.BuscarUltimaGravacao()) : TDateTime();
 }
 
 TDateTime TArquivoInfo::GetDataModificacao() const {
-    const auto dados = Plataforma::ProcurarArquivo(FArquivo);
+    const auto dados = Interno::ProcurarArquivo(FArquivo);
     return dados && !dados->EhPasta ? Interno::BuscarDataEmpacotada(dados->UltimaGravacao) : TDateTime();
 }
 

@@ -22,15 +22,15 @@ constexpr Extended CLimiteDaUnidade = CPorUnidade - 0.005L;
 TInstanciaGlobal<TOryUtilsFiles> GOryUtilsFiles;
 
 bool TOryUtilsFiles::AbrirArquivo(std::u16string_view AArquivo, std::u16string_view AParametros) {
-    return Plataforma::AbrirComProgramaPadrao(AArquivo, AParametros);
+    return Interno::AbrirComProgramaPadrao(AArquivo, AParametros);
 }
 
 bool TOryUtilsFiles::AlterouDataHoraArquivo(std::u16string_view AArquivo, TDateTime ADataHora) {
     const auto instante = Interno::BuscarInstanteUtc(ADataHora);
-    return instante && Plataforma::AlterarUltimaGravacao(AArquivo, *instante);
+    return instante && Interno::AlterarUltimaGravacao(AArquivo, *instante);
 }
 
-bool TOryUtilsFiles::ExisteDiretorio(std::u16string_view ADiretorio) { return Plataforma::ExistePasta(ADiretorio); }
+bool TOryUtilsFiles::ExisteDiretorio(std::u16string_view ADiretorio) { return Interno::ExistePasta(ADiretorio); }
 
 std::u16string TOryUtilsFiles::ExtrairNomeDoArquivoSemExtensao(std::u16string_view AArquivo) {
     std::u16string_view nome = ExtrairNomeDoArquivo(AArquivo);

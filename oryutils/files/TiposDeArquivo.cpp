@@ -1,5 +1,5 @@
+#include "oryutils/characters/Caixa.hpp"
 #include "oryutils/files/OryUtilsFiles.hpp"
-#include "oryutils/runtime/Caixa.hpp"
 #include "oryutils/runtime/NomeDeArquivo.hpp"
 
 #include <algorithm>

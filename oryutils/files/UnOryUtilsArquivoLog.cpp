@@ -1,5 +1,7 @@
 #include "oryutils/files/UnOryUtilsArquivoLog.hpp"
 
+#include "oryutils/characters/Caracteres.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/files/OryUtilsFiles.hpp"
 #include "oryutils/files/interno/AmbienteDoLog.hpp"
 #include "oryutils/files/interno/CodificacaoDoLog.hpp"
@@ -7,8 +9,6 @@
 #include "oryutils/files/interno/LinhasDoLog.hpp"
 #include "oryutils/platform/DadosDoArquivo.hpp"
 #include "oryutils/platform/Fluxo.hpp"
-#include "oryutils/platform/Utf.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
@@ -28,12 +28,11 @@ bool EhVazio(std::u16string_view ATexto) { return Aparar(ATexto).empty(); }
 
 /// The bytes of a file; none when it is not there or cannot be read.
 std::optional<std::string> LerArquivo(std::u16string_view AArquivo) {
-    Plataforma::TFluxo fluxo;
-    if (AArquivo.find(u'\0') != AArquivo.npos || fluxo.AbrirParaLer(ParaUtf8(AArquivo)) != Plataforma::efNenhum)
-        return {};
+    Interno::TFluxo fluxo;
+    if (AArquivo.find(u'\0') != AArquivo.npos || fluxo.AbrirParaLer(ParaUtf8(AArquivo)) != Interno::efNenhum) return {};
     std::string bytes;
     std::size_t lidos = 0;
-    Plataforma::TErroFluxo erro = Plataforma::efNenhum;
+    Interno::TErroFluxo erro = Interno::efNenhum;
     // One byte more than the file is said to have, so that its end is met without another turn.
     bytes.resize(static_cast<std::size_t>(fluxo.BuscarTamanho().value_or(0)) + 1);
     while (const std::size_t parte = fluxo.Ler({bytes.data() + lidos, bytes.size() - lidos}, erro)) {
@@ -41,7 +40,7 @@ std::optional<std::string> LerArquivo(std::u16string_view AArquivo) {
         if (lidos == bytes.size()) bytes.resize(2 * lidos);
     }
     bytes.resize(lidos);
-    return erro == Plataforma::efNenhum ? std::optional(std::move(bytes)) : std::nullopt;
+    return erro == Interno::efNenhum ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
 /// True for the time of a scope.
@@ -126,7 +125,7 @@ void TOryUtilsArquivoLog::FinalizarLog() {
 void TOryUtilsArquivoLog::Limpar() { FLog->Limpar(); }
 
 void TOryUtilsArquivoLog::ExibirLog() {
-    if (Plataforma::ExisteArquivo(FArquivoLog))
+    if (Interno::ExisteArquivo(FArquivoLog))
         TOryUtilsFiles::AbrirArquivo(FArquivoLog);
     else
         CosturaInterface().Alerta(PreencherModelo(u"Arquivo %s não encontrado.", {FArquivoLog}));

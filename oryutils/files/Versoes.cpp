@@ -1,6 +1,6 @@
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/files/OryUtilsFiles.hpp"
 #include "oryutils/files/interno/OrdemDeVersoes.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
 
 namespace OryUtils {

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// A file kept open for writing behind its end, with a watch on what anybody else does to it: one or two cheap
 /// questions to the system before each write, where opening the file and comparing its mark costs several dear ones.
@@ -49,4 +49,4 @@ private:
     std::int64_t FSegundo = 0;  // of the last look at the file by its name
 };
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <utility>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// A shared library loaded at run time. Loads of one file are counted by the system: the library goes with the last.
 class ORY_API TBibliotecaDinamica {
@@ -42,4 +42,4 @@ private:
 /// True when a library of that name is in the process now, whoever loaded it.
 ORY_API bool EstahCarregada(std::u16string_view ANome);
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// Reads the bytes that the system's console programs write: by the ANSI code page on Windows, by the code set of the
 /// environment's locale (LC_ALL, LC_CTYPE, LANG) on Linux, where the plain "C" locale counts as UTF-8. Malformed bytes
@@ -27,4 +27,4 @@ private:
     void* FConversor = nullptr;
 };
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

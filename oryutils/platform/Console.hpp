@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// True when stdin and stderr are terminals: somebody reads the question and can answer.
 ORY_API bool PodeConversar();
@@ -23,4 +23,4 @@ enum TLeituraDeLinha : int { llLinha, llFim, llTempo };
 /// until the first key: a line once begun is waited for.
 ORY_API TLeituraDeLinha LerLinhaDoTerminal(std::optional<std::chrono::milliseconds> ALimite, std::u16string& ALinha);
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -8,7 +8,7 @@
 // What the system keeps about a file. A name with the character of code 0 is of no file. Nothing throws, short of
 // memory.
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// An instant in milliseconds since 1970-01-01 00:00 UTC; negative before.
 using TInstanteUtc = std::int64_t;
@@ -34,4 +34,4 @@ bool AlterarUltimaGravacao(std::u16string_view AArquivo, TInstanteUtc AInstante)
 /// True when the order was taken; it does not wait for the program.
 bool AbrirComProgramaPadrao(std::u16string_view AArquivo, std::u16string_view AParametros);
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

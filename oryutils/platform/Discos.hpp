@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// A drive is named by its letter, with or without ":" and what follows. (Linux) "C" is the root file system, "D" and
 /// on the others of ListarUnidades in their order; a path that starts with "/" names the file system that holds it.
@@ -35,4 +35,4 @@ constexpr int BuscarNumeroDaUnidade(std::u16string_view AUnidade) noexcept {
     return letra >= u'A' && letra <= u'Z' ? letra - u'A' + 1 : 0;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -2,9 +2,9 @@
 
 #include <string>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// The file of the program that runs, with its folder; empty when the system does not tell. Never throws.
 std::u16string BuscarArquivoExecutavel();
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -3,7 +3,7 @@
 
 #include <utility>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 TFluxo::TFluxo(TFluxo&& AOutro) noexcept
     : FAlca(std::exchange(AOutro.FAlca, CNenhum)), FDono(std::exchange(AOutro.FDono, false)) {}
@@ -19,4 +19,4 @@ TFluxo& TFluxo::operator=(TFluxo&& AOutro) noexcept {
 
 TFluxo::~TFluxo() { Fechar(); }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

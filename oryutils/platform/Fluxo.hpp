@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// Why a stream or a file could not be used.
 enum TErroFluxo : int {
@@ -81,4 +81,4 @@ private:
     bool FDono = false;
 };
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -2,7 +2,7 @@
 
 #include <chrono>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 // The second that AInstante would be if the zone were UTC.
@@ -28,4 +28,4 @@ int BuscarDeslocamentoLocal(const TInstanteLocal& AInstante, TFuso AFuso) {
     return (segundos + (segundos < 0 ? -30 : 30)) / 60;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// Offset of a time zone from UTC at an instant, in seconds, positive to the east of Greenwich. The instant is in
 /// seconds since 1970-01-01 00:00 UTC.
@@ -20,4 +20,4 @@ std::int32_t BuscarDeslocamentoNoInstante(std::int64_t AInstante);
 /// Example:  America/Sao_Paulo, 2024-03-05 14:07  ->  -180
 int BuscarDeslocamentoLocal(const TInstanteLocal& AInstante, TFuso AFuso = BuscarDeslocamentoNoInstante);
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -11,7 +11,7 @@
 #include <string>
 #include <string_view>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// Milliseconds of a wait without limit.
 inline constexpr std::uint32_t CEsperaSemLimite = 0xFFFFFFFF;
@@ -72,4 +72,4 @@ private:
     std::intptr_t FLeitura;  // read end of the pipe
 };
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -7,7 +7,7 @@
 #include <span>
 #include <string_view>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// A file of the disk open for reading at any place. Folders, pipes and devices are not opened. Others may go on
 /// writing to it, renaming and deleting it. Nothing throws, short of memory.
@@ -30,4 +30,4 @@ private:
     std::intptr_t FAlca = CNenhum;  // file descriptor or HANDLE
 };
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// The name of this machine: GetComputerName; gethostname on Linux. None when the system refuses, with its error code
 /// in AErro.
@@ -26,4 +26,4 @@ struct TVersaoDoSistema {
 /// None when the call fails, and on Linux.
 ORY_API std::optional<TVersaoDoSistema> BuscarVersaoDoSistema();
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// Tells the system that a piece of memory is about to be written to at once: it may give all pages of it in one turn,
 /// instead of one by one as they are met. A wish: nothing depends on it but time, and what the memory holds stays.
@@ -14,4 +14,4 @@ std::size_t BuscarFatorDeCrescimento() noexcept;
 /// And how many bytes one that nobody knows the end of may ask for at least, once it is longer than a megabyte.
 std::size_t BuscarReservaDeTextoLongo() noexcept;
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

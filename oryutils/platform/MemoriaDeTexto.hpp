@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <new>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// Looks after the memory of one long text that only grows, whose every new page would otherwise cost more than the
 /// characters in it: it seldom moves, and its pages are asked for many at once.
@@ -48,4 +48,4 @@ private:
     std::size_t FPreparado = 0;  // so far the text's memory has been asked for
 };
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// True when APasta names a folder that exists and may be looked at. Never throws; false for a file, an empty name and
 /// a name with the character of code 0.
@@ -20,4 +20,4 @@ ORY_API char16_t BuscarSeparadorDePastas() noexcept;
 /// (Linux) / and code 0.
 ORY_API bool EhProibidoEmNomeDeArquivo(char16_t ACaractere) noexcept;
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

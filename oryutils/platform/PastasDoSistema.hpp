@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// Full path of the running program.
 ORY_API std::u16string BuscarCaminhoDoExecutavel();
@@ -22,4 +22,4 @@ ORY_API std::u16string BuscarUnidadeDoSistema();
 /// Where programs are installed when no setting says otherwise. Empty: Windows always has the setting. (Linux) "/opt".
 ORY_API std::u16string BuscarPastaDeProgramasPadrao();
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

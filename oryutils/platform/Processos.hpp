@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// What the system tells of a process; what it does not tell is empty.
 struct TProcessoDoSistema {
@@ -49,4 +49,4 @@ ORY_API bool EhProcessoDe32BitsEmSistemaDe64();
 ORY_API void LiberarMemoria();
 ORY_API void AbrirConfiguracaoDeDataHora();
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "oryutils/OryExport.hpp"
+#include "oryutils/readers/TabelasDeRede.hpp"
 
 #include <array>
 #include <cstdint>
@@ -9,10 +10,7 @@
 #include <string_view>
 #include <vector>
 
-namespace OryUtils::Plataforma {
-
-using TEnderecoIP = std::array<std::uint8_t, 4>;
-using TEnderecoMac = std::array<std::uint8_t, 6>;
+namespace OryUtils::Interno {
 
 /// An IPv4 address in one of the forms that inet_addr reads; none for anything else and for 255.255.255.255.
 ORY_API std::optional<TEnderecoIP> LerEnderecoIP(std::u16string_view ATexto);
@@ -37,4 +35,4 @@ ORY_API std::optional<TEnderecoMac> PerguntarEnderecoMac(const TEnderecoIP& AEnd
 /// table knows of it now. Without AEndereco, those of all own adapters.
 ORY_API std::vector<TEnderecoMac> ListarEnderecosMac(const std::optional<TEnderecoIP>& AEndereco);
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

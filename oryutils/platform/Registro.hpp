@@ -1,6 +1,7 @@
 #pragma once
 
 #include "oryutils/OryExport.hpp"
+#include "oryutils/readers/DadoRegistro.hpp"
 
 #include <cstdint>
 #include <memory>
@@ -8,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// The trees of the registry; the values are those of the system's predefined handles, their low 32 bits.
 /// (Linux) crClassesRoot is the key Software/Classes of crLocalMachine and crCurrentConfig its key
@@ -45,26 +46,6 @@ enum TErroRegistro : std::uint32_t {
 
 /// What the system says about AErro, without the final point: in Portuguese on Linux, in the language of Windows there.
 ORY_API std::u16string BuscarTextoDoErroRegistro(TErroRegistro AErro);
-
-/// Kinds of a value, numbered as the system numbers them; others may be read.
-enum TTipoDadoRegistro : std::uint32_t {
-    tdrNenhum = 0,
-    tdrTexto = 1,
-    tdrTextoExpansivel = 2,
-    tdrBinario = 3,
-    tdrInteiro = 4,
-    tdrListaDeTextos = 7,
-    tdrInteiro64 = 11,
-};
-
-/// A value as the registry keeps it. Texts are UTF-16LE with their terminators (Windows may add one that is missing),
-/// integers little-endian.
-struct TDadoRegistro {
-    std::uint32_t Tipo = tdrNenhum;
-    std::string Bytes{};
-
-    bool operator==(const TDadoRegistro&) const = default;
-};
 
 /// An open key of the registry: of Windows', or of the settings store that takes its place on Linux (docs/ajustes.md).
 /// Nothing here throws, short of memory. Names and paths are compared ignoring case; "\" parts the keys of a path.
@@ -103,4 +84,4 @@ private:
     std::unique_ptr<TDados> FDados;  // none while closed
 };
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

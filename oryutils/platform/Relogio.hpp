@@ -1,6 +1,6 @@
 #pragma once
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// A local date and time as the wall shows it.
 struct TInstanteLocal {
@@ -12,4 +12,4 @@ struct TInstanteLocal {
 /// The current local date and time.
 TInstanteLocal BuscarInstanteLocal();
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

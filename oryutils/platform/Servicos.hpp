@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// What the service manager tells of a service.
 struct TSituacaoServico {
@@ -71,4 +71,4 @@ enum TAcessoGerenciador : int { agConectar, agTotal };
 ORY_API std::unique_ptr<TGerenciadorServicos> AbrirGerenciadorServicos(std::u16string_view AMaquina,
                                                                        TAcessoGerenciador AAcesso);
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -6,7 +6,7 @@
 #include <span>
 #include <string>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// The characters that a virtual key (numbered as on Windows) produces with the current keyboard state: none, one or
 /// more. Windows translates by ToUnicodeEx with the calling thread's layout. Linux asks the X server named by DISPLAY
@@ -35,4 +35,4 @@ ORY_API bool TeclaEstahAbaixada(std::uint16_t ATecla);
 /// screen saver extension of the X server tells; 0 without a display or without the extension.
 ORY_API std::uint32_t BuscarTempoDeInatividade();
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// The arguments of the process without the program's name. Linux: argv as it came. Windows: the command line in
 /// UTF-16 from the system, converted to UTF-8, since argv there has lost what the code page does not hold.
@@ -26,4 +26,4 @@ private:
 /// True when the environment variable is set and not empty.
 bool PossuiVariavelDeAmbiente(const char* ANome);
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// Text in the encoding that the system takes for a plain text file: the default ANSI code page on Windows, UTF-8 on
 /// Linux. A character that a code page lacks becomes "?"; in UTF-8 a lone surrogate becomes U+FFFD. Never throws.
@@ -14,4 +14,4 @@ std::u16string DeTextoDoSistema(std::string_view ATexto);
 /// What ends a line of a text file: CR LF on Windows, LF on Linux.
 std::u16string_view BuscarQuebraDeLinha() noexcept;
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -1,22 +1,14 @@
 #pragma once
 
+#include "oryutils/readers/BlocoDeVersao.hpp"
+
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-namespace OryUtils::Plataforma {
-
-/// The file version in the fixed part of a version resource: four numbers of 16 bits in two halves.
-struct TVersaoFixa {
-    std::uint32_t MaisSignificativa, MenosSignificativa;
-};
-
-/// The language and the code page of a translation.
-struct TTraducao {
-    std::uint16_t Idioma, PaginaDeCodigo;
-};
+namespace OryUtils::Interno {
 
 /// The version resource of a file, read once, and the three questions that are asked of it. (Windows) The system's
 /// version functions answer. (Linux) An own reader of PE files, of 32 and 64 bits, does. A file that is missing, is no
@@ -37,4 +29,4 @@ private:
     std::vector<char> FBloco;
 };
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -1,9 +1,9 @@
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/registry_numbers/UnOryUtilsValidacoesClasseIE.hpp"
 #include "oryutils/registry_numbers/interno/DigitosCpfCnpj.hpp"
 #include "oryutils/registry_numbers/interno/OutrosDocumentos.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"

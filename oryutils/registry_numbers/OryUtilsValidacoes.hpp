@@ -1,8 +1,8 @@
 #pragma once
 
 #include "oryutils/OryExport.hpp"
+#include "oryutils/fields/CamposTipos.hpp"
 #include "oryutils/registry_numbers/UnOryUtilsValidacoesTypes.hpp"
-#include "oryutils/runtime/CamposTipos.hpp"
 #include "oryutils/runtime/Controle.hpp"
 #include "oryutils/runtime/DataHora.hpp"
 #include "oryutils/runtime/Instancia.hpp"

@@ -1,9 +1,9 @@
 // The checks of fields: accountant registry, e-mail, addresses, dates, names and typed characters.
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/platform/Pastas.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 #include "oryutils/registry_numbers/UnOryUtilsValidacoesClasseCRC.hpp"
 #include "oryutils/registry_numbers/interno/Enderecos.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
 
@@ -137,13 +137,13 @@ void C::ValidarDataInicioFim(const TObjeto* ASender, TWinControl* AControle, TDa
 void C::ValidarDiretorio(const TObjeto* ASender, TWinControl* AControle, std::u16string_view APasta,
                          std::u16string_view AMensagem) {
     ValidarString(ASender, AControle, APasta, AMensagem);
-    Exigir(ASender, AControle, AMensagem, [&] { return Plataforma::ExistePasta(Aparar(APasta)); });
+    Exigir(ASender, AControle, AMensagem, [&] { return Interno::ExistePasta(Aparar(APasta)); });
 }
 
 void C::ValidarCampoNomeArquivo(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ANome,
                                 std::u16string_view AMensagem) {
     Exigir(ASender, AControle, AMensagem,
-           [&] { return std::ranges::none_of(Aparar(ANome), Plataforma::EhProibidoEmNomeDeArquivo); });
+           [&] { return std::ranges::none_of(Aparar(ANome), Interno::EhProibidoEmNomeDeArquivo); });
 }
 
 void C::ValidarCampoNomeComponente(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ANome,

@@ -1,7 +1,7 @@
 #include "oryutils/registry_numbers/UnOryUtilsFormatacoes.hpp"
 
+#include "oryutils/fields/ControladorFormatos.hpp"
 #include "oryutils/registry_numbers/interno/MascarasDeCampos.hpp"
-#include "oryutils/runtime/ControladorFormatos.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/Formatos.hpp"
 

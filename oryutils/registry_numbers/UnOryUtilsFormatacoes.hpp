@@ -1,7 +1,7 @@
 #pragma once
 
 #include "oryutils/OryExport.hpp"
-#include "oryutils/runtime/Campos.hpp"
+#include "oryutils/fields/Campos.hpp"
 #include "oryutils/runtime/Instancia.hpp"
 
 #include <memory>

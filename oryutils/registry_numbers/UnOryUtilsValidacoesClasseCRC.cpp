@@ -1,7 +1,7 @@
 #include "oryutils/registry_numbers/UnOryUtilsValidacoesClasseCRC.hpp"
 
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/registry_numbers/interno/MotivoRecusa.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "oryutils/registry_numbers/UnOryUtilsValidacoesClasseIE.hpp"
 
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/registry_numbers/interno/RegrasIE.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
 
 #include <algorithm>

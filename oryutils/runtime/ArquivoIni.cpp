@@ -1,9 +1,9 @@
 #include "oryutils/runtime/ArquivoIni.hpp"
 
+#include "oryutils/characters/Caixa.hpp"
+#include "oryutils/characters/Caracteres.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/LeituraDeArquivo.hpp"
-#include "oryutils/runtime/Caixa.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
-#include "oryutils/runtime/Utf.hpp"
 
 #include <algorithm>
 #include <cstdint>
@@ -111,7 +111,7 @@ void TBuscaIni::TratarLinha(std::u16string_view ALinha) {
 
 std::u16string LerArquivoIni(std::u16string_view AArquivo, std::u16string_view ASecao, std::u16string_view AChave,
                              std::u16string_view APadrao) {
-    const Plataforma::TLeituraDeArquivo arquivo(AArquivo);
+    const Interno::TLeituraDeArquivo arquivo(AArquivo);
     if (!arquivo.EstahAberto()) return std::u16string(APadrao);
     TBuscaIni busca(ASecao, AChave);
     std::vector<char> bloco(CBloco);

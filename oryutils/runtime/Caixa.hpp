@@ -1,4 +1,4 @@
 #pragma once
 
 // Names of the system are compared below this room; the upper rooms find upper and lower case here.
-#include "oryutils/platform/Caixa.hpp"
+#include "oryutils/characters/Caixa.hpp"

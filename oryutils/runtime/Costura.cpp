@@ -1,6 +1,6 @@
 #include "oryutils/runtime/Costura.hpp"
 
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 
 #include <cstdio>
 

@@ -24,60 +24,60 @@ std::u16string Citar(std::initializer_list<int> APedacos, char16_t ASeparador) {
 TDateTime MoverMeses(TDateTime AData, std::int64_t AMeses) {
     const TPartesData partes = DecodificarData(AData);
     const std::int64_t meses = partes.Ano * 12 + partes.Mes - 1 + AMeses;
-    if (partes.Ano == 0 || meses < 12 || meses >= 10000 * 12) ErroDeData::ForaDoIntervalo();
+    if (partes.Ano == 0 || meses < 12 || meses >= 10000 * 12) Interno::ForaDoIntervalo();
     const int ano = static_cast<int>(meses / 12);
     const int mes = static_cast<int>(meses % 12) + 1;
-    const int dia = std::min(partes.Dia, Calendario::ContarDiasNoMes(ano, mes));
+    const int dia = std::min(partes.Dia, Interno::ContarDiasNoMes(ano, mes));
     // Both parts from the same rounding: what rounds up to midnight has already moved the date.
-    return Calendario::Recompor({Calendario::ParaDias(ano, mes, dia), Calendario::Decompor(AData)->Mili});
+    return Interno::Recompor({Interno::ParaDias(ano, mes, dia), Interno::Decompor(AData)->Mili});
 }
 
 }  // namespace
 
-bool EhAnoBissexto(int AAno) noexcept { return Calendario::EhBissexto(AAno); }
+bool EhAnoBissexto(int AAno) noexcept { return Interno::EhBissexto(AAno); }
 
 int BuscarDiasNoMes(int AAno, int AMes) noexcept {
-    return AMes >= 1 && AMes <= 12 ? Calendario::ContarDiasNoMes(AAno, AMes) : 0;
+    return AMes >= 1 && AMes <= 12 ? Interno::ContarDiasNoMes(AAno, AMes) : 0;
 }
 
 std::optional<TDateTime> TentarCodificarData(int AAno, int AMes, int ADia) noexcept {
     if (AAno < 1 || AAno > 9999 || ADia < 1 || ADia > BuscarDiasNoMes(AAno, AMes)) return std::nullopt;
-    return TDateTime(Calendario::ParaDias(AAno, AMes, ADia));
+    return TDateTime(Interno::ParaDias(AAno, AMes, ADia));
 }
 
 std::optional<TDateTime> TentarCodificarHora(int AHora, int AMinuto, int ASegundo, int AMili) noexcept {
     const auto cabe = [](int AValor, int AFim) { return AValor >= 0 && AValor < AFim; };
     if (!cabe(AHora, 24) || !cabe(AMinuto, 60) || !cabe(ASegundo, 60) || !cabe(AMili, 1000)) return std::nullopt;
     const int mili = ((AHora * 60 + AMinuto) * 60 + ASegundo) * 1000 + AMili;
-    return TDateTime(static_cast<double>(mili) / Calendario::CMilisPorDia);
+    return TDateTime(static_cast<double>(mili) / Interno::CMilisPorDia);
 }
 
 TDateTime CodificarData(int AAno, int AMes, int ADia) {
     const auto data = TentarCodificarData(AAno, AMes, ADia);
-    if (!data) ErroDeData::DataInvalida(Citar({ADia, AMes, AAno}, u'/'));
+    if (!data) Interno::DataInvalida(Citar({ADia, AMes, AAno}, u'/'));
     return *data;
 }
 
 TDateTime CodificarHora(int AHora, int AMinuto, int ASegundo, int AMili) {
     const auto hora = TentarCodificarHora(AHora, AMinuto, ASegundo, AMili);
-    if (!hora) ErroDeData::HoraInvalida(Citar({AHora, AMinuto, ASegundo, AMili}, u':'));
+    if (!hora) Interno::HoraInvalida(Citar({AHora, AMinuto, ASegundo, AMili}, u':'));
     return *hora;
 }
 
 TPartesData DecodificarData(TDateTime AData) noexcept {
-    const auto valor = Calendario::Decompor(AData);
+    const auto valor = Interno::Decompor(AData);
     if (!valor || !valor->TemData()) return {0, 0, 0};
-    return Calendario::DeDias(static_cast<int>(valor->Dia));
+    return Interno::DeDias(static_cast<int>(valor->Dia));
 }
 
 TPartesHora DecodificarHora(TDateTime AData) noexcept {
-    const auto valor = Calendario::Decompor(AData);
-    return Calendario::DeMilis(valor ? valor->Mili : 0);
+    const auto valor = Interno::Decompor(AData);
+    return Interno::DeMilis(valor ? valor->Mili : 0);
 }
 
 int BuscarDiaDaSemana(TDateTime AData) noexcept {
-    const auto valor = Calendario::Decompor(AData);
-    return valor && valor->TemData() ? Calendario::DiaDaSemana(valor->Dia) : 0;
+    const auto valor = Interno::Decompor(AData);
+    return valor && valor->TemData() ? Interno::DiaDaSemana(valor->Dia) : 0;
 }
 
 TDateTime BuscarParteData(TDateTime AData) noexcept { return std::trunc(AData.Valor) + 0.0; }
@@ -96,21 +96,21 @@ TDateTime IncrementarMes(TDateTime AData, int AMeses) { return MoverMeses(AData,
 TDateTime IncrementarAno(TDateTime AData, int AAnos) { return MoverMeses(AData, std::int64_t{AAnos} * 12); }
 
 TDateTime IncrementarMilissegundos(TDateTime AData, std::int64_t AMilissegundos) noexcept {
-    const auto valor = Calendario::Decompor(AData);
+    const auto valor = Interno::Decompor(AData);
     if (!valor) return AData;
-    std::int64_t dia = valor->Dia + AMilissegundos / Calendario::CMilisPorDia;
-    std::int64_t mili = valor->Mili + AMilissegundos % Calendario::CMilisPorDia;
+    std::int64_t dia = valor->Dia + AMilissegundos / Interno::CMilisPorDia;
+    std::int64_t mili = valor->Mili + AMilissegundos % Interno::CMilisPorDia;
     if (mili < 0) {
-        mili += Calendario::CMilisPorDia;
+        mili += Interno::CMilisPorDia;
         --dia;
-    } else if (mili >= Calendario::CMilisPorDia) {
-        mili -= Calendario::CMilisPorDia;
+    } else if (mili >= Interno::CMilisPorDia) {
+        mili -= Interno::CMilisPorDia;
         ++dia;
     }
-    return Calendario::Recompor({dia, static_cast<int>(mili)});
+    return Interno::Recompor({dia, static_cast<int>(mili)});
 }
 
-TDateTime DeInstanteLocal(const Plataforma::TInstanteLocal& AInstante) noexcept {
+TDateTime DeInstanteLocal(const Interno::TInstanteLocal& AInstante) noexcept {
     const auto data = TentarCodificarData(AInstante.Ano, AInstante.Mes, AInstante.Dia);
     const auto hora = TentarCodificarHora(AInstante.Hora, AInstante.Minuto, AInstante.Segundo, AInstante.Milissegundo);
     return data && hora ? JuntarDataHora(*data, *hora) : TDateTime();
@@ -118,9 +118,9 @@ TDateTime DeInstanteLocal(const Plataforma::TInstanteLocal& AInstante) noexcept 
 
 TDateTime Agora() {
     // Who asks often asks many times in a millisecond.
-    thread_local Plataforma::TInstanteLocal anterior{};
+    thread_local Interno::TInstanteLocal anterior{};
     thread_local TDateTime data;
-    const Plataforma::TInstanteLocal instante = Plataforma::BuscarInstanteLocal();
+    const Interno::TInstanteLocal instante = Interno::BuscarInstanteLocal();
     if (instante != anterior) {
         data = DeInstanteLocal(instante);
         anterior = instante;

@@ -66,6 +66,6 @@ ORY_API TDateTime IncrementarMilissegundos(TDateTime AData, std::int64_t AMiliss
 ORY_API TDateTime Agora();
 ORY_API TDateTime Hoje();
 /// An instant as the system's clock tells it; 0 when it is no date and time.
-ORY_API TDateTime DeInstanteLocal(const Plataforma::TInstanteLocal& AInstante) noexcept;
+ORY_API TDateTime DeInstanteLocal(const Interno::TInstanteLocal& AInstante) noexcept;
 
 }  // namespace OryUtils

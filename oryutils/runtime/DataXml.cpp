@@ -1,7 +1,7 @@
 #include "oryutils/runtime/DataXml.hpp"
 
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/platform/FusoHorario.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
 #include "oryutils/runtime/interno/Calendario.hpp"
@@ -16,10 +16,10 @@ namespace {
 constexpr int CMaiorDeslocamento = 14 * 60;
 constexpr std::int64_t CMilisPorMinuto = 60 * 1000;
 
-int BuscarDeslocamentoDoSistema(const Calendario::TDiaEMili& AValor) {
-    const TPartesData data = Calendario::DeDias(static_cast<int>(AValor.Dia));
-    const TPartesHora hora = Calendario::DeMilis(AValor.Mili);
-    return Plataforma::BuscarDeslocamentoLocal(
+int BuscarDeslocamentoDoSistema(const Interno::TDiaEMili& AValor) {
+    const TPartesData data = Interno::DeDias(static_cast<int>(AValor.Dia));
+    const TPartesHora hora = Interno::DeMilis(AValor.Mili);
+    return Interno::BuscarDeslocamentoLocal(
         {data.Ano, data.Mes, data.Dia, hora.Hora, hora.Minuto, hora.Segundo, hora.Milissegundo});
 }
 
@@ -102,7 +102,7 @@ private:
             fracaoNula = digitos.find_first_not_of(u'0') == std::u16string_view::npos;
         }
         if (hora == 24 && minuto == 0 && segundo == 0 && fracaoNula) {
-            AMili = Calendario::CMilisPorDia;
+            AMili = Interno::CMilisPorDia;
             return true;
         }
         if (hora > 23 || minuto > 59 || segundo > 59) return false;
@@ -135,14 +135,14 @@ TDateTime LerXml(std::u16string_view ATexto, TLocal ALocal) {
     const std::u16string_view texto = Aparar(ATexto);
     TLido lido;
     const TFalha falha = TLeitorXml(texto).Ler(lido);
-    if (falha == flForma) ErroDeData::DataXmlInvalida(ATexto);
-    if (falha == flIntervalo) ErroDeData::DataXmlForaDoIntervalo(ATexto);
-    Calendario::TDiaEMili instante{lido.Dia + lido.Mili / Calendario::CMilisPorDia,
-                                   static_cast<int>(lido.Mili % Calendario::CMilisPorDia)};
-    if (!instante.TemData()) ErroDeData::DataXmlForaDoIntervalo(ATexto);
+    if (falha == flForma) Interno::DataXmlInvalida(ATexto);
+    if (falha == flIntervalo) Interno::DataXmlForaDoIntervalo(ATexto);
+    Interno::TDiaEMili instante{lido.Dia + lido.Mili / Interno::CMilisPorDia,
+                                static_cast<int>(lido.Mili % Interno::CMilisPorDia)};
+    if (!instante.TemData()) Interno::DataXmlForaDoIntervalo(ATexto);
     const std::int64_t deslocamento = lido.Deslocamento ? *lido.Deslocamento : ALocal(instante);
-    const TDateTime utc = IncrementarMilissegundos(Calendario::Recompor(instante), -deslocamento * CMilisPorMinuto);
-    if (!Calendario::Decompor(utc)->TemData()) ErroDeData::DataXmlForaDoIntervalo(ATexto);
+    const TDateTime utc = IncrementarMilissegundos(Interno::Recompor(instante), -deslocamento * CMilisPorMinuto);
+    if (!Interno::Decompor(utc)->TemData()) Interno::DataXmlForaDoIntervalo(ATexto);
     return utc;
 }
 
@@ -150,20 +150,20 @@ TDateTime LerXml(std::u16string_view ATexto, TLocal ALocal) {
 
 std::u16string DataHoraParaXml(TDateTime AData, int ADeslocamentoMinutos) {
     if (ADeslocamentoMinutos < -CMaiorDeslocamento || ADeslocamentoMinutos > CMaiorDeslocamento)
-        ErroDeData::DeslocamentoInvalido(InteiroParaTexto(ADeslocamentoMinutos));
-    if (DecodificarData(AData).Ano == 0) ErroDeData::ForaDoIntervalo();
+        Interno::DeslocamentoInvalido(InteiroParaTexto(ADeslocamentoMinutos));
+    if (DecodificarData(AData).Ano == 0) Interno::ForaDoIntervalo();
     // Only marks of the Schema: the separators of the formats play no part.
     return FormatarDataHora(u"yyyy-mm-dd'T'hh':'nn':'ss.zzz", AData) + EscreverDeslocamento(ADeslocamentoMinutos);
 }
 
 std::u16string DataHoraParaXml(TDateTime AData) {
-    const auto valor = Calendario::Decompor(AData);
-    if (!valor || !valor->TemData()) ErroDeData::ForaDoIntervalo();
+    const auto valor = Interno::Decompor(AData);
+    if (!valor || !valor->TemData()) Interno::ForaDoIntervalo();
     return DataHoraParaXml(AData, BuscarDeslocamentoDoSistema(*valor));
 }
 
 TDateTime XmlParaDataHoraUtc(std::u16string_view ATexto, int ADeslocamentoLocalMinutos) {
-    return LerXml(ATexto, [&](const Calendario::TDiaEMili&) { return ADeslocamentoLocalMinutos; });
+    return LerXml(ATexto, [&](const Interno::TDiaEMili&) { return ADeslocamentoLocalMinutos; });
 }
 
 TDateTime XmlParaDataHoraUtc(std::u16string_view ATexto) { return LerXml(ATexto, BuscarDeslocamentoDoSistema); }

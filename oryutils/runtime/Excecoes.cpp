@@ -1,6 +1,6 @@
 #include "oryutils/runtime/Excecoes.hpp"
 
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 
 namespace OryUtils {
 

@@ -1,8 +1,8 @@
 #include "oryutils/runtime/FormatoDataHora.hpp"
 
-#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/characters/Caracteres.hpp"
+#include "oryutils/characters/Digitos.hpp"
 #include "oryutils/runtime/interno/Calendario.hpp"
-#include "oryutils/runtime/interno/Digitos.hpp"
 
 #include <algorithm>
 #include <array>
@@ -31,11 +31,11 @@ public:
     void JuntarNumero(int ANumero, int ADigitos) {
         GarantirEspaco(4);
         if (ADigitos == 2 && ANumero < 100) {
-            FFim = Digitos::EscreverDois(FFim, ANumero);
+            FFim = Interno::EscreverDois(FFim, ANumero);
             return;
         }
         if (ADigitos == 4 || ANumero >= 1000) {
-            FFim = Digitos::EscreverQuatro(FFim, ANumero);
+            FFim = Interno::EscreverQuatro(FFim, ANumero);
             return;
         }
         if (ADigitos == 3 || ANumero >= 100) *FFim++ = static_cast<char16_t>(u'0' + ANumero / 100);
@@ -90,13 +90,13 @@ bool UsaDozeHoras(std::u16string_view APadrao) {
 class TEscritor {
 public:
     TEscritor(TDateTime AData, const TFormatSettings& AFormatos) : FFormatos(AFormatos) {
-        const auto valor = Calendario::Decompor(AData);
+        const auto valor = Interno::Decompor(AData);
         if (!valor) return;
-        FHora = Calendario::DeMilis(valor->Mili);
+        FHora = Interno::DeMilis(valor->Mili);
         FMeiaNoite = valor->Mili == 0;
         if (!valor->TemData()) return;
-        FData = Calendario::DeDias(static_cast<int>(valor->Dia));
-        FDiaDaSemana = Calendario::DiaDaSemana(valor->Dia);
+        FData = Interno::DeDias(static_cast<int>(valor->Dia));
+        FDiaDaSemana = Interno::DiaDaSemana(valor->Dia);
     }
 
     void Aplicar(std::u16string_view APadrao) { Aplicar(APadrao, false); }

@@ -11,7 +11,7 @@ constinit std::atomic_bool GConfigurando = false;
 
 /// The system is asked (files of its locale, a converter) only where nobody has said the formats before they are used.
 TFormatSettings& FormatosDoProcesso(const TFormatSettings* ADefinidos = nullptr) {
-    static TFormatSettings formatos = ADefinidos ? *ADefinidos : Plataforma::BuscarFormatosDoSistema();
+    static TFormatSettings formatos = ADefinidos ? *ADefinidos : Interno::BuscarFormatosDoSistema();
     return formatos;
 }
 

@@ -7,14 +7,14 @@
 namespace OryUtils {
 namespace {
 
-using Leitura::TAnoCorrente;
+using Interno::TAnoCorrente;
 
 std::optional<TDateTime> LerData(std::u16string_view ATexto, const TFormatSettings& AFormatos,
                                  const TAnoCorrente& AAnoCorrente) {
     const auto separa = [&](char16_t c, std::size_t) { return c == AFormatos.DateSeparator; };
-    const auto grupos = Leitura::LerGrupos(Aparar(ATexto), separa);
+    const auto grupos = Interno::LerGrupos(Aparar(ATexto), separa);
     if (!grupos) return std::nullopt;
-    return Leitura::MontarData(*grupos, Leitura::BuscarOrdemDaData(AFormatos.ShortDateFormat),
+    return Interno::MontarData(*grupos, Interno::BuscarOrdemDaData(AFormatos.ShortDateFormat),
                                AFormatos.TwoDigitYearCenturyWindow, AAnoCorrente);
 }
 
@@ -42,13 +42,13 @@ std::optional<TDateTime> TentarTextoParaData(std::u16string_view ATexto, const T
 
 std::optional<TDateTime> TentarTextoParaHora(std::u16string_view ATexto, const TFormatSettings& AFormatos) {
     std::u16string_view texto = Aparar(ATexto);
-    const Leitura::TMetadeDoDia metade = Leitura::RetirarMetadeDoDia(texto, AFormatos);
+    const Interno::TMetadeDoDia metade = Interno::RetirarMetadeDoDia(texto, AFormatos);
     const auto separa = [&](char16_t c, std::size_t n) {
         return n < 3 ? c == AFormatos.TimeSeparator : c == u'.' || c == AFormatos.DecimalSeparator;
     };
-    const auto grupos = Leitura::LerGrupos(texto, separa);
+    const auto grupos = Interno::LerGrupos(texto, separa);
     if (!grupos || grupos->Quantidade < 2) return std::nullopt;
-    return Leitura::MontarHora(*grupos, metade);
+    return Interno::MontarHora(*grupos, metade);
 }
 
 std::optional<TDateTime> TentarTextoParaDataHora(std::u16string_view ATexto, const TFormatSettings& AFormatos) {
@@ -61,7 +61,7 @@ std::optional<TDateTime> TentarTextoParaDataHora(std::u16string_view ATexto, con
 
 TDateTime TextoParaData(std::u16string_view ATexto, const TFormatSettings& AFormatos) {
     const auto data = TentarTextoParaData(ATexto, AFormatos);
-    if (!data) ErroDeData::DataInvalida(ATexto);
+    if (!data) Interno::DataInvalida(ATexto);
     return *data;
 }
 
@@ -71,7 +71,7 @@ TDateTime TextoParaDataPadrao(std::u16string_view ATexto, TDateTime APadrao, con
 
 TDateTime TextoParaHora(std::u16string_view ATexto, const TFormatSettings& AFormatos) {
     const auto hora = TentarTextoParaHora(ATexto, AFormatos);
-    if (!hora) ErroDeData::HoraInvalida(ATexto);
+    if (!hora) Interno::HoraInvalida(ATexto);
     return *hora;
 }
 

@@ -1,6 +1,6 @@
 #include "oryutils/runtime/NumeroTexto.hpp"
 
-#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/interno/ConversaoExata.hpp"
 #include "oryutils/runtime/interno/Estimativa.hpp"

@@ -1,7 +1,7 @@
 #include "oryutils/runtime/Registro.hpp"
 
-#include "oryutils/platform/interno/NomesRegistro.hpp"
-#include "oryutils/platform/interno/Unidades.hpp"
+#include "oryutils/characters/Unidades.hpp"
+#include "oryutils/readers/NomesRegistro.hpp"
 
 #include <bit>
 #include <utility>
@@ -9,8 +9,8 @@
 namespace OryUtils {
 namespace {
 
-using Plataforma::TDadoRegistro;
-using Plataforma::TErroRegistro;
+using Interno::TDadoRegistro;
+using Interno::TErroRegistro;
 
 [[noreturn]] void Falhar(std::u16string_view AAntes, std::u16string_view ANome, std::u16string_view ADepois) {
     throw ERegistryException(std::u16string(AAntes).append(ANome).append(ADepois));
@@ -33,14 +33,14 @@ T DeBytes(std::string_view ABytes) {
 }  // namespace
 
 bool TRegistry::Deu(TErroRegistro AErro) const noexcept {
-    if (AErro != Plataforma::erNenhum) FUltimoErro = AErro;
-    return AErro == Plataforma::erNenhum;
+    if (AErro != Interno::erNenhum) FUltimoErro = AErro;
+    return AErro == Interno::erNenhum;
 }
 
 // Below the root key.
 std::u16string TRegistry::BuscarCaminhoCompleto(std::u16string_view AChave) const {
-    if (AChave.starts_with(u'\\') || !EstahAberta()) return Plataforma::Interno::NormalizarCaminho(AChave);
-    return Plataforma::Interno::NormalizarCaminho(std::u16string(FCaminho).append(u"\\").append(AChave));
+    if (AChave.starts_with(u'\\') || !EstahAberta()) return Interno::NormalizarCaminho(AChave);
+    return Interno::NormalizarCaminho(std::u16string(FCaminho).append(u"\\").append(AChave));
 }
 
 void TRegistry::SetRootKey(TChaveRaiz ARaiz) {
@@ -61,23 +61,23 @@ void TRegistry::CloseKey() noexcept {
 }
 
 void TRegistry::CreateKey(std::u16string_view AChave) {
-    Plataforma::TChaveRegistro nova;
+    Interno::TChaveRegistro nova;
     if (!Deu(nova.Abrir(FRaiz, BuscarCaminhoCompleto(AChave), FAcesso, true)))
         Falhar(u"Falha ao criar a chave ", AChave, {});
 }
 
 bool TRegistry::KeyExists(std::u16string_view AChave) const {
-    Plataforma::TChaveRegistro chave;
+    Interno::TChaveRegistro chave;
     return Deu(chave.Abrir(FRaiz, BuscarCaminhoCompleto(AChave), arLeitura, false));
 }
 
 bool TRegistry::DeleteKey(std::u16string_view AChave) {
-    if (Plataforma::Interno::NormalizarCaminho(AChave).empty()) return Deu(Plataforma::erNomeInvalido);
+    if (Interno::NormalizarCaminho(AChave).empty()) return Deu(Interno::erNomeInvalido);
     // The key above is opened by itself, so that its view of the registry holds for what is deleted.
     const std::u16string caminho = BuscarCaminhoCompleto(AChave);
     const std::size_t barra = caminho.rfind(u'\\');
     const bool abaixoDaRaiz = barra == caminho.npos;
-    Plataforma::TChaveRegistro acima;
+    Interno::TChaveRegistro acima;
     return Deu(acima.Abrir(FRaiz, abaixoDaRaiz ? std::u16string() : caminho.substr(0, barra), FAcesso, false)) &&
            Deu(acima.ExcluirSubchave(abaixoDaRaiz ? caminho : caminho.substr(barra + 1)));
 }
@@ -108,9 +108,9 @@ std::vector<std::u16string> TRegistry::GetValueNames() const {
 std::u16string TRegistry::ReadString(std::u16string_view AValor) const {
     TDadoRegistro dado;
     if (!LerDado(AValor, dado)) return {};
-    if (dado.Tipo != Plataforma::tdrTexto && dado.Tipo != Plataforma::tdrTextoExpansivel)
+    if (dado.Tipo != Interno::tdrTexto && dado.Tipo != Interno::tdrTextoExpansivel)
         Falhar(u"Tipo de dado inválido para '", AValor, u"'");
-    std::u16string texto = Plataforma::Interno::UnidadesDeBytes(dado.Bytes);
+    std::u16string texto = Interno::UnidadesDeBytes(dado.Bytes);
     if (const std::size_t fim = texto.find(u'\0'); fim != texto.npos) texto.resize(fim);
     return texto;
 }
@@ -118,7 +118,7 @@ std::u16string TRegistry::ReadString(std::u16string_view AValor) const {
 std::int32_t TRegistry::ReadInteger(std::u16string_view AValor) const {
     TDadoRegistro dado;
     if (!LerDado(AValor, dado)) Falhar(u"Falha ao obter dados de '", AValor, u"'");
-    if (dado.Tipo != Plataforma::tdrInteiro || dado.Bytes.size() != sizeof(std::int32_t))
+    if (dado.Tipo != Interno::tdrInteiro || dado.Bytes.size() != sizeof(std::int32_t))
         Falhar(u"Tipo de dado inválido para '", AValor, u"'");
     return static_cast<std::int32_t>(DeBytes<std::uint32_t>(dado.Bytes));
 }
@@ -126,7 +126,7 @@ std::int32_t TRegistry::ReadInteger(std::u16string_view AValor) const {
 double TRegistry::ReadFloat(std::u16string_view AValor) const {
     TDadoRegistro dado;
     if (!LerDado(AValor, dado)) Falhar(u"Falha ao obter dados de '", AValor, u"'");
-    if (dado.Tipo != Plataforma::tdrBinario || dado.Bytes.size() != sizeof(double))
+    if (dado.Tipo != Interno::tdrBinario || dado.Bytes.size() != sizeof(double))
         Falhar(u"Tipo de dado inválido para '", AValor, u"'");
     return std::bit_cast<double>(DeBytes<std::uint64_t>(dado.Bytes));
 }
@@ -136,15 +136,15 @@ void TRegistry::Gravar(std::u16string_view AValor, const TDadoRegistro& ADado) {
 }
 
 void TRegistry::WriteString(std::u16string_view AValor, std::u16string_view ATexto) {
-    Gravar(AValor, {Plataforma::tdrTexto, Plataforma::Interno::BytesDeUnidades(std::u16string(ATexto) + u'\0')});
+    Gravar(AValor, {Interno::tdrTexto, Interno::BytesDeUnidades(std::u16string(ATexto) + u'\0')});
 }
 
 void TRegistry::WriteInteger(std::u16string_view AValor, std::int32_t AInteiro) {
-    Gravar(AValor, {Plataforma::tdrInteiro, BytesDe(static_cast<std::uint32_t>(AInteiro))});
+    Gravar(AValor, {Interno::tdrInteiro, BytesDe(static_cast<std::uint32_t>(AInteiro))});
 }
 
 void TRegistry::WriteFloat(std::u16string_view AValor, double ANumero) {
-    Gravar(AValor, {Plataforma::tdrBinario, BytesDe(std::bit_cast<std::uint64_t>(ANumero))});
+    Gravar(AValor, {Interno::tdrBinario, BytesDe(std::bit_cast<std::uint64_t>(ANumero))});
 }
 
 }  // namespace OryUtils

@@ -11,10 +11,10 @@
 
 namespace OryUtils {
 
-using Plataforma::TChaveRaiz;
-using enum Plataforma::TChaveRaiz;
-using Plataforma::arLeitura;
-using Plataforma::arTotal;
+using Interno::TChaveRaiz;
+using enum Interno::TChaveRaiz;
+using Interno::arLeitura;
+using Interno::arTotal;
 
 /// A value or a key of the registry that could not be read or written.
 class ORY_API ERegistryException : public Exception {
@@ -78,19 +78,19 @@ public:
     void WriteFloat(std::u16string_view AValor, double ANumero);
 
     /// Of the last operation that failed, until the next that fails; erNenhum before.
-    Plataforma::TErroRegistro GetUltimoErro() const noexcept { return FUltimoErro; }
+    Interno::TErroRegistro GetUltimoErro() const noexcept { return FUltimoErro; }
 
 private:
-    bool Deu(Plataforma::TErroRegistro AErro) const noexcept;
+    bool Deu(Interno::TErroRegistro AErro) const noexcept;
     std::u16string BuscarCaminhoCompleto(std::u16string_view AChave) const;
-    bool LerDado(std::u16string_view AValor, Plataforma::TDadoRegistro& ADado) const;
-    void Gravar(std::u16string_view AValor, const Plataforma::TDadoRegistro& ADado);
+    bool LerDado(std::u16string_view AValor, Interno::TDadoRegistro& ADado) const;
+    void Gravar(std::u16string_view AValor, const Interno::TDadoRegistro& ADado);
 
     TChaveRaiz FRaiz = crCurrentUser;
     std::uint32_t FAcesso;
-    Plataforma::TChaveRegistro FChave{};
+    Interno::TChaveRegistro FChave{};
     std::u16string FCaminho{};
-    mutable Plataforma::TErroRegistro FUltimoErro = Plataforma::erNenhum;
+    mutable Interno::TErroRegistro FUltimoErro = Interno::erNenhum;
 };
 
 }  // namespace OryUtils

@@ -1,4 +1,4 @@
 #pragma once
 
 // The system's texts are converted below this room; the upper rooms find the conversions here.
-#include "oryutils/platform/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"

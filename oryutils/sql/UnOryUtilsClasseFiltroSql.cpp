@@ -1,6 +1,6 @@
 #include "oryutils/sql/UnOryUtilsClasseFiltroSql.hpp"
 
-#include "oryutils/runtime/Caixa.hpp"
+#include "oryutils/characters/Caixa.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/sql/interno/BlocoDeNos.hpp"
 #include "oryutils/sql/interno/CondicaoSql.hpp"

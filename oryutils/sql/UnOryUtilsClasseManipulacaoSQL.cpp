@@ -1,6 +1,6 @@
 #include "oryutils/sql/UnOryUtilsClasseManipulacaoSQL.hpp"
 
-#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/characters/Caracteres.hpp"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "oryutils/OryExport.hpp"
-#include "oryutils/runtime/CamposTipos.hpp"
+#include "oryutils/fields/CamposTipos.hpp"
 #include "oryutils/runtime/Objeto.hpp"
 
 #include <cstdint>

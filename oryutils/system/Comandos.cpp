@@ -11,7 +11,7 @@
 namespace OryUtils {
 namespace {
 
-using Plataforma::TProcessoCapturado;
+using Interno::TProcessoCapturado;
 
 /// The application's messages are looked after at least so often, in milliseconds.
 constexpr std::uint32_t CIntervaloDasMensagens = 20;
@@ -21,7 +21,7 @@ constexpr auto CPausa = std::chrono::milliseconds(100);
 
 void ProcessarMensagens() { CosturaInterface().ProcessarMensagens(); }
 
-void LerSaida(TProcessoCapturado& AProcesso, Sistema::TSaidaDeComando& ASaida) {
+void LerSaida(TProcessoCapturado& AProcesso, Interno::TSaidaDeComando& ASaida) {
     std::vector<char> bloco(std::size_t{256} * 1024);
     using TRelogio = std::chrono::steady_clock;
     auto ultima_leitura = TRelogio::now();
@@ -40,15 +40,14 @@ void LerSaida(TProcessoCapturado& AProcesso, Sistema::TSaidaDeComando& ASaida) {
     ASaida.FecharParte();
 }
 
-void Executar(std::u16string_view ALinhaDeComando, Sistema::TDestinoDaSaida& ADestino) {
+void Executar(std::u16string_view ALinhaDeComando, Interno::TDestinoDaSaida& ADestino) {
     const std::unique_ptr<TProcessoCapturado> processo = TProcessoCapturado::Iniciar(ALinhaDeComando);
     if (!processo) return;
-    Plataforma::TDecodificadorAnsi decodificador;
-    Sistema::TSaidaDeComando saida(ADestino,
+    Interno::TDecodificadorAnsi decodificador;
+    Interno::TSaidaDeComando saida(ADestino,
                                    [&](std::string_view ABytes) { return decodificador.Decodificar(ABytes); });
     LerSaida(*processo, saida);
-    while (Plataforma::EsperarProcesso(processo->GetProcesso(), Plataforma::CEsperaSemLimite, true) !=
-           Plataforma::epTerminou)
+    while (Interno::EsperarProcesso(processo->GetProcesso(), Interno::CEsperaSemLimite, true) != Interno::epTerminou)
         ProcessarMensagens();
 }
 
@@ -56,20 +55,20 @@ void Executar(std::u16string_view ALinhaDeComando, Sistema::TDestinoDaSaida& ADe
 
 void TOryUtilsSistema::ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando,
                                                  std::vector<std::u16string>& ASaida) {
-    Sistema::TSaidaEmLista lista(ASaida);
+    Interno::TSaidaEmLista lista(ASaida);
     Executar(ALinhaDeComando, lista);
 }
 
 std::u16string TOryUtilsSistema::ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando) {
     std::u16string texto;
-    Sistema::TSaidaEmTexto destino(texto);
+    Interno::TSaidaEmTexto destino(texto);
     Executar(ALinhaDeComando, destino);
     return texto;
 }
 
 std::unique_ptr<TOryUtilsSystemDadosRetornoProcessoIOP> TOryUtilsSistema::CriarProcesso(
     TOryUtilsSystemDadosCriacaoProcessoIOP& AParametros) {
-    const auto processo = Plataforma::CriarProcesso(AParametros.Comando, AParametros.ExibirProcesso);
+    const auto processo = Interno::CriarProcesso(AParametros.Comando, AParametros.ExibirProcesso);
     auto retorno = std::make_unique<TOryUtilsSystemDadosRetornoProcessoIOP>();
     if (processo) {
         AParametros.IDProcesso = processo->ID;
@@ -79,7 +78,7 @@ std::unique_ptr<TOryUtilsSystemDadosRetornoProcessoIOP> TOryUtilsSistema::CriarP
     }
     if (AParametros.MetodoRetornoCriacaoProcesso) AParametros.MetodoRetornoCriacaoProcesso(*retorno);
     if (processo && AParametros.AguardarProcesso)
-        Plataforma::EsperarProcesso(*processo, AParametros.TempoLimiteProcesso, false);
+        Interno::EsperarProcesso(*processo, AParametros.TempoLimiteProcesso, false);
     return retorno;
 }
 
@@ -91,13 +90,13 @@ bool TOryUtilsSistema::ExecutouComando(std::u16string_view AComando, bool AAguar
     return CriarProcesso(dados)->CriouProcesso;
 }
 
-bool TOryUtilsSistema::EstahRodandoComoAdministrador() { return Plataforma::EhAdministrador(); }
-bool TOryUtilsSistema::EhSistemaOperacional64bits() { return Plataforma::EhProcessoDe32BitsEmSistemaDe64(); }
+bool TOryUtilsSistema::EstahRodandoComoAdministrador() { return Interno::EhAdministrador(); }
+bool TOryUtilsSistema::EhSistemaOperacional64bits() { return Interno::EhProcessoDe32BitsEmSistemaDe64(); }
 
 void TOryUtilsSistema::Dormir(std::uint32_t AMilissegundos) {
-    const Plataforma::Interno::TPrazo prazo(AMilissegundos);
+    const Interno::TPrazo prazo(AMilissegundos);
     while (const std::uint32_t resta = prazo.Resta())
-        if (Plataforma::EsperarMensagens(resta) == Plataforma::epMensagens) ProcessarMensagens();
+        if (Interno::EsperarMensagens(resta) == Interno::epMensagens) ProcessarMensagens();
 }
 
 void ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando, std::vector<std::u16string>& ASaida) {

@@ -8,10 +8,10 @@ namespace {
 
 /// The limit is that of the whole wait, however often messages wake it: also where nobody takes them from the queue and
 /// they wake every wait at once.
-void EsperarComMensagens(const Plataforma::TProcessoIniciado& AProcesso, std::uint32_t ALimite) {
-    const Plataforma::Interno::TPrazo prazo(ALimite);
+void EsperarComMensagens(const Interno::TProcessoIniciado& AProcesso, std::uint32_t ALimite) {
+    const Interno::TPrazo prazo(ALimite);
     std::uint32_t resta = ALimite;
-    while (Plataforma::EsperarProcesso(AProcesso, resta, true) == Plataforma::epMensagens) {
+    while (Interno::EsperarProcesso(AProcesso, resta, true) == Interno::epMensagens) {
         CosturaInterface().ProcessarMensagens();
         resta = prazo.Resta();
         if (resta == 0) return;
@@ -22,12 +22,12 @@ void EsperarComMensagens(const Plataforma::TProcessoIniciado& AProcesso, std::ui
 
 bool TOryUtilsSistema::ExecutouComandoModoAdministrador(
     TOryUtilsSystemDadosComandoModoAdministradorIOP& AParametros) const {
-    const auto processo = Plataforma::ExecutarPeloSistema({.Aplicacao = AParametros.Aplicacao,
-                                                           .Parametros = AParametros.Parametros,
-                                                           .Pasta = AParametros.Diretorio,
-                                                           .Janela = AParametros.Handle,
-                                                           .Elevar = FAtivarExecucaoComandosModoAdministrador,
-                                                           .Exibir = AParametros.ExibirProcesso});
+    const auto processo = Interno::ExecutarPeloSistema({.Aplicacao = AParametros.Aplicacao,
+                                                        .Parametros = AParametros.Parametros,
+                                                        .Pasta = AParametros.Diretorio,
+                                                        .Janela = AParametros.Handle,
+                                                        .Elevar = FAtivarExecucaoComandosModoAdministrador,
+                                                        .Exibir = AParametros.ExibirProcesso});
     if (!processo) return false;
     AParametros.IDProcesso = processo->ID;
     TOryUtilsSystemDadosRetornoProcessoModoAdminIOP retorno;

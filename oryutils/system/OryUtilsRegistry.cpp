@@ -1,7 +1,7 @@
 #include "oryutils/system/OryUtilsRegistry.hpp"
 
-#include "oryutils/runtime/Caixa.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/characters/Caixa.hpp"
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/runtime/Modelo.hpp"
 #include "oryutils/runtime/interno/ValorDeMoeda.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
@@ -16,7 +16,7 @@
 namespace OryUtils {
 namespace {
 
-using namespace Sistema;
+using namespace Interno;
 
 constexpr std::u16string_view CSeparadorDaLista = u";";
 
@@ -138,7 +138,7 @@ TResultStatus TOryUtilsRegistro::ExcluiuChave(TChaveRaiz ARaiz, std::u16string_v
     const TFechamento fechamento(FRegistro);
     Inicializar(ARaiz, AChave);
     if (FRegistro.EstahAberta() && FRegistro.DeleteKey(ASubchave)) return {};
-    const std::u16string motivo = Plataforma::BuscarTextoDoErroRegistro(FRegistro.GetUltimoErro());
+    const std::u16string motivo = Interno::BuscarTextoDoErroRegistro(FRegistro.GetUltimoErro());
     return Falha(PreencherModelo(CErroAoExcluirChave, {ASubchave, motivo}));
 }
 

@@ -1,9 +1,9 @@
 #include "oryutils/platform/Processos.hpp"
 
-#include "oryutils/runtime/Caixa.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/characters/Caixa.hpp"
+#include "oryutils/characters/Caracteres.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/runtime/FormatoNumero.hpp"
-#include "oryutils/runtime/Utf.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 
 namespace OryUtils {
@@ -27,7 +27,7 @@ std::unique_ptr<TProcessoItems> TOryUtilsSistema::BuscarListaDeProcessosWindows(
     const std::u16string_view usuario = Aparar(AUsuario);
     auto processos = std::make_unique<TProcessoItems>();
     const auto quer = [&](std::u16string_view ADono) { return usuario.empty() || MesmoNome(usuario, ADono); };
-    for (Plataforma::TProcessoDoSistema& processo : Plataforma::ListarProcessos(quer)) {
+    for (Interno::TProcessoDoSistema& processo : Interno::ListarProcessos(quer)) {
         TProcessoItem& item = processos->Add();
         item.Usuario = std::move(processo.Usuario);
         item.Processo = std::move(processo.Nome);
@@ -49,17 +49,17 @@ bool TOryUtilsSistema::ProcessoEstahRodando(std::uint32_t AIDProcesso, std::u16s
 }
 
 bool TOryUtilsSistema::FinalizouProcesso(std::u16string_view AExecutavel) {
-    return Plataforma::TerminarProcessos(
+    return Interno::TerminarProcessos(
                [&](std::u16string_view ANome) { return IguaisIgnorandoCaixa(ANome, AExecutavel); }) > 0;
 }
 
 TResultStatus TOryUtilsSistema::FinalizouProcessoPeloPID(std::uint32_t AIDProcesso) {
     const std::u16string id = DeUtf8(std::to_string(AIDProcesso));
     std::u16string erro;
-    switch (Plataforma::TerminarProcesso(AIDProcesso, erro)) {
-        case Plataforma::fpTerminado:
+    switch (Interno::TerminarProcesso(AIDProcesso, erro)) {
+        case Interno::fpTerminado:
             return {};
-        case Plataforma::fpNaoAberto:
+        case Interno::fpNaoAberto:
             return {false, u"Não foi possível finalizar o processo pois o PID [ " + id +
                                u" ] não foi encontrado ou não está mais ativo."};
         default:
@@ -70,21 +70,21 @@ TResultStatus TOryUtilsSistema::FinalizouProcessoPeloPID(std::uint32_t AIDProces
 
 void TOryUtilsSistema::BuscarUsuarioEDominioDoProcesso(std::uint32_t AIDProcesso, std::u16string& AUsuario,
                                                        std::u16string& ADominio) {
-    Plataforma::TDonoDeProcesso dono = Plataforma::BuscarDonoDoProcesso(AIDProcesso);
+    Interno::TDonoDeProcesso dono = Interno::BuscarDonoDoProcesso(AIDProcesso);
     AUsuario = std::move(dono.Usuario);
     ADominio = std::move(dono.Dominio);
 }
 
 std::u16string TOryUtilsSistema::BuscarCaminhoArquivoPeloIDProcesso(std::uint32_t AIDProcesso) {
-    return Plataforma::BuscarCaminhoDoProcesso(AIDProcesso);
+    return Interno::BuscarCaminhoDoProcesso(AIDProcesso);
 }
 
 TAlcaDeProcesso TOryUtilsSistema::BuscarEnderecoMemoriaProcesso(std::u16string_view AProcesso) {
-    return Plataforma::AbrirProcesso([&](std::u16string_view ANome) { return MesmoNome(ANome, AProcesso); });
+    return Interno::AbrirProcesso([&](std::u16string_view ANome) { return MesmoNome(ANome, AProcesso); });
 }
 
 std::uint64_t TOryUtilsSistema::BuscarMemoriaUsadaEnderecoProcesso(const TAlcaDeProcesso& AEndereco) {
-    return Plataforma::BuscarMemoriaDoProcesso(AEndereco);
+    return Interno::BuscarMemoriaDoProcesso(AEndereco);
 }
 
 std::u16string TOryUtilsSistema::BuscarMemoriaUsadaProcesso(std::u16string_view AProcesso) {
@@ -93,8 +93,8 @@ std::u16string TOryUtilsSistema::BuscarMemoriaUsadaProcesso(std::u16string_view 
     return FormatarNumero(u",.# KB", static_cast<Extended>(quilobytes));
 }
 
-void TOryUtilsSistema::LiberarMemoriaResidualProcesso() { Plataforma::LiberarMemoria(); }
-void TOryUtilsSistema::AbrirPropriedadesDataHora() { Plataforma::AbrirConfiguracaoDeDataHora(); }
+void TOryUtilsSistema::LiberarMemoriaResidualProcesso() { Interno::LiberarMemoria(); }
+void TOryUtilsSistema::AbrirPropriedadesDataHora() { Interno::AbrirConfiguracaoDeDataHora(); }
 
 std::unique_ptr<TProcessoItems> GetListaDeProcessosWindows(std::u16string_view AUsuario) {
     return TOryUtilsSistema::BuscarListaDeProcessosWindows(AUsuario);

@@ -1,5 +1,5 @@
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/platform/Discos.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 #include "oryutils/system/interno/RegrasDeDiscos.hpp"
 
@@ -12,8 +12,8 @@ constexpr std::int64_t CPasso = 1024;
 
 std::unique_ptr<TOryUtilsSystemInfoDiscoRigidoIOP> TOryUtilsSistema::BuscarInformacoesDiscoRigido(
     std::u16string_view AUnidade, TFormatoBytes AFormato) {
-    const auto espaco = Plataforma::BuscarEspacoEmDisco(AUnidade).value_or(Plataforma::TEspacoEmDisco{});
-    const std::u16string volume = Plataforma::BuscarNomeDoVolume(AUnidade);
+    const auto espaco = Interno::BuscarEspacoEmDisco(AUnidade).value_or(Interno::TEspacoEmDisco{});
+    const std::u16string volume = Interno::BuscarNomeDoVolume(AUnidade);
     const std::u16string_view nome = Aparar(volume);
     auto informacoes = std::make_unique<TOryUtilsSystemInfoDiscoRigidoIOP>();
     informacoes->NomeVolume = nome.empty() ? u"Não identificado" : nome;
@@ -26,13 +26,13 @@ std::unique_ptr<TOryUtilsSystemInfoDiscoRigidoIOP> TOryUtilsSistema::BuscarInfor
 
 std::int64_t TOryUtilsSistema::BuscarQuantidadeEspacoLivreEmDisco(std::u16string_view AUnidade,
                                                                   TFormatoBytes AFormato) {
-    const auto espaco = Plataforma::BuscarEspacoEmDisco(AUnidade).value_or(Plataforma::TEspacoEmDisco{});
+    const auto espaco = Interno::BuscarEspacoEmDisco(AUnidade).value_or(Interno::TEspacoEmDisco{});
     return FormatarBytes(static_cast<std::int64_t>(espaco.Livre), AFormato);
 }
 
 TResultStatus TOryUtilsSistema::ValidouEspacoLivreEmDisco(std::u16string_view AUnidade, std::int64_t AQuantidade,
                                                           TFormatoBytes AFormato) {
-    return Sistema::ConferirEspacoLivre(*BuscarInformacoesDiscoRigido(AUnidade, AFormato), AQuantidade);
+    return Interno::ConferirEspacoLivre(*BuscarInformacoesDiscoRigido(AUnidade, AFormato), AQuantidade);
 }
 
 std::int64_t TOryUtilsSistema::FormatarBytes(std::int64_t ABytes, TFormatoBytes AFormato) {
@@ -41,10 +41,10 @@ std::int64_t TOryUtilsSistema::FormatarBytes(std::int64_t ABytes, TFormatoBytes 
     return ABytes;
 }
 
-std::vector<std::u16string> TOryUtilsSistema::BuscarListaDrivesComputador() { return Plataforma::ListarUnidades(); }
+std::vector<std::u16string> TOryUtilsSistema::BuscarListaDrivesComputador() { return Interno::ListarUnidades(); }
 
 int TOryUtilsSistema::BuscarIndiceUnidadeDisco(std::u16string_view AUnidade) {
-    return Plataforma::BuscarNumeroDaUnidade(AUnidade);
+    return Interno::BuscarNumeroDaUnidade(AUnidade);
 }
 
 }  // namespace OryUtils

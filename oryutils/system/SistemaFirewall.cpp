@@ -5,27 +5,27 @@
 namespace OryUtils {
 namespace {
 
-Sistema::TDialetoFirewall BuscarDialeto() { return Sistema::DialetoDe(TOryUtilsSistema::BuscarVersaoWindows()); }
+Interno::TDialetoFirewall BuscarDialeto() { return Interno::DialetoDe(TOryUtilsSistema::BuscarVersaoWindows()); }
 
 }  // namespace
 
 TResultStatus TOryUtilsSistema::LiberouPortaFirewallWindows(TTipoProtocoloPortaComunicacao AProtocolo, int APorta,
                                                             std::u16string_view ANomeRegra) {
-    return Sistema::LiberouPorta(Sistema::ExecutarComandoDoSistema, BuscarDialeto(), AProtocolo, APorta, ANomeRegra);
+    return Interno::LiberouPorta(Interno::ExecutarComandoDoSistema, BuscarDialeto(), AProtocolo, APorta, ANomeRegra);
 }
 
 TResultStatus TOryUtilsSistema::ExcluiuPortaFirewallWindows(TTipoProtocoloPortaComunicacao AProtocolo, int APorta) {
-    return Sistema::ExcluiuPorta(Sistema::ExecutarComandoDoSistema, BuscarDialeto(), AProtocolo, APorta);
+    return Interno::ExcluiuPorta(Interno::ExecutarComandoDoSistema, BuscarDialeto(), AProtocolo, APorta);
 }
 
 TResultStatus TOryUtilsSistema::LiberouProgramaFirewallWindows(std::u16string_view APrograma,
                                                                std::u16string_view ANomeRegra) {
-    return Sistema::LiberouPrograma(Sistema::ExecutarComandoDoSistema, BuscarDialeto(), APrograma, ANomeRegra);
+    return Interno::LiberouPrograma(Interno::ExecutarComandoDoSistema, BuscarDialeto(), APrograma, ANomeRegra);
 }
 
 TResultStatus TOryUtilsSistema::ExcluiuProgramaFirewallWindows(std::u16string_view APrograma,
                                                                std::u16string_view ANomeRegra) {
-    return Sistema::ExcluiuPrograma(Sistema::ExecutarComandoDoSistema, BuscarDialeto(), APrograma, ANomeRegra);
+    return Interno::ExcluiuPrograma(Interno::ExecutarComandoDoSistema, BuscarDialeto(), APrograma, ANomeRegra);
 }
 
 }  // namespace OryUtils

@@ -7,20 +7,20 @@ namespace OryUtils {
 
 std::u16string TOryUtilsSistema::BuscarNomeComputador() {
     std::uint32_t erro = 0;
-    const auto nome = Plataforma::BuscarNomeDaMaquina(erro);
+    const auto nome = Interno::BuscarNomeDaMaquina(erro);
     if (!nome)
         throw Exception(u"Erro ao retornar nome do computador.\r\n\r\nErro ocorrido: \r\n\r\n" +
-                        Plataforma::DescreverErroDoSistema(erro));
+                        Interno::DescreverErroDoSistema(erro));
     return *nome;
 }
 
 std::u16string TOryUtilsSistema::BuscarNomeUsuarioLogadoNoWindows() {
-    return Plataforma::BuscarNomeDoUsuario().value_or(u"Desconhecido");
+    return Interno::BuscarNomeDoUsuario().value_or(u"Desconhecido");
 }
 
 TVersaoWindows TOryUtilsSistema::BuscarVersaoWindows() {
-    const auto versao = Plataforma::BuscarVersaoDoSistema();
-    return versao ? Sistema::ClassificarVersao(*versao) : vwUnknown;
+    const auto versao = Interno::BuscarVersaoDoSistema();
+    return versao ? Interno::ClassificarVersao(*versao) : vwUnknown;
 }
 
 int TOryUtilsSistema::VarToIntDef(const Variant& AValor, int APadrao) {

@@ -9,8 +9,8 @@ namespace OryUtils {
 namespace {
 
 std::u16string MontarVizinha(std::u16string_view ANome) {
-    return Sistema::MontarPastaVizinha(TOryUtilsSistema::BuscarPastaAplicacao(), ANome,
-                                       Plataforma::BuscarSeparadorDePastas());
+    return Interno::MontarPastaVizinha(TOryUtilsSistema::BuscarPastaAplicacao(), ANome,
+                                       Interno::BuscarSeparadorDePastas());
 }
 
 // A text of the machine's settings; empty when it is missing, of another kind or may not be read.
@@ -27,19 +27,18 @@ std::u16string LerDaMaquina(std::u16string_view AChave, std::u16string_view AVal
 }  // namespace
 
 std::u16string TOryUtilsSistema::BuscarPastaAplicacao() {
-    return Sistema::BuscarPastaDoPrograma(Plataforma::BuscarCaminhoDoExecutavel(),
-                                          Plataforma::BuscarSeparadorDePastas());
+    return Interno::BuscarPastaDoPrograma(Interno::BuscarCaminhoDoExecutavel(), Interno::BuscarSeparadorDePastas());
 }
 
 std::u16string TOryUtilsSistema::BuscarPastaConfiguracaoFormularios() {
     const std::u16string pasta = BuscarPastaAplicacao() + u"ConfigsTemp";
-    Plataforma::CriarPasta(pasta);
-    return pasta + Plataforma::BuscarSeparadorDePastas();
+    Interno::CriarPasta(pasta);
+    return pasta + Interno::BuscarSeparadorDePastas();
 }
 
 std::u16string TOryUtilsSistema::BuscarPastaPadraoLogSistema() {
     std::u16string pasta = BuscarPastaAplicacao() + u"LogSistema";
-    Plataforma::CriarPasta(pasta);
+    Interno::CriarPasta(pasta);
     return pasta;
 }
 
@@ -48,27 +47,27 @@ std::u16string TOryUtilsSistema::BuscarPastaOryApps() { return MontarVizinha(u"O
 std::u16string TOryUtilsSistema::BuscarPastaOryDados() { return MontarVizinha(u"OryDados"); }
 
 std::u16string TOryUtilsSistema::BuscarPastaOryAppsAjuda() {
-    return MontarVizinha(u"OryApps_Ajuda") + Plataforma::BuscarSeparadorDePastas();
+    return MontarVizinha(u"OryApps_Ajuda") + Interno::BuscarSeparadorDePastas();
 }
 
 std::u16string TOryUtilsSistema::BuscarPastaOryEventosServer() { return MontarVizinha(u"OryEventosServer"); }
 
 std::u16string TOryUtilsSistema::BuscarPastaArquivoDeProgramas() {
     const std::u16string pasta = LerDaMaquina(u"\\Software\\Microsoft\\Windows\\CurrentVersion", u"ProgramFilesDir");
-    return pasta.empty() ? Plataforma::BuscarPastaDeProgramasPadrao() : pasta;
+    return pasta.empty() ? Interno::BuscarPastaDeProgramasPadrao() : pasta;
 }
 
 std::u16string TOryUtilsSistema::BuscarPastaMeusDocumentos() {
-    const auto pasta = Plataforma::BuscarPastaDeDocumentos();
+    const auto pasta = Interno::BuscarPastaDeDocumentos();
     if (!pasta) throw Exception(u"Não foi possível identificar o local da pasta Meus Documentos.");
     return *pasta;
 }
 
-std::u16string TOryUtilsSistema::BuscarPastaSystemWindows() { return Plataforma::BuscarPastaDoSistema(); }
+std::u16string TOryUtilsSistema::BuscarPastaSystemWindows() { return Interno::BuscarPastaDoSistema(); }
 
-std::u16string TOryUtilsSistema::BuscarPastaTempWindows() { return Plataforma::BuscarPastaTemporaria(); }
+std::u16string TOryUtilsSistema::BuscarPastaTempWindows() { return Interno::BuscarPastaTemporaria(); }
 
-std::u16string TOryUtilsSistema::BuscarUnidadeInstalacaoWindows() { return Plataforma::BuscarUnidadeDoSistema(); }
+std::u16string TOryUtilsSistema::BuscarUnidadeInstalacaoWindows() { return Interno::BuscarUnidadeDoSistema(); }
 
 std::u16string TOryUtilsSistema::BuscarPastaInstalacaoVelmar(TVersaoVelmar AVersao) {
     if (AVersao != VdVelmarXE) return {};
@@ -82,7 +81,7 @@ TInformacoesVelmar TOryUtilsSistema::BuscarInformacoesVelmar(TVersaoVelmar AVers
 
 std::u16string TOryUtilsSistema::BuscarCaminhoArquivoConfiguracaoForms() {
     return BuscarPastaConfiguracaoFormularios() +
-           Sistema::MontarNomeConfiguracaoForms(BuscarNomeComputador(), BuscarNomeUsuarioLogadoNoWindows());
+           Interno::MontarNomeConfiguracaoForms(BuscarNomeComputador(), BuscarNomeUsuarioLogadoNoWindows());
 }
 
 }  // namespace OryUtils

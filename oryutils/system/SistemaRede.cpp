@@ -1,6 +1,6 @@
+#include "oryutils/characters/Caixa.hpp"
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/platform/Rede.hpp"
-#include "oryutils/runtime/Caixa.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/Modelo.hpp"
@@ -10,12 +10,12 @@
 namespace OryUtils {
 namespace {
 
-std::u16string EscreverIP(const Plataforma::TEnderecoIP& AEndereco) {
+std::u16string EscreverIP(const Interno::TEnderecoIP& AEndereco) {
     return PreencherModelo(u"%d.%d.%d.%d", {InteiroParaTexto(AEndereco[0]), InteiroParaTexto(AEndereco[1]),
                                             InteiroParaTexto(AEndereco[2]), InteiroParaTexto(AEndereco[3])});
 }
 
-std::u16string EscreverMac(const Plataforma::TEnderecoMac& AMac) {
+std::u16string EscreverMac(const Interno::TEnderecoMac& AMac) {
     constexpr std::u16string_view CDigitos = u"0123456789abcdef";
     std::u16string texto;
     for (const std::uint8_t byte : AMac) {
@@ -26,15 +26,14 @@ std::u16string EscreverMac(const Plataforma::TEnderecoMac& AMac) {
     return texto;
 }
 
-std::vector<std::u16string> ListarMacs(const std::optional<Plataforma::TEnderecoIP>& AEndereco) {
+std::vector<std::u16string> ListarMacs(const std::optional<Interno::TEnderecoIP>& AEndereco) {
     std::vector<std::u16string> lista;
-    for (const Plataforma::TEnderecoMac& mac : Plataforma::ListarEnderecosMac(AEndereco))
-        lista.push_back(EscreverMac(mac));
+    for (const Interno::TEnderecoMac& mac : Interno::ListarEnderecosMac(AEndereco)) lista.push_back(EscreverMac(mac));
     return lista;
 }
 
 std::vector<std::u16string> ListarMacsDe(std::u16string_view AIP) {
-    const auto endereco = Plataforma::LerEnderecoIP(AIP);
+    const auto endereco = Interno::LerEnderecoIP(AIP);
     return endereco ? ListarMacs(endereco) : std::vector<std::u16string>();
 }
 
@@ -42,7 +41,7 @@ std::vector<std::u16string> ListarMacsDe(std::u16string_view AIP) {
 
 std::u16string TOryUtilsSistema::BuscarIPLocal() {
     std::u16string erro;
-    const auto endereco = Plataforma::BuscarEnderecoDestaMaquina(erro);
+    const auto endereco = Interno::BuscarEnderecoDestaMaquina(erro);
     if (!endereco)
         throw Exception(
             u"Ocorreu um erro ao tentar executar o método de retorno do IP local <<GetIPLocal>>.\r\nErro ocorrido: " +
@@ -51,17 +50,17 @@ std::u16string TOryUtilsSistema::BuscarIPLocal() {
 }
 
 std::u16string TOryUtilsSistema::BuscarIPPeloNomeComputador(std::u16string_view ANomeComputador) {
-    const auto endereco = Plataforma::ResolverNome(ANomeComputador);
+    const auto endereco = Interno::ResolverNome(ANomeComputador);
     return endereco ? EscreverIP(*endereco) : std::u16string();
 }
 
 std::u16string TOryUtilsSistema::BuscarNomeComputadorPeloIP(std::u16string_view AIP) {
-    const auto endereco = Plataforma::LerEnderecoIP(AIP);
-    return endereco ? Plataforma::BuscarNomeDoEndereco(*endereco) : std::u16string();
+    const auto endereco = Interno::LerEnderecoIP(AIP);
+    return endereco ? Interno::BuscarNomeDoEndereco(*endereco) : std::u16string();
 }
 
 std::vector<std::u16string> TOryUtilsSistema::BuscarListaIPLocalViaARP() {
-    return Sistema::BuscarListaIPLocalViaARP(Sistema::ExecutorDoSistema());
+    return Interno::BuscarListaIPLocalViaARP(Interno::ExecutorDoSistema());
 }
 
 std::u16string TOryUtilsSistema::BuscarIPLocalViaARP() {
@@ -72,13 +71,13 @@ std::u16string TOryUtilsSistema::BuscarIPLocalViaARP() {
 std::u16string TOryUtilsSistema::BuscarEnderecoMac2(std::u16string_view AIP) {
     std::u16string ip = MinusculaDe(Aparar(AIP));
     if (ip == u"localhost" || ip == u"127.0.0.1") ip = BuscarIPLocal();
-    const auto endereco = Plataforma::LerEnderecoIP(ip);
-    const auto mac = endereco ? Plataforma::PerguntarEnderecoMac(*endereco) : std::nullopt;
+    const auto endereco = Interno::LerEnderecoIP(ip);
+    const auto mac = endereco ? Interno::PerguntarEnderecoMac(*endereco) : std::nullopt;
     return mac ? EscreverMac(*mac) : std::u16string();
 }
 
 std::u16string TOryUtilsSistema::BuscarEnderecoMac(std::u16string_view AIP) {
-    return Sistema::BuscarEnderecoMac(
+    return Interno::BuscarEnderecoMac(
         AIP, {.IPLocal = BuscarIPLocal,
               .Rede = BuscarEnderecoMac2,
               .Adaptadores = ListarMacsDe,
@@ -87,15 +86,15 @@ std::u16string TOryUtilsSistema::BuscarEnderecoMac(std::u16string_view AIP) {
 }
 
 std::u16string TOryUtilsSistema::BuscarEnderecoMacViaARP(std::u16string_view AIP) {
-    return Sistema::BuscarEnderecoMacViaARP(Sistema::ExecutorDoSistema(), AIP, CosturaInterface().MostrarCursorOcupado);
+    return Interno::BuscarEnderecoMacViaARP(Interno::ExecutorDoSistema(), AIP, CosturaInterface().MostrarCursorOcupado);
 }
 
 std::u16string TOryUtilsSistema::ExtrairEnderecoMACComandoARP(std::u16string_view ATexto) {
-    return Sistema::ExtrairEnderecoMac(ATexto);
+    return Interno::ExtrairEnderecoMac(ATexto);
 }
 
 bool TOryUtilsSistema::EhIPLocal(std::u16string_view AIP, bool AConsultarARP) {
-    return Sistema::EhIPLocal(AIP, AConsultarARP,
+    return Interno::EhIPLocal(AIP, AConsultarARP,
                               {.NomeComputador = BuscarNomeComputador, .IPLocal = BuscarIPLocal, .ListaViaARP = [] {
                                    return BuscarListaIPLocalViaARP();
                                }});

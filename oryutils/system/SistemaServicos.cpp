@@ -3,53 +3,53 @@
 
 namespace OryUtils {
 
-using Plataforma::AbrirGerenciadorServicos;
-using Sistema::ExecutarComandoDoSistema;
+using Interno::AbrirGerenciadorServicos;
+using Interno::ExecutarComandoDoSistema;
 
 TResultStatus TOryUtilsSistema::InstalouServico(std::u16string_view AServico, std::u16string_view ANomeExibicao,
                                                 std::u16string_view AExecutavel) {
-    return Sistema::InstalouServico(AbrirGerenciadorServicos, AServico, ANomeExibicao, AExecutavel);
+    return Interno::InstalouServico(AbrirGerenciadorServicos, AServico, ANomeExibicao, AExecutavel);
 }
 
 TResultStatus TOryUtilsSistema::DesinstalouServico(std::u16string_view AServico) {
-    return Sistema::DesinstalouServico(AbrirGerenciadorServicos, AServico);
+    return Interno::DesinstalouServico(AbrirGerenciadorServicos, AServico);
 }
 
 bool TOryUtilsSistema::IniciarServico(std::u16string_view AMaquina, std::u16string_view AServico) {
-    return Sistema::IniciarServico(AbrirGerenciadorServicos, AMaquina, AServico);
+    return Interno::IniciarServico(AbrirGerenciadorServicos, AMaquina, AServico);
 }
 
 bool TOryUtilsSistema::PararServico(std::u16string_view AMaquina, std::u16string_view AServico, int ATempoLimite) {
-    return Sistema::PararServico(AbrirGerenciadorServicos, AMaquina, AServico, ATempoLimite);
+    return Interno::PararServico(AbrirGerenciadorServicos, AMaquina, AServico, ATempoLimite);
 }
 
 TStatusServicoWindows TOryUtilsSistema::BuscarStatusServico(std::u16string_view AMaquina,
                                                             std::u16string_view AServico) {
-    return Sistema::BuscarStatusServico(AbrirGerenciadorServicos, AMaquina, AServico);
+    return Interno::BuscarStatusServico(AbrirGerenciadorServicos, AMaquina, AServico);
 }
 
 std::uint32_t TOryUtilsSistema::BuscarIDProcessoServico(std::u16string_view AMaquina, std::u16string_view AServico) {
-    return Sistema::BuscarIDProcessoServico(AbrirGerenciadorServicos, AMaquina, AServico);
+    return Interno::BuscarIDProcessoServico(AbrirGerenciadorServicos, AMaquina, AServico);
 }
 
 TResultStatus TOryUtilsSistema::ConfigurouAcaoPadraoRecuperacaoServico(std::u16string_view AServico) {
-    return Sistema::ConfigurouAcaoPadraoRecuperacaoServico(ExecutarComandoDoSistema, AServico);
+    return Interno::ConfigurouAcaoPadraoRecuperacaoServico(ExecutarComandoDoSistema, AServico);
 }
 
 TResultStatus TOryUtilsSistema::ConfigurouDependenciaServico(std::u16string_view AServico,
                                                              std::u16string_view ADependencia) {
-    return Sistema::ConfigurouDependenciaServico(ExecutarComandoDoSistema, AServico, ADependencia);
+    return Interno::ConfigurouDependenciaServico(ExecutarComandoDoSistema, AServico, ADependencia);
 }
 
 TResultStatus TOryUtilsSistema::ConfigurouUsuarioLogonServico(std::u16string_view AServico,
                                                               std::u16string_view AUsuario,
                                                               std::u16string_view ASenha) {
-    return Sistema::ConfigurouUsuarioLogonServico(ExecutarComandoDoSistema, AServico, AUsuario, ASenha);
+    return Interno::ConfigurouUsuarioLogonServico(ExecutarComandoDoSistema, AServico, AUsuario, ASenha);
 }
 
 TResultStatus TOryUtilsSistema::ConfigurouDadosAdicionaisServico(std::u16string_view AServico,
                                                                  const std::vector<std::u16string>& AConfiguracoes) {
-    return Sistema::ConfigurouDadosAdicionaisServico(ExecutarComandoDoSistema, AServico, AConfiguracoes);
+    return Interno::ConfigurouDadosAdicionaisServico(ExecutarComandoDoSistema, AServico, AConfiguracoes);
 }
 
 bool ServiceStart(std::u16string_view AMaquina, std::u16string_view AServico) {

@@ -4,12 +4,12 @@
 
 namespace OryUtils {
 
-std::uint32_t TOryUtilsSistema::BuscarTempoInatividadeSistema() { return Plataforma::BuscarTempoDeInatividade(); }
+std::uint32_t TOryUtilsSistema::BuscarTempoInatividadeSistema() { return Interno::BuscarTempoDeInatividade(); }
 
 void TOryUtilsSistema::SimularPressionamentoTecla(std::uint16_t ATecla, TShiftState AShift, bool ATeclaEstendida) {
-    Plataforma::EnviarEventosDeTecla(Sistema::MontarPressionamento(ATecla, AShift, ATeclaEstendida));
+    Interno::EnviarEventosDeTecla(Interno::MontarPressionamento(ATecla, AShift, ATeclaEstendida));
 }
 
-bool TOryUtilsSistema::TeclaEstahPressionada(std::uint16_t ATecla) { return Plataforma::TeclaEstahAbaixada(ATecla); }
+bool TOryUtilsSistema::TeclaEstahPressionada(std::uint16_t ATecla) { return Interno::TeclaEstahAbaixada(ATecla); }
 
 }  // namespace OryUtils

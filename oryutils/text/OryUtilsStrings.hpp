@@ -1,7 +1,7 @@
 #pragma once
 
 #include "oryutils/OryExport.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/runtime/Instancia.hpp"
 #include "oryutils/types/OryTypesSistema.hpp"
 

@@ -1,7 +1,7 @@
 // GUIDs, Base64, keys, buffers and the masks of federal inscription numbers.
+#include "oryutils/fields/Mascara.hpp"
 #include "oryutils/platform/Aleatorio.hpp"
 #include "oryutils/platform/Teclado.hpp"
-#include "oryutils/runtime/Mascara.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
 #include "oryutils/text/interno/Base64.hpp"
 #include "oryutils/text/interno/Utf8Exato.hpp"
@@ -35,7 +35,7 @@ const TMascarasInscricao* BuscarMascaras(TTipoInscricao ATipo) {
 std::u16string TOryUtilsStrings::BuscarNovoGuid() {
     constexpr std::u16string_view CHexadecimais = u"0123456789ABCDEF";
     std::array<std::byte, 16> bytes{};
-    Plataforma::PreencherAleatorio(bytes);
+    Interno::PreencherAleatorio(bytes);
     bytes[6] = (bytes[6] & std::byte{0x0F}) | std::byte{0x40};  // version 4: random
     bytes[8] = (bytes[8] & std::byte{0x3F}) | std::byte{0x80};  // the standard's variant
     std::u16string resultado = u"{";
@@ -56,7 +56,7 @@ std::u16string TOryUtilsStrings::ConverterBase64ParaTexto(std::u16string_view AT
 }
 
 std::u16string TOryUtilsStrings::ConverterTeclaVirtualParaCaractere(std::uint16_t ATecla) {
-    std::u16string caracteres = Plataforma::TraduzirTeclaVirtual(ATecla);
+    std::u16string caracteres = Interno::TraduzirTeclaVirtual(ATecla);
     return caracteres.size() == 1 ? caracteres : std::u16string();
 }
 

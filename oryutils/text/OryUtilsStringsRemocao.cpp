@@ -1,5 +1,5 @@
 // Removal and replacement of characters and texts.
-#include "oryutils/runtime/Caixa.hpp"
+#include "oryutils/characters/Caixa.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
 #include "oryutils/text/interno/Acentos.hpp"
 #include "oryutils/text/interno/Busca.hpp"

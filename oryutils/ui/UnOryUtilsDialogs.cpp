@@ -1,6 +1,6 @@
 #include "oryutils/ui/UnOryUtilsDialogs.hpp"
 
-#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/ui/OryUtilsControls.hpp"
 #include "oryutils/ui/interno/FormularioDetalhe.hpp"

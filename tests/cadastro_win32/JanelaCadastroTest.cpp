@@ -1,5 +1,5 @@
 // The sample window itself: typed into, left, saved.
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 
 #include "apps/cadastro/win32/JanelaCadastro.hpp"
 #include "comum/CasosDoCadastro.hpp"

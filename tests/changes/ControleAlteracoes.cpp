@@ -1,6 +1,6 @@
 #include "oryutils/changes/UnOryUtilsControleAlteracoes.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/runtime/Utf.hpp"
 
 #include <gtest/gtest.h>
 

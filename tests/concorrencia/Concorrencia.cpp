@@ -3,7 +3,7 @@
 #include "oryutils/runtime/FormatoDataHora.hpp"
 #include "oryutils/runtime/Formatos.hpp"
 
-#include "operacoes/Operacoes.hpp"
+#include "operations/Operacoes.hpp"
 
 #include <gtest/gtest.h>
 

@@ -105,8 +105,8 @@ TEST_F(OryUtilsDatas, FormatosFixosComoALinguagem) {
         const TDateTime data = i == 0 ? std::nan("") : i == 1 ? -1e300 : valor(sorteio);
         for (const TTipoFormatoData tipo : {fdData, fdDataHora, fdHora})
             for (const TFormatSettings* formatos : {&FormatSettings(), &std::as_const(semSeparador)})
-                ASSERT_EQ(DatasInterno::FormatarPeloTipo(tipo, data, *formatos),
-                          FormatarDataHora(DatasInterno::BuscarPadrao(tipo), data, *formatos));
+                ASSERT_EQ(Interno::FormatarPeloTipo(tipo, data, *formatos),
+                          FormatarDataHora(Interno::BuscarPadrao(tipo), data, *formatos));
     }
 }
 
@@ -223,8 +223,8 @@ TEST_F(OryUtilsDatas, Deslocamentos) {
         {tmtMilissegundo, 5, 77, "milliseconds too: now"},
     };
     for (const auto& c : casos)
-        EXPECT_EQ(DatasInterno::Deslocar(base, static_cast<TTipoMedidaTempo>(c.Medida), c.Quantidade,
-                                         [] { return TDateTime(77); }),
+        EXPECT_EQ(Interno::Deslocar(base, static_cast<TTipoMedidaTempo>(c.Medida), c.Quantidade,
+                                    [] { return TDateTime(77); }),
                   c.Esperado)
             << c.Porque;
     EXPECT_EQ(D::BuscarDataHoraMedidaTempo(-1.25, tmtHora, 24), 0.25) << "across day 0";
@@ -256,15 +256,15 @@ TEST_F(OryUtilsDatas, CompletaOQueFoiDigitado) {
     };
     const TFormatSettings& brasil = BuscarFormatosBrasileiros();
     for (const auto& c : casos) {
-        const std::u16string completa = DatasInterno::Completar(c.Texto, brasil, 2024);
+        const std::u16string completa = Interno::Completar(c.Texto, brasil, 2024);
         EXPECT_EQ(completa, c.Esperado) << c.Porque;
-        EXPECT_EQ(DatasInterno::Completar(completa, brasil, 2024), c.Esperado) << "once is enough: " << c.Porque;
+        EXPECT_EQ(Interno::Completar(completa, brasil, 2024), c.Esperado) << "once is enough: " << c.Porque;
     }
     TFormatSettings iso = brasil;
     iso.ShortDateFormat = u"yyyy/mm/dd";
     iso.DateSeparator = u'-';
-    EXPECT_EQ(DatasInterno::Completar(u"240305 7:5", iso, 2024), u"2024-03-05 07:05:00");
-    EXPECT_EQ(DatasInterno::Completar(u"3-5", iso, 2024), u"2024-03-05");
+    EXPECT_EQ(Interno::Completar(u"240305 7:5", iso, 2024), u"2024-03-05 07:05:00");
+    EXPECT_EQ(Interno::Completar(u"3-5", iso, 2024), u"2024-03-05");
     EXPECT_EQ(FormatarData(u"5/3/2024 7:5"), u"05/03/2024 07:05:00");
 }
 

@@ -1,8 +1,8 @@
 // The shared library loaded and unloaded at run time, as hosts load it.
 
 #include "oryutils/OryUtils.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/BibliotecaDinamica.hpp"
-#include "oryutils/runtime/Utf.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
 #include "oryutils/ui/UnOryUtilsDialogs.hpp"
 
@@ -10,8 +10,8 @@
 
 namespace {
 
-using OryUtils::Plataforma::EstahCarregada;
-using OryUtils::Plataforma::TBibliotecaDinamica;
+using OryUtils::Interno::EstahCarregada;
+using OryUtils::Interno::TBibliotecaDinamica;
 
 const std::u16string CArquivo = OryUtils::DeUtf8(ORY_ARQUIVO_DA_BIBLIOTECA);
 

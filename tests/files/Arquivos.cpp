@@ -1,7 +1,7 @@
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/files/OryUtilsFiles.hpp"
 #include "oryutils/files/interno/DataDoArquivo.hpp"
 #include "oryutils/runtime/Formatos.hpp"
-#include "oryutils/runtime/Utf.hpp"
 
 #include "files/ApoioArquivos.hpp"
 
@@ -78,7 +78,7 @@ std::int32_t FusoComVerao(std::int64_t AInstante) { return AInstante < 151891920
 
 TEST(Arquivos, DataEmpacotadaEHoraLocalDoSeuTempo) {
     const struct {
-        Plataforma::TInstanteUtc Instante;
+        Interno::TInstanteUtc Instante;
         TDateTime Local;
         const char* Porque;
     } casos[] = {

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/files/UnOryUtilsArquivoLog.hpp"
 #include "oryutils/files/interno/AmbienteDoLog.hpp"
 #include "oryutils/platform/TextoDoSistema.hpp"
-#include "oryutils/runtime/Utf.hpp"
 
 #include "files/ApoioArquivos.hpp"
 
@@ -59,7 +59,7 @@ public:
     }
     /// The bytes of a file in UTF-8 with every line that the memory holds.
     std::string Esperar() const {
-        return OryUtils::ParaUtf8(GetTexto()) + OryUtils::ParaUtf8(OryUtils::Plataforma::BuscarQuebraDeLinha());
+        return OryUtils::ParaUtf8(GetTexto()) + OryUtils::ParaUtf8(OryUtils::Interno::BuscarQuebraDeLinha());
     }
 
 private:
@@ -68,7 +68,7 @@ private:
 
 /// The lines with the system's break behind each, in UTF-8: the file of a log in clUtf8.
 inline std::string JuntarLinhas(const std::vector<std::u16string>& ALinhas) {
-    const std::string quebra = OryUtils::ParaUtf8(OryUtils::Plataforma::BuscarQuebraDeLinha());
+    const std::string quebra = OryUtils::ParaUtf8(OryUtils::Interno::BuscarQuebraDeLinha());
     std::string texto;
     for (const auto& linha : ALinhas) texto += OryUtils::ParaUtf8(linha) + quebra;
     return texto;

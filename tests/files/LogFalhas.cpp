@@ -76,7 +76,7 @@ TEST_P(LogFalhas, ExistenteQueNaoSeLeDeixaALista) {
     Log.SetUsarArquivoLogExistente(true);
     Log.AdicionarEspacoEmBranco(3);
     EXPECT_NO_THROW(Log.IniciarLog());
-    EXPECT_TRUE(Log.GetTexto().starts_with(Plataforma::BuscarQuebraDeLinha()));
+    EXPECT_TRUE(Log.GetTexto().starts_with(Interno::BuscarQuebraDeLinha()));
 }
 
 INSTANTIATE_TEST_SUITE_P(Modos, LogFalhas, testing::Values(mgReescrever, mgAcrescentar));

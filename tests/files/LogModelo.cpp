@@ -1,4 +1,4 @@
-#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
 
 #include "files/LogApoio.hpp"
@@ -180,7 +180,7 @@ private:
 
     void Conferir(int APasso) {
         std::u16string texto = DeUtf8(JuntarLinhas(FObvio.Linhas));
-        if (!texto.empty()) texto.resize(texto.size() - Plataforma::BuscarQuebraDeLinha().size());
+        if (!texto.empty()) texto.resize(texto.size() - Interno::BuscarQuebraDeLinha().size());
         ASSERT_EQ(FLog.GetTexto(), texto) << "step " << APasso;
         ASSERT_EQ(FLog.GetArquivoLog(), FPasta.Nome(FObvio.Arquivo()));
         std::size_t arquivos = 0;

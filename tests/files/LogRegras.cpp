@@ -31,7 +31,7 @@ protected:
     /// GetTexto of those lines.
     static std::u16string Texto(const std::vector<std::u16string>& ALinhas) {
         std::u16string texto = DeUtf8(JuntarLinhas(ALinhas));
-        texto.resize(texto.size() - Plataforma::BuscarQuebraDeLinha().size());
+        texto.resize(texto.size() - Interno::BuscarQuebraDeLinha().size());
         return texto;
     }
 
@@ -142,14 +142,14 @@ TEST_F(LogRegras, CadaArquivoTemADataDoSeuDia) {
     log.FinalizarLog();
     // Finished after midnight, dated by the day that they record.
     for (const int dia : {15, 16}) {
-        const auto dados = Plataforma::ProcurarArquivo(Pasta.Nome("Dia_" + std::to_string(dia) + "_11_2026.log"));
+        const auto dados = Interno::ProcurarArquivo(Pasta.Nome("Dia_" + std::to_string(dia) + "_11_2026.log"));
         ASSERT_TRUE(dados);
         EXPECT_EQ(Interno::BuscarDataEmpacotada(dados->UltimaGravacao), CodificarData(2026, 11, dia)) << dia;
     }
     Ambiente.Marcar(1999, 5, 4);
     TLogDeTeste unico(Pasta.Nome("Unico"), Ambiente);
     unico.FinalizarLog();
-    const auto dados = Plataforma::ProcurarArquivo(unico.GetArquivoLog());
+    const auto dados = Interno::ProcurarArquivo(unico.GetArquivoLog());
     EXPECT_GT(Interno::BuscarDataEmpacotada(dados.value().UltimaGravacao), CodificarData(1999, 5, 5)) << "of today";
 }
 
@@ -214,7 +214,7 @@ TEST_F(LogRegras, OExistenteEhLidoNaCodificacaoEmQueFoiEscrito) {
         if (codificacao != clPadrao)
             EXPECT_EQ(bytes.find("a\xE7\xE3o e rea") != bytes.npos, codificacao == clWindows1252);
         else
-            EXPECT_NE(bytes.find(Plataforma::ParaTextoDoSistema(mensagens[0])), bytes.npos);
+            EXPECT_NE(bytes.find(Interno::ParaTextoDoSistema(mensagens[0])), bytes.npos);
     }
 }
 
@@ -227,9 +227,9 @@ TEST_F(LogRegras, CodificacaoNuncaPara) {
     const TCaso casos[] = {
         {clUtf8, ParaUtf8(texto)},
         {clWindows1252, "cora\xE7\xE3o \x80 ? ? ? fim"},
-        {clPadrao, Plataforma::ParaTextoDoSistema(texto)},  // what that is, the tests of each system tell
+        {clPadrao, Interno::ParaTextoDoSistema(texto)},  // what that is, the tests of each system tell
     };
-    const std::string quebra = ParaUtf8(Plataforma::BuscarQuebraDeLinha());
+    const std::string quebra = ParaUtf8(Interno::BuscarQuebraDeLinha());
     TLogDeTeste log(Pasta.Nome("C"), Ambiente, mgAcrescentar);
     log.SetFormatoMensagem(tfmSomenteTexto);
     log.IniciarLog();

@@ -1,7 +1,7 @@
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/files/OryUtilsFiles.hpp"
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/runtime/Utf.hpp"
 
 #include "files/ApoioArquivos.hpp"
 #include "files/ConstrutorPe.hpp"

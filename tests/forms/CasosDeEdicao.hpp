@@ -1,7 +1,7 @@
 #pragma once
 
+#include "oryutils/fields/Mascara.hpp"
 #include "oryutils/registry_numbers/UnOryUtilsFormatacoes.hpp"
-#include "oryutils/runtime/Mascara.hpp"
 
 #include <memory>
 #include <optional>

@@ -1,6 +1,6 @@
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/forms/console/ToolkitConsole.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/runtime/Utf.hpp"
 
 #include <gtest/gtest.h>
 
@@ -20,17 +20,17 @@ struct TConversaEscrita final : TConversa {
     bool PodeConversar() override { return Terminal; }
     void Escrever(std::u16string_view ATexto) override { Escrito += ParaUtf8(ATexto); }
     std::chrono::milliseconds GetInstante() override { return Instante; }
-    Plataforma::TLeituraDeLinha LerLinha(std::optional<std::chrono::milliseconds> ALimite,
-                                         std::u16string& ALinha) override {
-        if (Linhas.empty()) return Plataforma::llFim;
+    Interno::TLeituraDeLinha LerLinha(std::optional<std::chrono::milliseconds> ALimite,
+                                      std::u16string& ALinha) override {
+        if (Linhas.empty()) return Interno::llFim;
         const auto linha = Linhas.front();
         Linhas.erase(Linhas.begin());
         if (!linha) {
             Instante += ALimite.value_or(std::chrono::milliseconds(0));
-            return Plataforma::llTempo;
+            return Interno::llTempo;
         }
         ALinha = *linha;
-        return Plataforma::llLinha;
+        return Interno::llLinha;
     }
 };
 

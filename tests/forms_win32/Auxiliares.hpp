@@ -94,10 +94,10 @@ protected:
 
     /// The control of the active window with that text.
     static HWND BuscarFilho(std::u16string_view ATexto) {
-        return ::FindWindowExW(::GetActiveWindow(), nullptr, nullptr, Plataforma::ParaWide(std::u16string(ATexto)));
+        return ::FindWindowExW(::GetActiveWindow(), nullptr, nullptr, Interno::ParaWide(std::u16string(ATexto)));
     }
     static HWND Janela(const TFormulario& AFormulario) {
-        return ::FindWindowW(L"TOryFormulario", Plataforma::ParaWide(AFormulario.GetTitulo()));
+        return ::FindWindowW(L"TOryFormulario", Interno::ParaWide(AFormulario.GetTitulo()));
     }
     /// The windows on the form, in tab order.
     static std::vector<HWND> Filhos(HWND AJanela) {
@@ -109,7 +109,7 @@ protected:
     static std::u16string Texto(HWND AJanela) {
         std::wstring texto(static_cast<std::size_t>(::GetWindowTextLengthW(AJanela)) + 1, L'\0');
         texto.resize(static_cast<std::size_t>(::GetWindowTextW(AJanela, texto.data(), static_cast<int>(texto.size()))));
-        return Plataforma::DeWide(texto);
+        return Interno::DeWide(texto);
     }
     static TRetangulo Retangulo(HWND AJanela) {
         RECT r{};

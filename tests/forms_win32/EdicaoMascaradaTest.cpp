@@ -1,11 +1,11 @@
 // Real edit controls bound to fields: typed into, pasted into, left.
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/forms/win32/ControleWin32.hpp"
 #include "oryutils/forms/win32/EdicaoMascaradaWin32.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 #include "oryutils/registry_numbers/UnOryUtilsFormatacoes.hpp"
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/runtime/Utf.hpp"
 
 #include "Auxiliares.hpp"
 #include "forms/CasosDeEdicao.hpp"

@@ -128,7 +128,7 @@ TEST_F(FormsWin32, OFormularioVeAsTeclasAntesDoControle) {
     ASSERT_TRUE(::OpenClipboard(nullptr));
     const HANDLE dados = ::GetClipboardData(CF_UNICODETEXT);
     ASSERT_NE(dados, nullptr);
-    EXPECT_EQ(Plataforma::DeWide(static_cast<const wchar_t*>(::GlobalLock(dados))), u"copiado: ação\r\n\U0001F600");
+    EXPECT_EQ(Interno::DeWide(static_cast<const wchar_t*>(::GlobalLock(dados))), u"copiado: ação\r\n\U0001F600");
     ::GlobalUnlock(dados);
     ::CloseClipboard();
 }

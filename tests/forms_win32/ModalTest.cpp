@@ -173,8 +173,8 @@ TEST_F(FormsWin32, MuitosDialogosNaoDeixamNada) {
 
 TEST_F(FormsWin32, FiltroDoSeletorDeArquivos) {
     const std::vector<TFiltroArquivo> filtros{{u"Textos", u"*.txt;*.csv"}, {u"Todos", u"*.*"}};
-    EXPECT_EQ(Win32::MontarFiltro(filtros), std::u16string(u"Textos\0*.txt;*.csv\0Todos\0*.*\0\0", 30));
-    EXPECT_EQ(Win32::MontarFiltro({}), std::u16string(1, u'\0'));
+    EXPECT_EQ(Interno::MontarFiltro(filtros), std::u16string(u"Textos\0*.txt;*.csv\0Todos\0*.*\0\0", 30));
+    EXPECT_EQ(Interno::MontarFiltro({}), std::u16string(1, u'\0'));
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 #include "oryutils/runtime/Formatos.hpp"
-#include "oryutils/runtime/Utf.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
 
 #include "Apoio.hpp"

@@ -1,6 +1,6 @@
 #include "log/Log.hpp"
 
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 
 #include "Apoio.hpp"
 #include "files/LogApoio.hpp"

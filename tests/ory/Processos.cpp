@@ -1,4 +1,4 @@
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 
 #include "Apoio.hpp"

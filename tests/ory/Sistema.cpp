@@ -1,10 +1,10 @@
 #include "sistema/Sistema.hpp"
 
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 
 #include "Apoio.hpp"
-#include "operacoes/Json.hpp"
+#include "operations/Json.hpp"
 
 #include <gtest/gtest.h>
 

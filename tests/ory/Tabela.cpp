@@ -1,4 +1,4 @@
-#include "operacoes/Operacoes.hpp"
+#include "operations/Operacoes.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/files/OryUtilsFiles.hpp"
-#include "oryutils/runtime/Utf.hpp"
 
 #include "Apoio.hpp"
 #include "files/ApoioArquivos.hpp"

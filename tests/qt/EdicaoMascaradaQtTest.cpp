@@ -1,7 +1,7 @@
 // Real line edits bound to fields: typed into, pasted into, left.
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/registry_numbers/UnOryUtilsFormatacoes.hpp"
 #include "oryutils/runtime/Formatos.hpp"
-#include "oryutils/runtime/Utf.hpp"
 
 #include "forms/CasosDeEdicao.hpp"
 #include "qt/Roteiro.hpp"

@@ -67,8 +67,8 @@ TEST_F(TecladoQt, UmaJanelaVeAsTeclasSimuladas) {
 }
 
 TEST_F(TecladoQt, EstadoEInatividade) {
-    using Plataforma::EnviarEventosDeTecla;
-    using Plataforma::TEventoDeTecla;
+    using Interno::EnviarEventosDeTecla;
+    using Interno::TEventoDeTecla;
     for (const std::uint16_t tecla : {0x41, 0x10, 0x11, 0x12, 0x0D, 0x70, 0x2E}) {
         EXPECT_FALSE(TOryUtilsSistema::TeclaEstahPressionada(tecla)) << tecla;
         EnviarEventosDeTecla(std::array{TEventoDeTecla{.Tecla = tecla}});

@@ -254,13 +254,13 @@ TEST_F(Campos, ConteudoVariavel) {
 }
 
 TEST(Pastas, SoAsQueExistem) {
-    EXPECT_TRUE(Plataforma::ExistePasta(u"."));
-    EXPECT_FALSE(Plataforma::ExistePasta(u""));
-    EXPECT_FALSE(Plataforma::ExistePasta(std::u16string_view(u".\0x", 3))) << "nothing is cut off at a zero";
-    EXPECT_FALSE(Plataforma::ExistePasta(u"\xD800"));
-    EXPECT_FALSE(Plataforma::ExistePasta(std::u16string(1 << 20, u'a')));
+    EXPECT_TRUE(Interno::ExistePasta(u"."));
+    EXPECT_FALSE(Interno::ExistePasta(u""));
+    EXPECT_FALSE(Interno::ExistePasta(std::u16string_view(u".\0x", 3))) << "nothing is cut off at a zero";
+    EXPECT_FALSE(Interno::ExistePasta(u"\xD800"));
+    EXPECT_FALSE(Interno::ExistePasta(std::u16string(1 << 20, u'a')));
     for (const char16_t c : std::u16string_view(u"abc ção-_.;\xD800"))
-        EXPECT_FALSE(Plataforma::EhProibidoEmNomeDeArquivo(c)) << static_cast<int>(c);
+        EXPECT_FALSE(Interno::EhProibidoEmNomeDeArquivo(c)) << static_cast<int>(c);
 }
 
 }  // namespace

@@ -1,10 +1,10 @@
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 #include "oryutils/registry_numbers/interno/DigitosCpfCnpj.hpp"
 #include "oryutils/registry_numbers/interno/OutrosDocumentos.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/Formatos.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
-#include "oryutils/runtime/Utf.hpp"
 
 #include <gtest/gtest.h>
 

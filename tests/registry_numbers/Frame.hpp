@@ -1,9 +1,9 @@
 #pragma once
 
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/runtime/Controle.hpp"
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/runtime/Utf.hpp"
 
 #include <gtest/gtest.h>
 

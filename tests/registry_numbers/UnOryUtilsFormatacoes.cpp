@@ -1,10 +1,10 @@
 #include "oryutils/registry_numbers/UnOryUtilsFormatacoes.hpp"
 
-#include "oryutils/runtime/ControladorFormatos.hpp"
+#include "oryutils/characters/Utf.hpp"
+#include "oryutils/fields/ControladorFormatos.hpp"
+#include "oryutils/fields/Mascara.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
-#include "oryutils/runtime/Mascara.hpp"
-#include "oryutils/runtime/Utf.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // What is done over and over leaves nothing open behind.
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/files/OryUtilsFiles.hpp"
 #include "oryutils/files/UnOryUtilsArquivoLog.hpp"
 #include "oryutils/runtime/Formatos.hpp"
-#include "oryutils/runtime/Utf.hpp"
 #include "oryutils/system/OryUtilsRegistry.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 

@@ -1,6 +1,6 @@
 #include "oryutils/runtime/interno/ConversaoExata.hpp"
 
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/runtime/interno/InteiroLongo.hpp"
 #include "oryutils/runtime/interno/QuinzeDigitos.hpp"
 

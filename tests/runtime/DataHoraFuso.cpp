@@ -4,7 +4,7 @@
 
 namespace {
 
-using namespace OryUtils::Plataforma;
+using namespace OryUtils::Interno;
 
 // Made-up rules: two hours behind UTC in the summer that ends on 2018-02-18 at 02:00 UTC (midnight of the wall) and in
 // the one that starts on 2018-11-04 at 03:00 UTC (midnight again), three hours behind between them.

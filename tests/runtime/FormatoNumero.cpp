@@ -1,6 +1,6 @@
 #include "oryutils/runtime/FormatoNumero.hpp"
 
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "oryutils/platform/Localidade.hpp"
-#include "oryutils/platform/PadroesDoSistema.hpp"
+#include "oryutils/readers/PadroesDoSistema.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
 
 #include <gtest/gtest.h>
@@ -9,7 +9,7 @@
 namespace {
 
 using namespace OryUtils;
-using namespace OryUtils::Plataforma;
+using namespace OryUtils::Interno;
 
 TEST(FormatosDoSistema, PadroesDoSistemaNaLinguagemDosFormatos) {
     const struct {

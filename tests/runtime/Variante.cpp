@@ -1,7 +1,7 @@
 #include "oryutils/runtime/Variante.hpp"
 
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/runtime/Utf.hpp"
 
 #include <gtest/gtest.h>
 

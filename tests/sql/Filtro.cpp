@@ -1,7 +1,7 @@
-#include "oryutils/runtime/Caixa.hpp"
+#include "oryutils/characters/Caixa.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/Formatos.hpp"
-#include "oryutils/runtime/Utf.hpp"
 #include "oryutils/sql/UnOryUtilsClasseFiltroSql.hpp"
 
 #include <gtest/gtest.h>

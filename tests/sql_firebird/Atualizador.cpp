@@ -1,4 +1,4 @@
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 
 #include "atualizador/Atualizacao.hpp"
 

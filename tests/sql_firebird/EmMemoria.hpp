@@ -1,8 +1,8 @@
 #pragma once
 
-#include "oryutils/runtime/Caixa.hpp"
+#include "oryutils/characters/Caixa.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
-#include "oryutils/runtime/Utf.hpp"
 #include "oryutils/sql/UnOryUtilsClasseFiltroSql.hpp"
 
 #include "pesquisa/Banco.hpp"

@@ -1,5 +1,5 @@
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/platform/CodificacaoAnsi.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 #include "oryutils/system/interno/Executor.hpp"
 
@@ -84,7 +84,7 @@ TEST(Comandos, CemMegabytes) {
             letra == u'\n' ? esperado += u"\r\n" : esperado += letra;
     const std::u16string comando = Comando(u"linhas 100000000");
     EXPECT_TRUE(TOryUtilsSistema::ExecutarComandoComRetorno(comando) == esperado);
-    EXPECT_TRUE(Sistema::JuntarLinhas(Executar(comando)) == esperado);
+    EXPECT_TRUE(Interno::JuntarLinhas(Executar(comando)) == esperado);
 }
 
 TEST(Comandos, BytesQuebradosSaoLidosParteAParte) {
@@ -93,7 +93,7 @@ TEST(Comandos, BytesQuebradosSaoLidosParteAParte) {
     for (int i = 0; i < 60; ++i) bytes += "ação\xFF\x80\xC3 \xE2\x82 😀\r\n";
     std::ofstream(pasta / "saida", std::ios::binary) << bytes;
     std::u16string esperado;
-    Plataforma::TDecodificadorAnsi decodificador;
+    Interno::TDecodificadorAnsi decodificador;
     for (std::size_t i = 0; i < bytes.size(); i += 255)
         esperado += Aparar(decodificador.Decodificar(bytes.substr(i, 255)));
     EXPECT_EQ(TOryUtilsSistema::ExecutarComandoComRetorno(Comando(u"arquivo " + EntreAspas(pasta / "saida"))),

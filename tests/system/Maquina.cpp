@@ -16,7 +16,7 @@ namespace {
 
 TEST(Maquina, VersaoDoWindows) {
     struct TCaso {
-        Plataforma::TVersaoDoSistema Versao;
+        Interno::TVersaoDoSistema Versao;
         TVersaoWindows Esperada;
         const char* Porque;
     };
@@ -36,7 +36,7 @@ TEST(Maquina, VersaoDoWindows) {
         {{0, 6, 1, u""}, vwUnknown, "another platform"},
     };
     for (const TCaso& caso : casos)
-        EXPECT_EQ(Sistema::ClassificarVersao(caso.Versao), caso.Esperada)
+        EXPECT_EQ(Interno::ClassificarVersao(caso.Versao), caso.Esperada)
             << caso.Versao.Plataforma << ' ' << caso.Versao.Maior << '.' << caso.Versao.Menor << ' ' << caso.Porque;
     EXPECT_EQ(CVetorVersaoWindows[vwWinVista], u"Windows Vista/7 ou superior");
 }
@@ -64,15 +64,15 @@ TEST(Maquina, EspacoLivre) {
         u"Informações detalhadas da unidade: \r\n\r\nUnidade: D \r\nNome: DADOS %s \r\nEspaço total: 100 GB\r\nEspaço "
         u"livre: 30 GB\r\nEspaço usado: 70 GB";
     EXPECT_EQ(disco.GetInformacoesDetalhadas(), detalhes);
-    EXPECT_EQ(Sistema::ConferirEspacoLivre(disco, 30), TResultStatus{}) << "equal is enough";
-    EXPECT_EQ(Sistema::ConferirEspacoLivre(disco, -1), TResultStatus{});
-    EXPECT_EQ(Sistema::ConferirEspacoLivre(disco, 31),
+    EXPECT_EQ(Interno::ConferirEspacoLivre(disco, 30), TResultStatus{}) << "equal is enough";
+    EXPECT_EQ(Interno::ConferirEspacoLivre(disco, -1), TResultStatus{});
+    EXPECT_EQ(Interno::ConferirEspacoLivre(disco, 31),
               (TResultStatus{false,
                              u"A unidade << D >> não possui espaço suficiente.\r\nEspaço requisitado: 31 "
                              u"GB.\r\n\r\n" +
                                  detalhes}));
     const std::int64_t muito = std::int64_t{1} << 40;  // its low 32 bits are zero
-    EXPECT_FALSE(Sistema::ConferirEspacoLivre(disco, muito).Status);
+    EXPECT_FALSE(Interno::ConferirEspacoLivre(disco, muito).Status);
 }
 
 TEST(Maquina, OQueExisteEOQueNao) {
@@ -135,17 +135,17 @@ TEST(Maquina, PastasVizinhas) {
         {u"/p", u"/", u"/OryApps", u'/', "nothing is above the root"},
     };
     for (const TCaso& caso : casos) {
-        EXPECT_EQ(Sistema::BuscarPastaDoPrograma(caso.Executavel, caso.Separador), caso.Aplicacao) << caso.Porque;
-        EXPECT_EQ(Sistema::MontarPastaVizinha(caso.Aplicacao, u"OryApps", caso.Separador), caso.Vizinha) << caso.Porque;
+        EXPECT_EQ(Interno::BuscarPastaDoPrograma(caso.Executavel, caso.Separador), caso.Aplicacao) << caso.Porque;
+        EXPECT_EQ(Interno::MontarPastaVizinha(caso.Aplicacao, u"OryApps", caso.Separador), caso.Vizinha) << caso.Porque;
     }
-    EXPECT_EQ(Sistema::MontarNomeConfiguracaoForms(u"PC1", u"ana"), u"FP_PC1_ana.ini");
-    EXPECT_EQ(Sistema::MontarNomeConfiguracaoForms(u"%s", u"a%d"), u"FP_%s_a%d.ini");
+    EXPECT_EQ(Interno::MontarNomeConfiguracaoForms(u"PC1", u"ana"), u"FP_PC1_ana.ini");
+    EXPECT_EQ(Interno::MontarNomeConfiguracaoForms(u"%s", u"a%d"), u"FP_%s_a%d.ini");
 }
 
 TEST(Maquina, OrdemDasTeclas) {
     const auto descrever = [](TShiftState AShift, bool AEstendida) {
         std::string texto;
-        for (const Plataforma::TEventoDeTecla& e : Sistema::MontarPressionamento(0x41, AShift, AEstendida))
+        for (const Interno::TEventoDeTecla& e : Interno::MontarPressionamento(0x41, AShift, AEstendida))
             texto += (e.Soltar ? "-" : "+") + std::to_string(e.Tecla) + (e.Estendida ? "e " : " ");
         return texto;
     };

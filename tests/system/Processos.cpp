@@ -1,9 +1,9 @@
 #include "oryutils/platform/Processos.hpp"
 
+#include "oryutils/characters/Caixa.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/InicioDeProcessos.hpp"
-#include "oryutils/runtime/Caixa.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/runtime/Utf.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 
 #include "system/Auxiliar.hpp"
@@ -31,19 +31,19 @@ protected:
     }
     std::uint32_t Iniciar() {
         const Testes::TDorminhoco dorminhoco;
-        FIniciados.push_back(*Plataforma::CriarProcesso(Comando(dorminhoco.Argumentos(), FPrograma), false));
+        FIniciados.push_back(*Interno::CriarProcesso(Comando(dorminhoco.Argumentos(), FPrograma), false));
         dorminhoco.Esperar();
         return FIniciados.back().ID;
     }
     void EsperarFim() {
-        for (const Plataforma::TProcessoIniciado& processo : FIniciados)
-            Plataforma::EsperarProcesso(processo, Plataforma::CEsperaSemLimite, false);
+        for (const Interno::TProcessoIniciado& processo : FIniciados)
+            Interno::EsperarProcesso(processo, Interno::CEsperaSemLimite, false);
     }
     std::u16string Nome() const { return FPrograma.filename().u16string(); }
 
     TPastaTemporaria FPasta;
     std::filesystem::path FPrograma;
-    std::vector<Plataforma::TProcessoIniciado> FIniciados;
+    std::vector<Interno::TProcessoIniciado> FIniciados;
 };
 
 const TProcessoItem* Achar(const TProcessoItems& AProcessos, std::uint32_t AID) {

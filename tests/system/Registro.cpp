@@ -1,5 +1,5 @@
 // The settings of the registry: what is written is read back without the library (LerDoSistema).
-#include "oryutils/runtime/Caixa.hpp"
+#include "oryutils/characters/Caixa.hpp"
 #include "oryutils/runtime/Formatos.hpp"
 #include "oryutils/system/OryUtilsRegistry.hpp"
 #include "oryutils/system/interno/CotaObjetosGDI.hpp"
@@ -128,7 +128,7 @@ TEST_F(TRegistro, FalhasDizemChaveEValor) {
     Falhou(registro.ExcluiuValor(crLocalMachine, CChave, u"Nome"),
            u"Erro ao excluir valor do registro do Windows.\r\nChave: Software\\OryUtilsTeste\r\nValor: Nome",
            "a missing value");
-    const std::u16string motivo = Plataforma::BuscarTextoDoErroRegistro(Plataforma::erNaoExiste);
+    const std::u16string motivo = Interno::BuscarTextoDoErroRegistro(Interno::erNaoExiste);
     EXPECT_FALSE(motivo.empty());
     Falhou(registro.ExcluiuChave(crLocalMachine, CChave, u"Sub"),
            u"Não foi possível excluir a chave/valor << Sub >>.\r\nErro ocorrido: \r\n\r\n" + motivo, "a missing key");
@@ -179,7 +179,7 @@ TEST_F(TRegistro, AcessorAbreCaminhosRelativos) {
     ASSERT_TRUE(acessor.OpenKey(u"Y", true));
     EXPECT_EQ(acessor.GetCurrentPath(), u"Software\\OryUtilsTeste\\X\\Y");
     EXPECT_FALSE(acessor.OpenKey(u"Falta", false));
-    EXPECT_EQ(acessor.GetUltimoErro(), Plataforma::erNaoExiste);
+    EXPECT_EQ(acessor.GetUltimoErro(), Interno::erNaoExiste);
     EXPECT_EQ(acessor.GetCurrentPath(), u"Software\\OryUtilsTeste\\X\\Y") << "what does not open changes nothing";
     acessor.WriteInteger(u"", 7);
     EXPECT_EQ(acessor.GetValueNames(), TLista{u""}) << "the default value";
@@ -188,7 +188,7 @@ TEST_F(TRegistro, AcessorAbreCaminhosRelativos) {
     acessor.SetRootKey(crCurrentUser);
     EXPECT_FALSE(acessor.EstahAberta());
     EXPECT_THROW(acessor.WriteInteger(u"x", 1), ERegistryException);
-    EXPECT_EQ(acessor.GetUltimoErro(), Plataforma::erAlcaInvalida);
+    EXPECT_EQ(acessor.GetUltimoErro(), Interno::erAlcaInvalida);
     EXPECT_THROW(acessor.CreateKey(std::u16string(256, u'k')), ERegistryException);
 }
 
@@ -224,11 +224,11 @@ TEST_F(TRegistro, VariaveisDeAmbienteComListas) {
         EXPECT_EQ(registro.BuscarValorVariavelAmbiente(CVariavel), caso.Subtraida);
     }
 
-    variavel.Gravar({Plataforma::tdrTextoExpansivel, std::string("%\0A\0%\0\0\0", 8)});
+    variavel.Gravar({Interno::tdrTextoExpansivel, std::string("%\0A\0%\0\0\0", 8)});
     EXPECT_EQ(registro.AdicionouValorVariavelAmbiente(CVariavel, {u"b"}), TResultStatus());
     EXPECT_EQ(LerDoSistema(CAmbiente, CVariavel), u"\"%A%;b\"") << "what was expandable is so no more";
 
-    variavel.Gravar({Plataforma::tdrInteiro, std::string("\1\0\0\0", 4)});
+    variavel.Gravar({Interno::tdrInteiro, std::string("\1\0\0\0", 4)});
     for (const TResultStatus& resultado : {registro.AdicionouValorVariavelAmbiente(CVariavel, {u"a", u"b"}),
                                            registro.ExcluiuValorVariavelAmbiente(CVariavel, {u"a", u"b"})})
         Falhou(resultado,
@@ -257,7 +257,7 @@ TEST_F(TRegistro, CotaDeObjetosGDI) {
         const bool windows2000 = versao == vwWin2000;
         const int maior = windows2000 ? 16384 : 65536;
         for (const int valor : {INT32_MIN, -256, 0, 255, 256, maior, maior + 1, INT32_MAX}) {
-            const auto resultado = Sistema::ValidarCotaObjetosGDI(valor, static_cast<TVersaoWindows>(versao));
+            const auto resultado = Interno::ValidarCotaObjetosGDI(valor, static_cast<TVersaoWindows>(versao));
             if (valor >= 256 && valor <= maior)
                 EXPECT_EQ(resultado, TResultStatus()) << valor;
             else

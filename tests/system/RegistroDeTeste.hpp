@@ -38,8 +38,8 @@ class TValorPreservado {
 public:
     TValorPreservado(std::u16string_view AChave, std::u16string_view AValor) : FValor(AValor) {
         FChave.Abrir(OryUtils::crLocalMachine, AChave, OryUtils::arTotal, false);
-        OryUtils::Plataforma::TDadoRegistro dado;
-        if (FChave.Ler(FValor, dado) == OryUtils::Plataforma::erNenhum) FAntigo = dado;
+        OryUtils::Interno::TDadoRegistro dado;
+        if (FChave.Ler(FValor, dado) == OryUtils::Interno::erNenhum) FAntigo = dado;
     }
     ~TValorPreservado() {
         if (FAntigo)
@@ -51,12 +51,12 @@ public:
     TValorPreservado& operator=(const TValorPreservado&) = delete;
 
     void Excluir() { FChave.ExcluirValor(FValor); }
-    void Gravar(const OryUtils::Plataforma::TDadoRegistro& ADado) { FChave.Gravar(FValor, ADado); }
+    void Gravar(const OryUtils::Interno::TDadoRegistro& ADado) { FChave.Gravar(FValor, ADado); }
 
 private:
-    OryUtils::Plataforma::TChaveRegistro FChave{};
+    OryUtils::Interno::TChaveRegistro FChave{};
     std::u16string FValor;
-    std::optional<OryUtils::Plataforma::TDadoRegistro> FAntigo{};
+    std::optional<OryUtils::Interno::TDadoRegistro> FAntigo{};
 };
 
 /// An empty key HKEY_LOCAL_MACHINE\Software\OryUtilsTeste for each test.

@@ -1,5 +1,5 @@
 // Random operations on the registry beside the same ones on maps.
-#include "oryutils/platform/Caixa.hpp"
+#include "oryutils/characters/Caixa.hpp"
 
 #include "system/RegistroDeTeste.hpp"
 
@@ -8,8 +8,8 @@
 #include <random>
 
 using namespace OryUtils;
-using Plataforma::TChaveRegistro;
-using Plataforma::TDadoRegistro;
+using Interno::TChaveRegistro;
+using Interno::TDadoRegistro;
 using Teste::TRegistro;
 
 namespace {
@@ -49,7 +49,7 @@ public:
             dado.Bytes.append({static_cast<char>(Numero(60) == 0 ? 7 : Numero(90) + 35),
                                static_cast<char>(Numero(8) == 0 ? Numero(256) : 0)});
         if (texto) dado.Bytes.append(2, '\0');
-        if (dado.Tipo == Plataforma::tdrInteiro && Numero(4) != 0) dado.Bytes.resize(4);
+        if (dado.Tipo == Interno::tdrInteiro && Numero(4) != 0) dado.Bytes.resize(4);
         return dado;
     }
 
@@ -68,10 +68,10 @@ bool EstahAbaixo(std::u16string_view ACaminho, std::u16string_view AChave) {
 void Comparar(const TModelo& AModelo) {
     for (const auto& [caminho, valores] : AModelo) {
         TChaveRegistro chave;
-        ASSERT_EQ(chave.Abrir(crLocalMachine, NaBase(caminho), arLeitura, false), Plataforma::erNenhum);
+        ASSERT_EQ(chave.Abrir(crLocalMachine, NaBase(caminho), arLeitura, false), Interno::erNenhum);
         for (const auto& [nome, esperado] : valores) {
             TDadoRegistro dado;
-            ASSERT_EQ(chave.Ler(nome, dado), Plataforma::erNenhum);
+            ASSERT_EQ(chave.Ler(nome, dado), Interno::erNenhum);
             ASSERT_EQ(dado, esperado);
         }
         const auto conferir = [](std::vector<std::u16string> ANomes, std::vector<std::u16string> AEsperados) {
@@ -82,14 +82,14 @@ void Comparar(const TModelo& AModelo) {
         };
         std::vector<std::u16string> nomes, esperados;
         for (const auto& [nome, dado] : valores) esperados.push_back(nome);
-        ASSERT_EQ(chave.ListarValores(nomes), Plataforma::erNenhum);
+        ASSERT_EQ(chave.ListarValores(nomes), Interno::erNenhum);
         conferir(nomes, esperados);
 
         esperados.clear();
         for (const auto& [outro, dados] : AModelo)
             if (!outro.empty() && outro.substr(0, outro.rfind(u'\\') == outro.npos ? 0 : outro.rfind(u'\\')) == caminho)
                 esperados.push_back(outro.substr(outro.rfind(u'\\') + 1));
-        ASSERT_EQ(chave.ListarSubchaves(nomes), Plataforma::erNenhum);
+        ASSERT_EQ(chave.ListarSubchaves(nomes), Interno::erNenhum);
         conferir(nomes, esperados);
     }
 }
@@ -109,28 +109,27 @@ TEST_F(TRegistro, OperacoesAoAcasoSaoComoAsDeUmMapa) {
             TChaveRegistro acima;
             const auto abriu = acima.Abrir(
                 crLocalMachine, NaBase(barra == caminho.npos ? u"" : caminho.substr(0, barra)), arTotal, false);
-            const auto excluiu =
-                abriu == Plataforma::erNenhum ? acima.ExcluirSubchave(caminho.substr(barra + 1)) : abriu;
-            EXPECT_EQ(excluiu == Plataforma::erNenhum, modelo.contains(chaveDoModelo));
+            const auto excluiu = abriu == Interno::erNenhum ? acima.ExcluirSubchave(caminho.substr(barra + 1)) : abriu;
+            EXPECT_EQ(excluiu == Interno::erNenhum, modelo.contains(chaveDoModelo));
             std::erase_if(modelo, [&](const auto& AItem) { return EstahAbaixo(AItem.first, chaveDoModelo); });
             continue;
         }
         const bool criar = acao < 3;
         TChaveRegistro chave;
         const auto abriu = chave.Abrir(crLocalMachine, NaBase(caminho), arTotal, criar);
-        EXPECT_EQ(abriu == Plataforma::erNenhum, criar || modelo.contains(chaveDoModelo));
-        if (abriu != Plataforma::erNenhum) continue;
+        EXPECT_EQ(abriu == Interno::erNenhum, criar || modelo.contains(chaveDoModelo));
+        if (abriu != Interno::erNenhum) continue;
         for (std::size_t barra = 0; barra != chaveDoModelo.npos && criar;) {
             barra = chaveDoModelo.find(u'\\', barra + 1);
             modelo.try_emplace(chaveDoModelo.substr(0, barra));
         }
         TValores& valores = modelo[chaveDoModelo];
         if (acao % 3 == 0) {
-            const bool excluiu = chave.ExcluirValor(nome) == Plataforma::erNenhum;
+            const bool excluiu = chave.ExcluirValor(nome) == Interno::erNenhum;
             EXPECT_EQ(excluiu, valores.erase(MinusculaDe(nome)) == 1);
         } else {
             const TDadoRegistro dado = sorteio.Dado();
-            ASSERT_EQ(chave.Gravar(nome, dado), Plataforma::erNenhum);
+            ASSERT_EQ(chave.Gravar(nome, dado), Interno::erNenhum);
             valores[MinusculaDe(nome)] = dado;
         }
         if (passo % 50 == 0) Comparar(modelo);

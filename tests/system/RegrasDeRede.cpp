@@ -1,8 +1,8 @@
 // What is decided from the answers of "arp" and of the network, with sources that answer as told.
 #include "oryutils/system/interno/RegrasDeRede.hpp"
 
-#include "oryutils/runtime/Caixa.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/characters/Caixa.hpp"
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 
 #include "system/ProgramasFalsos.hpp"
@@ -35,7 +35,7 @@ TEST(ArpDoSistema, EnderecosDasLinhasDeInterface) {
         {{u"No ARP Entries Found."}, {}, "an empty table"},
     };
     for (const TCaso& caso : casos)
-        EXPECT_EQ(Sistema::ListarEnderecosDaSaidaARP(caso.Linhas), caso.Enderecos) << caso.Porque;
+        EXPECT_EQ(Interno::ListarEnderecosDaSaidaARP(caso.Linhas), caso.Enderecos) << caso.Porque;
 }
 
 // The rule as it is told, step by step.
@@ -80,9 +80,9 @@ TEST(ArpDoSistema, EnderecoMacNoTexto) {
     for (int vez = 0; vez < 20000; ++vez) {
         const bool hostil = vez % 4 == 0;
         const std::u16string texto = sorteio.Texto(hostil ? Testes::CHostis : u"a1é-- \t\r\n\r\n", 0, 40);
-        ASSERT_EQ(Sistema::ExtrairEnderecoMac(texto), ExtrairDevagar(texto)) << sorteio.Semente() << " turn " << vez;
+        ASSERT_EQ(Interno::ExtrairEnderecoMac(texto), ExtrairDevagar(texto)) << sorteio.Semente() << " turn " << vez;
     }
-    EXPECT_EQ(Sistema::ExtrairEnderecoMac(std::u16string(1 << 20, u'-')), u"");
+    EXPECT_EQ(Interno::ExtrairEnderecoMac(std::u16string(1 << 20, u'-')), u"");
 }
 
 /// Answers commands one after the other and remembers them, with what was told of the cursor.
@@ -90,7 +90,7 @@ struct TTerminalDeTeste {
     std::vector<TLista> Respostas{};
     TLista Comandos{};
 
-    Sistema::TExecutorDeComando Executor() {
+    Interno::TExecutorDeComando Executor() {
         return [this](std::u16string_view AComando, TLista& ASaida) {
             Comandos.emplace_back(AComando);
             if (Comandos.size() <= Respostas.size()) ASaida = Respostas[Comandos.size() - 1];
@@ -98,7 +98,7 @@ struct TTerminalDeTeste {
     }
     std::u16string Buscar(std::u16string_view AIP) {
         Comandos.clear();
-        return Sistema::BuscarEnderecoMacViaARP(
+        return Interno::BuscarEnderecoMacViaARP(
             Executor(), AIP, [this](bool AOcupado) { Comandos.push_back(AOcupado ? u"busy" : u"ready"); });
     }
 };
@@ -153,7 +153,7 @@ TEST(EnderecoMac, FontesEmOrdem) {
         std::string perguntas;
         std::size_t vez = 0;
         const auto anotar = [&](char ATipo, std::u16string_view AIP) { perguntas += ATipo + ParaUtf8(AIP) + " "; };
-        const std::u16string mac = Sistema::BuscarEnderecoMac(caso.IP, {.IPLocal = [] { return u"10.0.0.2"; },
+        const std::u16string mac = Interno::BuscarEnderecoMac(caso.IP, {.IPLocal = [] { return u"10.0.0.2"; },
                                                                         .Rede =
                                                                             [&](std::u16string_view AIP) {
                                                                                 anotar('n', AIP);
@@ -199,14 +199,14 @@ TEST(EnderecoMac, IPLocal) {
     };
     for (const TCaso& caso : casos) {
         bool consultou = false;
-        const Sistema::TFontesDeIPLocal fontes{.NomeComputador = [] { return u"PC1"; },
+        const Interno::TFontesDeIPLocal fontes{.NomeComputador = [] { return u"PC1"; },
                                                .IPLocal = [] { return u"10.0.0.2"; },
                                                .ListaViaARP =
                                                    [&] {
                                                        consultou = true;
                                                        return TLista{u"fe80::1", u"10.0.1.2"};
                                                    }};
-        EXPECT_EQ(Sistema::EhIPLocal(caso.IP, caso.ConsultarARP, fontes), caso.Local) << caso.Porque;
+        EXPECT_EQ(Interno::EhIPLocal(caso.IP, caso.ConsultarARP, fontes), caso.Local) << caso.Porque;
         EXPECT_EQ(consultou, caso.ConsultarARP) << caso.Porque;
     }
 }

@@ -1,14 +1,14 @@
 #include "oryutils/system/interno/SaidaDeComando.hpp"
 
-#include "oryutils/runtime/Caracteres.hpp"
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Caracteres.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/system/interno/Executor.hpp"
 
 #include <gtest/gtest.h>
 
 #include <random>
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 namespace {
 
 using TLinhas = std::vector<std::u16string>;
@@ -130,4 +130,4 @@ TEST(SaidaDeComando, UmaSaidaLongaNaoPerdeNada) {
 }
 
 }  // namespace
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

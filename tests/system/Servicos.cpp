@@ -11,8 +11,8 @@
 #include <deque>
 
 using namespace OryUtils;
-using Sistema::TExecutorDeComando;
-using namespace Plataforma;
+using Interno::TExecutorDeComando;
+using namespace Interno;
 
 namespace {
 
@@ -36,20 +36,20 @@ TEST(ConfiguracaoDeServico, ComandosEMensagens) {
     const TCaso casos[] = {
         {u"sc failure \"Ory\" actions= restart/0/restart/0// reset= 240",
          u"Não foi possível configurar a ação padrão de recuperação do serviço << Ory >>.\r\n\r\n",
-         [](const TExecutorDeComando& e) { return Sistema::ConfigurouAcaoPadraoRecuperacaoServico(e, u"Ory"); }},
+         [](const TExecutorDeComando& e) { return Interno::ConfigurouAcaoPadraoRecuperacaoServico(e, u"Ory"); }},
         {u"sc config Ory depend= Firebird",
          u"Não foi possível configurar o serviço: << Firebird >>\r\n\r\ncomo dependência do serviço: << Ory "
          u">>\r\n\r\n\r\n",
-         [](const TExecutorDeComando& e) { return Sistema::ConfigurouDependenciaServico(e, u"Ory", u"Firebird"); }},
+         [](const TExecutorDeComando& e) { return Interno::ConfigurouDependenciaServico(e, u"Ory", u"Firebird"); }},
         {u"sc config \"Ory\" obj= \".\\ana\" password= \"a b\"",
          u"Não foi possível configurar o usuário de logon para o serviço: << Ory >>.\r\n\r\n\r\n",
          [](const TExecutorDeComando& e) {
-             return Sistema::ConfigurouUsuarioLogonServico(e, u"Ory", u".\\ana", u"a b");
+             return Interno::ConfigurouUsuarioLogonServico(e, u"Ory", u".\\ana", u"a b");
          }},
         {u"sc config \"Ory\" start= delayed-auto error= normal",
          u"Não foi possível configurar os dados adicionais do serviço << Ory >>.\r\n\r\n",
          [](const TExecutorDeComando& e) {
-             return Sistema::ConfigurouDadosAdicionaisServico(e, u"Ory", {u"start= delayed-auto", u"error= normal"});
+             return Interno::ConfigurouDadosAdicionaisServico(e, u"Ory", {u"start= delayed-auto", u"error= normal"});
          }},
     };
     for (const TCaso& caso : casos) {
@@ -62,47 +62,47 @@ TEST(ConfiguracaoDeServico, ComandosEMensagens) {
             EXPECT_EQ(caso.Configurar(Responder(comando, resposta)), (TResultStatus{false, mensagem}));
         }
     }
-    EXPECT_EQ(Sistema::MontarComandoDependencia(u"a b", u"c\"d"), u"sc config \"a b\" depend= \"c\\\"d\"");
+    EXPECT_EQ(Interno::MontarComandoDependencia(u"a b", u"c\"d"), u"sc config \"a b\" depend= \"c\\\"d\"");
 }
 
 TEST(Firewall, ComandosDosDoisDialetos) {
-    using Sistema::dfAntigo, Sistema::dfAvancado;
+    using Interno::dfAntigo, Interno::dfAvancado;
     const auto conferir = [](const auto& AMontar, std::u16string_view AAvancado, std::u16string_view AAntigo) {
         EXPECT_EQ(AMontar(dfAvancado), u"netsh advfirewall firewall " + std::u16string(AAvancado));
         EXPECT_EQ(AMontar(dfAntigo), u"netsh firewall " + std::u16string(AAntigo));
     };
-    conferir([](auto d) { return Sistema::MontarLiberacaoDePorta(d, tpTCP, 3050, u"FB"); },
+    conferir([](auto d) { return Interno::MontarLiberacaoDePorta(d, tpTCP, 3050, u"FB"); },
              u"add rule name=\"FB\" dir=in action=allow protocol=TCP localport=3050",
              u"set portopening TCP 3050 \"FB\"");
-    conferir([](auto d) { return Sistema::MontarExclusaoDePorta(d, tpUDP, 80); },
+    conferir([](auto d) { return Interno::MontarExclusaoDePorta(d, tpUDP, 80); },
              u"delete rule name=all protocol=UDP localport=80", u"delete portopening protocol=UDP port=80");
-    conferir([](auto d) { return Sistema::MontarLiberacaoDePrograma(d, u"C:\\a b.exe", u"Ory"); },
+    conferir([](auto d) { return Interno::MontarLiberacaoDePrograma(d, u"C:\\a b.exe", u"Ory"); },
              u"add rule name=\"Ory\" dir=in action=allow program=\"C:\\a b.exe\" enable=yes",
              u"set allowedprogram \"C:\\a b.exe\" \"Ory\" ENABLE");
-    conferir([](auto d) { return Sistema::MontarExclusaoDePrograma(d, u"C:\\a b.exe", u"Ory"); },
+    conferir([](auto d) { return Interno::MontarExclusaoDePrograma(d, u"C:\\a b.exe", u"Ory"); },
              u"delete rule name=\"Ory\" program=\"C:\\a b.exe\"", u"delete allowedprogram \"C:\\a b.exe\"");
     for (int versao = vwUnknown; versao <= vwWinVista; ++versao)
-        EXPECT_EQ(Sistema::DialetoDe(static_cast<TVersaoWindows>(versao)),
+        EXPECT_EQ(Interno::DialetoDe(static_cast<TVersaoWindows>(versao)),
                   versao == vwUnknown || versao == vwWinVista ? dfAvancado : dfAntigo);
 }
 
 TEST(Firewall, RespostasEMensagens) {
     std::u16string comando;
-    using Sistema::dfAvancado;
+    using Interno::dfAvancado;
     for (const char16_t* resposta : {u"Ok.", u"tudo oK", u"Token"})
-        EXPECT_TRUE(Sistema::LiberouPorta(Responder(comando, resposta), dfAvancado, tpTCP, 1, u"x").Status);
+        EXPECT_TRUE(Interno::LiberouPorta(Responder(comando, resposta), dfAvancado, tpTCP, 1, u"x").Status);
     const auto negar = Responder(comando, u"Acesso negado");
     const std::pair<TResultStatus, std::u16string> falhas[] = {
-        {Sistema::LiberouPorta(negar, dfAvancado, tpTCP, 3050, u"x"), u"liberar a porta << 3050 >> no"},
-        {Sistema::ExcluiuPorta(negar, dfAvancado, tpTCP, 3050), u"excluir a porta << 3050 >> do"},
-        {Sistema::LiberouPrograma(negar, dfAvancado, u"%s.exe", u"x"), u"liberar o programa << %s.exe >> no"},
-        {Sistema::ExcluiuPrograma(negar, dfAvancado, u"a.exe", u"x"), u"excluir o programa << a.exe >> do"},
+        {Interno::LiberouPorta(negar, dfAvancado, tpTCP, 3050, u"x"), u"liberar a porta << 3050 >> no"},
+        {Interno::ExcluiuPorta(negar, dfAvancado, tpTCP, 3050), u"excluir a porta << 3050 >> do"},
+        {Interno::LiberouPrograma(negar, dfAvancado, u"%s.exe", u"x"), u"liberar o programa << %s.exe >> no"},
+        {Interno::ExcluiuPrograma(negar, dfAvancado, u"a.exe", u"x"), u"excluir o programa << a.exe >> do"},
     };
     for (const auto& [falha, oque] : falhas)
         EXPECT_EQ(falha.Mensagem,
                   u"Não foi possível " + oque + u" firewall do Windows.\r\n\r\nErro ocorrido: \r\n\r\nAcesso negado");
     // A command that cannot be started prints nothing, and so opens nothing.
-    EXPECT_FALSE(Sistema::ExcluiuPrograma(Responder(comando, u""), dfAvancado, u"a.exe", u"x").Status);
+    EXPECT_FALSE(Interno::ExcluiuPrograma(Responder(comando, u""), dfAvancado, u"a.exe", u"x").Status);
 }
 
 TEST(Firewall, ProgramasDeVerdadeRecebemOsArgumentos) {
@@ -166,20 +166,20 @@ private:
     TRoteiro& FRoteiro;
 };
 
-Sistema::TAbrirGerenciador Abrir(TRoteiro& ARoteiro) {
+Interno::TAbrirGerenciador Abrir(TRoteiro& ARoteiro) {
     return [&ARoteiro](std::u16string_view AMaquina, TAcessoGerenciador) -> std::unique_ptr<TGerenciadorServicos> {
         if (AMaquina == u"longe") return nullptr;
         return std::make_unique<TGerenciadorRoteirizado>(ARoteiro);
     };
 }
 
-const Sistema::TAbrirGerenciador CSemGerenciador = [](auto...) { return nullptr; };
+const Interno::TAbrirGerenciador CSemGerenciador = [](auto...) { return nullptr; };
 
 TEST(Servicos, InstalacaoComparaOValorDaCriacao) {
     TRoteiro roteiro;
     const auto instalar = [&](std::uintptr_t AValor) {
         roteiro.Criacao = AValor;
-        return Sistema::InstalouServico(Abrir(roteiro), u"Ory", u"Ory", u"/ory");
+        return Interno::InstalouServico(Abrir(roteiro), u"Ory", u"Ory", u"/ory");
     };
     EXPECT_TRUE(instalar(0).Status) << "a failed creation answers 0 and so reports success";
     EXPECT_TRUE(instalar(0x10000).Status);
@@ -190,28 +190,28 @@ TEST(Servicos, InstalacaoComparaOValorDaCriacao) {
     const std::u16string semGerenciador =
         u"Não foi possível abrir o SC Manager (Gerenciador de serviços do Windows).\r\n\r\nTente executar o processo "
         u"como administrador, se o problema persistir entre em contatocom o suporte técnico.";
-    EXPECT_EQ(Sistema::InstalouServico(CSemGerenciador, u"a", u"b", u"c").Mensagem, semGerenciador);
-    EXPECT_EQ(Sistema::DesinstalouServico(CSemGerenciador, u"a"), (TResultStatus{false, semGerenciador}));
+    EXPECT_EQ(Interno::InstalouServico(CSemGerenciador, u"a", u"b", u"c").Mensagem, semGerenciador);
+    EXPECT_EQ(Interno::DesinstalouServico(CSemGerenciador, u"a"), (TResultStatus{false, semGerenciador}));
 }
 
 TEST(Servicos, RemocaoNaoContaAsFalhasDoServico) {
     TRoteiro roteiro;
     roteiro.Aceita = false;
-    EXPECT_TRUE(Sistema::DesinstalouServico(Abrir(roteiro), u"Ory").Status);
+    EXPECT_TRUE(Interno::DesinstalouServico(Abrir(roteiro), u"Ory").Status);
     EXPECT_EQ(roteiro.Registro, "parar excluir ");
-    EXPECT_TRUE(Sistema::DesinstalouServico(Abrir(roteiro), u"ausente").Status);
+    EXPECT_TRUE(Interno::DesinstalouServico(Abrir(roteiro), u"ausente").Status);
 }
 
 TEST(Servicos, Estados) {
     for (std::uint32_t estado = 0; estado <= 9; ++estado) {
         TRoteiro roteiro{{TSituacaoServico{estado}}};
-        EXPECT_EQ(Sistema::BuscarStatusServico(Abrir(roteiro), u"", u"Ory"),
+        EXPECT_EQ(Interno::BuscarStatusServico(Abrir(roteiro), u"", u"Ory"),
                   estado <= 7 ? static_cast<int>(estado) : 0);
     }
     TRoteiro mudo{{std::nullopt}};
-    EXPECT_EQ(Sistema::BuscarStatusServico(Abrir(mudo), u"", u"Ory"), sswErro);
-    EXPECT_EQ(Sistema::BuscarStatusServico(Abrir(mudo), u"", u"ausente"), sswErro);
-    EXPECT_EQ(Sistema::BuscarStatusServico(Abrir(mudo), u"longe", u"Ory"), sswErro);
+    EXPECT_EQ(Interno::BuscarStatusServico(Abrir(mudo), u"", u"Ory"), sswErro);
+    EXPECT_EQ(Interno::BuscarStatusServico(Abrir(mudo), u"", u"ausente"), sswErro);
+    EXPECT_EQ(Interno::BuscarStatusServico(Abrir(mudo), u"longe", u"Ory"), sswErro);
     EXPECT_EQ(CVetorStatusServicoWindows[sswErro],
               u"Erro leitura serviço (pode indicar que não está instalado ou que está travado)");
 }
@@ -231,10 +231,10 @@ TEST(Servicos, InicioEsperaOCaminhoDoServico) {
              TCaso{"refused", {{{1, 0, 0}}}, false, false},
          }) {
         TRoteiro roteiro{caso.Situacoes, caso.Aceita};
-        EXPECT_EQ(Sistema::IniciarServico(Abrir(roteiro), u"", u"Ory"), caso.Roda) << caso.Por;
+        EXPECT_EQ(Interno::IniciarServico(Abrir(roteiro), u"", u"Ory"), caso.Roda) << caso.Por;
     }
     TRoteiro nenhum;
-    EXPECT_FALSE(Sistema::IniciarServico(Abrir(nenhum), u"", u"ausente"));
+    EXPECT_FALSE(Interno::IniciarServico(Abrir(nenhum), u"", u"ausente"));
 }
 
 TEST(Servicos, ParadaEsgotaOLimite) {
@@ -259,7 +259,7 @@ TEST(Servicos, ParadaEsgotaOLimite) {
              TCaso{"refused", {{{4, 0, 0}}}, false, 60, false, "parar "},
          }) {
         TRoteiro roteiro{caso.Situacoes, caso.Aceita};
-        EXPECT_EQ(Sistema::PararServico(Abrir(roteiro), u"", u"Ory", caso.Limite), caso.Parou) << caso.Por;
+        EXPECT_EQ(Interno::PararServico(Abrir(roteiro), u"", u"Ory", caso.Limite), caso.Parou) << caso.Por;
         EXPECT_EQ(roteiro.Registro, caso.Registro) << caso.Por;
     }
 }

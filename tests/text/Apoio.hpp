@@ -1,6 +1,6 @@
 #pragma once
 
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 
 #include <gtest/gtest.h>
 

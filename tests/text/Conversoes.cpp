@@ -1,4 +1,4 @@
-#include "oryutils/runtime/Caixa.hpp"
+#include "oryutils/characters/Caixa.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
 

@@ -1,6 +1,6 @@
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/runtime/Utf.hpp"
 #include "oryutils/text/UnOryUtilsMatematica.hpp"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // The same amounts whatever precision the calling program has set the processor to.
 #include "comum/OutraAritmetica.hpp"
 
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/text/OryUtilsFormulas.hpp"
 
 #include <gtest/gtest.h>

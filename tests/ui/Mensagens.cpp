@@ -1,5 +1,5 @@
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/runtime/Utf.hpp"
 #include "oryutils/ui/OryUtilsDialogs.hpp"
 
 #include "ToolkitRoteirizado.hpp"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "oryutils/forms/EditorDeCampo.hpp"
+#include "oryutils/fields/EditorDeCampo.hpp"
 
 #include "toolkits/qt/OryQtExport.hpp"
 

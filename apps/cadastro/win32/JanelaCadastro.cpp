@@ -13,7 +13,7 @@ constexpr int CPorExtenso = 50;
 // Of a box, above and below its text.
 constexpr int CFolgaCaixa = 7;
 
-std::wstring Texto(std::u16string_view ATexto) { return {Plataforma::ParaWide(ATexto.data()), ATexto.size()}; }
+std::wstring Texto(std::u16string_view ATexto) { return {Interno::ParaWide(ATexto.data()), ATexto.size()}; }
 
 /// An empty dialog box: Tab, Enter, Esc, Alt with a letter, and the focus that comes back to where it was.
 struct TModelo {
@@ -66,7 +66,7 @@ SIZE TJanelaCadastro::Medir(std::u16string_view ATexto) const {
     const HDC tela = ::GetDC(nullptr);
     const HGDIOBJ anterior = ::SelectObject(tela, FFonte);
     RECT r{};
-    ::DrawTextW(tela, Plataforma::ParaWide(ATexto.data()), static_cast<int>(ATexto.size()), &r,
+    ::DrawTextW(tela, Interno::ParaWide(ATexto.data()), static_cast<int>(ATexto.size()), &r,
                 DT_CALCRECT | DT_SINGLELINE);
     ::SelectObject(tela, anterior);
     ::ReleaseDC(nullptr, tela);
@@ -164,7 +164,7 @@ std::u16string TJanelaCadastro::LerCaixa(std::size_t ACampo) const {
     }
     std::wstring texto(static_cast<std::size_t>(::GetWindowTextLengthW(caixa)), L'\0');
     ::GetWindowTextW(caixa, texto.data(), static_cast<int>(texto.size()) + 1);
-    return Plataforma::DeWide(texto);
+    return Interno::DeWide(texto);
 }
 
 void TJanelaCadastro::EscreverCaixa(std::size_t ACampo, std::u16string_view ATexto) {

@@ -1,7 +1,7 @@
 #include "chamar/Chamadas.hpp"
 
-#include "operacoes/Json.hpp"
-#include "operacoes/Operacoes.hpp"
+#include "operations/Json.hpp"
+#include "operations/Operacoes.hpp"
 
 #include <algorithm>
 #include <string_view>

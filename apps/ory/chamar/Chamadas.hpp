@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Ambiente.hpp"
-#include "operacoes/Operacoes.hpp"
+#include "operations/Operacoes.hpp"
 
 #include <cstddef>
 #include <span>

@@ -1,6 +1,6 @@
 #include "conferir/Codificacao.hpp"
 
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 
 namespace Ory {
 

@@ -1,9 +1,9 @@
 #include "conferir/Colunas.hpp"
 
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 #include "oryutils/registry_numbers/interno/DigitosCpfCnpj.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/runtime/Utf.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
 
 #include "conferir/Codificacao.hpp"

@@ -1,12 +1,12 @@
 #include "conferir/ColunasDeCampos.hpp"
 
+#include "oryutils/characters/Caixa.hpp"
+#include "oryutils/characters/Caracteres.hpp"
+#include "oryutils/characters/Utf.hpp"
+#include "oryutils/fields/Mascara.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 #include "oryutils/registry_numbers/interno/MascarasDeCampos.hpp"
-#include "oryutils/runtime/Caixa.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
-#include "oryutils/runtime/Mascara.hpp"
-#include "oryutils/runtime/Utf.hpp"
 
 #include "conferir/Codificacao.hpp"
 

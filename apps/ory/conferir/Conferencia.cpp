@@ -1,6 +1,6 @@
 #include "conferir/Conferencia.hpp"
 
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 
 #include "conferir/ColunasDeCampos.hpp"
 #include "conferir/Esteira.hpp"

@@ -1,8 +1,8 @@
 #include "conferir/Conferir.hpp"
 
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/files/UnOryUtilsArquivoLog.hpp"
 #include "oryutils/platform/Arquivos.hpp"
-#include "oryutils/runtime/Utf.hpp"
 
 #include "conferir/Progresso.hpp"
 #include "conferir/Relatorio.hpp"
@@ -16,7 +16,7 @@
 namespace Ory {
 namespace {
 
-using namespace OryUtils::Plataforma;
+using namespace OryUtils::Interno;
 
 constexpr int CLarguraDoLog = 100;
 

@@ -1,9 +1,9 @@
 #include "conferir/Relatorio.hpp"
 
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 
 #include "TextoNaTela.hpp"
-#include "operacoes/Json.hpp"
+#include "operations/Json.hpp"
 
 #include <algorithm>
 #include <array>

@@ -1,11 +1,11 @@
 #include "log/Log.hpp"
 
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/files/UnOryUtilsArquivoLog.hpp"
 #include "oryutils/files/interno/AmbienteDoLog.hpp"
 #include "oryutils/platform/Fluxo.hpp"
 #include "oryutils/platform/Pastas.hpp"
 #include "oryutils/runtime/NomeDeArquivo.hpp"
-#include "oryutils/runtime/Utf.hpp"
 
 #include "Opcoes.hpp"
 #include "conferir/Codificacao.hpp"
@@ -88,12 +88,13 @@ void LerLinhas(const TPedidoDeLog& APedido, TAmbiente& AAmbiente, TLogDoComando&
 std::string DescreverFalhaDoLog(const std::u16string& AArquivo) {
     std::string falha = "não foi possível gravar " + ParaUtf8(AArquivo);
     const std::u16string_view pasta = ExtrairPastaDoArquivo(AArquivo);
-    Plataforma::TFluxo fluxo;
-    if (Plataforma::ExistePasta(AArquivo)) return falha.append(": ").append(DescreverErro(Plataforma::efEhPasta));
-    if (!pasta.empty() && !Plataforma::ExistePasta(pasta)) return falha += ": a pasta não pôde ser criada";
-    const Plataforma::TErroFluxo erro = fluxo.AbrirParaAcrescentar(ParaUtf8(AArquivo));
-    if (erro == Plataforma::efNenhum) return falha;  // it may be written to now
-    if (erro == Plataforma::efNaoExiste) return falha += ": o arquivo não pôde ser criado";
+    OryUtils::Interno::TFluxo fluxo;
+    if (OryUtils::Interno::ExistePasta(AArquivo))
+        return falha.append(": ").append(DescreverErro(OryUtils::Interno::efEhPasta));
+    if (!pasta.empty() && !OryUtils::Interno::ExistePasta(pasta)) return falha += ": a pasta não pôde ser criada";
+    const OryUtils::Interno::TErroFluxo erro = fluxo.AbrirParaAcrescentar(ParaUtf8(AArquivo));
+    if (erro == OryUtils::Interno::efNenhum) return falha;  // it may be written to now
+    if (erro == OryUtils::Interno::efNaoExiste) return falha += ": o arquivo não pôde ser criado";
     return falha.append(": ").append(DescreverErro(erro));
 }
 

@@ -1,6 +1,6 @@
 #include "mensagem/Mensagem.hpp"
 
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/ui/UnOryUtilsDialogs.hpp"
 
 #include "Opcoes.hpp"

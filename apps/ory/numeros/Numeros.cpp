@@ -1,7 +1,7 @@
 #include "numeros/Numeros.hpp"
 
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/runtime/Utf.hpp"
 #include "oryutils/text/OryUtilsFormulas.hpp"
 #include "oryutils/text/UnOryUtilsMatematica.hpp"
 

@@ -1,10 +1,10 @@
 #include "servico/Servico.hpp"
 
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 
 #include "Opcoes.hpp"
-#include "operacoes/Json.hpp"
+#include "operations/Json.hpp"
 
 namespace Ory {
 

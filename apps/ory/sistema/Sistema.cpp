@@ -1,13 +1,13 @@
 #include "sistema/Sistema.hpp"
 
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/runtime/Utf.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 
 #include "Opcoes.hpp"
 #include "Tabela.hpp"
 #include "TextoNaTela.hpp"
-#include "operacoes/Json.hpp"
+#include "operations/Json.hpp"
 
 namespace Ory {
 namespace {

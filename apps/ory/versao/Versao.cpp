@@ -1,19 +1,19 @@
 #include "versao/Versao.hpp"
 
+#include "oryutils/characters/Caixa.hpp"
+#include "oryutils/characters/Caracteres.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/files/OryUtilsFiles.hpp"
 #include "oryutils/platform/DadosDoArquivo.hpp"
 #include "oryutils/platform/LeituraDeArquivo.hpp"
 #include "oryutils/platform/Pastas.hpp"
-#include "oryutils/runtime/Caixa.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
 #include "oryutils/runtime/NomeDeArquivo.hpp"
-#include "oryutils/runtime/Utf.hpp"
 
 #include "Opcoes.hpp"
 #include "TextoNaTela.hpp"
-#include "operacoes/Conversao.hpp"
+#include "operations/Conversao.hpp"
 
 #include <algorithm>
 #include <array>
@@ -23,7 +23,6 @@
 namespace Ory {
 namespace {
 
-namespace Plataforma = OryUtils::Plataforma;
 using OryUtils::DeUtf8;
 using OryUtils::ParaUtf8;
 using OryUtils::TArquivoInfo;
@@ -83,7 +82,7 @@ std::vector<std::u16string> Expandir(const std::string& AArquivo) {
     const std::u16string nome = DeUtf8(AArquivo);
     const std::u16string padrao = OryUtils::MinusculaDe(OryUtils::ExtrairNomeDoArquivo(nome));
     std::vector<std::u16string> arquivos;
-    if (padrao.find_first_of(u"*?") != padrao.npos && !Plataforma::ExisteArquivo(nome)) {
+    if (padrao.find_first_of(u"*?") != padrao.npos && !OryUtils::Interno::ExisteArquivo(nome)) {
         const std::u16string pasta(OryUtils::ExtrairPastaDoArquivo(nome));
         std::error_code erro;
         for (const auto& entrada : std::filesystem::directory_iterator(pasta.empty() ? u"." : pasta, erro)) {
@@ -205,9 +204,9 @@ void EscreverEmJson(const std::vector<TArquivoInfo>& AInfos, TAmbiente& AAmbient
 std::string BuscarProblema(const std::u16string& AArquivo) {
     if (OryUtils::Aparar(AArquivo).empty()) return "o nome do arquivo está vazio";
     const std::string nome = ParaUtf8(AArquivo);
-    if (Plataforma::ExistePasta(AArquivo)) return "é uma pasta: " + nome;
-    if (!Plataforma::ExisteArquivo(AArquivo)) return "arquivo não encontrado: " + nome;
-    return Plataforma::TLeituraDeArquivo(AArquivo).EstahAberto() ? "" : "não foi possível ler " + nome;
+    if (OryUtils::Interno::ExistePasta(AArquivo)) return "é uma pasta: " + nome;
+    if (!OryUtils::Interno::ExisteArquivo(AArquivo)) return "arquivo não encontrado: " + nome;
+    return OryUtils::Interno::TLeituraDeArquivo(AArquivo).EstahAberto() ? "" : "não foi possível ler " + nome;
 }
 
 /// A text of digits, points and commas is a version itself; any other names a file. Blank is most likely the work of a
@@ -217,7 +216,7 @@ std::u16string LerVersao(const std::string& ATexto) {
     if (OryUtils::Aparar(texto).empty()) throw EFalha("uma das versões está vazia");
     std::u16string versao = texto;
     if (texto.find_first_not_of(u" 0123456789.,") != texto.npos) {
-        if (!Plataforma::ExisteArquivo(texto)) throw EFalha(ATexto + " não é uma versão nem um arquivo");
+        if (!OryUtils::Interno::ExisteArquivo(texto)) throw EFalha(ATexto + " não é uma versão nem um arquivo");
         if (const std::string problema = BuscarProblema(texto); !problema.empty()) throw EFalha(problema);
         versao = TOryUtilsFiles::BuscarVersaoArquivo(texto);
         if (versao.empty()) throw EFalha(ATexto + " não tem versão");

@@ -6,10 +6,10 @@
 #include <algorithm>
 #include <optional>
 
-namespace OryUtils::DatasInterno {
+namespace OryUtils::Interno {
 namespace {
 
-using namespace Leitura;
+using namespace Interno;
 
 // Milliseconds of the units of fixed length, by ordinal; 0 for the others.
 constexpr std::array<std::int64_t, 9> CMilissegundosDaMedida{0, 0, 0, 1000, 60'000, 3'600'000, 86'400'000, 0, 0};
@@ -105,4 +105,4 @@ std::u16string Completar(std::u16string_view ATexto, const TFormatSettings& AFor
     return Completar(ATexto, AFormatos, TAnoCorrente(AAnoCorrente));
 }
 
-}  // namespace OryUtils::DatasInterno
+}  // namespace OryUtils::Interno

@@ -8,7 +8,7 @@
 #include <string_view>
 
 // What depends on the present takes it here as an argument.
-namespace OryUtils::DatasInterno {
+namespace OryUtils::Interno {
 
 /// TOryUtilsDatas::BuscarDataHoraMedidaTempo, whose other ordinals give AAgora().
 TDateTime Deslocar(TDateTime ABase, OryTypes::TTipoMedidaTempo AMedida, int AQuantidade, TDateTime (*AAgora)());
@@ -17,4 +17,4 @@ TDateTime Deslocar(TDateTime ABase, OryTypes::TTipoMedidaTempo AMedida, int AQua
 std::u16string Completar(std::u16string_view ATexto, const TFormatSettings& AFormatos);
 std::u16string Completar(std::u16string_view ATexto, const TFormatSettings& AFormatos, int AAnoCorrente);
 
-}  // namespace OryUtils::DatasInterno
+}  // namespace OryUtils::Interno

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace OryUtils::DatasInterno {
+namespace OryUtils::Interno {
 
 /// The pattern of TOryUtilsDatas::BuscarDataFormatada without a mask; empty for an ordinal without a name.
 constexpr std::u16string_view BuscarPadrao(TTipoFormatoData ATipo) {
@@ -27,4 +27,4 @@ constexpr std::u16string_view BuscarPadrao(TTipoFormatoData ATipo) {
 /// ask for it by the million.
 std::u16string FormatarPeloTipo(TTipoFormatoData ATipo, TDateTime AData, const TFormatSettings& AFormatos);
 
-}  // namespace OryUtils::DatasInterno
+}  // namespace OryUtils::Interno

@@ -22,10 +22,10 @@ class TAmbienteDoSistema final : public TAmbienteDoLog {
 public:
     TDateTime BuscarAgora() override { return Agora(); }
     std::u16string BuscarAplicacao() override {
-        return std::u16string(ExtrairNomeDoArquivo(Plataforma::BuscarArquivoExecutavel()));
+        return std::u16string(ExtrairNomeDoArquivo(Interno::BuscarArquivoExecutavel()));
     }
     std::u16string BuscarVersao() override {
-        return TOryUtilsFiles::BuscarVersaoArquivo(Plataforma::BuscarArquivoExecutavel());
+        return TOryUtilsFiles::BuscarVersaoArquivo(Interno::BuscarArquivoExecutavel());
     }
     std::u16string BuscarIP() override { return BuscarOuVazio(TOryUtilsSistema::BuscarIPLocal); }
     std::u16string BuscarNomeDaMaquina() override { return BuscarOuVazio(TOryUtilsSistema::BuscarNomeComputador); }

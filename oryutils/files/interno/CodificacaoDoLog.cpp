@@ -1,7 +1,7 @@
 #include "oryutils/files/interno/CodificacaoDoLog.hpp"
 
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/TextoDoSistema.hpp"
-#include "oryutils/platform/Utf.hpp"
 
 #include <algorithm>
 #include <array>
@@ -17,7 +17,7 @@ std::string Codificar(std::u16string_view ATexto, TCodificacaoLog ACodificacao) 
         case clWindows1252:
             return ParaWindows1252(ATexto);
         default:
-            return Plataforma::ParaTextoDoSistema(ATexto);
+            return Interno::ParaTextoDoSistema(ATexto);
     }
 }
 
@@ -28,7 +28,7 @@ std::u16string Decodificar(std::string_view ABytes, TCodificacaoLog ACodificacao
         case clWindows1252:
             return DeWindows1252(ABytes);
         default:
-            return Plataforma::DeTextoDoSistema(ABytes);
+            return Interno::DeTextoDoSistema(ABytes);
     }
 }
 

@@ -6,14 +6,14 @@ namespace OryUtils::Interno {
 namespace {
 
 using namespace std::chrono;
-using Plataforma::TInstanteUtc;
+using Interno::TInstanteUtc;
 
 /// Day 0 of a TDateTime.
 constexpr sys_days CDiaZero = year{1899} / December / 30;
 
 }  // namespace
 
-TDateTime BuscarDataEmpacotada(TInstanteUtc AInstante, Plataforma::TFuso AFuso) {
+TDateTime BuscarDataEmpacotada(TInstanteUtc AInstante, Interno::TFuso AFuso) {
     const seconds segundos = floor<seconds>(milliseconds(AInstante));
     // No year of four digits is out there; the zone need not be asked.
     if (abs(segundos) > days(4'000'000)) return 0;
@@ -25,11 +25,11 @@ TDateTime BuscarDataEmpacotada(TInstanteUtc AInstante, Plataforma::TFuso AFuso) 
     return static_cast<double>((dia - CDiaZero).count()) + hora.count() / 43200.0;
 }
 
-std::optional<TInstanteUtc> BuscarInstanteUtc(TDateTime ALocal, Plataforma::TFuso AFuso) {
+std::optional<TInstanteUtc> BuscarInstanteUtc(TDateTime ALocal, Interno::TFuso AFuso) {
     const TPartesData data = DecodificarData(ALocal);
     if (data.Ano == 0) return {};
     const TPartesHora hora = DecodificarHora(ALocal);
-    const int deslocamento = Plataforma::BuscarDeslocamentoLocal(
+    const int deslocamento = Interno::BuscarDeslocamentoLocal(
         {data.Ano, data.Mes, data.Dia, hora.Hora, hora.Minuto, hora.Segundo, hora.Milissegundo}, AFuso);
     const sys_days dia = year{data.Ano} / data.Mes / data.Dia;
     const sys_time<milliseconds> instante = dia + hours(hora.Hora) + minutes(hora.Minuto - deslocamento) +

@@ -1,9 +1,9 @@
 #include "oryutils/files/interno/GravadorDoLog.hpp"
 
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/files/OryUtilsFiles.hpp"
 #include "oryutils/files/interno/AmbienteDoLog.hpp"
 #include "oryutils/platform/Pastas.hpp"
-#include "oryutils/platform/Utf.hpp"
 
 #include <cstring>
 #include <iterator>
@@ -11,7 +11,7 @@
 namespace OryUtils {
 namespace {
 
-using namespace Plataforma;
+using namespace Interno;
 
 // Of what the library takes for delimiters the system may take only one: "C:\Logs\x.log" is all name on Linux.
 void CriarPastaQueFalta(std::u16string_view AArquivo) {

@@ -43,12 +43,12 @@ private:
     bool Reescrever(std::string_view ABytes, bool AMarcar, TAmbienteDoLog& AAmbiente);
 
     // What the last save left, while it may be continued; stale while FVigiado keeps the file open.
-    std::optional<Plataforma::TMarcaDeArquivo> FMarca{};
+    std::optional<Interno::TMarcaDeArquivo> FMarca{};
     std::u16string FArquivo{};
     std::uint64_t FGeracao = 0;
     std::size_t FGravados = 0;     // bytes
     bool FPastaConferida = false;  // in the present save
-    Plataforma::TArquivoVigiado FVigiado{};
+    Interno::TArquivoVigiado FVigiado{};
     int FSeguidos = 0;  // appends in a row that opened the file
 };
 

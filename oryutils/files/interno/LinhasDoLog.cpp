@@ -10,13 +10,13 @@ namespace OryUtils {
 
 void TLinhasDoLog::Adicionar(std::u16string_view ALinha) {
     if (FLinhas.empty()) FPronto.clear();  // it may hold the text of a log without lines
-    FMemoria.Preparar(FPronto, ALinha.size() + Plataforma::BuscarQuebraDeLinha().size());
+    FMemoria.Preparar(FPronto, ALinha.size() + Interno::BuscarQuebraDeLinha().size());
     const std::size_t inicio = FPronto.size();
     FLinhas.push_back({inicio, nullptr});
     try {
         if (!AcrescentarCodificado(FPronto, ALinha, FCodificacao))
             FLinhas.back().Original = std::make_unique<std::u16string>(ALinha);
-        for (const char16_t c : Plataforma::BuscarQuebraDeLinha()) FPronto.push_back(static_cast<char>(c));
+        for (const char16_t c : Interno::BuscarQuebraDeLinha()) FPronto.push_back(static_cast<char>(c));
     } catch (...) {
         FPronto.resize(inicio);
         FLinhas.pop_back();
@@ -51,11 +51,11 @@ void TLinhasDoLog::Substituir(const std::vector<std::u16string>& ALinhas) {
 std::string_view TLinhasDoLog::BuscarBytes(std::size_t AIndice) const noexcept {
     const std::size_t inicio = FLinhas[AIndice].Inicio;
     const std::size_t fim = AIndice + 1 < FLinhas.size() ? FLinhas[AIndice + 1].Inicio : FPronto.size();
-    return std::string_view(FPronto).substr(inicio, fim - inicio - Plataforma::BuscarQuebraDeLinha().size());
+    return std::string_view(FPronto).substr(inicio, fim - inicio - Interno::BuscarQuebraDeLinha().size());
 }
 
 std::u16string TLinhasDoLog::GetTexto() const {
-    const std::u16string_view quebra = Plataforma::BuscarQuebraDeLinha();
+    const std::u16string_view quebra = Interno::BuscarQuebraDeLinha();
     std::size_t tamanho = 0;
     for (std::size_t i = 0; i < FLinhas.size(); ++i)
         tamanho += quebra.size() + (FLinhas[i].Original ? FLinhas[i].Original->size() : BuscarBytes(i).size());
@@ -90,7 +90,7 @@ void TLinhasDoLog::SetCodificacao(TCodificacaoLog ACodificacao) {
 TTextoPronto TLinhasDoLog::BuscarTextoPronto() {
     if (!FLinhas.empty()) return {FPronto, FGeracao};
     // A line break alone, which no first line continues.
-    if (FPronto.empty()) AcrescentarCodificado(FPronto, Plataforma::BuscarQuebraDeLinha(), FCodificacao);
+    if (FPronto.empty()) AcrescentarCodificado(FPronto, Interno::BuscarQuebraDeLinha(), FCodificacao);
     return {FPronto, FGeracao++};
 }
 

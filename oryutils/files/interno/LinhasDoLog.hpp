@@ -48,7 +48,7 @@ private:
 
     std::vector<TLinha> FLinhas{};
     std::string FPronto{};
-    Plataforma::TMemoriaDeTexto<std::string> FMemoria{};
+    Interno::TMemoriaDeTexto<std::string> FMemoria{};
     std::uint64_t FGeracao = 0;
     TCodificacaoLog FCodificacao = clPadrao;
 };

@@ -1,7 +1,7 @@
 #include "oryutils/files/interno/OrdemDeVersoes.hpp"
 
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/files/OryUtilsFiles.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
 
 #include <algorithm>

@@ -5,11 +5,11 @@ namespace {
 
 class TConversaDoSistema final : public TConversa {
 public:
-    bool PodeConversar() override { return Plataforma::PodeConversar(); }
-    void Escrever(std::u16string_view ATexto) override { Plataforma::EscreverNoErroPadrao(ATexto); }
-    Plataforma::TLeituraDeLinha LerLinha(std::optional<std::chrono::milliseconds> ALimite,
-                                         std::u16string& ALinha) override {
-        return Plataforma::LerLinhaDoTerminal(ALimite, ALinha);
+    bool PodeConversar() override { return Interno::PodeConversar(); }
+    void Escrever(std::u16string_view ATexto) override { Interno::EscreverNoErroPadrao(ATexto); }
+    Interno::TLeituraDeLinha LerLinha(std::optional<std::chrono::milliseconds> ALimite,
+                                      std::u16string& ALinha) override {
+        return Interno::LerLinhaDoTerminal(ALimite, ALinha);
     }
     std::chrono::milliseconds GetInstante() override {
         return std::chrono::duration_cast<std::chrono::milliseconds>(

@@ -16,9 +16,9 @@ public:
     virtual ~TConversa() = default;
     virtual bool PodeConversar() = 0;
     virtual void Escrever(std::u16string_view ATexto) = 0;
-    /// As Plataforma::LerLinhaDoTerminal.
-    virtual Plataforma::TLeituraDeLinha LerLinha(std::optional<std::chrono::milliseconds> ALimite,
-                                                 std::u16string& ALinha) = 0;
+    /// As Interno::LerLinhaDoTerminal.
+    virtual Interno::TLeituraDeLinha LerLinha(std::optional<std::chrono::milliseconds> ALimite,
+                                              std::u16string& ALinha) = 0;
     /// Time of a clock that never goes back.
     virtual std::chrono::milliseconds GetInstante() = 0;
 };

@@ -1,7 +1,7 @@
 #include "oryutils/forms/console/DialogoConsole.hpp"
 
-#include "oryutils/runtime/Caixa.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/characters/Caixa.hpp"
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 
 #include <algorithm>
@@ -206,13 +206,13 @@ std::optional<std::u16string> TDialogoConsole::Ler(std::u16string_view APergunta
         }
         std::u16string linha;
         switch (FConversa.LerLinha(espera, linha)) {
-            case Plataforma::llLinha:
+            case Interno::llLinha:
                 return std::u16string(Aparar(linha));
-            case Plataforma::llFim:
+            case Interno::llFim:
                 FConversa.Escrever(u"\n");
                 FFormulario.Fechar();
                 return std::nullopt;
-            case Plataforma::llTempo:
+            case Interno::llTempo:
                 break;
         }
     }

@@ -1,7 +1,7 @@
 #include "oryutils/forms/console/ToolkitConsole.hpp"
 
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/forms/console/DialogoConsole.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 
 #include <algorithm>
@@ -108,13 +108,13 @@ std::optional<std::u16string> TToolkitConsole::EscolherCaminho(std::u16string_vi
     while (true) {
         FConversa.Escrever(std::u16string(APergunta) + u" (vazio cancela): ");
         std::u16string linha;
-        auto lida = Plataforma::llTempo;
-        while (lida == Plataforma::llTempo) {
+        auto lida = Interno::llTempo;
+        while (lida == Interno::llTempo) {
             DispararTemporizadores();
             lida = FConversa.LerLinha(BuscarEspera(), linha);
         }
         const std::u16string caminho(Aparar(linha));
-        if (lida == Plataforma::llFim || caminho.empty()) return std::nullopt;
+        if (lida == Interno::llFim || caminho.empty()) return std::nullopt;
         std::error_code erro;
         const fs::path completo = fs::absolute(fs::path(std::u16string(APastaInicial)) / fs::path(caminho), erro);
         if (!erro && (APasta ? fs::is_directory(completo, erro) : fs::is_regular_file(completo, erro)))

@@ -1,9 +1,9 @@
 #include "oryutils/forms/interno/ToolkitPadrao.hpp"
 
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/forms/console/ToolkitConsole.hpp"
 #include "oryutils/forms/interno/FabricaQt.hpp"
 #include "oryutils/platform/BibliotecaDinamica.hpp"
-#include "oryutils/platform/Utf.hpp"
 #include "oryutils/platform/linux/Exibicao.hpp"
 
 #include <vector>
@@ -17,10 +17,10 @@ constexpr const char* CArquivoQt = ORY_QT_ARQUIVO;
 // The file whose full path ORYUTILS_QT gives, and no other; else beside this code, in the lib folder of the same
 // installation, and wherever the system looks. Never the current folder.
 std::vector<std::string> BuscarCandidatos() {
-    const std::string escolhido = Plataforma::BuscarVariavelDeAmbiente("ORYUTILS_QT");
+    const std::string escolhido = Interno::BuscarVariavelDeAmbiente("ORYUTILS_QT");
     if (!escolhido.empty()) return {escolhido.front() == '/' ? escolhido : std::string()};
     std::vector<std::string> candidatos;
-    const std::string pasta = Plataforma::BuscarPastaDoModulo();
+    const std::string pasta = Interno::BuscarPastaDoModulo();
     if (!pasta.empty()) candidatos = {pasta + "/" + CArquivoQt, pasta + "/../lib/" + CArquivoQt};
     candidatos.emplace_back(CArquivoQt);
     return candidatos;
@@ -29,7 +29,7 @@ std::vector<std::string> BuscarCandidatos() {
 TToolkit* CarregarQt() {
     for (const std::string& candidato : BuscarCandidatos()) {
         if (candidato.empty()) continue;
-        Plataforma::TBibliotecaDinamica biblioteca(DeUtf8(candidato));
+        Interno::TBibliotecaDinamica biblioteca(DeUtf8(candidato));
         const auto fabrica = biblioteca.Buscar<TFabricaQt>(CFabricaQt);
         if (!fabrica) continue;
         biblioteca.Soltar();  // Qt is not made to be unloaded
@@ -42,7 +42,7 @@ TToolkit* CarregarQt() {
 
 TToolkit& BuscarToolkitPadrao() {
     static TToolkitConsole console;
-    static TToolkit* const qt = Plataforma::PossuiExibicao() ? CarregarQt() : nullptr;
+    static TToolkit* const qt = Interno::PossuiExibicao() ? CarregarQt() : nullptr;
     return qt ? *qt : console;
 }
 

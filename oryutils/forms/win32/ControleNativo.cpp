@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <numeric>
 
-namespace OryUtils::Win32 {
+namespace OryUtils::Interno {
 namespace {
 
 struct TClasseNativa {
@@ -89,7 +89,7 @@ void TControleNativo::Atualizar(unsigned AMudancas) {
     if (AMudancas & mdTexto) {
         const std::u16string_view texto = FModelo->GetTexto();
         if (FModelo->GetTipo() == tcMemorando)
-            ::SetWindowTextW(FJanela, Plataforma::ParaWide(ParaMemorando(texto)));
+            ::SetWindowTextW(FJanela, Interno::ParaWide(ParaMemorando(texto)));
         else
             EscreverTexto(FJanela, FModelo->GetTipo() == tcRotulo ? texto.substr(0, CMaiorRotulo) : texto);
         FTextoMudou = false;
@@ -196,4 +196,4 @@ void TControleNativo::DesenharComoPadrao(bool APadrao) {
     if (tipo != desejado) ::SendMessageW(FJanela, BM_SETSTYLE, static_cast<WPARAM>(desejado), TRUE);
 }
 
-}  // namespace OryUtils::Win32
+}  // namespace OryUtils::Interno

@@ -1,6 +1,6 @@
 #include "oryutils/forms/win32/interno/DesabilitarJanelas.hpp"
 
-namespace OryUtils::Win32 {
+namespace OryUtils::Interno {
 namespace {
 
 bool Responde(HWND AJanela) { return ::IsWindowVisible(AJanela) && ::IsWindowEnabled(AJanela); }
@@ -40,4 +40,4 @@ HWND BuscarDona() {
     return dona;
 }
 
-}  // namespace OryUtils::Win32
+}  // namespace OryUtils::Interno

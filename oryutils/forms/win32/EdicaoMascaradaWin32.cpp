@@ -64,13 +64,13 @@ TEdicaoMascara TEdicaoMascaradaWin32::Ler() const {
     texto.resize(static_cast<std::size_t>(::GetWindowTextW(FJanela, texto.data(), static_cast<int>(texto.size()) + 1)));
     DWORD inicio = 0, fim = 0;
     ::SendMessageW(FJanela, EM_GETSEL, reinterpret_cast<WPARAM>(&inicio), reinterpret_cast<LPARAM>(&fim));
-    return {Plataforma::DeWide(texto), fim, inicio};
+    return {Interno::DeWide(texto), fim, inicio};
 }
 
 void TEdicaoMascaradaWin32::Mostrar(const TEdicaoMascara& AEdicao) {
     if (!FJanela) return;
     FEscrevendo = true;
-    if (Ler().Texto != AEdicao.Texto) ::SetWindowTextW(FJanela, Plataforma::ParaWide(AEdicao.Texto));
+    if (Ler().Texto != AEdicao.Texto) ::SetWindowTextW(FJanela, Interno::ParaWide(AEdicao.Texto));
     ::SendMessageW(FJanela, EM_SETSEL, AEdicao.Ancora, static_cast<LPARAM>(AEdicao.Cursor));
     ::SendMessageW(FJanela, EM_SCROLLCARET, 0, 0);
     FEscrevendo = false;
@@ -82,8 +82,8 @@ void TEdicaoMascaradaWin32::ColarDaAreaDeTransferencia() {
     if (const HANDLE dados = ::GetClipboardData(CF_UNICODETEXT)) {
         if (const auto* inicio = static_cast<const wchar_t*>(::GlobalLock(dados))) {
             const std::size_t maximo = ::GlobalSize(dados) / sizeof(wchar_t);
-            texto = Plataforma::DeWide(
-                {inicio, static_cast<std::size_t>(std::find(inicio, inicio + maximo, L'\0') - inicio)});
+            texto =
+                Interno::DeWide({inicio, static_cast<std::size_t>(std::find(inicio, inicio + maximo, L'\0') - inicio)});
             ::GlobalUnlock(dados);
         }
     }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "oryutils/OryExport.hpp"
-#include "oryutils/forms/EditorDeCampo.hpp"
+#include "oryutils/fields/EditorDeCampo.hpp"
 
 struct HWND__;
 

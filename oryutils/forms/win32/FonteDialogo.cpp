@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace OryUtils::Win32 {
+namespace OryUtils::Interno {
 namespace {
 
 // A wrapped paragraph is measured in pieces: the system's cost grows with the square of what it gets at once.
@@ -65,7 +65,7 @@ TTamanho TFonteDialogo::Medir(std::u16string_view ATexto, int ALarguraMaxima) co
         RECT retangulo{};
         if (trecho > 0) {
             retangulo.right = ALarguraMaxima;
-            ::DrawTextW(tela, Plataforma::ParaWide(resto.data()), static_cast<int>(trecho), &retangulo, formato);
+            ::DrawTextW(tela, Interno::ParaWide(resto.data()), static_cast<int>(trecho), &retangulo, formato);
         }
         tamanho.Largura = std::max(tamanho.Largura, static_cast<int>(retangulo.right));
         tamanho.Altura += std::max(static_cast<int>(retangulo.bottom), FAlturaLinha);
@@ -79,4 +79,4 @@ TTamanho TFonteDialogo::Medir(std::u16string_view ATexto, int ALarguraMaxima) co
     return tamanho;
 }
 
-}  // namespace OryUtils::Win32
+}  // namespace OryUtils::Interno

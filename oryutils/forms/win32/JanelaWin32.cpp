@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace OryUtils::Win32 {
+namespace OryUtils::Interno {
 namespace {
 
 // Above the numbers that the dialog keyboard sends by itself (IDOK, IDCANCEL).
@@ -66,8 +66,8 @@ void TJanelaWin32::Criar(HWND ADona) {
     const bool redimensiona = FFormulario.EstiloBorda == ebRedimensionavel;
     const DWORD estilo = WS_POPUP | WS_CAPTION | WS_SYSMENU | (redimensiona ? WS_THICKFRAME | WS_MAXIMIZEBOX : 0);
     const DWORD estendido = WS_EX_CONTROLPARENT | (redimensiona ? 0 : WS_EX_DLGMODALFRAME);
-    ::CreateWindowExW(estendido, BuscarClasse(), Plataforma::ParaWide(ParaNativo(FFormulario.GetTitulo())), estilo, 0,
-                      0, 0, 0, ADona, nullptr, BuscarModulo(), this);
+    ::CreateWindowExW(estendido, BuscarClasse(), Interno::ParaWide(ParaNativo(FFormulario.GetTitulo())), estilo, 0, 0,
+                      0, 0, ADona, nullptr, BuscarModulo(), this);
     if (!FJanela) throw Exception(u"Não foi possível criar a janela do formulário.");
 }
 
@@ -368,4 +368,4 @@ void TJanelaWin32::AoClicar(TControleNativo& AControle) {
     if (EhBotao(&AControle.GetModelo())) static_cast<TBotao&>(AControle.GetModelo()).Clicar();
 }
 
-}  // namespace OryUtils::Win32
+}  // namespace OryUtils::Interno

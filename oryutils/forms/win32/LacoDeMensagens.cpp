@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace OryUtils::Win32 {
+namespace OryUtils::Interno {
 
 void TLacoDeMensagens::Despachar(MSG& AMensagem) {
     const auto alvo = std::find_if(Janelas.rbegin(), Janelas.rend(), [&](const TJanelaWin32* AJanela) {
@@ -44,4 +44,4 @@ HINSTANCE BuscarModulo() noexcept {
     return modulo;
 }
 
-}  // namespace OryUtils::Win32
+}  // namespace OryUtils::Interno

@@ -8,7 +8,7 @@
 #include <shlobj.h>
 #include <utility>
 
-namespace OryUtils::Win32 {
+namespace OryUtils::Interno {
 namespace {
 
 // The longest path of the system, with its terminator.
@@ -38,8 +38,7 @@ int CALLBACK AoAbrirSeletorDePasta(HWND AJanela, UINT AMensagem, LPARAM, LPARAM 
     const auto& abertura = *reinterpret_cast<const TAberturaPasta*>(ADados);
     if (!abertura.Titulo.empty()) EscreverTexto(AJanela, abertura.Titulo);
     if (!abertura.Pasta.empty())
-        ::SendMessageW(AJanela, BFFM_SETSELECTIONW, TRUE,
-                       reinterpret_cast<LPARAM>(Plataforma::ParaWide(abertura.Pasta)));
+        ::SendMessageW(AJanela, BFFM_SETSELECTIONW, TRUE, reinterpret_cast<LPARAM>(Interno::ParaWide(abertura.Pasta)));
     return 0;
 }
 
@@ -47,7 +46,7 @@ int CALLBACK AoAbrirSeletorDePasta(HWND AJanela, UINT AMensagem, LPARAM, LPARAM 
 std::optional<std::u16string> BuscarCaminho(PIDLIST_ABSOLUTE AItem) {
     wchar_t* caminho = nullptr;
     if (FAILED(::SHGetNameFromIDList(AItem, SIGDN_FILESYSPATH, &caminho))) return std::nullopt;
-    auto resultado = Plataforma::DeWide(caminho);
+    auto resultado = Interno::DeWide(caminho);
     ::CoTaskMemFree(caminho);
     return resultado;
 }
@@ -73,10 +72,10 @@ std::optional<std::u16string> EscolherArquivo(std::u16string_view APastaInicial,
     OPENFILENAMEW dados{};
     dados.lStructSize = sizeof dados;
     dados.hwndOwner = dona;
-    dados.lpstrFilter = AFiltros.empty() ? nullptr : Plataforma::ParaWide(filtro);
-    dados.lpstrFile = Plataforma::ParaWide(caminho.data());
+    dados.lpstrFilter = AFiltros.empty() ? nullptr : Interno::ParaWide(filtro);
+    dados.lpstrFile = Interno::ParaWide(caminho.data());
     dados.nMaxFile = static_cast<DWORD>(caminho.size());
-    dados.lpstrInitialDir = pasta.empty() ? nullptr : Plataforma::ParaWide(pasta);
+    dados.lpstrInitialDir = pasta.empty() ? nullptr : Interno::ParaWide(pasta);
     dados.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
     if (!::GetOpenFileNameW(&dados)) return std::nullopt;
     caminho.resize(caminho.find(u'\0'));
@@ -90,7 +89,7 @@ std::optional<std::u16string> EscolherPasta(std::u16string_view ATitulo, std::u1
     const TDesabilitarJanelas desabilitadas(dona);
     BROWSEINFOW dados{};
     dados.hwndOwner = dona;
-    dados.lpszTitle = Plataforma::ParaWide(abertura.Titulo);
+    dados.lpszTitle = Interno::ParaWide(abertura.Titulo);
     dados.ulFlags = BIF_RETURNONLYFSDIRS | BIF_NEWDIALOGSTYLE;
     dados.lpfn = &AoAbrirSeletorDePasta;
     dados.lParam = reinterpret_cast<LPARAM>(&abertura);
@@ -101,4 +100,4 @@ std::optional<std::u16string> EscolherPasta(std::u16string_view ATitulo, std::u1
     return caminho;
 }
 
-}  // namespace OryUtils::Win32
+}  // namespace OryUtils::Interno

@@ -1,14 +1,14 @@
 #include "oryutils/forms/win32/interno/Temporizadores.hpp"
 
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/forms/win32/interno/ClasseDeJanela.hpp"
 #include "oryutils/forms/win32/interno/JanelaWin32.hpp"
 #include "oryutils/runtime/Costura.hpp"
-#include "oryutils/runtime/Utf.hpp"
 
 #include <algorithm>
 #include <utility>
 
-namespace OryUtils::Win32 {
+namespace OryUtils::Interno {
 namespace {
 
 /// With no loop of this library running there is nobody to raise to: the user is told.
@@ -72,4 +72,4 @@ LRESULT CALLBACK TTemporizadores::Procedimento(HWND AJanela, UINT AMensagem, WPA
     return 0;
 }
 
-}  // namespace OryUtils::Win32
+}  // namespace OryUtils::Interno

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace OryUtils::Win32 {
+namespace OryUtils::Interno {
 namespace {
 
 constexpr std::u16string_view CQuebraSuave = u"\r\r\n";
@@ -65,13 +65,13 @@ std::u16string DeNativo(std::u16string_view ATexto, std::u16string_view AModelo)
 std::u16string LerTexto(HWND AJanela) {
     std::u16string texto(static_cast<std::size_t>(::GetWindowTextLengthW(AJanela)), u'\0');
     // One place more: the system always writes a terminator, and a string holds one past its end.
-    const int lidos = ::GetWindowTextW(AJanela, Plataforma::ParaWide(texto.data()), static_cast<int>(texto.size()) + 1);
+    const int lidos = ::GetWindowTextW(AJanela, Interno::ParaWide(texto.data()), static_cast<int>(texto.size()) + 1);
     texto.resize(static_cast<std::size_t>(std::max(lidos, 0)));
     return texto;
 }
 
 void EscreverTexto(HWND AJanela, std::u16string_view ATexto) {
-    ::SetWindowTextW(AJanela, Plataforma::ParaWide(ParaNativo(ATexto)));
+    ::SetWindowTextW(AJanela, Interno::ParaWide(ParaNativo(ATexto)));
 }
 
-}  // namespace OryUtils::Win32
+}  // namespace OryUtils::Interno

@@ -35,9 +35,9 @@ bool AbrirAreaDeTransferencia(HWND AJanela) {
 }  // namespace
 
 struct TToolkitWin32::TPartes {
-    Win32::TFonteDialogo Fonte;
-    Win32::TLacoDeMensagens Laco;
-    Win32::TTemporizadores Temporizadores{Laco};
+    Interno::TFonteDialogo Fonte;
+    Interno::TLacoDeMensagens Laco;
+    Interno::TTemporizadores Temporizadores{Laco};
 };
 
 TToolkitWin32::TToolkitWin32(unsigned long AThread) : FThread(AThread ? AThread : ::GetCurrentThreadId()) {
@@ -55,7 +55,7 @@ bool TToolkitWin32::HaAreaDeTrabalho() {
         return false;
     // A visible station may still have no desktop for this process: a hidden window tells.
     const HWND janela =
-        ::CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, Win32::BuscarModulo(), nullptr);
+        ::CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, Interno::BuscarModulo(), nullptr);
     if (!janela) return false;
     ::DestroyWindow(janela);
     return true;
@@ -66,7 +66,7 @@ unsigned long TToolkitWin32::GetThreadDeCarga() noexcept { return GThreadDeCarga
 bool TToolkitWin32::EhThreadDaInterface() const { return ::GetCurrentThreadId() == FThread; }
 
 int TToolkitWin32::ExecutarModal(TFormulario& AFormulario) {
-    Win32::TJanelaWin32 janela(AFormulario, FPartes->Laco, FPartes->Fonte);
+    Interno::TJanelaWin32 janela(AFormulario, FPartes->Laco, FPartes->Fonte);
     return janela.Executar();
 }
 
@@ -97,12 +97,12 @@ void TToolkitWin32::DesligarTemporizador(std::uintptr_t ATemporizador) {
 
 std::optional<std::u16string> TToolkitWin32::EscolherArquivo(std::u16string_view APastaInicial,
                                                              const std::vector<TFiltroArquivo>& AFiltros) {
-    return Win32::EscolherArquivo(APastaInicial, AFiltros);
+    return Interno::EscolherArquivo(APastaInicial, AFiltros);
 }
 
 std::optional<std::u16string> TToolkitWin32::EscolherPasta(std::u16string_view ATitulo,
                                                            std::u16string_view APastaInicial) {
-    return Win32::EscolherPasta(ATitulo, APastaInicial);
+    return Interno::EscolherPasta(ATitulo, APastaInicial);
 }
 
 void TToolkitWin32::SetCursor(TCursorTela ACursor) {
@@ -112,7 +112,7 @@ void TToolkitWin32::SetCursor(TCursorTela ACursor) {
 }
 
 std::shared_ptr<void> TToolkitWin32::DesabilitarJanelas() {
-    return std::make_shared<Win32::TDesabilitarJanelas>(nullptr);
+    return std::make_shared<Interno::TDesabilitarJanelas>(nullptr);
 }
 
 bool TToolkitWin32::EstahPressionada(std::uint16_t ATecla) const { return (::GetAsyncKeyState(ATecla) & 0x8000) != 0; }
@@ -120,7 +120,7 @@ bool TToolkitWin32::EstahPressionada(std::uint16_t ATecla) const { return (::Get
 void TToolkitWin32::Bipar() { ::MessageBeep(MB_OK); }
 
 void TToolkitWin32::CopiarParaAreaDeTransferencia(std::u16string_view ATexto) {
-    const std::u16string texto = Win32::ParaNativo(ATexto);
+    const std::u16string texto = Interno::ParaNativo(ATexto);
     if (!AbrirAreaDeTransferencia(FPartes->Temporizadores.GetJanela())) return;
     ::EmptyClipboard();
     if (HGLOBAL memoria = ::GlobalAlloc(GMEM_MOVEABLE, (texto.size() + 1) * sizeof(char16_t))) {

@@ -5,7 +5,7 @@
 #include <chrono>
 #include <cstdint>
 
-namespace OryUtils::Plataforma::Interno {
+namespace OryUtils::Interno {
 
 /// The limit of a wait that is made of several, in milliseconds from where it is made.
 class TPrazo {
@@ -25,4 +25,4 @@ private:
     TRelogio::time_point FInicio = TRelogio::now();
 };
 
-}  // namespace OryUtils::Plataforma::Interno
+}  // namespace OryUtils::Interno

@@ -4,7 +4,7 @@
 #include <stdexcept>
 #include <sys/random.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 void PreencherAleatorio(std::span<std::byte> ABytes) {
     while (!ABytes.empty()) {
@@ -15,4 +15,4 @@ void PreencherAleatorio(std::span<std::byte> ABytes) {
     }
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

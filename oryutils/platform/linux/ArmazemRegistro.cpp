@@ -1,7 +1,7 @@
 #include "oryutils/platform/linux/ArmazemRegistro.hpp"
 
+#include "oryutils/characters/Unidades.hpp"
 #include "oryutils/platform/PastasDoSistema.hpp"
-#include "oryutils/platform/interno/Unidades.hpp"
 #include "oryutils/platform/linux/Descritor.hpp"
 #include "oryutils/platform/linux/Exibicao.hpp"
 #include "oryutils/platform/linux/PastaInicial.hpp"
@@ -16,7 +16,7 @@
 #include <utility>
 #include <vector>
 
-namespace OryUtils::Plataforma::Interno {
+namespace OryUtils::Interno {
 namespace {
 
 constexpr const char* CVariavelDaPasta = "ORYUTILS_REGISTRO";
@@ -222,4 +222,4 @@ TErroRegistro AlterarArmazem(const TLocalDoArmazem& ALocal, TEdicaoDoArmazem AEd
     return Substituir(ALocal, arquivo.ParaBytes());
 }
 
-}  // namespace OryUtils::Plataforma::Interno
+}  // namespace OryUtils::Interno

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "oryutils/platform/Registro.hpp"
-#include "oryutils/platform/interno/ArquivoReg.hpp"
+#include "oryutils/readers/ArquivoReg.hpp"
 
 #include <cstdint>
 #include <string>
@@ -9,7 +9,7 @@
 
 // The settings store: one exported registry file for each root key, HKEY_LOCAL_MACHINE.reg in a folder of the system
 // and HKEY_CURRENT_USER.reg in one of the user (docs/ajustes.md).
-namespace OryUtils::Plataforma::Interno {
+namespace OryUtils::Interno {
 
 /// Where the file of a root key is and who may read it.
 struct TLocalDoArmazem {
@@ -45,4 +45,4 @@ TErroRegistro AlterarArmazem(const TLocalDoArmazem& ALocal, const TAcao& AAcao) 
         &AAcao);
 }
 
-}  // namespace OryUtils::Plataforma::Interno
+}  // namespace OryUtils::Interno

@@ -22,7 +22,7 @@
 #include <utility>
 #include <vector>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 // On these nobody changes a file without this system's knowing, and times are finer than a second.
@@ -210,4 +210,4 @@ std::optional<TMarcaDeArquivo> TArquivoVigiado::BuscarMarcaIntacta() const noexc
     return marca;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -9,7 +9,7 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 /// Of this thread, and never of another one.
@@ -92,4 +92,4 @@ void TAvisoEmMemoria::Armar() noexcept {
     if (!FArmado) *static_cast<bool*>(FProcesso.get()) = false;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <memory>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 struct TDevolverMemoria {
     std::size_t Tamanho = 0;
@@ -50,4 +50,4 @@ private:
     bool FArmado = false;
 };
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -1,10 +1,10 @@
 #include "oryutils/platform/BibliotecaDinamica.hpp"
 
-#include "oryutils/platform/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 
 #include <dlfcn.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 TBibliotecaDinamica::TBibliotecaDinamica(std::u16string_view ANome)
     : FAlca(::dlopen(ParaUtf8(ANome).c_str(), RTLD_NOW | RTLD_LOCAL)) {}
@@ -23,4 +23,4 @@ bool EstahCarregada(std::u16string_view ANome) {
     return alca != nullptr;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

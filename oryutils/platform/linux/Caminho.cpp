@@ -1,12 +1,12 @@
 #include "oryutils/platform/Caminho.hpp"
 
-#include "oryutils/platform/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 
 #include <cstdlib>
 #include <string>
 #include <unistd.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 bool ExisteComando(std::u16string_view AComando) {
     const char* caminho = std::getenv("PATH");
@@ -22,4 +22,4 @@ bool ExisteComando(std::u16string_view AComando) {
     }
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

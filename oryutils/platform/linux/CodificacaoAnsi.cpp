@@ -1,6 +1,6 @@
 #include "oryutils/platform/CodificacaoAnsi.hpp"
 
-#include "oryutils/platform/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 
 #include <bit>
 #include <cerrno>
@@ -8,7 +8,7 @@
 #include <langinfo.h>
 #include <locale.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 std::string BuscarCodificacao() {
@@ -62,4 +62,4 @@ std::u16string TDecodificadorAnsi::Decodificar(std::string_view ABytes) {
     return FTipo == tdUtf8 ? DeUtf8(ABytes) : Converter(FConversor, ABytes);
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -1,7 +1,7 @@
 #include "oryutils/platform/Console.hpp"
 
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/Fluxo.hpp"
-#include "oryutils/platform/Utf.hpp"
 
 #include <climits>
 
@@ -10,7 +10,7 @@
 #include <poll.h>
 #include <unistd.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 bool PodeConversar() { return TFluxo::EntradaPadrao().EhTerminal() && TFluxo::ErroPadrao().EhTerminal(); }
 
@@ -42,4 +42,4 @@ TLeituraDeLinha LerLinhaDoTerminal(std::optional<std::chrono::milliseconds> ALim
     return llLinha;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -1,13 +1,13 @@
 #include "oryutils/platform/DadosDoArquivo.hpp"
 
-#include "oryutils/platform/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/linux/InstanteUtc.hpp"
 
 #include <algorithm>
 #include <fcntl.h>
 #include <sys/stat.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 bool BuscarDados(std::u16string_view AArquivo, struct stat& ADados) {
@@ -47,4 +47,4 @@ bool AlterarUltimaGravacao(std::u16string_view AArquivo, TInstanteUtc AInstante)
            std::max(dados.st_mtim.tv_sec, segundos) - std::min(dados.st_mtim.tv_sec, segundos) <= CMaiorResolucao;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -3,7 +3,7 @@
 #include <unistd.h>
 #include <utility>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// A file descriptor, closed when it goes. What failed to open is one too, and errno keeps the reason.
 class TDescritor {
@@ -27,4 +27,4 @@ private:
     int FNumero;
 };
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -1,8 +1,8 @@
 #include "oryutils/platform/Discos.hpp"
 
-#include "oryutils/platform/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/linux/Descritor.hpp"
-#include "oryutils/platform/linux/TabelaDeMontagens.hpp"
+#include "oryutils/readers/TabelaDeMontagens.hpp"
 
 #include <algorithm>
 #include <array>
@@ -17,7 +17,7 @@
 #include <sys/statvfs.h>
 #include <unistd.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 constexpr int CNumeroDaRaiz = 3;  // "C"
@@ -121,4 +121,4 @@ std::vector<std::u16string> ListarUnidades() {
     return lista;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

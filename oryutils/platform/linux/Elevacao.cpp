@@ -2,7 +2,7 @@
 
 #include "oryutils/platform/Caminho.hpp"
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 std::vector<std::string> BuscarElevador(bool AManterPasta) {
     if (ExisteComando(u"pkexec")) {
@@ -14,4 +14,4 @@ std::vector<std::string> BuscarElevador(bool AManterPasta) {
     return {};
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

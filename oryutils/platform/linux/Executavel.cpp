@@ -1,12 +1,12 @@
 #include "oryutils/platform/Executavel.hpp"
 
-#include "oryutils/platform/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 
 #include <climits>
 
 #include <unistd.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 std::u16string BuscarArquivoExecutavel() {
     char caminho[PATH_MAX];
@@ -14,4 +14,4 @@ std::u16string BuscarArquivoExecutavel() {
     return tamanho > 0 ? DeUtf8({caminho, static_cast<std::size_t>(tamanho)}) : std::u16string();
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -13,7 +13,7 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 // The X library itself tries the connection: it knows remote displays and their cookies.
@@ -66,4 +66,4 @@ std::string BuscarPastaDoModulo() {
     return completo.substr(0, completo.rfind('/'));
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

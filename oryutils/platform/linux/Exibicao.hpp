@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// Whether a window could be shown now: the X server that DISPLAY names accepts a connection, or the Wayland socket
 /// does. A variable left over from a session that has ended is no display.
@@ -16,4 +16,4 @@ std::string BuscarPastaDoModulo();
 /// user.
 std::string BuscarVariavelDeAmbiente(const char* ANome);
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -13,7 +13,7 @@
 
 extern char** environ;
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 std::mutex GTrava;
@@ -128,4 +128,4 @@ bool EsperarFilho(pid_t APid, std::intptr_t APidfd, int AMilissegundos) noexcept
     return true;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -5,7 +5,7 @@
 #include <sys/types.h>
 #include <vector>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// How a child process is started.
 struct TPedidoDeFilho {
@@ -34,4 +34,4 @@ bool EsperarFilho(pid_t APid, std::intptr_t APidfd, int AMilissegundos) noexcept
 /// True when that pidfd's process has ended, cleared away or not.
 bool Terminou(std::intptr_t APidfd) noexcept;
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -11,7 +11,7 @@
 #include <unistd.h>
 #include <utility>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 TErroFluxo DeErrno(int AErro) {
@@ -188,4 +188,4 @@ TErroFluxo ExcluirArquivo(const std::string& ANome) {
     return ::unlink(ANome.c_str()) == 0 || errno == ENOENT ? efNenhum : DeErrno(errno);
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

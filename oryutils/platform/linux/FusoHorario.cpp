@@ -2,7 +2,7 @@
 
 #include <time.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 std::int32_t BuscarDeslocamentoNoInstante(std::int64_t AInstante) {
     // localtime_r need not look at TZ by itself.
@@ -13,4 +13,4 @@ std::int32_t BuscarDeslocamentoNoInstante(std::int64_t AInstante) {
     return static_cast<std::int32_t>(partes.tm_gmtoff);
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

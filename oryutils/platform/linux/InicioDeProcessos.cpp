@@ -1,11 +1,11 @@
 #include "oryutils/platform/InicioDeProcessos.hpp"
 
-#include "oryutils/platform/LinhaDeComando.hpp"
-#include "oryutils/platform/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/interno/Prazo.hpp"
 #include "oryutils/platform/linux/Descritor.hpp"
 #include "oryutils/platform/linux/Elevacao.hpp"
 #include "oryutils/platform/linux/Filhos.hpp"
+#include "oryutils/readers/LinhaDeComando.hpp"
 
 #include <algorithm>
 #include <cerrno>
@@ -13,7 +13,7 @@
 #include <poll.h>
 #include <unistd.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 // A host's message loop has no common signal here: it is looked after so often.
@@ -109,4 +109,4 @@ TProcessoCapturado::TLeitura TProcessoCapturado::Ler(std::span<char> ADestino, s
     return lcBytes;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <time.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// A file system may hold instants that milliseconds of 64 bits do not: they become the nearest ones.
 inline TInstanteUtc DeTimespec(const timespec& ATempo) noexcept {
@@ -13,4 +13,4 @@ inline TInstanteUtc DeTimespec(const timespec& ATempo) noexcept {
     return std::clamp(ATempo.tv_sec, -CMaior, CMaior) * TInstanteUtc{1000} + ATempo.tv_nsec / 1'000'000;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

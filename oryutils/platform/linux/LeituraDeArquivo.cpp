@@ -1,6 +1,6 @@
 #include "oryutils/platform/LeituraDeArquivo.hpp"
 
-#include "oryutils/platform/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/linux/InstanteUtc.hpp"
 
 #include <cerrno>
@@ -9,7 +9,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 TLeituraDeArquivo::TLeituraDeArquivo(std::u16string_view AArquivo) {
     if (AArquivo.find(u'\0') != AArquivo.npos) return;
@@ -45,4 +45,4 @@ TInstanteUtc TLeituraDeArquivo::BuscarUltimaGravacao() const noexcept {
     return DeTimespec(dados.st_mtim);
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -1,6 +1,6 @@
 #include "oryutils/platform/Localidade.hpp"
 
-#include "oryutils/platform/PadroesDoSistema.hpp"
+#include "oryutils/readers/PadroesDoSistema.hpp"
 
 #include <bit>
 #include <iconv.h>
@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 using OryTypes::TFormatSettings;
@@ -103,4 +103,4 @@ TFormatSettings BuscarFormatosDoSistema() {
     return formatos;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -1,6 +1,6 @@
 #include "oryutils/platform/Maquina.hpp"
 
-#include "oryutils/platform/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 
 #include <climits>
 
@@ -10,7 +10,7 @@
 #include <unistd.h>
 #include <vector>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 std::optional<std::u16string> BuscarNomeDaMaquina(std::uint32_t& AErro) {
     std::array<char, HOST_NAME_MAX + 1> nome{};
@@ -32,4 +32,4 @@ std::optional<std::u16string> BuscarNomeDoUsuario() {
 
 std::optional<TVersaoDoSistema> BuscarVersaoDoSistema() { return std::nullopt; }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <sys/mman.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 void PrepararEscrita(void* AInicio, std::size_t ABytes) noexcept {
     constexpr std::uintptr_t CPagina = 4096;
@@ -16,4 +16,4 @@ void PrepararEscrita(void* AInicio, std::size_t ABytes) noexcept {
 std::size_t BuscarFatorDeCrescimento() noexcept { return 16; }
 std::size_t BuscarReservaDeTextoLongo() noexcept { return std::size_t{256} << 20; }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

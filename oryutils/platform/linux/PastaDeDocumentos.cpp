@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 std::string LerPastaDeDocumentos(std::string_view ATexto, std::string_view AInicio) {
     constexpr std::string_view CChave = "XDG_DOCUMENTS_DIR=\"";
@@ -29,4 +29,4 @@ std::string LerPastaDeDocumentos(std::string_view ATexto, std::string_view AInic
     return pasta;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

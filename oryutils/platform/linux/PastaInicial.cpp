@@ -7,7 +7,7 @@
 #include <unistd.h>
 #include <vector>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 std::string BuscarPastaInicial() {
     if (std::string pasta = BuscarVariavelDeAmbiente("HOME"); pasta.starts_with('/')) return pasta;
@@ -18,4 +18,4 @@ std::string BuscarPastaInicial() {
     return achada && achada->pw_dir ? achada->pw_dir : "";
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -1,10 +1,10 @@
 #include "oryutils/platform/Pastas.hpp"
 
-#include "oryutils/platform/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 
 #include <sys/stat.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 bool ExistePasta(std::u16string_view APasta) {
     if (APasta.find(u'\0') != APasta.npos) return false;
@@ -25,4 +25,4 @@ char16_t BuscarSeparadorDePastas() noexcept { return u'/'; }
 
 bool EhProibidoEmNomeDeArquivo(char16_t ACaractere) noexcept { return ACaractere == u'/' || ACaractere == 0; }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -1,6 +1,6 @@
 #include "oryutils/platform/PastasDoSistema.hpp"
 
-#include "oryutils/platform/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/linux/Exibicao.hpp"
 #include "oryutils/platform/linux/PastaDeDocumentos.hpp"
 #include "oryutils/platform/linux/PastaInicial.hpp"
@@ -12,7 +12,7 @@
 #include <unistd.h>
 #include <vector>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 std::string SemSeparadorFinal(std::string APasta) {
@@ -51,4 +51,4 @@ std::u16string BuscarUnidadeDoSistema() { return u"/"; }
 
 std::u16string BuscarPastaDeProgramasPadrao() { return u"/opt"; }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

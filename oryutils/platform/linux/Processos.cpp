@@ -1,7 +1,7 @@
 #include "oryutils/platform/Processos.hpp"
 
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/ErroDoSistema.hpp"
-#include "oryutils/platform/Utf.hpp"
 #include "oryutils/platform/linux/Descritor.hpp"
 #include "oryutils/platform/linux/Filhos.hpp"
 
@@ -25,7 +25,7 @@
 #include <sys/utsname.h>
 #include <unistd.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 std::string CaminhoDe(pid_t APid, std::string_view AArquivo) {
@@ -240,4 +240,4 @@ void AbrirConfiguracaoDeDataHora() {
         if (GerarFilho({.Argumentos = programa, .FecharDescritores = true}) != 0) return;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

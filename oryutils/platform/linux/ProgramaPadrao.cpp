@@ -1,5 +1,5 @@
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/DadosDoArquivo.hpp"
-#include "oryutils/platform/Utf.hpp"
 
 #include <cerrno>
 #include <cstdlib>
@@ -11,7 +11,7 @@
 #include <unistd.h>
 #include <vector>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 constexpr std::string_view CAbridor = "xdg-open";
@@ -95,4 +95,4 @@ bool AbrirComProgramaPadrao(std::u16string_view AArquivo, std::u16string_view AP
     return Disparar({std::string(CAbridor), nome.get()}) == 0;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -1,9 +1,9 @@
 #include "oryutils/platform/Rede.hpp"
 
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/ErroDoSistema.hpp"
-#include "oryutils/platform/Utf.hpp"
 #include "oryutils/platform/linux/Descritor.hpp"
-#include "oryutils/platform/linux/TabelasDeRede.hpp"
+#include "oryutils/readers/TabelasDeRede.hpp"
 
 #include <algorithm>
 #include <arpa/inet.h>
@@ -21,7 +21,7 @@
 #include <sys/socket.h>
 #include <thread>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 using namespace std::chrono_literals;
@@ -206,4 +206,4 @@ std::vector<TEnderecoMac> ListarEnderecosMac(const std::optional<TEnderecoIP>& A
     return lista;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

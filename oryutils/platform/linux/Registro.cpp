@@ -1,13 +1,13 @@
 #include "oryutils/platform/Registro.hpp"
 
-#include "oryutils/platform/interno/NomesRegistro.hpp"
 #include "oryutils/platform/linux/ArmazemRegistro.hpp"
+#include "oryutils/readers/NomesRegistro.hpp"
 
 #include <algorithm>
 #include <array>
 #include <utility>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 using Interno::TArquivoReg;
@@ -168,4 +168,4 @@ std::u16string BuscarTextoDoErroRegistro(TErroRegistro AErro) {
     return u"Erro desconhecido";
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

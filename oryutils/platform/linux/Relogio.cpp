@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <time.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 TInstanteLocal BuscarInstanteLocal() {
     timespec agora{};
@@ -29,4 +29,4 @@ TInstanteLocal BuscarInstanteLocal() {
     return instante;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

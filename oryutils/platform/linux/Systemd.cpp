@@ -1,10 +1,10 @@
 #include "oryutils/platform/linux/Systemd.hpp"
 
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/Arquivos.hpp"
 #include "oryutils/platform/Fluxo.hpp"
 #include "oryutils/platform/InicioDeProcessos.hpp"
-#include "oryutils/platform/LinhaDeComando.hpp"
-#include "oryutils/platform/Utf.hpp"
+#include "oryutils/readers/LinhaDeComando.hpp"
 
 #include <algorithm>
 #include <array>
@@ -13,7 +13,7 @@
 #include <unistd.h>
 #include <vector>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 constexpr std::size_t CMaiorNome = 200;
@@ -240,4 +240,4 @@ std::unique_ptr<TGerenciadorServicos> AbrirGerenciadorServicos(std::u16string_vi
     return AMaquina.empty() ? AbrirSystemd(CPastaUnidades, AAcesso) : nullptr;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

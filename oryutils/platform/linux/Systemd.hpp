@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 /// Where units that the administrator owns are kept.
 inline constexpr std::string_view CPastaUnidades = "/etc/systemd/system";
@@ -30,4 +30,4 @@ std::optional<TSituacaoUnidade> LerSituacaoUnidade(std::string_view ASaida);
 /// The systemd of this machine with units in APasta; null when systemctl does not answer that it runs.
 std::unique_ptr<TGerenciadorServicos> AbrirSystemd(std::string_view APasta, TAcessoGerenciador AAcesso);
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <array>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 struct TCaractereFixo {
@@ -211,4 +211,4 @@ std::u16string TraduzirTeclaVirtual(std::uint16_t ATecla) {
     return CaracteresDe(shift != inverte ? comShift : semShift);
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -10,7 +10,7 @@
 
 // The X server is asked through libxcb: unlike libX11 it never ends the program when the server goes away. The library
 // is loaded at run time, since most servers and batch machines have none; what is used of its interface stands here.
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 struct TConexao;
@@ -229,4 +229,4 @@ std::optional<std::uint32_t> PerguntarInatividade() {
     return static_cast<const TRespostaInformacao*>(resposta.get())->MilissegundosSemEntrada;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -7,7 +7,7 @@
 #include <span>
 #include <vector>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 using TKeysym = std::uint32_t;
 
@@ -50,4 +50,4 @@ void FingirToques(std::span<const TToque> AToques);
 /// Milliseconds without input, by the server's MIT-SCREEN-SAVER extension.
 std::optional<std::uint32_t> PerguntarInatividade();
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

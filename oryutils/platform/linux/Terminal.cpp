@@ -3,7 +3,7 @@
 #include <csignal>
 #include <cstdlib>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 std::vector<std::string> BuscarArgumentos(int AQuantidade, const char* const* AArgumentos) {
     return AQuantidade > 1 ? std::vector<std::string>(AArgumentos + 1, AArgumentos + AQuantidade)
@@ -18,4 +18,4 @@ bool PossuiVariavelDeAmbiente(const char* ANome) {
     return valor && *valor;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -1,10 +1,10 @@
 #include "oryutils/platform/VersaoDeArquivo.hpp"
 
 #include "oryutils/platform/LeituraDeArquivo.hpp"
-#include "oryutils/platform/linux/BlocoDeVersao.hpp"
-#include "oryutils/platform/linux/RecursoDeVersaoPe.hpp"
+#include "oryutils/readers/BlocoDeVersao.hpp"
+#include "oryutils/readers/RecursoDeVersaoPe.hpp"
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 class TFonteDeArquivo final : public TFonteDeBytes {
@@ -36,4 +36,4 @@ std::optional<std::u16string> TVersaoDeArquivo::ConsultarTexto(std::u16string_vi
     return TBlocoDeVersao(FBloco).ConsultarTexto(ATabela, AChave);
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

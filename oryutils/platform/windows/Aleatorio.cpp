@@ -7,7 +7,7 @@
 #include <limits>
 #include <stdexcept>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 void PreencherAleatorio(std::span<std::byte> ABytes) {
     while (!ABytes.empty()) {
@@ -19,4 +19,4 @@ void PreencherAleatorio(std::span<std::byte> ABytes) {
     }
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

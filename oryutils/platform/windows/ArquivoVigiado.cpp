@@ -1,6 +1,6 @@
 #include "oryutils/platform/ArquivoVigiado.hpp"
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 struct TArquivoVigiado::TVigia {};
 
@@ -18,4 +18,4 @@ bool TArquivoVigiado::Acrescentar(std::string_view /*ABytes*/, bool& AMexido) no
 std::optional<TMarcaDeArquivo> TArquivoVigiado::Parar() noexcept { return {}; }
 void TArquivoVigiado::Fechar() noexcept {}
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -2,7 +2,7 @@
 
 #include "oryutils/platform/windows/Windows.hpp"
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 // A full path also finds the DLLs that stand beside the library.
@@ -28,4 +28,4 @@ bool EstahCarregada(std::u16string_view ANome) {
     return ::GetModuleHandleW(ParaWide(std::u16string(ANome))) != nullptr;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

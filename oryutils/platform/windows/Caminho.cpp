@@ -2,11 +2,11 @@
 
 #include "oryutils/platform/windows/Windows.hpp"
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 bool ExisteComando(std::u16string_view AComando) {
     const std::u16string nome(AComando);
     return SearchPathW(nullptr, ParaWide(nome), L".exe", 0, nullptr, nullptr) != 0;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

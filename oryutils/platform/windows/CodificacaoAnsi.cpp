@@ -2,7 +2,7 @@
 
 #include "oryutils/platform/windows/Windows.hpp"
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 TDecodificadorAnsi::~TDecodificadorAnsi() = default;
 
@@ -16,4 +16,4 @@ std::u16string TDecodificadorAnsi::Decodificar(std::string_view ABytes) {
     return texto;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -1,12 +1,12 @@
 #include "oryutils/platform/Console.hpp"
 
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/Fluxo.hpp"
-#include "oryutils/platform/Utf.hpp"
 #include "oryutils/platform/windows/Windows.hpp"
 
 #include <algorithm>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 // A console tells of releases, mouse and focus as well; only a key that goes down starts a line.
@@ -66,4 +66,4 @@ TLeituraDeLinha LerLinhaDoTerminal(std::optional<std::chrono::milliseconds> ALim
     return llLinha;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -4,7 +4,7 @@
 
 #include <shellapi.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 DWORD BuscarAtributos(std::u16string_view AArquivo) {
@@ -61,4 +61,4 @@ bool AbrirComProgramaPadrao(std::u16string_view AArquivo, std::u16string_view AP
     return ::ShellExecuteExW(&pedido) != 0;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

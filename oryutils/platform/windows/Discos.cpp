@@ -4,7 +4,7 @@
 
 #include <array>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 // "C:\" for every way of naming drive C; empty for what names none.
@@ -57,4 +57,4 @@ std::vector<std::u16string> ListarUnidades() {
     return lista;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -4,7 +4,7 @@
 
 #include <array>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 std::u16string DescreverErroDoSistema(std::uint32_t ACodigo) {
     std::array<wchar_t, 1024> texto{};
@@ -15,4 +15,4 @@ std::u16string DescreverErroDoSistema(std::uint32_t ACodigo) {
     return DeWide({texto.data(), tamanho});
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -2,7 +2,7 @@
 
 #include "oryutils/platform/windows/Windows.hpp"
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 std::u16string BuscarArquivoExecutavel() {
     // A longer path is cut without a word, so a full buffer asks for a bigger one; no path has more than 32767 units.
@@ -14,4 +14,4 @@ std::u16string BuscarArquivoExecutavel() {
     return {};
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 TErroFluxo DeErroDoSistema(DWORD AErro) {
@@ -215,4 +215,4 @@ TErroFluxo ExcluirArquivo(const std::string& ANome) {
     return erro == efNaoExiste ? efNenhum : erro;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

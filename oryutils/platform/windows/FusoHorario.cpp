@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 // FILETIME counts units of 100 ns from 1601 on.
@@ -47,4 +47,4 @@ std::int32_t BuscarDeslocamentoNoInstante(std::int64_t AInstante) {
     return static_cast<std::int32_t>(ParaInstante(local) - instante);
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -6,7 +6,7 @@
 #include <chrono>
 #include <shellapi.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 // A pipe has no signal to wait on together with messages: it is looked at so often, more often when output flows.
@@ -131,4 +131,4 @@ TProcessoCapturado::TLeitura TProcessoCapturado::Ler(std::span<char> ADestino, s
     return lcBytes;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -3,7 +3,7 @@
 #include "oryutils/platform/DadosDoArquivo.hpp"
 #include "oryutils/platform/windows/Windows.hpp"
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 // FILETIME counts units of 100 ns from 1601 on.
 inline constexpr TInstanteUtc CUnidadesPorMilissegundo = 10'000;
@@ -20,4 +20,4 @@ inline FILETIME ParaFileTime(TInstanteUtc AInstante) noexcept {
     return {static_cast<DWORD>(unidades), static_cast<DWORD>(unidades >> 32)};
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 HANDLE Alca(std::intptr_t AAlca) { return reinterpret_cast<HANDLE>(AAlca); }
@@ -51,4 +51,4 @@ TInstanteUtc TLeituraDeArquivo::BuscarUltimaGravacao() const noexcept {
     return DeFileTime(tempo);
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

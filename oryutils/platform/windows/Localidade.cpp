@@ -1,11 +1,11 @@
 #include "oryutils/platform/Localidade.hpp"
 
-#include "oryutils/platform/PadroesDoSistema.hpp"
 #include "oryutils/platform/windows/Windows.hpp"
+#include "oryutils/readers/PadroesDoSistema.hpp"
 
 #include <string>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 using OryTypes::TFormatSettings;
@@ -63,4 +63,4 @@ TFormatSettings BuscarFormatosDoSistema() {
     return formatos;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

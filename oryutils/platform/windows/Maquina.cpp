@@ -5,7 +5,7 @@
 #include <array>
 #include <lmcons.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 std::optional<std::u16string> BuscarNomeDaMaquina(std::uint32_t& AErro) {
     std::array<wchar_t, MAX_PATH + 1> nome{};
@@ -32,4 +32,4 @@ std::optional<TVersaoDoSistema> BuscarVersaoDoSistema() {
                             DeWide(versao.szCSDVersion)};
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

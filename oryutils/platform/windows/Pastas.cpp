@@ -2,7 +2,7 @@
 
 #include "oryutils/platform/windows/Windows.hpp"
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 bool ExistePasta(std::u16string_view APasta) {
     if (APasta.find(u'\0') != APasta.npos) return false;
@@ -26,4 +26,4 @@ bool EhProibidoEmNomeDeArquivo(char16_t ACaractere) noexcept {
     return ACaractere < u' ' || std::u16string_view(u"<>:\"/\\|?*").find(ACaractere) != std::u16string_view::npos;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

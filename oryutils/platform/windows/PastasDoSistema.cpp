@@ -6,7 +6,7 @@
 #include <shlobj.h>
 #include <vector>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 // "C:\" keeps its separator: "C:" would be the drive's current folder.
@@ -60,4 +60,4 @@ std::u16string BuscarUnidadeDoSistema() {
 
 std::u16string BuscarPastaDeProgramasPadrao() { return {}; }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -8,7 +8,7 @@
 #include <psapi.h>
 #include <tlhelp32.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 class TAlca {
@@ -161,4 +161,4 @@ void AbrirConfiguracaoDeDataHora() {
     ::WinExec("RunDLL32.exe Shell32.DLL, Control_RunDLL TimeDate.cpl", SW_SHOWNORMAL);
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -14,7 +14,7 @@
 #include <cstddef>
 #include <cstring>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 constexpr WORD CVersao11 = MAKEWORD(1, 1);
@@ -173,4 +173,4 @@ std::vector<TEnderecoMac> ListarEnderecosMac(const std::optional<TEnderecoIP>& A
     return lista;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

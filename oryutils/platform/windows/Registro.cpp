@@ -1,13 +1,13 @@
 #include "oryutils/platform/Registro.hpp"
 
 #include "oryutils/platform/ErroDoSistema.hpp"
-#include "oryutils/platform/interno/NomesRegistro.hpp"
 #include "oryutils/platform/windows/Windows.hpp"
+#include "oryutils/readers/NomesRegistro.hpp"
 
 #include <memory>
 #include <utility>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 TErroRegistro De(LSTATUS AErro) { return static_cast<TErroRegistro>(static_cast<std::uint32_t>(AErro)); }
@@ -129,4 +129,4 @@ TErroRegistro TChaveRegistro::ListarValores(std::vector<std::u16string>& ANomes)
 
 std::u16string BuscarTextoDoErroRegistro(TErroRegistro AErro) { return DescreverErroDoSistema(AErro); }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

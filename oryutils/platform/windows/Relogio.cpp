@@ -2,7 +2,7 @@
 
 #include "oryutils/platform/windows/Windows.hpp"
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 TInstanteLocal BuscarInstanteLocal() {
     SYSTEMTIME agora{};
@@ -10,4 +10,4 @@ TInstanteLocal BuscarInstanteLocal() {
     return {agora.wYear, agora.wMonth, agora.wDay, agora.wHour, agora.wMinute, agora.wSecond, agora.wMilliseconds};
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -4,7 +4,7 @@
 
 #include <type_traits>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 struct TFecharServico {
@@ -97,4 +97,4 @@ std::unique_ptr<TGerenciadorServicos> AbrirGerenciadorServicos(std::u16string_vi
     return gerenciador ? std::make_unique<TGerenciadorWindows>(std::move(gerenciador)) : nullptr;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <array>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 std::u16string TraduzirTeclaVirtual(std::uint16_t ATecla) {
     std::array<BYTE, 256> estado{};
@@ -34,4 +34,4 @@ std::uint32_t BuscarTempoDeInatividade() {
     return ::GetTickCount() - ultimo.dwTime;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -5,7 +5,7 @@
 #include <memory>
 #include <shellapi.h>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 std::string ParaUtf8(const wchar_t* ATexto) {
@@ -62,4 +62,4 @@ bool PossuiVariavelDeAmbiente(const char* ANome) {
     return ::GetEnvironmentVariableW(largo.c_str(), nullptr, 0) > 1;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

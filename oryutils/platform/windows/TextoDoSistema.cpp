@@ -1,11 +1,11 @@
 #include "oryutils/platform/TextoDoSistema.hpp"
 
-#include "oryutils/platform/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/windows/Windows.hpp"
 
 #include <algorithm>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 // The calls of the system take 32-bit counts; a longer text goes in parts that end where a character does.
@@ -66,4 +66,4 @@ std::u16string DeTextoDoSistema(std::string_view ATexto) {
 
 std::u16string_view BuscarQuebraDeLinha() noexcept { return u"\r\n"; }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -7,7 +7,7 @@
 #include <cstring>
 #include <span>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 namespace {
 
 /// A name with its folder: the version functions look for one without it among the system's libraries.
@@ -75,4 +75,4 @@ std::optional<std::u16string> TVersaoDeArquivo::ConsultarTexto(std::u16string_vi
     return texto;
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

@@ -12,7 +12,7 @@
 #include <string>
 #include <string_view>
 
-namespace OryUtils::Plataforma {
+namespace OryUtils::Interno {
 
 static_assert(sizeof(wchar_t) == sizeof(char16_t));
 
@@ -24,4 +24,4 @@ inline std::u16string DeWide(std::wstring_view ATexto) {
     return {reinterpret_cast<const char16_t*>(ATexto.data()), ATexto.size()};
 }
 
-}  // namespace OryUtils::Plataforma
+}  // namespace OryUtils::Interno

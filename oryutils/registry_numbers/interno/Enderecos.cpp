@@ -1,7 +1,7 @@
 #include "oryutils/registry_numbers/interno/Enderecos.hpp"
 
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/registry_numbers/UnOryUtilsValidacoesTypes.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
 
 #include <algorithm>

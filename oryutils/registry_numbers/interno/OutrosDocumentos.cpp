@@ -1,6 +1,6 @@
 #include "oryutils/registry_numbers/interno/OutrosDocumentos.hpp"
 
-#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
 
 #include <algorithm>

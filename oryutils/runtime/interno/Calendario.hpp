@@ -8,7 +8,7 @@
 
 // The calendar in integers, inline: formatting dates stands on it. The Gregorian rules count backwards without a break
 // (no Julian calendar).
-namespace OryUtils::Calendario {
+namespace OryUtils::Interno {
 
 inline constexpr int CMilisPorDia = 24 * 60 * 60 * 1000;
 
@@ -87,4 +87,4 @@ constexpr TPartesHora DeMilis(int AMili) {
 // 1 = Sunday to 7 = Saturday. Day 0 was a Saturday.
 constexpr int DiaDaSemana(std::int64_t ADia) { return static_cast<int>(((ADia - 1) % 7 + 7) % 7) + 1; }
 
-}  // namespace OryUtils::Calendario
+}  // namespace OryUtils::Interno

@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace OryUtils::ErroDeData {
+namespace OryUtils::Interno {
 namespace {
 
 [[noreturn]] void Levantar(std::u16string_view ATexto, std::u16string_view AMotivo) {
@@ -30,4 +30,4 @@ void DeslocamentoInvalido(std::u16string_view ATexto) {
 }
 void ForaDoIntervalo() { throw EConvertError(u"A data está fora do intervalo de datas (anos 1 a 9999)"); }
 
-}  // namespace OryUtils::ErroDeData
+}  // namespace OryUtils::Interno

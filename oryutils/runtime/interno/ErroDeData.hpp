@@ -3,7 +3,7 @@
 #include <string_view>
 
 // The errors of date and time conversions. The text in question is quoted, its end cut off when it is very long.
-namespace OryUtils::ErroDeData {
+namespace OryUtils::Interno {
 
 /// Each raises EConvertError.
 [[noreturn]] void DataInvalida(std::u16string_view ATexto);
@@ -13,4 +13,4 @@ namespace OryUtils::ErroDeData {
 [[noreturn]] void DeslocamentoInvalido(std::u16string_view ATexto);
 [[noreturn]] void ForaDoIntervalo();
 
-}  // namespace OryUtils::ErroDeData
+}  // namespace OryUtils::Interno

@@ -1,10 +1,10 @@
 #include "oryutils/runtime/interno/LeituraDeData.hpp"
 
-#include "oryutils/runtime/Caixa.hpp"
+#include "oryutils/characters/Caixa.hpp"
 
 #include <cstdint>
 
-namespace OryUtils::Leitura {
+namespace OryUtils::Interno {
 namespace {
 
 // Where day, month and year stand among three groups, and day and month among two.
@@ -96,4 +96,4 @@ std::optional<TDateTime> MontarHora(const TGrupos& AGrupos, TMetadeDoDia AMetade
     return TentarCodificarHora(hora, AGrupos.Itens[1].Valor, AGrupos.Itens[2].Valor, AGrupos.Itens[3].Valor);
 }
 
-}  // namespace OryUtils::Leitura
+}  // namespace OryUtils::Interno

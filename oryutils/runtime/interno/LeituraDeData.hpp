@@ -1,6 +1,6 @@
 #pragma once
 
-#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/runtime/DataHora.hpp"
 #include "oryutils/runtime/Formatos.hpp"
 
@@ -10,7 +10,7 @@
 #include <string_view>
 
 // The steps that the readers of typed dates and times share: groups of digits, then what the groups mean.
-namespace OryUtils::Leitura {
+namespace OryUtils::Interno {
 
 struct TNumero {
     int Valor = 0;
@@ -75,4 +75,4 @@ TMetadeDoDia RetirarMetadeDoDia(std::u16string_view& ATexto, const TFormatSettin
 /// A time of one to four groups: hours, minutes, seconds and milliseconds.
 std::optional<TDateTime> MontarHora(const TGrupos& AGrupos, TMetadeDoDia AMetade);
 
-}  // namespace OryUtils::Leitura
+}  // namespace OryUtils::Interno

@@ -1,6 +1,6 @@
 #include "oryutils/sql/interno/CondicaoSql.hpp"
 
-#include "oryutils/runtime/Caixa.hpp"
+#include "oryutils/characters/Caixa.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
 

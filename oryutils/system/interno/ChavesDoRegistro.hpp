@@ -3,7 +3,7 @@
 #include <string_view>
 
 // Where the settings of the machine stand in the registry, and what is said when one can not be changed.
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 
 inline constexpr std::u16string_view CChaveAutoInicio = u"Software\\Microsoft\\Windows\\CurrentVersion\\Run";
 inline constexpr std::u16string_view CChaveAmbiente =
@@ -35,4 +35,4 @@ inline constexpr std::u16string_view CErroAoAtualizarTimeout =
     u"\r\n\r\nEm algumas versões do Windows, o acesso à configurações de registradores necessita que a aplicação "
     u"possua privilégios de administrador.\r\n\r\nExecute a aplicação em modo administrador e tente novamente.";
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

@@ -7,7 +7,7 @@
 
 #include <array>
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 namespace {
 
 // By dialect: the older one, then the advanced one.
@@ -66,4 +66,4 @@ bool SaidaConfirma(std::u16string_view ASaida) {
     return TOryUtilsStrings::TextoContemItemVetor(ASaida, {u"ok"}, false);
 }
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

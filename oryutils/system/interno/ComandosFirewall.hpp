@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 
 /// Older systems know only the first words of the firewall.
 enum TDialetoFirewall : int { dfAntigo, dfAvancado };
@@ -25,4 +25,4 @@ std::u16string MontarExclusaoDePrograma(TDialetoFirewall ADialeto, std::u16strin
 /// True when "ok" stands anywhere in what "netsh" printed, in any case.
 bool SaidaConfirma(std::u16string_view ASaida);
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

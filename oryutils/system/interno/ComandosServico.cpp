@@ -4,7 +4,7 @@
 #include "oryutils/system/UnOryUtilsSystemTypes.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 namespace {
 
 constexpr std::u16string_view CLinhaDeAsteriscos =
@@ -65,4 +65,4 @@ std::u16string MontarMensagemFalha(std::u16string_view AInicio, std::u16string_v
     return texto.append(u"\r\n\r\nReinicie a aplicação em modo administrador e tente novamente.");
 }
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 
 /// AValor as it stands between the quotes of a command line: quotes in it, and the backslashes before one or at the
 /// end, are escaped, so that a value never ends its quotes.
@@ -25,4 +25,4 @@ bool SaidaIndicaFalha(std::u16string_view ASaida);
 /// The text of a failure: AInicio, then ASaida between two lines of asterisks, then the advice to try as administrator.
 std::u16string MontarMensagemFalha(std::u16string_view AInicio, std::u16string_view ASaida);
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

@@ -3,7 +3,7 @@
 #include "oryutils/system/interno/ComandosServico.hpp"
 #include "oryutils/system/interno/Servicos.hpp"
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 namespace {
 
 /// Runs AComando and judges what it prints; AInicio begins the message of a failure.
@@ -18,7 +18,7 @@ TResultStatus Configurar(const TExecutorDeComando& AExecutor, std::u16string_vie
 
 void ExecutarComandoDoSistema(std::u16string_view ALinhaDeComando, std::vector<std::u16string>& ASaida) {
     const std::u16string_view comando = ALinhaDeComando.substr(0, ALinhaDeComando.find(u' '));
-    if (Plataforma::ExisteComando(comando))
+    if (Interno::ExisteComando(comando))
         ExecutorDoSistema()(ALinhaDeComando, ASaida);
     else
         ASaida.push_back(PreencherModelo(u"Erro: o comando %s não foi encontrado.", {comando}));
@@ -55,4 +55,4 @@ TResultStatus ConfigurouDadosAdicionaisServico(const TExecutorDeComando& AExecut
         PreencherModelo(u"Não foi possível configurar os dados adicionais do serviço << %s >>.\r\n\r\n", {AServico}));
 }
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

@@ -5,7 +5,7 @@
 #include "oryutils/system/UnOryUtilsSystemTypes.hpp"
 #include "oryutils/types/OryTypesSistema.hpp"
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 
 inline constexpr int CMenorCotaGDI = 256;
 inline constexpr int CMaiorCotaGDI = 65536;
@@ -20,4 +20,4 @@ inline OryTypes::TResultStatus ValidarCotaObjetosGDI(int AValor, TVersaoWindows 
                                         {InteiroParaTexto(CMenorCotaGDI), InteiroParaTexto(maior)})};
 }
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

@@ -2,7 +2,7 @@
 
 #include "oryutils/system/OryUtilsSystem.hpp"
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 
 const TExecutorDeComando& ExecutorDoSistema() {
     static const TExecutorDeComando executor = [](std::u16string_view ALinhaDeComando,
@@ -27,4 +27,4 @@ std::u16string BuscarTextoDoComando(const TExecutorDeComando& AExecutor, std::u1
     return JuntarLinhas(linhas);
 }
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 
 /// Runs a command line and appends what it prints to the list, as TOryUtilsSistema::ExecutarComandoComRetorno does.
 /// Operations that work through commands take one: the public forms give them ExecutorDoSistema(), tests one that
@@ -21,4 +21,4 @@ std::u16string JuntarLinhas(const std::vector<std::u16string>& ALinhas);
 /// Runs ALinhaDeComando through AExecutor and answers the text of its list.
 std::u16string BuscarTextoDoComando(const TExecutorDeComando& AExecutor, std::u16string_view ALinhaDeComando);
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

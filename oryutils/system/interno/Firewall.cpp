@@ -3,7 +3,7 @@
 #include "oryutils/runtime/Modelo.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 namespace {
 
 /// Runs AComando; AModelo is the message of a failure, with the places of AAlvo and of what was printed.
@@ -48,4 +48,4 @@ TResultStatus ExcluiuPrograma(const TExecutorDeComando& AExecutor, TDialetoFirew
                     APrograma);
 }
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

@@ -4,7 +4,7 @@
 #include "oryutils/system/interno/ComandosFirewall.hpp"
 #include "oryutils/system/interno/Executor.hpp"
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 
 TResultStatus LiberouPorta(const TExecutorDeComando& AExecutor, TDialetoFirewall ADialeto,
                            TTipoProtocoloPortaComunicacao AProtocolo, int APorta, std::u16string_view ANome);
@@ -15,4 +15,4 @@ TResultStatus LiberouPrograma(const TExecutorDeComando& AExecutor, TDialetoFirew
 TResultStatus ExcluiuPrograma(const TExecutorDeComando& AExecutor, TDialetoFirewall ADialeto,
                               std::u16string_view APrograma, std::u16string_view ANome);
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

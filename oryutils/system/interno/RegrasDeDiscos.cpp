@@ -27,7 +27,7 @@ std::u16string TOryUtilsSystemInfoDiscoRigidoIOP::GetInformacoesDetalhadas() con
          InteiroParaTexto(GetEspacoUsado()), formato});
 }
 
-OryTypes::TResultStatus Sistema::ConferirEspacoLivre(const TOryUtilsSystemInfoDiscoRigidoIOP& ADisco,
+OryTypes::TResultStatus Interno::ConferirEspacoLivre(const TOryUtilsSystemInfoDiscoRigidoIOP& ADisco,
                                                      std::int64_t ANecessario) {
     if (ADisco.EspacoLivre >= ANecessario) return {};
     return {false, PreencherModelo(u"A unidade << %s >> não possui espaço suficiente.\r\nEspaço requisitado: %d "

@@ -3,9 +3,9 @@
 #include "oryutils/system/UnOryUtilsSystemIOP.hpp"
 #include "oryutils/types/OryTypesSistema.hpp"
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 
 /// Success when ADisco has at least ANecessario free, in its own unit.
 OryTypes::TResultStatus ConferirEspacoLivre(const TOryUtilsSystemInfoDiscoRigidoIOP& ADisco, std::int64_t ANecessario);
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 namespace {
 
 // "\" and ASeparador change places, so that the rules written for "\" hold for both, and changing again undoes it.
@@ -40,4 +40,4 @@ std::u16string MontarNomeConfiguracaoForms(std::u16string_view AComputador, std:
     return PreencherModelo(u"FP_%s_%s.ini", {AComputador, AUsuario});
 }
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 
 /// The folder of a program's file, with the separator at its end.
 std::u16string BuscarPastaDoPrograma(std::u16string_view AExecutavel, char16_t ASeparador);
@@ -15,4 +15,4 @@ std::u16string MontarPastaVizinha(std::u16string_view APastaAplicacao, std::u16s
 /// The name of the settings file of the forms: "FP_PC1_ana.ini".
 std::u16string MontarNomeConfiguracaoForms(std::u16string_view AComputador, std::u16string_view AUsuario);
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

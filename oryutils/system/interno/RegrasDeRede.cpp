@@ -1,12 +1,12 @@
 #include "oryutils/system/interno/RegrasDeRede.hpp"
 
-#include "oryutils/runtime/Caixa.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/characters/Caixa.hpp"
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/text/interno/Busca.hpp"
 
 #include <algorithm>
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 namespace {
 
 constexpr std::u16string_view CComandoArp = u"arp -a";
@@ -107,4 +107,4 @@ bool EhIPLocal(std::u16string_view AIP, bool AConsultarARP, const TFontesDeIPLoc
     return Interno::Localizar(JuntarLinhas(AFontes.ListaViaARP()), AIP, true) != Interno::CNaoEncontrado;
 }
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 
 /// The machine's own addresses in the lines of an "arp -a": of each line with a ":", the first word behind it.
 std::vector<std::u16string> ListarEnderecosDaSaidaARP(const std::vector<std::u16string>& ALinhas);
@@ -42,4 +42,4 @@ struct TFontesDeIPLocal {
 };
 bool EhIPLocal(std::u16string_view AIP, bool AConsultarARP, const TFontesDeIPLocal& AFontes);
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 namespace {
 
 struct TModificador {
@@ -14,9 +14,9 @@ constexpr std::array CModificadores{TModificador{ssCtrl, 0x11}, TModificador{ssS
 
 }  // namespace
 
-std::vector<Plataforma::TEventoDeTecla> MontarPressionamento(std::uint16_t ATecla, TShiftState AShift,
-                                                             bool ATeclaEstendida) {
-    std::vector<Plataforma::TEventoDeTecla> eventos;
+std::vector<Interno::TEventoDeTecla> MontarPressionamento(std::uint16_t ATecla, TShiftState AShift,
+                                                          bool ATeclaEstendida) {
+    std::vector<Interno::TEventoDeTecla> eventos;
     for (const TModificador& m : CModificadores)
         if (AShift.Contem(m.Modificador)) eventos.push_back({.Tecla = m.Tecla});
     eventos.push_back({.Tecla = ATecla, .Estendida = ATeclaEstendida});
@@ -26,4 +26,4 @@ std::vector<Plataforma::TEventoDeTecla> MontarPressionamento(std::uint16_t ATecl
     return eventos;
 }
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

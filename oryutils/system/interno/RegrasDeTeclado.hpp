@@ -5,10 +5,10 @@
 
 #include <vector>
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 
 /// What happens at the keyboard when a key is pressed and released with modifiers held.
-std::vector<Plataforma::TEventoDeTecla> MontarPressionamento(std::uint16_t ATecla, TShiftState AShift,
-                                                             bool ATeclaEstendida);
+std::vector<Interno::TEventoDeTecla> MontarPressionamento(std::uint16_t ATecla, TShiftState AShift,
+                                                          bool ATeclaEstendida);
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

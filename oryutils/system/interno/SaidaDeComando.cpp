@@ -1,7 +1,7 @@
 #include "oryutils/system/interno/SaidaDeComando.hpp"
 
-#include "oryutils/runtime/Caracteres.hpp"
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Caracteres.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/system/interno/Executor.hpp"
 
 #include <algorithm>
@@ -10,7 +10,7 @@
 #include <new>
 #include <utility>
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 namespace {
 
 template <typename TLetra>
@@ -125,7 +125,7 @@ void TSaidaEmLista::NovaLinha(std::u16string_view ATexto) {
     constexpr std::size_t CListaLonga = std::size_t{1} << 14;
     if (FLinhas.size() == FLinhas.capacity() && FLinhas.size() >= CListaLonga) {
         try {
-            FLinhas.reserve(FLinhas.size() * Plataforma::BuscarFatorDeCrescimento());
+            FLinhas.reserve(FLinhas.size() * Interno::BuscarFatorDeCrescimento());
         } catch (const std::bad_alloc&) {  // it grows as far as it needs to
         }
     }
@@ -256,4 +256,4 @@ std::vector<std::u16string> LinhasDaSaidaDeComando(std::string_view ABytes) {
     return linhas;
 }
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

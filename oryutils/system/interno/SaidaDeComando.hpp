@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 
 /// Where the lines of a command's output go.
 class TDestinoDaSaida {
@@ -52,7 +52,7 @@ public:
 
 private:
     std::u16string& FTexto;
-    Plataforma::TMemoriaDeTexto<std::u16string> FMemoria{Plataforma::BuscarReservaDeTextoLongo()};
+    Interno::TMemoriaDeTexto<std::u16string> FMemoria{Interno::BuscarReservaDeTextoLongo()};
 };
 
 /// What a command prints, taken in chunks of 255 bytes. Each chunk ends at its first zero byte, is turned into text by
@@ -86,4 +86,4 @@ private:
 /// The lines of what a command printed at once, its bytes being UTF-8.
 std::vector<std::u16string> LinhasDaSaidaDeComando(std::string_view ABytes);
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

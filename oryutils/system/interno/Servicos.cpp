@@ -4,10 +4,10 @@
 #include <array>
 #include <chrono>
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 namespace {
 
-using namespace Plataforma;
+using namespace Interno;
 
 constexpr std::u16string_view CSemGerenciador =
     u"Não foi possível abrir o SC Manager (Gerenciador de serviços do Windows).\r\n\r\nTente executar o processo como "
@@ -163,4 +163,4 @@ std::uint32_t BuscarIDProcessoServico(const TAbrirGerenciador& AAbrir, std::u16s
     return servico ? servico->BuscarIDProcesso() : 0;
 }
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

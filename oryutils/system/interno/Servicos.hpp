@@ -7,11 +7,11 @@
 #include <functional>
 #include <string_view>
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 
-/// How the service operations reach a service manager; the public forms give Plataforma::AbrirGerenciadorServicos.
-using TAbrirGerenciador = std::function<std::unique_ptr<Plataforma::TGerenciadorServicos>(
-    std::u16string_view AMaquina, Plataforma::TAcessoGerenciador AAcesso)>;
+/// How the service operations reach a service manager; the public forms give Interno::AbrirGerenciadorServicos.
+using TAbrirGerenciador = std::function<std::unique_ptr<Interno::TGerenciadorServicos>(
+    std::u16string_view AMaquina, Interno::TAcessoGerenciador AAcesso)>;
 
 TResultStatus InstalouServico(const TAbrirGerenciador& AAbrir, std::u16string_view AServico,
                               std::u16string_view ANomeExibicao, std::u16string_view AExecutavel);
@@ -35,4 +35,4 @@ TResultStatus ConfigurouUsuarioLogonServico(const TExecutorDeComando& AExecutor,
 TResultStatus ConfigurouDadosAdicionaisServico(const TExecutorDeComando& AExecutor, std::u16string_view AServico,
                                                const std::vector<std::u16string>& AConfiguracoes);
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

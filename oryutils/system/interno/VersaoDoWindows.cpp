@@ -3,7 +3,7 @@
 #include <array>
 #include <optional>
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 namespace {
 
 constexpr std::uint32_t CWindows9x = 1;
@@ -27,7 +27,7 @@ constexpr std::array CGeracoes{
 
 }  // namespace
 
-TVersaoWindows ClassificarVersao(const Plataforma::TVersaoDoSistema& AVersao) {
+TVersaoWindows ClassificarVersao(const Interno::TVersaoDoSistema& AVersao) {
     if (AVersao.Plataforma == CWindowsNT && AVersao.Maior < 5) return vwWinNT;
     for (const TGeracao& geracao : CGeracoes) {
         if (geracao.Plataforma != AVersao.Plataforma || geracao.Maior != AVersao.Maior) continue;
@@ -38,4 +38,4 @@ TVersaoWindows ClassificarVersao(const Plataforma::TVersaoDoSistema& AVersao) {
     return vwUnknown;
 }
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

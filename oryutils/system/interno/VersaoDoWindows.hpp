@@ -3,9 +3,9 @@
 #include "oryutils/platform/Maquina.hpp"
 #include "oryutils/system/UnOryUtilsSystemTypes.hpp"
 
-namespace OryUtils::Sistema {
+namespace OryUtils::Interno {
 
 /// The generation of a Windows by what GetVersionEx tells of it.
-TVersaoWindows ClassificarVersao(const Plataforma::TVersaoDoSistema& AVersao);
+TVersaoWindows ClassificarVersao(const Interno::TVersaoDoSistema& AVersao);
 
-}  // namespace OryUtils::Sistema
+}  // namespace OryUtils::Interno

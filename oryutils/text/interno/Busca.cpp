@@ -1,6 +1,6 @@
 #include "oryutils/text/interno/Busca.hpp"
 
-#include "oryutils/runtime/Caixa.hpp"
+#include "oryutils/characters/Caixa.hpp"
 
 #include <utility>
 

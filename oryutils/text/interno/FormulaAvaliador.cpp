@@ -1,6 +1,6 @@
 #include "oryutils/text/interno/FormulaAvaliador.hpp"
 
-#include "oryutils/runtime/Caixa.hpp"
+#include "oryutils/characters/Caixa.hpp"
 
 #include <algorithm>
 #include <array>

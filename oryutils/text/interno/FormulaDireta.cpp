@@ -1,6 +1,6 @@
 #include "oryutils/text/interno/FormulaDireta.hpp"
 
-#include "oryutils/runtime/Caixa.hpp"
+#include "oryutils/characters/Caixa.hpp"
 #include "oryutils/text/interno/FormulaExpressao.hpp"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "oryutils/runtime/Caracteres.hpp"
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/text/UnOryUtilsMatematica.hpp"
 
 namespace OryUtils::Interno {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "oryutils/runtime/Caixa.hpp"
+#include "oryutils/characters/Caixa.hpp"
 #include "oryutils/text/interno/FormulaDecimal.hpp"
 #include "oryutils/text/interno/FormulaErro.hpp"
 #include "oryutils/text/interno/FormulaRegras.hpp"

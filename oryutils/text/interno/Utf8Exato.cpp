@@ -1,6 +1,6 @@
 #include "oryutils/text/interno/Utf8Exato.hpp"
 
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 
 namespace OryUtils::Interno {
 namespace {

@@ -10,8 +10,8 @@
 #include <thread>
 #include <unistd.h>
 
-using OryUtils::Plataforma::TAvisoEmMemoria;
-using OryUtils::Plataforma::TDescritor;
+using OryUtils::Interno::TAvisoEmMemoria;
+using OryUtils::Interno::TDescritor;
 
 namespace {
 

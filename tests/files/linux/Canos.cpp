@@ -49,7 +49,7 @@ TEST(LogEmCano, LeitorLentoRecebeTudo) {
 TEST(EntradaPadrao, EsperaTambemOndeOSistemaNaoEspera) {
     std::array<int, 2> cano{};
     ASSERT_EQ(::pipe2(cano.data(), O_NONBLOCK), 0);
-    const Plataforma::TDescritor antiga(::dup(STDIN_FILENO));
+    const Interno::TDescritor antiga(::dup(STDIN_FILENO));
     ASSERT_EQ(::dup2(cano[0], STDIN_FILENO), STDIN_FILENO);
     ::close(cano[0]);
     std::thread escritor([saida = cano[1]] {
@@ -59,15 +59,15 @@ TEST(EntradaPadrao, EsperaTambemOndeOSistemaNaoEspera) {
         }
         ::close(saida);
     });
-    Plataforma::TFluxo entrada = Plataforma::TFluxo::EntradaPadrao();
+    Interno::TFluxo entrada = Interno::TFluxo::EntradaPadrao();
     std::string lido;
     std::array<char, 64> parte{};
-    auto erro = Plataforma::efNenhum;
+    auto erro = Interno::efNenhum;
     while (const std::size_t lidos = entrada.Ler(parte, erro)) lido.append(parte.data(), lidos);
     escritor.join();
     EXPECT_EQ(::dup2(antiga.Get(), STDIN_FILENO), STDIN_FILENO);
     EXPECT_EQ(lido, "abcabcabc");
-    EXPECT_EQ(erro, Plataforma::efNenhum);
+    EXPECT_EQ(erro, Interno::efNenhum);
 }
 
 }  // namespace

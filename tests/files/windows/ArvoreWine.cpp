@@ -1,10 +1,10 @@
 #include "files/ArvoreWine.hpp"
 
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/LeituraDeArquivo.hpp"
 #include "oryutils/platform/VersaoDeArquivo.hpp"
-#include "oryutils/platform/linux/BlocoDeVersao.hpp"
-#include "oryutils/platform/linux/RecursoDeVersaoPe.hpp"
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/readers/BlocoDeVersao.hpp"
+#include "oryutils/readers/RecursoDeVersaoPe.hpp"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@
 namespace {
 
 using namespace OryUtils;
-using namespace OryUtils::Plataforma;
+using namespace OryUtils::Interno;
 
 class TFonteDeArquivo final : public TFonteDeBytes {
 public:

@@ -1,4 +1,4 @@
-#include "oryutils/runtime/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 
 #include "files/ApoioArquivos.hpp"
 #include "ory/Apoio.hpp"

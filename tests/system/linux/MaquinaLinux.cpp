@@ -3,8 +3,8 @@
 #include "oryutils/platform/Pastas.hpp"
 #include "oryutils/platform/Rede.hpp"
 #include "oryutils/platform/linux/PastaDeDocumentos.hpp"
-#include "oryutils/platform/linux/TabelaDeMontagens.hpp"
-#include "oryutils/platform/linux/TabelasDeRede.hpp"
+#include "oryutils/readers/TabelaDeMontagens.hpp"
+#include "oryutils/readers/TabelasDeRede.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 
 #include "system/Ambiente.hpp"
@@ -23,7 +23,7 @@
 #include <unistd.h>
 
 using namespace OryUtils;
-using namespace OryUtils::Plataforma;
+using namespace OryUtils::Interno;
 using Testes::TLista;
 using Testes::TVariavel;
 

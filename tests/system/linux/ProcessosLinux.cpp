@@ -23,7 +23,7 @@ TEST(ProcessosLinux, OProgramaEhProcuradoNoPathESemShell) {
 TEST(ProcessosLinux, QuemEleva) {
     const TPastaTemporaria pasta;
     const TVariavel caminho("PATH", "/nao/existe::" + (pasta / "").string());
-    using Plataforma::BuscarElevador;
+    using Interno::BuscarElevador;
     EXPECT_TRUE(BuscarElevador(false).empty());
     std::ofstream(pasta / "pkexec") << "nao executavel";
     std::filesystem::create_symlink("/bin/true", pasta / "sudo");
@@ -50,7 +50,7 @@ TEST(ProcessosLinux, CodificacaoDaLocalidade) {
         const TVariavel localidade("LC_ALL", caso.Localidade);
         if (std::string_view(caso.Localidade).ends_with("1") && !::newlocale(LC_CTYPE_MASK, caso.Localidade, nullptr))
             continue;
-        EXPECT_EQ(Plataforma::TDecodificadorAnsi().Decodificar(caso.Bytes), caso.Esperado) << caso.Porque;
+        EXPECT_EQ(Interno::TDecodificadorAnsi().Decodificar(caso.Bytes), caso.Esperado) << caso.Porque;
     }
 }
 

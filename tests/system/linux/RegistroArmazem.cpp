@@ -1,6 +1,6 @@
 // The store's files: writers that are killed, writers at once, who may read, where they live, what damage does.
-#include "oryutils/platform/interno/ArquivoReg.hpp"
-#include "oryutils/platform/interno/Unidades.hpp"
+#include "oryutils/characters/Unidades.hpp"
+#include "oryutils/readers/ArquivoReg.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
 #include "oryutils/system/OryUtilsRegistry.hpp"
 
@@ -71,7 +71,7 @@ TEST_F(TArmazem, MilGravadoresMortosNaoEstragamNada) {
     const unsigned semente = std::random_device()();
     SCOPED_TRACE(semente);
     std::mt19937 sorteio(semente);
-    const std::string nota = Plataforma::Interno::BytesDeUnidades(u"; nota de quem administra\r\n");
+    const std::string nota = Interno::BytesDeUnidades(u"; nota de quem administra\r\n");
     EscreverArquivo(LerArquivo() + nota);
 
     long escrito = -1;
@@ -175,7 +175,7 @@ TEST_F(TArmazem, QuemNaoPodeGravarSoLe) {
     ASSERT_EQ(::seteuid(0), 0);
     EXPECT_TRUE(le);
     EXPECT_FALSE(abre) << "all rights are not to be had, as on Windows";
-    EXPECT_EQ(motivo, Plataforma::erAcessoNegado);
+    EXPECT_EQ(motivo, Interno::erAcessoNegado);
     EXPECT_FALSE(resultado.Status);
     EXPECT_EQ(tempo.Mensagem,
               u"Não foi possível atualizar a configuração de timeout de inicialização de serviços ServicesPipeTimeout" +
@@ -189,7 +189,7 @@ TEST_F(TArmazem, ArquivoEstragadoFicaComoEsta) {
         TRegistry acessor;
         acessor.SetRootKey(crLocalMachine);
         EXPECT_FALSE(acessor.OpenKey(CChave, true));
-        EXPECT_EQ(acessor.GetUltimoErro(), Plataforma::erCorrompido);
+        EXPECT_EQ(acessor.GetUltimoErro(), Interno::erCorrompido);
         EXPECT_FALSE(registro.AdicionouValor(crLocalMachine, CChave, 1, u"x").Status);
         EXPECT_FALSE(registro.ExcluiuChave(crLocalMachine, u"Software", u"OryUtilsTeste").Status);
         EXPECT_EQ(registro.GetValorRegistro(crLocalMachine, CChave, u"x"), u"");
@@ -197,7 +197,7 @@ TEST_F(TArmazem, ArquivoEstragadoFicaComoEsta) {
     }
     std::filesystem::resize_file(BuscarArquivo(), (64u << 20) + 2);
     EXPECT_FALSE(Acessor.OpenKey(CChave, false));
-    EXPECT_EQ(Acessor.GetUltimoErro(), Plataforma::erArquivoGrande);
+    EXPECT_EQ(Acessor.GetUltimoErro(), Interno::erArquivoGrande);
     std::filesystem::resize_file(BuscarArquivo(), 0);
     EXPECT_TRUE(Acessor.OpenKey(u"Software\\Microsoft\\Windows\\CurrentVersion\\Run", false)) << "empty: born again";
 }
@@ -229,7 +229,7 @@ TEST_F(TArmazem, ChaveExcluidaPorOutroNaoVolta) {
     ASSERT_TRUE(Acessor.OpenKey(CChave, false));
     TOryUtilsRegistro().ExcluiuChave(crLocalMachine, u"Software", u"OryUtilsTeste");
     EXPECT_THROW(Acessor.WriteInteger(u"x", 1), ERegistryException);
-    EXPECT_EQ(Acessor.GetUltimoErro(), Plataforma::erChaveExcluida);
+    EXPECT_EQ(Acessor.GetUltimoErro(), Interno::erChaveExcluida);
     EXPECT_FALSE(Acessor.ValueExists(u"x"));
 }
 

@@ -1,6 +1,6 @@
 #include "system/RegistroDeTeste.hpp"
 
-#include "oryutils/platform/Caixa.hpp"
+#include "oryutils/characters/Caixa.hpp"
 
 #include <array>
 #include <cstdlib>

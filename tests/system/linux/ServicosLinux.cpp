@@ -1,5 +1,5 @@
 // systemd through a systemctl of the tests: a script that keeps a unit's state in files and records how it was called.
-#include "oryutils/platform/Utf.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/linux/Systemd.hpp"
 #include "oryutils/system/interno/Servicos.hpp"
 
@@ -11,7 +11,7 @@
 #include <iterator>
 
 using namespace OryUtils;
-using namespace Plataforma;
+using namespace Interno;
 namespace fs = std::filesystem;
 
 namespace {
@@ -50,7 +50,7 @@ protected:
         std::ifstream arquivo(FPasta / ANome);
         return {std::istreambuf_iterator<char>(arquivo), {}};
     }
-    Sistema::TAbrirGerenciador Abrir() {
+    Interno::TAbrirGerenciador Abrir() {
         return [this](std::u16string_view AMaquina, TAcessoGerenciador AAcesso) {
             return AMaquina.empty() ? AbrirSystemd((FPasta / "unidades").string(), AAcesso) : nullptr;
         };
@@ -62,18 +62,18 @@ protected:
 
 TEST_F(ServicosLinux, DaInstalacaoARemocao) {
     const auto abrir = Abrir();
-    EXPECT_EQ(Sistema::BuscarStatusServico(abrir, u"", u"Ory"), sswErro);
-    ASSERT_TRUE(Sistema::InstalouServico(abrir, u"Ory", u"Eventos 100%", u"\"/opt/a b/ory\" --porta 1 $x").Status);
+    EXPECT_EQ(Interno::BuscarStatusServico(abrir, u"", u"Ory"), sswErro);
+    ASSERT_TRUE(Interno::InstalouServico(abrir, u"Ory", u"Eventos 100%", u"\"/opt/a b/ory\" --porta 1 $x").Status);
     EXPECT_EQ(Ler("unidades/Ory.service"),
               "[Unit]\nDescription=Eventos 100%%\n\n[Service]\nExecStart=\"/opt/a b/ory\" \"--porta\" \"1\" \"$$x\"\n\n"
               "[Install]\nWantedBy=multi-user.target\n");
-    EXPECT_EQ(Sistema::BuscarStatusServico(abrir, u"", u"Ory.service"), sswServicoParado);
-    EXPECT_TRUE(Sistema::IniciarServico(abrir, u"", u"Ory"));
+    EXPECT_EQ(Interno::BuscarStatusServico(abrir, u"", u"Ory.service"), sswServicoParado);
+    EXPECT_TRUE(Interno::IniciarServico(abrir, u"", u"Ory"));
     Escrever("id", "MainPID=4242\n");
-    EXPECT_EQ(Sistema::BuscarIDProcessoServico(abrir, u"", u"Ory"), 4242U);
-    EXPECT_TRUE(Sistema::PararServico(abrir, u"", u"Ory", 10));
-    EXPECT_TRUE(Sistema::DesinstalouServico(abrir, u"Ory").Status);
-    EXPECT_EQ(Sistema::BuscarStatusServico(abrir, u"", u"Ory"), sswErro);
+    EXPECT_EQ(Interno::BuscarIDProcessoServico(abrir, u"", u"Ory"), 4242U);
+    EXPECT_TRUE(Interno::PararServico(abrir, u"", u"Ory", 10));
+    EXPECT_TRUE(Interno::DesinstalouServico(abrir, u"Ory").Status);
+    EXPECT_EQ(Interno::BuscarStatusServico(abrir, u"", u"Ory"), sswErro);
     const std::string chamadas = Ler("chamadas");
     for (const char* chamada : {"daemon-reload\n", "enable Ory.service\n", "start --no-block Ory.service\n",
                                 "stop --no-block Ory.service\n", "disable Ory.service\n"})
@@ -85,7 +85,7 @@ TEST_F(ServicosLinux, EstadosDoSystemd) {
     const auto estado = [&](const char* AAtivo, const char* ACongelado = "running") {
         Escrever("estado", std::string("ActiveState=") + AAtivo + "\n");
         Escrever("congelado", std::string("FreezerState=") + ACongelado + "\n");
-        return Sistema::BuscarStatusServico(Abrir(), u"", u"Ory");
+        return Interno::BuscarStatusServico(Abrir(), u"", u"Ory");
     };
     EXPECT_EQ(estado("inactive"), sswServicoParado);
     EXPECT_EQ(estado("failed"), sswServicoParado);
@@ -101,11 +101,11 @@ TEST_F(ServicosLinux, EstadosDoSystemd) {
 TEST_F(ServicosLinux, SemSystemdRespondeErro) {
     for (const char* situacao : {"offline\n", "unknown\n", ""}) {
         Escrever("situacao", situacao);
-        EXPECT_EQ(Sistema::BuscarStatusServico(Abrir(), u"", u"Ory"), sswErro);
-        EXPECT_FALSE(Sistema::InstalouServico(Abrir(), u"Ory", u"", u"/bin/true").Status);
+        EXPECT_EQ(Interno::BuscarStatusServico(Abrir(), u"", u"Ory"), sswErro);
+        EXPECT_FALSE(Interno::InstalouServico(Abrir(), u"Ory", u"", u"/bin/true").Status);
     }
     const Testes::TVariavel caminho("PATH", "/nao/existe");
-    EXPECT_FALSE(Sistema::DesinstalouServico(Abrir(), u"Ory").Status);
+    EXPECT_FALSE(Interno::DesinstalouServico(Abrir(), u"Ory").Status);
     const TResultStatus semSc = TOryUtilsSistema::ConfigurouDependenciaServico(u"Ory", u"Firebird");
     EXPECT_FALSE(semSc.Status);
     EXPECT_NE(semSc.Mensagem.find(u"o comando sc não foi encontrado"), std::u16string::npos);
@@ -122,7 +122,7 @@ TEST_F(ServicosLinux, NomesETextosNaoViramOpcoesNemLinhas) {
     EXPECT_NE(MontarUnidade("a\\", "/x \"q\\\"%h\"").find("Description=a\\ \n"), std::string::npos);
     EXPECT_NE(MontarUnidade("a", "/x \"q\\\"%h\"").find("ExecStart=\"/x\" \"q\\\"%%h\"\n"), std::string::npos);
     const auto abrir = Abrir();
-    Sistema::InstalouServico(abrir, u"--now", u"", u"/bin/true");
+    Interno::InstalouServico(abrir, u"--now", u"", u"/bin/true");
     EXPECT_TRUE(fs::is_empty(FPasta / "unidades"));
 }
 

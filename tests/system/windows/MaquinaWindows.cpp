@@ -1,7 +1,7 @@
 // The machine's facts beside what the system itself says, and keys seen by a real window.
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/platform/Pastas.hpp"
 #include "oryutils/platform/windows/Windows.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 
 #include "text/Apoio.hpp"
@@ -10,7 +10,7 @@
 #include <shlobj.h>
 
 using namespace OryUtils;
-using namespace OryUtils::Plataforma;
+using namespace OryUtils::Interno;
 using Testes::TLista;
 
 namespace {

@@ -10,8 +10,8 @@ TEST(ProcessosWindows, CodificacaoAnsiDoSistema) {
     const std::string bytes = "a\xC3\xA7\xFF\x80 \xE7";
     wchar_t texto[32];
     const int unidades = ::MultiByteToWideChar(CP_ACP, 0, bytes.data(), static_cast<int>(bytes.size()), texto, 32);
-    EXPECT_EQ(Plataforma::TDecodificadorAnsi().Decodificar(bytes),
-              Plataforma::DeWide({texto, static_cast<std::size_t>(unidades)}));
+    EXPECT_EQ(Interno::TDecodificadorAnsi().Decodificar(bytes),
+              Interno::DeWide({texto, static_cast<std::size_t>(unidades)}));
 }
 
 }  // namespace

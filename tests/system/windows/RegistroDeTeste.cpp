@@ -6,7 +6,7 @@
 
 namespace Teste {
 
-using OryUtils::Plataforma::ParaWide;
+using OryUtils::Interno::ParaWide;
 
 TRegistroIsolado::TRegistroIsolado() = default;
 TRegistroIsolado::~TRegistroIsolado() = default;

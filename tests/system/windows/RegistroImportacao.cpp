@@ -1,7 +1,7 @@
 // The system's own registry editor takes what the settings store writes, and the store reads what it exports.
-#include "oryutils/platform/interno/ArquivoReg.hpp"
-#include "oryutils/platform/interno/Unidades.hpp"
+#include "oryutils/characters/Unidades.hpp"
 #include "oryutils/platform/windows/Windows.hpp"
+#include "oryutils/readers/ArquivoReg.hpp"
 
 #include "system/RegistroDeTeste.hpp"
 
@@ -10,9 +10,9 @@
 #include <iterator>
 
 using namespace OryUtils;
-using Plataforma::TDadoRegistro;
-using Plataforma::Interno::BytesDeUnidades;
-using Plataforma::Interno::TArquivoReg;
+using Interno::BytesDeUnidades;
+using Interno::TArquivoReg;
+using Interno::TDadoRegistro;
 using Teste::TRegistro;
 
 namespace {
@@ -22,7 +22,7 @@ void ExecutarRegedit(std::u16string AArgumentos) {
     STARTUPINFOW inicio{};
     inicio.cb = sizeof inicio;
     PROCESS_INFORMATION processo{};
-    ASSERT_TRUE(::CreateProcessW(nullptr, Plataforma::ParaWide(comando.data()), nullptr, nullptr, FALSE, 0, nullptr,
+    ASSERT_TRUE(::CreateProcessW(nullptr, Interno::ParaWide(comando.data()), nullptr, nullptr, FALSE, 0, nullptr,
                                  nullptr, &inicio, &processo));
     ::WaitForSingleObject(processo.hProcess, INFINITE);
     ::CloseHandle(processo.hThread);
@@ -34,16 +34,16 @@ TEST_F(TRegistro, EditorDoSistemaImportaEExporta) {
     const std::u16string abaixo = chave.substr(chave.find(u'\\') + 1);
     const auto texto = [](std::u16string_view ATexto) { return BytesDeUnidades(std::u16string(ATexto) + u'\0'); };
     const std::pair<std::u16string, TDadoRegistro> valores[] = {
-        {u"", {Plataforma::tdrTexto, texto(u"valor padrão")}},
-        {u"texto \"x\" = \\", {Plataforma::tdrTexto, texto(u"C:\\Programas \"x\"; [y] @ \xD83D\xDE00")}},
-        {u"vazio", {Plataforma::tdrTexto, texto(u"")}},
-        {u"linhas", {Plataforma::tdrTexto, texto(u"a\r\nb\tc")}},
-        {u"expansível", {Plataforma::tdrTextoExpansivel, texto(u"%PATH%")}},
-        {u"lista", {Plataforma::tdrListaDeTextos, texto(std::u16string(u"um\0dois\0", 8))}},
-        {u"inteiro", {Plataforma::tdrInteiro, std::string("\xFE\xFF\xFF\xFF", 4)}},
-        {u"longo", {Plataforma::tdrInteiro64, std::string("\1\2\3\4\5\6\7\x88", 8)}},
-        {u"binário", {Plataforma::tdrBinario, std::string(300, '\x5A')}},
-        {u"nada", {Plataforma::tdrNenhum, ""}},
+        {u"", {Interno::tdrTexto, texto(u"valor padrão")}},
+        {u"texto \"x\" = \\", {Interno::tdrTexto, texto(u"C:\\Programas \"x\"; [y] @ \xD83D\xDE00")}},
+        {u"vazio", {Interno::tdrTexto, texto(u"")}},
+        {u"linhas", {Interno::tdrTexto, texto(u"a\r\nb\tc")}},
+        {u"expansível", {Interno::tdrTextoExpansivel, texto(u"%PATH%")}},
+        {u"lista", {Interno::tdrListaDeTextos, texto(std::u16string(u"um\0dois\0", 8))}},
+        {u"inteiro", {Interno::tdrInteiro, std::string("\xFE\xFF\xFF\xFF", 4)}},
+        {u"longo", {Interno::tdrInteiro64, std::string("\1\2\3\4\5\6\7\x88", 8)}},
+        {u"binário", {Interno::tdrBinario, std::string(300, '\x5A')}},
+        {u"nada", {Interno::tdrNenhum, ""}},
     };
     TArquivoReg arquivo;
     arquivo.CriarChave(chave);
@@ -53,11 +53,11 @@ TEST_F(TRegistro, EditorDoSistemaImportaEExporta) {
     std::ofstream(caminho, std::ios::binary) << arquivo.ParaBytes();
     ExecutarRegedit(u"/S \"" + caminho.u16string() + u"\"");
 
-    Plataforma::TChaveRegistro aberta;
-    ASSERT_EQ(aberta.Abrir(crLocalMachine, abaixo, arLeitura, false), Plataforma::erNenhum);
+    Interno::TChaveRegistro aberta;
+    ASSERT_EQ(aberta.Abrir(crLocalMachine, abaixo, arLeitura, false), Interno::erNenhum);
     for (const auto& [nome, esperado] : valores) {
         TDadoRegistro dado;
-        EXPECT_EQ(aberta.Ler(nome, dado), Plataforma::erNenhum);
+        EXPECT_EQ(aberta.Ler(nome, dado), Interno::erNenhum);
         EXPECT_EQ(dado, esperado) << std::filesystem::path(nome).string();
     }
     std::vector<std::u16string> nomes;

@@ -14,7 +14,7 @@ constexpr char16_t CServico[] = u"OryServicoDeTeste";
 std::u16string BuscarPrograma() {
     wchar_t nome[MAX_PATH];
     const DWORD tamanho = GetModuleFileNameW(nullptr, nome, MAX_PATH);
-    const std::u16string caminho = Plataforma::DeWide({nome, tamanho});
+    const std::u16string caminho = Interno::DeWide({nome, tamanho});
     return caminho.substr(0, caminho.find_last_of(u'\\') + 1) + u"servico_de_teste.exe";
 }
 
@@ -56,7 +56,7 @@ TEST_F(ServicosWindows, DaInstalacaoARemocao) {
 
     // What the system itself holds of it.
     const SC_HANDLE gerenciador = OpenSCManagerW(nullptr, nullptr, SC_MANAGER_CONNECT);
-    const SC_HANDLE servico = OpenServiceW(gerenciador, Plataforma::ParaWide(CServico), SERVICE_QUERY_CONFIG);
+    const SC_HANDLE servico = OpenServiceW(gerenciador, Interno::ParaWide(CServico), SERVICE_QUERY_CONFIG);
     alignas(QUERY_SERVICE_CONFIGW) char memoria[8192];
     DWORD tamanho = 0;
     auto* configuracao = reinterpret_cast<QUERY_SERVICE_CONFIGW*>(memoria);

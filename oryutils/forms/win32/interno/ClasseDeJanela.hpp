@@ -2,7 +2,7 @@
 
 #include "oryutils/forms/win32/interno/LacoDeMensagens.hpp"
 
-namespace OryUtils::Win32 {
+namespace OryUtils::Interno {
 
 /// A window class of this module, registered while it lives: a library that is unloaded leaves none behind.
 class TClasseDeJanela {
@@ -28,4 +28,4 @@ private:
     const wchar_t* FNome;
 };
 
-}  // namespace OryUtils::Win32
+}  // namespace OryUtils::Interno

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-namespace OryUtils::Win32 {
+namespace OryUtils::Interno {
 
 /// The native side of one control of the model: one window, and for a group one more for each option.
 class TControleNativo {
@@ -45,4 +45,4 @@ private:
     bool FTextoMudou = false;
 };
 
-}  // namespace OryUtils::Win32
+}  // namespace OryUtils::Interno

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-namespace OryUtils::Win32 {
+namespace OryUtils::Interno {
 
 /// While it lives, the visible top-level windows of this thread, AExceto apart, take no input. Those that took it
 /// before take it again afterwards.
@@ -23,4 +23,4 @@ private:
 /// The window that a new dialog of this thread belongs to: the active one, else the first visible one; may be null.
 HWND BuscarDona();
 
-}  // namespace OryUtils::Win32
+}  // namespace OryUtils::Interno

@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-namespace OryUtils::Win32 {
+namespace OryUtils::Interno {
 
 /// The font in which the system shows messages, and measures of text in it.
 class TFonteDialogo {
@@ -29,4 +29,4 @@ private:
     int FAlturaLinha = 13;
 };
 
-}  // namespace OryUtils::Win32
+}  // namespace OryUtils::Interno

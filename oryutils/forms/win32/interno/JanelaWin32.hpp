@@ -8,7 +8,7 @@
 #include <memory>
 #include <vector>
 
-namespace OryUtils::Win32 {
+namespace OryUtils::Interno {
 
 class TLacoDeMensagens;
 
@@ -75,4 +75,4 @@ private:
     bool FSaindo = false;
 };
 
-}  // namespace OryUtils::Win32
+}  // namespace OryUtils::Interno

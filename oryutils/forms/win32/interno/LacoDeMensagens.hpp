@@ -5,7 +5,7 @@
 #include <exception>
 #include <vector>
 
-namespace OryUtils::Win32 {
+namespace OryUtils::Interno {
 
 class TJanelaWin32;
 
@@ -41,4 +41,4 @@ private:
 /// The module that this code is part of: owner of its window classes.
 HINSTANCE BuscarModulo() noexcept;
 
-}  // namespace OryUtils::Win32
+}  // namespace OryUtils::Interno

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace OryUtils::Win32 {
+namespace OryUtils::Interno {
 
 std::optional<std::u16string> EscolherArquivo(std::u16string_view APastaInicial,
                                               const std::vector<TFiltroArquivo>& AFiltros);
@@ -16,4 +16,4 @@ std::optional<std::u16string> EscolherPasta(std::u16string_view ATitulo, std::u1
 /// The filter of the open-file dialog: each description and mask ends with a NUL, the list with one more.
 std::u16string MontarFiltro(const std::vector<TFiltroArquivo>& AFiltros);
 
-}  // namespace OryUtils::Win32
+}  // namespace OryUtils::Interno

@@ -6,7 +6,7 @@
 #include <functional>
 #include <map>
 
-namespace OryUtils::Win32 {
+namespace OryUtils::Interno {
 
 /// Timers of the thread of the interface, on an invisible window of their own: they tick with any message loop.
 class TTemporizadores {
@@ -31,4 +31,4 @@ private:
     std::map<std::uintptr_t, std::function<void()>> FAcoes;
 };
 
-}  // namespace OryUtils::Win32
+}  // namespace OryUtils::Interno

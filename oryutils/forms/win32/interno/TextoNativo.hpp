@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace OryUtils::Win32 {
+namespace OryUtils::Interno {
 
 /// ATexto as native controls take it: every line break (CR LF, LF, CR) becomes CR LF, a NUL becomes a blank.
 std::u16string ParaNativo(std::u16string_view ATexto);
@@ -19,4 +19,4 @@ std::u16string DeNativo(std::u16string_view ATexto, std::u16string_view AModelo)
 std::u16string LerTexto(HWND AJanela);
 void EscreverTexto(HWND AJanela, std::u16string_view ATexto);
 
-}  // namespace OryUtils::Win32
+}  // namespace OryUtils::Interno

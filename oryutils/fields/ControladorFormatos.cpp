@@ -1,0 +1,48 @@
+#include "oryutils/fields/ControladorFormatos.hpp"
+
+#include "oryutils/platform/Localidade.hpp"
+
+#include <algorithm>
+
+namespace OryUtils {
+namespace {
+
+constinit TControladorFormatos* GInstalado = nullptr;
+
+}  // namespace
+
+TControladorFormatos& ControladorFormatos() noexcept {
+    static TControladorFormatos proprio;
+    return GInstalado ? *GInstalado : proprio;
+}
+
+void InstalarControladorFormatos(TControladorFormatos* AControlador) noexcept { GInstalado = AControlador; }
+
+void TControladorFormatos::BeginUpdate() { ++FAtualizacoes; }
+
+void TControladorFormatos::EndUpdate() { FAtualizacoes = std::max(FAtualizacoes - 1, 0); }
+
+void TControladorFormatos::SetUsarFormatosDoProcesso(bool AUsar) { FUsarFormatosDoProcesso = AUsar; }
+
+void TControladorFormatos::GetFormats() {
+    FFormatos = FUsarFormatosDoProcesso ? FormatSettings() : Interno::BuscarFormatosDoSistema();
+    FLidos = true;
+}
+
+const TFormatSettings& TControladorFormatos::GetFormatos() {
+    if (!FLidos) GetFormats();
+    return FFormatos;
+}
+
+void TControladorFormatos::NotifyListeners() {
+    if (FAtualizacoes > 0) return;
+    const std::vector<TOuvinte> ouvintes = FOuvintes;
+    for (const TOuvinte& ouvinte : ouvintes)
+        if (std::ranges::find(FOuvintes, ouvinte) != FOuvintes.end()) ouvinte();
+}
+
+void TControladorFormatos::AdicionarOuvinte(const TOuvinte& AOuvinte) { FOuvintes.push_back(AOuvinte); }
+
+void TControladorFormatos::RemoverOuvinte(const TOuvinte& AOuvinte) { std::erase(FOuvintes, AOuvinte); }
+
+}  // namespace OryUtils
