@@ -47,15 +47,15 @@ OPERACOES = (
              "Soma1000_from-chars-e-textos", "numbers read, partial sums rounded"),
 ) + tuple(
     Operacao(f"SQL filter, {n} conditions", f"Filtro{n}_Biblioteca",
-             (Par(f"Filtro{n}_knex-toString", "npm knex, toString", "vezes", 8),
-              Par(f"Filtro{n}_knex-toSQL", "npm knex, toSQL", "vezes", 8),
-              Par(f"Filtro{n}_fmt", "fmt", "parte", 0.75)), f"Texto{n}_Copia", "copy of the text")
+             (Par(f"Filtro{n}_knex-toString", "npm knex, toString", "vezes", 4),
+              Par(f"Filtro{n}_knex-toSQL", "npm knex, toSQL"),
+              Par(f"Filtro{n}_fmt", "fmt", "parte", 1.0)), f"Texto{n}_Copia", "copy of the text")
     for n in (5, 50, 500)
 ) + (
     Operacao("the text of 500 conditions", "Texto500_Biblioteca",
-             (Par("Texto500_fmt", "fmt", "parte", 0.75),
+             (Par("Texto500_fmt", "fmt", "parte", 1.0),
               Par("Texto50_Biblioteca", "the text of 50", "parte", 13)), "Texto500_Copia", "copy of the text"),
-    Operacao("date written", "Datas_Biblioteca", (Par("Datas_Strftime", "strftime", "parte", 1.0),),
+    Operacao("date written", "Datas_Biblioteca", (Par("Datas_Strftime", "strftime", "parte", 1.2),),
              "Datas_Copia", "copy of the text"),
     Operacao("CNPJ formatted", "FormatarCnpj_Biblioteca", (Par("FormatarCnpj_AMao", "written by hand for CNPJ"),)),
     Operacao("CPF formatted", "FormatarCpf_Biblioteca", (Par("FormatarCpf_AMao", "written by hand for CPF"),)),

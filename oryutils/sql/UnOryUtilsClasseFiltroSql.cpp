@@ -2,47 +2,32 @@
 
 #include "oryutils/characters/Caixa.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/sql/interno/BlocoDeNos.hpp"
 #include "oryutils/sql/interno/CondicaoSql.hpp"
 
 #include <algorithm>
+#include <iterator>
+#include <set>
+#include <utility>
 
 namespace OryUtils {
 namespace {
 
-using Interno::TPedacoSql;
-using Interno::TTextoSql;
+constexpr std::u16string_view CE = u" AND ";
+constexpr std::u16string_view COu = u" OR ";
+constexpr std::u16string_view COnde = u" WHERE ";
 
-constexpr TPedacoSql CE(u" AND ");
-constexpr TPedacoSql COu(u" OR ");
-constexpr TPedacoSql COnde(u" WHERE ");
-constexpr TPedacoSql CNada(u"");
-constexpr TPedacoSql CAbre(u"( ");
-constexpr TPedacoSql CFecha(u" )");
+constexpr std::u16string_view BuscarPalavra(TOperadorFiltro AOperador) { return AOperador == ofAnd ? CE : COu; }
 
-constexpr const TPedacoSql& BuscarPalavra(TOperadorFiltro AOperador) { return AOperador == ofAnd ? CE : COu; }
-
-/// The tables that are wanted, found case ignored in time that hardly grows with their number.
+/// The tables whose conditions are wanted, case ignored. An empty list wants all.
 class TTabelas {
 public:
     explicit TTabelas(const std::vector<std::u16string>& ATabelas) {
-        FNomes.reserve(ATabelas.size());
-        for (const std::u16string& tabela : ATabelas) FNomes.push_back(MinusculaDe(tabela));
-        std::sort(FNomes.begin(), FNomes.end());
+        for (const std::u16string& tabela : ATabelas) FNomes.insert(MinusculaDe(tabela));
     }
-    bool Quer(std::u16string_view ATabela) const {
-        if (FNomes.empty()) return true;
-        const auto achado =
-            std::lower_bound(FNomes.begin(), FNomes.end(), ATabela, [](const std::u16string& A, std::u16string_view B) {
-                return std::lexicographical_compare(A.begin(), A.end(), B.begin(), B.end(), [](char16_t C, char16_t D) {
-                    return MinusculaDe(C) < MinusculaDe(D);
-                });
-            });
-        return achado != FNomes.end() && IguaisIgnorandoCaixa(*achado, ATabela);
-    }
+    bool Quer(std::u16string_view ATabela) const { return FNomes.empty() || FNomes.contains(MinusculaDe(ATabela)); }
 
 private:
-    std::vector<std::u16string> FNomes{};
+    std::set<std::u16string> FNomes{};
 };
 
 /// A group whose children are being written.
@@ -54,73 +39,55 @@ struct TGrupo {
 };
 
 /// Appends the text of the tree to ASaida; nothing when no condition is left.
-void AnexarArvore(TTextoSql& ASaida, const TOryUtilsFiltroSql& ARaiz, const TTabelas& ATabelas) {
+void AnexarArvore(std::u16string& ASaida, const TOryUtilsFiltroSql& ARaiz, const TTabelas& ATabelas) {
     std::vector<TGrupo> abertos;
-    const auto escrever = [&](const TOryUtilsFiltroSql& ANo, const TPedacoSql& AJuncao) {
+    const auto escrever = [&](const TOryUtilsFiltroSql& ANo, std::u16string_view AJuncao) {
         if (ANo.GetCount() > 0) {
-            const std::size_t antes = ASaida.GetTamanho();
-            ASaida.Anexar(AJuncao);
-            ASaida.Anexar(CAbre);
-            abertos.push_back({&ANo, antes, ASaida.GetTamanho()});
+            const std::size_t antes = ASaida.size();
+            ASaida.append(AJuncao).append(u"( ");
+            abertos.push_back({&ANo, antes, ASaida.size()});
         } else if (Interno::EstahCompleta(ANo) && ATabelas.Quer(ANo.GetTabela())) {
-            Interno::AnexarCondicao(ASaida, AJuncao, ANo);
+            Interno::AnexarCondicao(ASaida.append(AJuncao), ANo);
         }
     };
-    escrever(ARaiz, CNada);
+    escrever(ARaiz, u"");
     while (!abertos.empty()) {
         TGrupo& grupo = abertos.back();
-        const bool vazio = ASaida.GetTamanho() == grupo.Inicio;
+        const bool vazio = ASaida.size() == grupo.Inicio;
         if (grupo.Proximo < grupo.No->GetCount()) {
             const TOryUtilsFiltroSql& filho = grupo.No->GetItem(grupo.Proximo++);
-            escrever(filho, vazio ? CNada : BuscarPalavra(grupo.No->GetOperador()));
+            escrever(filho, vazio ? u"" : BuscarPalavra(grupo.No->GetOperador()));
             continue;
         }
         if (vazio)
-            ASaida.Recuar(grupo.Antes);
+            ASaida.resize(grupo.Antes);
         else
-            ASaida.Anexar(CFecha);
+            ASaida += u" )";
         abertos.pop_back();
     }
 }
 
 std::u16string MontarSQL(const TOryUtilsFiltroSql& ARaiz, const std::vector<std::u16string>& ATabelas,
-                         const TPedacoSql& APalavra) {
-    constexpr std::size_t CCondicaoComum = 40;
-    TTextoSql saida(ATabelas.empty() ? static_cast<std::size_t>(ARaiz.GetCount() + 1) * CCondicaoComum : 0);
-    saida.Anexar(APalavra);
-    const std::size_t inicio = saida.GetTamanho();
+                         std::u16string_view APalavra) {
+    std::u16string saida(APalavra);
     AnexarArvore(saida, ARaiz, TTabelas(ATabelas));
-    if (saida.GetTamanho() == inicio) saida.Recuar(0);
-    return std::move(saida).Terminar();
+    if (saida.size() == APalavra.size()) saida.clear();
+    return saida;
 }
 
 }  // namespace
 
 TOryUtilsFiltroSql::TOryUtilsFiltroSql(TOperadorFiltro AOperador) : FOperador(AOperador) {}
 
-TOryUtilsFiltroSql::~TOryUtilsFiltroSql() {
-    TOryUtilsFiltroSql::Clear();
-    Interno::LargarBloco(FBloco);
-}
-
-void* TOryUtilsFiltroSql::operator new(std::size_t ATamanho) { return Interno::TomarLugarAvulso(ATamanho); }
-
-void TOryUtilsFiltroSql::operator delete(void* ALugar) noexcept { Interno::DevolverLugar(ALugar); }
-
-void* TOryUtilsFiltroSql::operator new(std::size_t ATamanho, TOryUtilsFiltroSql& AGrupo) {
-    return Interno::TomarLugar(AGrupo.FBloco, ATamanho, AGrupo.FItens.size());
-}
-
-void TOryUtilsFiltroSql::operator delete(void* ALugar, TOryUtilsFiltroSql&) noexcept { Interno::DevolverLugar(ALugar); }
+TOryUtilsFiltroSql::~TOryUtilsFiltroSql() { TOryUtilsFiltroSql::Clear(); }
 
 TOryUtilsFiltroSql& TOryUtilsFiltroSql::Add(TOperadorFiltro AOperador) {
-    auto* filho = new (*this) TOryUtilsFiltroSql(AOperador);
-    FItens.push_back(std::unique_ptr<TObjeto>(filho));
+    FItens.push_back(std::make_unique<TOryUtilsFiltroSql>(AOperador));
     FTabela.clear();
     FCampo.clear();
     FCondicao = cfNenhum;
     FValor = Variant();
-    return *filho;
+    return GetItem(GetCount() - 1);
 }
 
 void TOryUtilsFiltroSql::SetItem(int AIndice, std::unique_ptr<TOryUtilsFiltroSql> AValor) {
@@ -130,20 +97,14 @@ void TOryUtilsFiltroSql::SetItem(int AIndice, std::unique_ptr<TOryUtilsFiltroSql
 }
 
 void TOryUtilsFiltroSql::Clear() {
-    if (FItens.empty()) return;
-    // Without recursion and without memory of its own: a node waits in the place of its first child while its children
-    // are freed, and keeps the rest of the list that was being freed before. It is then the last one to be taken.
-    auto lista = std::exchange(FItens, {});
-    while (!lista.empty()) {
-        std::unique_ptr<TObjeto> objeto = std::move(lista.back());
-        lista.pop_back();
-        while (true) {
-            auto& filhos = static_cast<TOryUtilsFiltroSql&>(*objeto).FItens;
-            const bool ultimo = lista.empty();
-            if (!filhos.empty()) std::swap(lista, filhos);
-            if (ultimo || filhos.empty()) break;
-            std::swap(lista.front(), objeto);
-        }
+    // Without recursion, which a deep tree would exhaust: each node gives its children away before it is freed.
+    auto pendentes = std::exchange(FItens, {});
+    while (!pendentes.empty()) {
+        const std::unique_ptr<TObjeto> no = std::move(pendentes.back());
+        pendentes.pop_back();
+        auto& filhos = static_cast<TOryUtilsFiltroSql&>(*no).FItens;
+        std::move(filhos.begin(), filhos.end(), std::back_inserter(pendentes));
+        filhos.clear();
     }
 }
 
@@ -191,12 +152,10 @@ std::u16string TOryUtilsFiltroSql::BuscarCondicaoStr() const {
     return std::u16string(Interno::BuscarPalavra(FCondicao));
 }
 
-std::u16string TOryUtilsFiltroSql::BuscarOperadorStr() const {
-    return std::u16string(BuscarPalavra(FOperador).GetTexto());
-}
+std::u16string TOryUtilsFiltroSql::BuscarOperadorStr() const { return std::u16string(BuscarPalavra(FOperador)); }
 
 std::u16string TOryUtilsFiltroSql::BuscarSQL(const std::vector<std::u16string>& ATabelas) const {
-    return MontarSQL(*this, ATabelas, CNada);
+    return MontarSQL(*this, ATabelas, u"");
 }
 std::u16string TOryUtilsFiltroSql::BuscarSQL() const { return BuscarSQL({}); }
 

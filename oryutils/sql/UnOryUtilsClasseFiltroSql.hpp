@@ -4,7 +4,6 @@
 #include "oryutils/runtime/ListaDeObjetos.hpp"
 #include "oryutils/runtime/Variante.hpp"
 
-#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -12,10 +11,6 @@
 #include <vector>
 
 namespace OryUtils {
-
-namespace Interno {
-struct TBlocoDeNos;
-}
 
 /// How a group joins its conditions.
 enum TOperadorFiltro : std::uint8_t { ofAnd, ofOr };
@@ -59,10 +54,6 @@ public:
     /// An empty node: no condition, Valor unassigned. AOperador joins the children that it may get.
     explicit TOryUtilsFiltroSql(TOperadorFiltro AOperador);
     ~TOryUtilsFiltroSql() override;
-
-    /// Nodes are created and freed as any other object. Those that Add creates stand together in memory.
-    static void* operator new(std::size_t ATamanho);
-    static void operator delete(void* ALugar) noexcept;
 
     /// Appends a new child and answers it, to be filled in or to get children of its own. From now on this node is a
     /// group: its Tabela and Campo become empty, its Condicao cfNenhum, its Valor unassigned. AOperador is how the
@@ -137,8 +128,6 @@ public:
     std::u16string BuscarSQLWhere() const;
 
 private:
-    static void* operator new(std::size_t ATamanho, TOryUtilsFiltroSql& AGrupo);
-    static void operator delete(void* ALugar, TOryUtilsFiltroSql& AGrupo) noexcept;
     void CopiarCondicao(const TOryUtilsFiltroSql& ADe);
 
     TOryUtilsFiltroSql* FOwner = nullptr;
@@ -146,7 +135,6 @@ private:
     TOperadorFiltro FOperador;
     bool FQuoteStr = false;
     bool FUsarUpperCase = false;
-    Interno::TBlocoDeNos* FBloco = nullptr;  // where the next child goes
     std::u16string FTabela{};
     std::u16string FCampo{};
     Variant FValor{};

@@ -1,6 +1,7 @@
 #include "oryutils/sql/UnOryUtilsClasseManipulacaoSQL.hpp"
 
 #include "oryutils/characters/Caracteres.hpp"
+#include "oryutils/sql/interno/CondicaoSql.hpp"
 
 #include <algorithm>
 
@@ -24,13 +25,6 @@ std::u16string FormatarDecimal(std::u16string_view AValor, TTipoFormatoParametro
     const char16_t separador = ATipoFormato == fppPesquisaEmCache ? u',' : u'.';
     for (char16_t& c : resultado)
         if (c == u'.' || c == u',') c = separador;
-    return resultado;
-}
-
-std::u16string DobrarApostrofos(std::u16string_view AValor) {
-    std::u16string resultado;
-    resultado.reserve(AValor.size() + static_cast<std::size_t>(std::count(AValor.begin(), AValor.end(), u'\'')));
-    for (const char16_t c : AValor) resultado.append(c == u'\'' ? 2 : 1, c);
     return resultado;
 }
 
@@ -67,10 +61,7 @@ std::u16string TOryUtilsManipulacaoSQL::FormatarCondicaoComOperadorSQL(std::u16s
 
 std::u16string TOryUtilsManipulacaoSQL::CriarCondicaoSQL(const std::vector<std::u16string>& ACondicoes,
                                                          std::u16string_view AOperador) {
-    std::size_t tamanho = 0;
-    for (const std::u16string& condicao : ACondicoes) tamanho += condicao.size() + AOperador.size() + 2;
     std::u16string resultado;
-    resultado.reserve(tamanho);
     resultado.append(ACondicoes.size(), u'(');
     for (std::size_t i = 0; i < ACondicoes.size(); ++i) {
         if (i) resultado += AOperador;
@@ -82,7 +73,10 @@ std::u16string TOryUtilsManipulacaoSQL::CriarCondicaoSQL(const std::vector<std::
 std::u16string TOryUtilsManipulacaoSQL::FormatarParametroPesquisa(std::u16string_view AValor, TFieldType ATipoCampo,
                                                                   TTipoFormatoParametroPesquisa ATipoFormato) {
     if (EhDecimal(ATipoCampo)) return FormatarDecimal(AValor, ATipoFormato);
-    return ATipoFormato == fppPesquisaBancoDados ? DobrarApostrofos(AValor) : std::u16string(AValor);
+    if (ATipoFormato != fppPesquisaBancoDados) return std::u16string(AValor);
+    std::u16string resultado;
+    Interno::AnexarComApostrofosDobrados(resultado, AValor);
+    return resultado;
 }
 
 }  // namespace OryUtils

@@ -2,9 +2,10 @@
 
 #include "oryutils/characters/Caixa.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/runtime/NumeroTexto.hpp"
+#include "oryutils/runtime/Tabela.hpp"
 
 #include <array>
+#include <cstdint>
 
 namespace OryUtils::Interno {
 namespace {
@@ -12,162 +13,124 @@ namespace {
 enum TFormaDoValor { fvNenhum, fvEscalar, fvLista, fvInicio, fvFim, fvMeio, fvIntervalo };
 
 struct TPalavra {
-    TPedacoSql Texto;
+    TCondicaoFiltro Condicao;
+    std::u16string_view Texto;
     TFormaDoValor Forma;
 };
 
-// In the order of TCondicaoFiltro.
-constexpr std::array<TPalavra, cfDiferente + 1> CPalavras{{
-    {u"", fvNenhum},
-    {u"=", fvEscalar},
-    {u">", fvEscalar},
-    {u">=", fvEscalar},
-    {u"<", fvEscalar},
-    {u"<=", fvEscalar},
-    {u"IN", fvLista},
-    {u"NOT IN", fvLista},
-    {u"IS NULL", fvNenhum},
-    {u"IS NOT NULL", fvNenhum},
-    {u"STARTING WITH", fvInicio},
-    {u"LIKE", fvFim},
-    {u"LIKE", fvMeio},
-    {u"BETWEEN", fvIntervalo},
-    {u"<>", fvEscalar},
-}};
+constexpr std::array CPalavras{
+    TPalavra{cfNenhum, u"", fvNenhum},
+    TPalavra{cfIgual, u"=", fvEscalar},
+    TPalavra{cfMaior, u">", fvEscalar},
+    TPalavra{cfMaiorIgual, u">=", fvEscalar},
+    TPalavra{cfMenor, u"<", fvEscalar},
+    TPalavra{cfMenorIgual, u"<=", fvEscalar},
+    TPalavra{cfIn, u"IN", fvLista},
+    TPalavra{cfNotIn, u"NOT IN", fvLista},
+    TPalavra{cfIsNull, u"IS NULL", fvNenhum},
+    TPalavra{cfIsNotNull, u"IS NOT NULL", fvNenhum},
+    TPalavra{cfIniciaCom, u"STARTING WITH", fvInicio},
+    TPalavra{cfTerminaCom, u"LIKE", fvFim},
+    TPalavra{cfContem, u"LIKE", fvMeio},
+    TPalavra{cfBetween, u"BETWEEN", fvIntervalo},
+    TPalavra{cfDiferente, u"<>", fvEscalar},
+};
+static_assert(CobreEnumeracao<CPalavras, &TPalavra::Condicao>());
 
-constexpr TPedacoSql CAbre(u"( ");
-constexpr TPedacoSql CAbreMaiusculas(u"( UPPER(");
-constexpr TPedacoSql CMaiusculas(u"UPPER(");
-constexpr TPedacoSql CE(u" AND ");
-constexpr TPedacoSql CFecha(u" )");
-
-char16_t Maiuscula(char16_t ACaractere) {
-    if (ACaractere >= 0x80) return MaiusculaDe(ACaractere);
-    return static_cast<char16_t>(ACaractere - (ACaractere >= u'a' && ACaractere <= u'z' ? u'a' - u'A' : 0));
+void AnexarValor(std::u16string& ASaida, const Variant& AValor, bool AEntreAspas) {
+    if (!AEntreAspas) return AnexarVariante(ASaida, AValor);
+    ASaida += u'\'';
+    if (const std::u16string* texto = AValor.GetTexto())
+        AnexarComApostrofosDobrados(ASaida, *texto);
+    else
+        AnexarComApostrofosDobrados(ASaida, VarianteParaTexto(AValor));
+    ASaida += u'\'';
 }
 
-char16_t* EscreverNome(char16_t* ADestino, std::u16string_view ANome) {
-    for (const char16_t c : ANome) *ADestino++ = Maiuscula(c);
-    return ADestino;
+/// '%value' or '%value%'. The parts are added as variants, so that null makes the whole text empty.
+void AnexarModelo(std::u16string& ASaida, const Variant& AValor, TFormaDoValor AForma) {
+    const Variant inicio = Variant(u"%") + AValor;
+    AnexarValor(ASaida, AForma == fvMeio ? inicio + Variant(u"%") : inicio, true);
 }
 
-/// Each apostrophe inside a quoted text is doubled.
-char16_t* EscreverCitado(char16_t* ADestino, std::u16string_view ATexto) {
-    for (const char16_t c : ATexto) {
-        *ADestino++ = c;
-        *ADestino = u'\'';  // stays only behind another one
-        ADestino += c == u'\'';
-    }
-    return ADestino;
-}
-
-void AnexarTexto(TTextoSql& ASaida, std::u16string_view ATexto, bool AEntreAspas) {
-    if (!AEntreAspas) return ASaida.AnexarTexto(ATexto);
-    char16_t* fim = ASaida.Abrir(2 * ATexto.size() + 2);
-    *fim++ = u'\'';
-    fim = EscreverCitado(fim, ATexto);
-    *fim++ = u'\'';
-    ASaida.Fechar(fim);
-}
-
-void AnexarValor(TTextoSql& ASaida, const Variant& AValor, bool AEntreAspas) {
-    if (const auto* texto = AValor.GetTexto()) return AnexarTexto(ASaida, *texto, AEntreAspas);
-    if (const auto* inteiro = std::get_if<std::int64_t>(&AValor.GetValor())) {
-        std::array<char16_t, CTamanhoMaximoInt64> digitos;
-        return AnexarTexto(ASaida, EscreverInt64(*inteiro, digitos), AEntreAspas);
-    }
-    AnexarTexto(ASaida, VarianteParaTexto(AValor), AEntreAspas);
-}
-
-/// '%value' or '%value%'.
-void AnexarModelo(TTextoSql& ASaida, const Variant& AValor, std::u16string_view ASufixo) {
-    if (!AValor.GetTexto()) {
-        const Variant soma = Variant(u"%") + AValor;
-        return AnexarValor(ASaida, ASufixo.empty() ? soma : soma + Variant(ASufixo), true);
-    }
-    char16_t* fim = ASaida.Abrir(2 * AValor.GetTexto()->size() + ASufixo.size() + 3);
-    *fim++ = u'\'';
-    *fim++ = u'%';
-    fim = EscreverCitado(fim, *AValor.GetTexto());
-    for (const char16_t c : ASufixo) *fim++ = c;
-    *fim++ = u'\'';
-    ASaida.Fechar(fim);
-}
-
-void AnexarLista(TTextoSql& ASaida, const Variant& AValor, bool AEntreAspas) try {
+void AnexarLista(std::u16string& ASaida, const Variant& AValor, bool AEntreAspas) try {
     const auto* itens = AValor.GetItens();
     if (!itens) return AnexarValor(ASaida, AValor, AEntreAspas);
     // The last index is kept in 8 bits; that of an empty array turns to 255, where there is no element.
     const auto ultimo = static_cast<std::uint8_t>(itens->size() - 1);
     for (std::size_t i = 0; i <= ultimo; ++i) {
-        if (i) ASaida.Anexar(u',');
+        if (i) ASaida += u',';
         AnexarValor(ASaida, itens->at(i), AEntreAspas);
     }
 } catch (const std::exception&) {
     throw Exception(u"Erro na geração do SQL com cláusula IN ou NOT IN.");
 }
 
-void AnexarIntervalo(TTextoSql& ASaida, const Variant& AValor, bool AEntreAspas) {
+void AnexarIntervalo(std::u16string& ASaida, const Variant& AValor, bool AEntreAspas) {
     const auto* itens = AValor.GetItens();
     if (itens && itens->size() != 2) throw Exception(u"Número de parâmetros incorreto para a pesquisa com BETWEEN.");
     AnexarValor(ASaida, itens ? itens->front() : AValor, AEntreAspas);
-    ASaida.Anexar(CE);
+    ASaida += u" AND ";
     AnexarValor(ASaida, itens ? itens->back() : AValor, AEntreAspas);
 }
 
 }  // namespace
 
-std::u16string_view BuscarPalavra(TCondicaoFiltro ACondicao) noexcept {
-    return ACondicao < CPalavras.size() ? CPalavras[ACondicao].Texto.GetTexto() : u"";
+void AnexarComApostrofosDobrados(std::u16string& ASaida, std::u16string_view ATexto) {
+    for (std::size_t fim = ATexto.find(u'\''); fim != ATexto.npos; fim = ATexto.find(u'\'')) {
+        ASaida.append(ATexto, 0, fim + 1) += u'\'';
+        ATexto.remove_prefix(fim + 1);
+    }
+    ASaida += ATexto;
 }
 
-void AnexarCondicao(TTextoSql& ASaida, const TPedacoSql& AJuncao, const TOryUtilsFiltroSql& ACondicao) {
+std::u16string_view BuscarPalavra(TCondicaoFiltro ACondicao) noexcept {
+    return ACondicao < CPalavras.size() ? CPalavras[ACondicao].Texto : u"";
+}
+
+bool EstahCompleta(const TOryUtilsFiltroSql& ACondicao) noexcept {
+    return !ACondicao.GetTabela().empty() && !ACondicao.GetCampo().empty() &&
+           !BuscarPalavra(ACondicao.GetCondicao()).empty();
+}
+
+void AnexarCondicao(std::u16string& ASaida, const TOryUtilsFiltroSql& ACondicao) {
     const TPalavra& palavra = CPalavras[ACondicao.GetCondicao()];
-    const std::u16string_view tabela = ACondicao.GetTabela();
-    const std::u16string_view campo = ACondicao.GetCampo();
     const Variant& valor = ACondicao.GetValor();
-    const bool entre_aspas = ACondicao.GetQuoteStr();
+    const bool entreAspas = ACondicao.GetQuoteStr();
     const bool maiusculas = ACondicao.GetUsarUpperCase();
 
-    constexpr std::size_t CPedacos = 4;
-    char16_t* fim = ASaida.Abrir(CPedacos * TPedacoSql::CMaiorTamanho + tabela.size() + campo.size());
-    fim = AJuncao.Escrever(fim);
-    fim = (maiusculas ? CAbreMaiusculas : CAbre).Escrever(fim);
-    fim = EscreverNome(fim, tabela);
-    *fim++ = u'.';
-    fim = EscreverNome(fim, campo);
-    if (maiusculas) *fim++ = u')';
-    *fim++ = u' ';
-    fim = palavra.Texto.Escrever(fim);
-    *fim++ = u' ';
-    ASaida.Fechar(fim);
+    ASaida += maiusculas ? u"( UPPER(" : u"( ";
+    ASaida += MaiusculaDe(ACondicao.GetTabela());
+    ASaida += u'.';
+    ASaida += MaiusculaDe(ACondicao.GetCampo());
+    ASaida += maiusculas ? u") " : u" ";
+    ASaida += palavra.Texto;
+    ASaida += u' ';
     switch (palavra.Forma) {
         case fvNenhum:
             break;
         case fvEscalar:
-            if (maiusculas) ASaida.Anexar(CMaiusculas);
-            AnexarValor(ASaida, valor, entre_aspas);
-            if (maiusculas) ASaida.Anexar(u')');
+            if (maiusculas) ASaida += u"UPPER(";
+            AnexarValor(ASaida, valor, entreAspas);
+            if (maiusculas) ASaida += u')';
             break;
         case fvLista:
-            ASaida.Anexar(u'(');
-            AnexarLista(ASaida, valor, entre_aspas);
-            ASaida.Anexar(CFecha);
+            ASaida += u'(';
+            AnexarLista(ASaida, valor, entreAspas);
+            ASaida += u" )";
             break;
         case fvInicio:
             AnexarValor(ASaida, valor, true);
             break;
         case fvFim:
-            AnexarModelo(ASaida, valor, u"");
-            break;
         case fvMeio:
-            AnexarModelo(ASaida, valor, u"%");
+            AnexarModelo(ASaida, valor, palavra.Forma);
             break;
         case fvIntervalo:
-            AnexarIntervalo(ASaida, valor, entre_aspas);
+            AnexarIntervalo(ASaida, valor, entreAspas);
             break;
     }
-    ASaida.Anexar(CFecha);
+    ASaida += u" )";
 }
 
 }  // namespace OryUtils::Interno

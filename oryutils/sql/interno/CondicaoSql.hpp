@@ -1,20 +1,22 @@
 #pragma once
 
 #include "oryutils/sql/UnOryUtilsClasseFiltroSql.hpp"
-#include "oryutils/sql/interno/TextoSql.hpp"
+
+#include <string>
+#include <string_view>
 
 namespace OryUtils::Interno {
 
-/// The SQL word of ACondicao; empty for cfNenhum and for what is no condition.
+/// The SQL word of ACondicao; empty for cfNenhum and for an ordinal without a name.
 std::u16string_view BuscarPalavra(TCondicaoFiltro ACondicao) noexcept;
 
-/// True when ACondicao says enough to be written.
-inline bool EstahCompleta(const TOryUtilsFiltroSql& ACondicao) noexcept {
-    return !ACondicao.GetTabela().empty() && !ACondicao.GetCampo().empty() && ACondicao.GetCondicao() > cfNenhum &&
-           ACondicao.GetCondicao() <= cfDiferente;
-}
+/// True when ACondicao names a table, a column and a condition.
+bool EstahCompleta(const TOryUtilsFiltroSql& ACondicao) noexcept;
 
-/// Appends AJuncao and the text of one complete condition.
-void AnexarCondicao(TTextoSql& ASaida, const TPedacoSql& AJuncao, const TOryUtilsFiltroSql& ACondicao);
+/// Appends the text of one complete condition to ASaida.
+void AnexarCondicao(std::u16string& ASaida, const TOryUtilsFiltroSql& ACondicao);
+
+/// ATexto with each apostrophe doubled, appended to ASaida.
+void AnexarComApostrofosDobrados(std::u16string& ASaida, std::u16string_view ATexto);
 
 }  // namespace OryUtils::Interno
