@@ -2,7 +2,6 @@
 
 #include "oryutils/characters/Caixa.hpp"
 #include "oryutils/dates/interno/DatasInterno.hpp"
-#include "oryutils/dates/interno/FormatosFixos.hpp"
 #include "oryutils/runtime/DataXml.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
@@ -42,6 +41,19 @@ TDateTime BuscarFimDoMes(int AAno, int AMes) { return CodificarData(AAno, AMes, 
 
 TDateTime BuscarFimDoPeriodo(TDateTime AData, int AMesesDoPeriodo) {
     return BuscarFimDoMes(DecodificarData(AData).Ano, BuscarPeriodo(AData, AMesesDoPeriodo) * AMesesDoPeriodo);
+}
+
+// What BuscarDataFormatada writes without a mask; empty for an ordinal without a name.
+std::u16string_view BuscarPadrao(TTipoFormatoData ATipo) {
+    switch (ATipo) {
+        case fdData:
+            return u"MM/DD/YYYY";
+        case fdDataHora:
+            return u"DD/MM/YYYY HH:MM:SS";
+        case fdHora:
+            return u"HH:MM";
+    }
+    return {};
 }
 
 std::u16string PorEntreAspas(std::u16string_view ATexto) {
@@ -115,9 +127,9 @@ std::u16string TOryUtilsDatas::BuscarDataFormatada(TDateTime AData, bool AAdicio
 
 std::u16string TOryUtilsDatas::BuscarDataFormatada(TDateTime AData, TTipoFormatoData ATipoFormatacao,
                                                    std::u16string_view AMascara, bool AAdicionarAspas) {
-    std::u16string texto = Aparar(AMascara).empty()
-                               ? Interno::FormatarPeloTipo(ATipoFormatacao, AData, FormatSettings())
-                               : FormatarDataHora(AMascara, AData);
+    const std::u16string_view padrao = Aparar(AMascara).empty() ? BuscarPadrao(ATipoFormatacao) : AMascara;
+    // An empty pattern would stand for the short date.
+    std::u16string texto = padrao.empty() ? u"" : FormatarDataHora(padrao, AData);
     if (AAdicionarAspas) return PorEntreAspas(texto);
     return texto;
 }
@@ -194,5 +206,24 @@ TDateTime TOryUtilsDatas::BuscarDataHoraMedidaTempo(TDateTime ADataHoraBase,
 std::u16string TOryUtilsDatas::FormatarData(std::u16string_view ATexto) {
     return Interno::Completar(ATexto, FormatSettings());
 }
+
+TDateTime ConverterOrientacaoData(std::u16string_view AData, TTipoOrientadaData ATipoOrientacao) {
+    if (EstahSemConteudo(AData)) return 0;
+    const TDateTime data =
+        TOryUtilsDatas::ConverterOrientacaoData(AData, static_cast<TTipoOrientacaoData>(ATipoOrientacao));
+    return ATipoOrientacao == todMesDia ? TDateTime() : data;  // checked and dropped, as it has always been
+}
+
+// The call after which nothing is left to do could become a loop without end. The volatile local, which is used behind
+// the call, keeps each call a call, so that the stack is exhausted as the header says.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Winfinite-recursion"
+TDateTime BuscarDataFinalDoTrimestre(TDateTime AData) {
+    volatile double data = AData;
+    const TDateTime resultado = BuscarDataFinalDoTrimestre(TDateTime(data));
+    data = resultado;
+    return TDateTime(data);
+}
+#pragma GCC diagnostic pop
 
 }  // namespace OryUtils

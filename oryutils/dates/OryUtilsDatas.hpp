@@ -123,33 +123,46 @@ public:
 
 extern ORY_API TInstanciaGlobal<TOryUtilsDatas> GOryUtilsDatas;
 
-/// Free functions with the older names; each forwards to the operation of the class of the same meaning.
-ORY_API TDateTime GetPrimeiroDiaMes(TDateTime AData);
-ORY_API TDateTime GetPrimeiroDiaMesCorrente();
-ORY_API TDateTime GetUltimoDiaMes(TDateTime AData);
-ORY_API TDateTime GetDataSemHora(TDateTime AData);
-ORY_API std::u16string GetHoraSemSegundos(TDateTime AData);
-ORY_API std::u16string GetDescricaoDiaSemana(TDateTime AData);
-ORY_API std::u16string GetDataPorExtenso(TDateTime AData);
-ORY_API std::u16string FormatarData(std::u16string_view ATexto);
-ORY_API bool EhDataValida(std::u16string_view AData);
-ORY_API TDateTime ConverterDataXML(std::u16string_view AData);
-ORY_API int BuscarDiasEntreDatas(TDateTime ADataInicial, TDateTime ADataFim);
-ORY_API int BuscarBimestre(TDateTime AData);
-ORY_API int BuscarTrimestre(TDateTime AData);
-ORY_API int BuscarSemestre(TDateTime AData);
-ORY_API int BuscarPrimeiroMesDoBimestre(TDateTime AData);
-ORY_API int BuscarPrimeiroMesDoTrimestre(TDateTime AData);
-ORY_API int BuscarPrimeiroMesDoQuadrimestre(TDateTime AData);
-ORY_API int BuscarPrimeiroMesDoSemestre(TDateTime AData);
-ORY_API TDateTime BuscarDataFinalDoBimestre(TDateTime AData);
-ORY_API TDateTime BuscarDataFinalDoQuadrimestre(TDateTime AData);
-ORY_API TDateTime BuscarDataFinalDoSemestre(TDateTime AData);
-ORY_API std::u16string GetDataFormatada(TDateTime AData, bool AAdicionarAspas);
+/// Free functions with the older names; each is the operation of the class of the same meaning.
+inline TDateTime GetPrimeiroDiaMes(TDateTime AData) { return TOryUtilsDatas::BuscarPrimeiroDiaMes(AData); }
+inline TDateTime GetPrimeiroDiaMesCorrente() { return TOryUtilsDatas::BuscarPrimeiroDiaMesCorrente(); }
+inline TDateTime GetUltimoDiaMes(TDateTime AData) { return TOryUtilsDatas::BuscarUltimoDiaMes(AData); }
+inline TDateTime GetDataSemHora(TDateTime AData) { return TOryUtilsDatas::BuscarDataSemHora(AData); }
+inline std::u16string GetHoraSemSegundos(TDateTime AData) { return TOryUtilsDatas::BuscarHoraSemSegundos(AData); }
+inline std::u16string GetDescricaoDiaSemana(TDateTime AData) { return TOryUtilsDatas::BuscarDescricaoDiaSemana(AData); }
+inline std::u16string GetDataPorExtenso(TDateTime AData) { return TOryUtilsDatas::BuscarDataPorExtenso(AData); }
+inline std::u16string FormatarData(std::u16string_view ATexto) { return TOryUtilsDatas::FormatarData(ATexto); }
+inline bool EhDataValida(std::u16string_view AData) { return TOryUtilsDatas::EhDataValida(AData); }
+inline TDateTime ConverterDataXML(std::u16string_view AData) {
+    return TOryUtilsDatas::ConverterDataXMLParaFormatoNativo(AData);
+}
+inline int BuscarDiasEntreDatas(TDateTime ADataInicial, TDateTime ADataFim) {
+    return TOryUtilsDatas::BuscarDiasEntreDatas(ADataInicial, ADataFim);
+}
+inline int BuscarBimestre(TDateTime AData) { return TOryUtilsDatas::BuscarBimestre(AData); }
+inline int BuscarTrimestre(TDateTime AData) { return TOryUtilsDatas::BuscarTrimestre(AData); }
+inline int BuscarSemestre(TDateTime AData) { return TOryUtilsDatas::BuscarSemestre(AData); }
+inline int BuscarPrimeiroMesDoBimestre(TDateTime AData) { return TOryUtilsDatas::BuscarPrimeiroMesDoBimestre(AData); }
+inline int BuscarPrimeiroMesDoTrimestre(TDateTime AData) { return TOryUtilsDatas::BuscarPrimeiroMesDoTrimestre(AData); }
+inline int BuscarPrimeiroMesDoQuadrimestre(TDateTime AData) {
+    return TOryUtilsDatas::BuscarPrimeiroMesDoQuadrimestre(AData);
+}
+inline int BuscarPrimeiroMesDoSemestre(TDateTime AData) { return TOryUtilsDatas::BuscarPrimeiroMesDoSemestre(AData); }
+inline TDateTime BuscarDataFinalDoBimestre(TDateTime AData) { return TOryUtilsDatas::BuscarDataFinalDoBimestre(AData); }
+inline TDateTime BuscarDataFinalDoQuadrimestre(TDateTime AData) {
+    return TOryUtilsDatas::BuscarDataFinalDoQuadrimestre(AData);
+}
+inline TDateTime BuscarDataFinalDoSemestre(TDateTime AData) { return TOryUtilsDatas::BuscarDataFinalDoSemestre(AData); }
+inline std::u16string GetDataFormatada(TDateTime AData, bool AAdicionarAspas) {
+    return TOryUtilsDatas::BuscarDataFormatada(AData, AAdicionarAspas);
+}
 
 /// The rules of TOryUtilsDatas::BuscarDataFormatada with the tfd values.
-ORY_API std::u16string GetDataFormatada(TDateTime AData, TTipoFormatacaoData ATipoFormatacao,
-                                        std::u16string_view AMascara, bool AAdicionarAspas);
+inline std::u16string GetDataFormatada(TDateTime AData, TTipoFormatacaoData ATipoFormatacao,
+                                       std::u16string_view AMascara, bool AAdicionarAspas) {
+    return TOryUtilsDatas::BuscarDataFormatada(AData, static_cast<TTipoFormatoData>(ATipoFormatacao), AMascara,
+                                               AAdicionarAspas);
+}
 /// As TOryUtilsDatas::ConverterOrientacaoData for todDiaMes. With todMesDia the text is checked, and raises as there,
 /// but the date is dropped: the result is always 0. Callers of old depend on it; use the class operation.
 ORY_API TDateTime ConverterOrientacaoData(std::u16string_view AData, TTipoOrientadaData ATipoOrientacao);

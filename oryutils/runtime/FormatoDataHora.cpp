@@ -1,13 +1,11 @@
 #include "oryutils/runtime/FormatoDataHora.hpp"
 
 #include "oryutils/characters/Caracteres.hpp"
-#include "oryutils/characters/Digitos.hpp"
 #include "oryutils/runtime/interno/Calendario.hpp"
 
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <iterator>
 #include <utility>
 
 namespace OryUtils {
@@ -17,50 +15,13 @@ constexpr char16_t ParaMinuscula(char16_t c) {
     return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + (u'a' - u'A')) : c;
 }
 
-// Collects the text; only one that outgrows the local buffer costs more than the result itself.
-class TSaida {
-public:
-    void Juntar(char16_t ACaractere) {
-        GarantirEspaco(1);
-        *FFim++ = ACaractere;
-    }
-    void Juntar(std::u16string_view ATexto) {
-        for (const char16_t c : ATexto) Juntar(c);
-    }
-    // ANumero, 0 to 9999, with at least ADigitos digits, 1 to 4.
-    void JuntarNumero(int ANumero, int ADigitos) {
-        GarantirEspaco(4);
-        if (ADigitos == 2 && ANumero < 100) {
-            FFim = Interno::EscreverDois(FFim, ANumero);
-            return;
-        }
-        if (ADigitos == 4 || ANumero >= 1000) {
-            FFim = Interno::EscreverQuatro(FFim, ANumero);
-            return;
-        }
-        if (ADigitos == 3 || ANumero >= 100) *FFim++ = static_cast<char16_t>(u'0' + ANumero / 100);
-        if (ADigitos >= 2 || ANumero >= 10) *FFim++ = static_cast<char16_t>(u'0' + ANumero / 10 % 10);
-        *FFim++ = static_cast<char16_t>(u'0' + ANumero % 10);
-    }
-    std::u16string Entregar() {
-        if (FTexto.empty()) return {FBuffer, FFim};
-        Descarregar();
-        return std::move(FTexto);
-    }
-
-private:
-    void GarantirEspaco(std::ptrdiff_t ACaracteres) {
-        if (std::end(FBuffer) - FFim < ACaracteres) Descarregar();
-    }
-    void Descarregar() {
-        FTexto.append(FBuffer, FFim);
-        FFim = FBuffer;
-    }
-
-    char16_t FBuffer[64];
-    char16_t* FFim = FBuffer;
-    std::u16string FTexto{};
-};
+// Appends ANumero, 0 to 9999, with at least ADigitos digits, 1 to 4.
+void JuntarNumero(std::u16string& ATexto, int ANumero, std::size_t ADigitos) {
+    const std::size_t precisos = ANumero < 10 ? 1 : ANumero < 100 ? 2 : ANumero < 1000 ? 3 : 4;
+    ATexto.append(std::max(precisos, ADigitos), u'0');
+    for (auto digito = ATexto.rbegin(); ANumero > 0; ++digito, ANumero /= 10)
+        *digito = static_cast<char16_t>(u'0' + ANumero % 10);
+}
 
 // Length of the mark of the twelve-hour clock at the start of ATexto; 0 when there is none.
 std::size_t MedirMarca(std::u16string_view ATexto) {
@@ -99,8 +60,11 @@ public:
         FDiaDaSemana = Interno::DiaDaSemana(valor->Dia);
     }
 
-    void Aplicar(std::u16string_view APadrao) { Aplicar(APadrao, false); }
-    std::u16string Entregar() { return FSaida.Entregar(); }
+    void Aplicar(std::u16string_view APadrao) {
+        FSaida.reserve(2 * APadrao.size());
+        Aplicar(APadrao, false);
+    }
+    std::u16string Entregar() { return std::move(FSaida); }
 
 private:
     // AInterno: APadrao is one of the formats; the elements that stand for formats write nothing in it.
@@ -119,7 +83,7 @@ private:
                 if (tamanho > 0)
                     EscreverMarca(APadrao.substr(i, tamanho));
                 else
-                    FSaida.Juntar(c);
+                    FSaida += c;
                 aposHora = false;
                 i += std::max<std::size_t>(tamanho, 1);
                 continue;
@@ -144,17 +108,17 @@ private:
             case u'\'':
             case u'"': {
                 const auto [texto, fim] = LerLiteral(APadrao, AInicio);
-                FSaida.Juntar(texto);
+                FSaida += texto;
                 return fim;
             }
             default:
-                FSaida.Juntar(APadrao[AInicio]);
+                FSaida += APadrao[AInicio];
         }
         return AInicio + 1;
     }
 
     void EscreverSeparador(char16_t ASeparador) {
-        if (ASeparador) FSaida.Juntar(ASeparador);
+        if (ASeparador) FSaida += ASeparador;
     }
 
     // The mark as the pattern writes it: its first half or its second; ampm the texts of the formats.
@@ -162,40 +126,40 @@ private:
         const bool manha = FHora.Hora < 12;
         const std::size_t letras = AMarca.size() / 2;
         if (AMarca.size() == 4)
-            FSaida.Juntar(manha ? FFormatos.TimeAMString : FFormatos.TimePMString);
+            FSaida += manha ? FFormatos.TimeAMString : FFormatos.TimePMString;
         else
-            FSaida.Juntar(manha ? AMarca.substr(0, letras) : AMarca.substr(AMarca.size() - letras));
+            FSaida += manha ? AMarca.substr(0, letras) : AMarca.substr(AMarca.size() - letras);
     }
 
     // ACorrida: the same letter one or more times.
     void EscreverElemento(char16_t ALetra, std::u16string_view ACorrida, bool AAposHora, bool ADozeHoras,
                           bool AInterno) {
         const std::size_t vezes = ACorrida.size();
-        const int digitos = vezes > 1 ? 2 : 1;
+        const std::size_t digitos = vezes > 1 ? 2 : 1;
         switch (ALetra) {
             case u'd':
                 EscreverDia(vezes, AInterno);
                 break;
             case u'm':
                 if (vezes <= 2)
-                    FSaida.JuntarNumero(AAposHora ? FHora.Minuto : FData.Mes, digitos);
+                    JuntarNumero(FSaida, AAposHora ? FHora.Minuto : FData.Mes, digitos);
                 else
                     EscreverNome(vezes == 3 ? FFormatos.ShortMonthNames : FFormatos.LongMonthNames, FData.Mes);
                 break;
             case u'y':
-                FSaida.JuntarNumero(vezes <= 2 ? FData.Ano % 100 : FData.Ano, vezes <= 2 ? 2 : 4);
+                JuntarNumero(FSaida, vezes <= 2 ? FData.Ano % 100 : FData.Ano, vezes <= 2 ? 2 : 4);
                 break;
             case u'h':
-                FSaida.JuntarNumero(ADozeHoras ? (FHora.Hora + 11) % 12 + 1 : FHora.Hora, digitos);
+                JuntarNumero(FSaida, ADozeHoras ? (FHora.Hora + 11) % 12 + 1 : FHora.Hora, digitos);
                 break;
             case u'n':
-                FSaida.JuntarNumero(FHora.Minuto, digitos);
+                JuntarNumero(FSaida, FHora.Minuto, digitos);
                 break;
             case u's':
-                FSaida.JuntarNumero(FHora.Segundo, digitos);
+                JuntarNumero(FSaida, FHora.Segundo, digitos);
                 break;
             case u'z':
-                FSaida.JuntarNumero(FHora.Milissegundo, vezes > 1 ? 3 : 1);
+                JuntarNumero(FSaida, FHora.Milissegundo, vezes > 1 ? 3 : 1);
                 break;
             case u't':
                 if (!AInterno) Aplicar(vezes > 1 ? FFormatos.LongTimeFormat : FFormatos.ShortTimeFormat, true);
@@ -204,13 +168,13 @@ private:
                 if (!AInterno) EscreverTudo();
                 break;
             default:
-                FSaida.Juntar(ACorrida);
+                FSaida += ACorrida;
         }
     }
 
     void EscreverDia(std::size_t AVezes, bool AInterno) {
         if (AVezes <= 2)
-            FSaida.JuntarNumero(FData.Dia, static_cast<int>(AVezes));
+            JuntarNumero(FSaida, FData.Dia, AVezes);
         else if (AVezes <= 4)
             EscreverNome(AVezes == 3 ? FFormatos.ShortDayNames : FFormatos.LongDayNames, FDiaDaSemana);
         else if (!AInterno)
@@ -220,14 +184,14 @@ private:
     void EscreverTudo() {
         Aplicar(FFormatos.ShortDateFormat, true);
         if (FMeiaNoite) return;
-        FSaida.Juntar(u' ');
+        FSaida += u' ';
         Aplicar(FFormatos.LongTimeFormat, true);
     }
 
     // ANumero counts from 1; 0 is a value without a date.
     template <std::size_t AQuantidade>
     void EscreverNome(const std::array<std::u16string, AQuantidade>& ANomes, int ANumero) {
-        if (ANumero > 0) FSaida.Juntar(ANomes[static_cast<std::size_t>(ANumero) - 1]);
+        if (ANumero > 0) FSaida += ANomes[static_cast<std::size_t>(ANumero) - 1];
     }
 
     const TFormatSettings& FFormatos;
@@ -235,7 +199,7 @@ private:
     TPartesHora FHora{0, 0, 0, 0};
     int FDiaDaSemana = 0;
     bool FMeiaNoite = true;
-    TSaida FSaida;
+    std::u16string FSaida{};
 };
 
 }  // namespace

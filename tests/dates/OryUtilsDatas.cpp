@@ -1,7 +1,6 @@
 #include "oryutils/dates/OryUtilsDatas.hpp"
 
 #include "oryutils/dates/interno/DatasInterno.hpp"
-#include "oryutils/dates/interno/FormatosFixos.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
 
@@ -92,22 +91,6 @@ TEST_F(OryUtilsDatas, DataFormatada) {
     }());
     EXPECT_EQ(D::BuscarDataFormatada(data), u"03.05.2024") << "the separators are those of the formats";
     EXPECT_EQ(D::BuscarHoraSemSegundos(data), u"14h07");
-}
-
-TEST_F(OryUtilsDatas, FormatosFixosComoALinguagem) {
-    const auto semente = std::random_device{}();
-    SCOPED_TRACE(semente);
-    std::mt19937 sorteio(semente);
-    std::uniform_real_distribution valor(-694000.0, 2959000.0);
-    TFormatSettings semSeparador = BuscarFormatosBrasileiros();
-    semSeparador.DateSeparator = 0;
-    for (int i = 0; i < 50000; ++i) {
-        const TDateTime data = i == 0 ? std::nan("") : i == 1 ? -1e300 : valor(sorteio);
-        for (const TTipoFormatoData tipo : {fdData, fdDataHora, fdHora})
-            for (const TFormatSettings* formatos : {&FormatSettings(), &std::as_const(semSeparador)})
-                ASSERT_EQ(Interno::FormatarPeloTipo(tipo, data, *formatos),
-                          FormatarDataHora(Interno::BuscarPadrao(tipo), data, *formatos));
-    }
 }
 
 TEST_F(OryUtilsDatas, ParametrosCopiamTudo) {
