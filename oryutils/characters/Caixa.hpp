@@ -15,7 +15,8 @@ ORY_API char16_t MinusculaDe(char16_t ACaractere) noexcept;
 /// The upper-case letter of a letter, and any other character as it is.
 ORY_API char16_t MaiusculaDe(char16_t ACaractere) noexcept;
 
-/// Each character of ATexto by the rule above; the length stays. Example: MaiusculaDe(u"São João") is "SÃO JOÃO".
+/// Each character of ATexto by the rule above; the length stays.
+/// Example:  MaiusculaDe(u"São João") is "SÃO JOÃO".
 ORY_API std::u16string MinusculaDe(std::u16string_view ATexto);
 ORY_API std::u16string MaiusculaDe(std::u16string_view ATexto);
 

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+// A change of a class or of an enumeration in this header counts CVersaoDoModelo up: see forms/interno/FabricaQt.hpp.
 namespace OryUtils {
 
 class TFormulario;

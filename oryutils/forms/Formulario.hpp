@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+// A change of a class or of an enumeration in this header counts CVersaoDoModelo up: see forms/interno/FabricaQt.hpp.
 namespace OryUtils {
 
 /// Border of a form: a dialog of fixed size, or one that the user may resize.

@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+// A change of a class or of an enumeration in this header counts CVersaoDoModelo up: see forms/interno/FabricaQt.hpp.
 namespace OryUtils {
 
 /// A line of a file picker's filter: "Textos", "*.txt" (several masks with ";").

@@ -12,9 +12,8 @@ struct TPadraoLido {
     bool operator==(const TPadraoLido&) const = default;
 };
 
-/// AMarca is what stands for the separator in the format language: '/' in a date, ':' in a time, 0
-/// when the separator shall stay a literal. Names of zones and
-/// eras have no equivalent and are dropped.
+/// AMarca is what stands for the separator in the format language: '/' in a date, ':' in a time, 0 when the separator
+/// shall stay a literal. Names of zones and eras have no equivalent and are dropped.
 
 /// A pattern of strftime.
 /// Example:  ("%d-%m-%Y", '/')  ->  "dd/mm/yyyy", separator "-"

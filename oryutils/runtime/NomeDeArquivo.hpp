@@ -15,15 +15,18 @@ constexpr std::size_t BuscarTamanhoDaPasta(std::u16string_view AArquivo) noexcep
     return AArquivo.size() >= 2 && AArquivo[1] == u':' ? 2 : 0;
 }
 
-/// The folder with its last delimiter; empty without one. Example: "C:\Logs\a.txt" -> "C:\Logs\"
+/// The folder with its last delimiter; empty without one.
+/// Example:  "C:\Logs\a.txt" -> "C:\Logs\"
 constexpr std::u16string_view ExtrairPastaDoArquivo(std::u16string_view AArquivo) noexcept {
     return AArquivo.substr(0, BuscarTamanhoDaPasta(AArquivo));
 }
-/// The name without the folder. Example: "C:\Logs\a.txt" -> "a.txt"
+/// The name without the folder.
+/// Example:  "C:\Logs\a.txt" -> "a.txt"
 constexpr std::u16string_view ExtrairNomeDoArquivo(std::u16string_view AArquivo) noexcept {
     return AArquivo.substr(BuscarTamanhoDaPasta(AArquivo));
 }
-/// The last extension with its dot; empty without one. Example: "a.tar.gz" -> ".gz", ".profile" -> ".profile"
+/// The last extension with its dot; empty without one.
+/// Example:  "a.tar.gz" -> ".gz", ".profile" -> ".profile"
 constexpr std::u16string_view ExtrairExtensaoDoArquivo(std::u16string_view AArquivo) noexcept {
     const std::u16string_view nome = ExtrairNomeDoArquivo(AArquivo);
     const std::size_t ponto = nome.rfind(u'.');

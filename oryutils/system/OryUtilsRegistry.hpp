@@ -130,7 +130,8 @@ public:
     /// Success from 256 to 65536, on Windows 2000 to 16384.
     /// Failure:  "Valor cota objetos GDI inválido.\r\nValores permitidos entre %d e %d."
     static TResultStatus ValidouValorLimiteCotaObjetosGDI(int AValor);
-    /// Writes a valid quota; Windows takes it at its next start. Failure: that of the check, or of AdicionouValor.
+    /// Writes a valid quota; Windows takes it at its next start.
+    /// Failure:  that of the check, or of AdicionouValor.
     TResultStatus AlterouCotaLimiteObjetosGDI(int AValor);
     /// The quota in decimal digits. Raises ERegistryException ("Falha ao obter dados de 'GDIProcessHandleQuota'") when
     /// none is set.

@@ -172,7 +172,8 @@ public:
     static std::uint32_t BuscarTempoInatividadeSistema();
     /// Presses and releases a key with the modifiers of AShift held. (Linux) Through the X server's XTEST extension;
     /// nothing happens without a display.
-    /// ATecla  virtual-key code as on Windows;  ATeclaEstendida  with the flag of the extended keys
+    /// ATecla  virtual-key code as on Windows
+    /// ATeclaEstendida  with the flag of the extended keys
     static void SimularPressionamentoTecla(std::uint16_t ATecla, TShiftState AShift, bool ATeclaEstendida);
     /// True when the key is down; the numbers of Shift, Ctrl and Alt mean the left and the right one. (Linux) False
     /// without a display.

@@ -51,7 +51,8 @@ public:
     /// False for the backspace (code 8), the full stop, digits and letters; true for all others, the space included.
     static bool EhCaractereAcentuadoOuEspecial(char16_t ACaractere);
     /// True when the first character of ATexto, as a text, is APrefixo. A longer prefix never is; an empty prefix is
-    /// the first character of an empty text only. Example: TextoEhParametro(u"-silent", u"-").
+    /// the first character of an empty text only.
+    /// Example:  TextoEhParametro(u"-silent", u"-").
     static bool TextoEhParametro(std::u16string_view ATexto, std::u16string_view APrefixo);
     /// True when ATexto, ignoring case, equals (AExato) or contains some item of AVetor. An empty item equals an empty
     /// text and is contained in none.
@@ -107,8 +108,8 @@ public:
     /// How many occurrences of ACaractere have another one right behind: a run of three counts 2. 0 for a blank text.
     static int BuscarQuantidadeCaractereEmSequencia(std::u16string_view ATexto, char16_t ACaractere);
     /// ATexto made exactly ATamanho characters long: cut, or filled on the right by repeating APreenchimento, whose
-    /// last copy may be cut. An empty APreenchimento only cuts; an ATamanho of zero or below gives "". Example:
-    /// BuscarTextoFormatado(u"abc", 6, u"xy") is "abcxyx".
+    /// last copy may be cut. An empty APreenchimento only cuts; an ATamanho of zero or below gives "".
+    /// Example:  BuscarTextoFormatado(u"abc", 6, u"xy") is "abcxyx".
     static std::u16string BuscarTextoFormatado(std::u16string_view ATexto, int ATamanho,
                                                std::u16string_view APreenchimento);
     /// ATexto with spaces on the right up to ATamanho characters; a longer text stays.

@@ -37,8 +37,8 @@ public:
     static int ConfirmationCustom(std::u16string_view AMensagem, TMsgDlgType ATipo,
                                   const std::vector<TMsgDlgBtn>& ABotoes, int APadrao, std::u16string_view ATitulo,
                                   const std::vector<std::u16string>& ACaptions);
-    /// With the group of options "Opções: ". AOpcao  in: the option chosen beforehand, from 0 (-1: none); out: the one
-    /// chosen, -1 for none.
+    /// With the group of options "Opções: ".
+    /// AOpcao  in: the option chosen beforehand, from 0 (-1: none); out: the one chosen, -1 for none.
     static int ConfirmationCustom(std::u16string_view AMensagem, TMsgDlgType ATipo,
                                   const std::vector<TMsgDlgBtn>& ABotoes, int APadrao, std::u16string_view ATitulo,
                                   const std::vector<std::u16string>& ACaptions,
@@ -48,7 +48,8 @@ public:
                                                                   const std::vector<TMsgDlgBtn>& ABotoes, int APadrao,
                                                                   std::u16string_view ATitulo,
                                                                   const std::vector<std::u16string>& ACaptions);
-    /// With one check box, not checked at first. AMarcada  out: its state, however the form was closed.
+    /// With one check box, not checked at first.
+    /// AMarcada  out: its state, however the form was closed.
     static int ConfirmacaoComCaixaChecagem(std::u16string_view AMensagem, TMsgDlgType ATipo,
                                            const std::vector<TMsgDlgBtn>& ABotoes, int APadrao,
                                            std::u16string_view ATitulo, const std::vector<std::u16string>& ACaptions,

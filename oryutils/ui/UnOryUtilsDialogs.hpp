@@ -51,7 +51,8 @@ public:
     std::unique_ptr<TOryUtilsDialogsRetornoMensagemOpcoesIOP> ConfirmacaoCustomizadaComOpcoes(
         const TOryUtilsDialogsFormCustomizadoComOpcoesIOP& AParametros);
 
-    /// With one check box, not checked at first. AMarcada  out: its state, however the form was closed.
+    /// With one check box, not checked at first.
+    /// AMarcada  out: its state, however the form was closed.
     std::unique_ptr<TOryUtilsDialogsRetornoMensagemCaixaChecagemIOP> ConfirmacaoCustomizadaComCaixaChecagem(
         const TOryUtilsDialogsFormCustomizadoCaixaChecagemIOP& AParametros);
     int ConfirmacaoCustomizadaComCaixaChecagem(std::u16string_view AMensagem, TMsgDlgType ATipo,

@@ -12,7 +12,8 @@ namespace OryUtils {
 
 /// Binds a line edit of a Qt host to a field while it lives: typing, deleting, pasting and the arrow keys follow the
 /// field's edit mask or number. When the widget is gone the binding does nothing more. A read-only widget is left
-/// alone. Example:
+/// alone.
+/// Example:
 ///   FormatarCPF(FCpf);
 ///   TEdicaoMascaradaQt edicao(ui.cpf, FCpf);
 class ORY_QT_API TEdicaoMascaradaQt final : public QObject, public TEditorDeCampo {

@@ -9,7 +9,8 @@
 namespace Ory {
 
 /// The summary for people, in UTF-8: a table of the columns, then the first offenders of each with line and value.
-/// ALargura  columns that a line may take; values are shortened to fit. ACores  with terminal colours.
+/// ALargura  columns that a line may take; values are shortened to fit.
+/// ACores  with terminal colours.
 std::string EscreverRelatorio(const TResumo& AResumo, std::string_view AArquivo, int ALargura, bool ACores);
 
 /// The summary for machines: one JSON object and a line end.
