@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <string_view>
 #include <type_traits>
@@ -24,6 +25,15 @@ consteval bool CobreEnumeracao() {
     for (std::size_t i = 0; i < ATabela.size(); ++i)
         if (ATabela[i].*AChave != static_cast<TEnumeracao>(i)) return false;
     return !EhEnumerador<static_cast<TEnumeracao>(ATabela.size())>();
+}
+
+/// One column of ATabela, an array of rows.
+/// Example:  constexpr auto CNomes = BuscarColuna<CBotoes, &TDadosBotao::Nome>();
+template <const auto& ATabela, auto AMembro>
+consteval auto BuscarColuna() {
+    std::array<std::remove_cvref_t<decltype(ATabela[0].*AMembro)>, ATabela.size()> coluna{};
+    for (std::size_t i = 0; i < coluna.size(); ++i) coluna[i] = ATabela[i].*AMembro;
+    return coluna;
 }
 
 }  // namespace OryUtils

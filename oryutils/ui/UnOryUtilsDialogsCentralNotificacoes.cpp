@@ -32,7 +32,7 @@ int TOryUtilsDialogsCentralNotificacoes::Exibir() {
         parametros.MensagemDetalhe += mensagem;
     }
     const int resultado = ExecutarFormularioDetalhe(parametros, textos.Buscar(tdInformacao), textos, nullptr, true);
-    // What arrived while the form was open, and a nested Limpar, are respected.
+    // Messages that arrived while the form was open stay. A Limpar called meanwhile may have left fewer.
     FMensagens.erase(FMensagens.begin(),
                      FMensagens.begin() + static_cast<std::ptrdiff_t>(std::min(quantidade, FMensagens.size())));
     return resultado;

@@ -2,45 +2,43 @@
 
 #include "oryutils/ui/interno/Medidas.hpp"
 
-#include <algorithm>
+#include <variant>
 
 namespace OryUtils {
 namespace {
 
-// "&Retry" is English among Portuguese captions since the first version; users know it.
-constexpr std::array<std::u16string_view, CQuantidadeTextos> CTextosPadrao{
-    u"Atenção",
-    u"Erro",
-    u"Informação",
-    u"Confirmação",
-    u"&Sim",
-    u"&Não",
-    u"O&K",
-    u"&Cancelar",
-    u"&Ajuda",
-    u"A&bortar",
-    u"&Retry",
-    u"&Ignorar",
-    u"To&dos",
-    u"Nã&o p/ Todos",
-    u"Si&m p/ Todos",
-    u"&Fechar",
-    u"Aviso",
-    u"Opções: ",
-    u"Observação: \r\nEsta mensagem será fechada automaticamente em %s caso não haja intervenção.",
-    u"Mostrar Detalhes",
-    u"Ocultar Detalhes",
-    u"Todos",
-    u"Mensagens registradas: %s",
+/// A text of the dialogs: its Portuguese words, or the kind of button of which it is the caption.
+struct TDadosTexto {
+    TTextoDialogo Texto;
+    std::variant<std::u16string_view, TMsgDlgBtn> Valor;
 };
-
-// By button kind.
-constexpr std::array<TTextoDialogo, CQuantidadeBotoes> CTextosBotao{
-    tdSim,     tdNao,   tdOK,           tdCancelar,     tdAbortar, tdRetry,
-    tdIgnorar, tdTodos, tdNaoParaTodos, tdSimParaTodos, tdAjuda,   tdFechar};
-
-// By dialog kind; mtCustom has none.
-constexpr std::array CTextosDialogo{tdAtencao, tdErro, tdInformacao, tdConfirmacao};
+constexpr std::array CDadosTexto{
+    TDadosTexto{tdAtencao, u"Atenção"},
+    TDadosTexto{tdErro, u"Erro"},
+    TDadosTexto{tdInformacao, u"Informação"},
+    TDadosTexto{tdConfirmacao, u"Confirmação"},
+    TDadosTexto{tdSim, mbYes},
+    TDadosTexto{tdNao, mbNo},
+    TDadosTexto{tdOK, mbOK},
+    TDadosTexto{tdCancelar, mbCancel},
+    TDadosTexto{tdAjuda, mbHelp},
+    TDadosTexto{tdAbortar, mbAbort},
+    TDadosTexto{tdRetry, mbRetry},
+    TDadosTexto{tdIgnorar, mbIgnore},
+    TDadosTexto{tdTodos, mbAll},
+    TDadosTexto{tdNaoParaTodos, mbNoToAll},
+    TDadosTexto{tdSimParaTodos, mbYesToAll},
+    TDadosTexto{tdFechar, mbClose},
+    TDadosTexto{tdAviso, u"Aviso"},
+    TDadosTexto{tdOpcoes, u"Opções: "},
+    TDadosTexto{tdNotaFechamento,
+                u"Observação: \r\nEsta mensagem será fechada automaticamente em %s caso não haja intervenção."},
+    TDadosTexto{tdMostrarDetalhes, u"Mostrar Detalhes"},
+    TDadosTexto{tdOcultarDetalhes, u"Ocultar Detalhes"},
+    TDadosTexto{tdTodosArquivos, u"Todos"},
+    TDadosTexto{tdMensagensGuardadas, u"Mensagens registradas: %s"},
+};
+static_assert(CobreEnumeracao<CDadosTexto, &TDadosTexto::Texto>());
 
 constexpr int CPontosPadrao = 8;
 
@@ -55,26 +53,42 @@ std::array<int, CQuantidadeBotoes> CLarguraBotao{};
 
 TTextosDialogos::TTextosDialogos() { Restaurar(); }
 
-void TTextosDialogos::Restaurar() { std::copy(CTextosPadrao.begin(), CTextosPadrao.end(), FTextos.begin()); }
+void TTextosDialogos::Restaurar() {
+    FTextos.assign(CDadosTexto.size(), u"");
+    for (const TDadosTexto& dados : CDadosTexto)
+        if (const auto* texto = std::get_if<std::u16string_view>(&dados.Valor)) FTextos[dados.Texto] = *texto;
+    FCaptions.clear();
+    for (const TDadosBotao& dados : CDadosBotao) FCaptions.emplace_back(dados.Caption);
+}
 
 const std::u16string& TTextosDialogos::Buscar(TTextoDialogo ATexto) const {
     const auto indice = static_cast<std::size_t>(ATexto);
-    return indice < FTextos.size() ? FTextos[indice] : BuscarVazio();
+    if (indice >= CDadosTexto.size()) return BuscarVazio();
+    const auto* botao = std::get_if<TMsgDlgBtn>(&CDadosTexto[indice].Valor);
+    return botao ? BuscarCaption(*botao) : FTextos[indice];
 }
 
 const std::u16string& TTextosDialogos::BuscarCaption(TMsgDlgBtn ABotao) const {
-    if (!TMsgDlgButtons::EhConhecido(ABotao)) return BuscarVazio();
-    return Buscar(CTextosBotao[static_cast<std::size_t>(ABotao)]);
+    return TMsgDlgButtons::EhConhecido(ABotao) ? FCaptions[static_cast<std::size_t>(ABotao)] : BuscarVazio();
 }
 
 const std::u16string& TTextosDialogos::BuscarCaption(TMsgDlgType ATipo) const {
     const auto indice = static_cast<std::size_t>(ATipo);
-    return indice < CTextosDialogo.size() ? Buscar(CTextosDialogo[indice]) : BuscarVazio();
+    if (indice >= CDadosDialogo.size() || !CDadosDialogo[indice].Titulo) return BuscarVazio();
+    return Buscar(*CDadosDialogo[indice].Titulo);
 }
 
 void TTextosDialogos::Substituir(TTextoDialogo ATexto, std::u16string_view AValor) {
     const auto indice = static_cast<std::size_t>(ATexto);
-    if (indice < FTextos.size()) FTextos[indice] = AValor;
+    if (indice >= CDadosTexto.size()) return;
+    if (const auto* botao = std::get_if<TMsgDlgBtn>(&CDadosTexto[indice].Valor))
+        Substituir(*botao, AValor);
+    else
+        FTextos[indice] = AValor;
+}
+
+void TTextosDialogos::Substituir(TMsgDlgBtn ABotao, std::u16string_view ACaption) {
+    if (TMsgDlgButtons::EhConhecido(ABotao)) FCaptions[static_cast<std::size_t>(ABotao)] = ACaption;
 }
 
 TTextosDialogos& TextosDialogos() {
@@ -83,8 +97,8 @@ TTextosDialogos& TextosDialogos() {
 }
 
 void PreencherLargurasBotao() {
-    for (std::size_t i = 0; i < CQuantidadeBotoes; ++i)
-        CLarguraBotao[i] = CalcularLarguraBotao(CPontosPadrao, CCaptionsBotao[static_cast<TMsgDlgBtn>(i)].size());
+    for (const TDadosBotao& dados : CDadosBotao)
+        CLarguraBotao[dados.Tipo] = CalcularLarguraBotao(CPontosPadrao, CCaptionsBotao[dados.Tipo].size());
 }
 
 }  // namespace OryUtils

@@ -76,10 +76,10 @@ int ExecutarFormularioDetalhe(const TOryUtilsDialogsFormDetalhesIOP& AParametros
     parametros.Titulo = ATitulo;
     parametros.TipoDialogo = AParametros.TipoDialogo;
     parametros.Mensagem = AParametros.Mensagem;
-    for (std::size_t i = 0; i < CQuantidadeBotoes; ++i)
-        if (const auto tipo = static_cast<TMsgDlgBtn>(i); AParametros.Botoes.Contem(tipo)) {
-            parametros.Botoes.push_back(tipo);
-            parametros.CaptionBotoes.push_back(ATextos.BuscarCaption(tipo));
+    for (const TDadosBotao& dados : CDadosBotao)
+        if (AParametros.Botoes.Contem(dados.Tipo)) {
+            parametros.Botoes.push_back(dados.Tipo);
+            parametros.CaptionBotoes.push_back(ATextos.BuscarCaption(dados.Tipo));
         }
     if (parametros.Botoes.empty()) {
         parametros.Botoes = {mbOK};

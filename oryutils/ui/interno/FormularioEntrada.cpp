@@ -15,9 +15,9 @@ constexpr int CDistanciaPergunta = 3;  // prompt to edit box
 
 TBotao& AdicionarBotao(TFormulario& AFormulario, TMsgDlgBtn ATipo, const TTextosDialogos& ATextos) {
     auto& botao = AFormulario.Adicionar<TBotao>();
-    botao.SetNome(CNomesBotao[static_cast<std::size_t>(ATipo)]);
+    botao.SetNome(CNomesBotao[ATipo]);
     botao.SetTexto(ATextos.BuscarCaption(ATipo));
-    botao.SetModalResult(CModalResults[static_cast<std::size_t>(ATipo)]);
+    botao.SetModalResult(CModalResults[ATipo]);
     return botao;
 }
 

@@ -86,11 +86,11 @@ void TFormularioMensagem::CriarControles() {
     FMensagem->SetNome(CNomeMensagem);
     FMensagem->SetQuebraLinha(true);
     const TMsgDlgButtons conjunto(FParametros.Botoes);
-    for (std::size_t i = 0; i < CQuantidadeBotoes; ++i) {
-        if (!conjunto.Contem(static_cast<TMsgDlgBtn>(i))) continue;
+    for (const TDadosBotao& dados : CDadosBotao) {
+        if (!conjunto.Contem(dados.Tipo)) continue;
         auto& botao = Adicionar<TBotao>();
-        botao.SetNome(CNomesBotao[i]);
-        botao.SetModalResult(CModalResults[i]);
+        botao.SetNome(dados.Nome);
+        botao.SetModalResult(dados.ModalResult);
     }
 }
 

@@ -12,9 +12,9 @@ constexpr int CLarguraMinimaEmPixels = 75;
 // Frame and title bar of a window, in average characters; generous, so that the last row always shows.
 constexpr int CMolduraHorizontal = 4;
 constexpr int CMolduraVertical = 4;
-// A longer caption would only make positions overflow.
+// A longer caption counts as this long, so that positions cannot overflow.
 constexpr std::size_t CLimiteCaption = std::size_t{1} << 24;
-// No screen shows this many characters in a label.
+// Only so many characters of a label are measured: no screen shows more.
 constexpr std::size_t CLimiteMedido = 65536;
 
 }  // namespace
