@@ -28,19 +28,12 @@ constexpr TUnidade UnidadeDe() {
     return {[] { AInstancia.Criar(); }, [] { AInstancia.Liberar(); }};
 }
 
-// In starting order; they stop in the opposite one.
+// Every global instance, in starting order; they stop in the opposite one.
 constexpr std::array CUnidades{
-    UnidadeDe<GOryUtilsStrings>(),
-    UnidadeDe<GOryUtilsMatematica>(),
-    UnidadeDe<GOryUtilsDatas>(),
-    UnidadeDe<GOryUtilsSistema>(),
-    UnidadeDe<GOryUtilsRegistro>(),
-    UnidadeDe<GOryUtilsValidacoes>(),
-    UnidadeDe<GOryUtilsFormatacoes>(),
-    UnidadeDe<GOryUtilsControls>(),
-    UnidadeDe<GOryUtilsClasses>(),
-    UnidadeDe<GOryUtilsDialogs>(),
-    TUnidade{IniciarInterface, FinalizarInterface},
+    UnidadeDe<GOryUtilsStrings>(),    UnidadeDe<GOryUtilsMatematica>(),  UnidadeDe<GOryUtilsDatas>(),
+    UnidadeDe<GOryUtilsSistema>(),    UnidadeDe<GOryUtilsRegistro>(),    UnidadeDe<GOryUtilsFiles>(),
+    UnidadeDe<GOryUtilsValidacoes>(), UnidadeDe<GOryUtilsFormatacoes>(), UnidadeDe<GOryUtilsControls>(),
+    UnidadeDe<GOryUtilsClasses>(),    UnidadeDe<GOryUtilsDialogs>(),     TUnidade{IniciarInterface, FinalizarInterface},
 };
 
 // Not constinit: the mutex of mingw-w64 has no constant initializer.

@@ -8,6 +8,12 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+#include <regex>
+#include <string>
+#include <vector>
+
 namespace {
 
 using OryUtils::Interno::EstahCarregada;
@@ -25,7 +31,7 @@ int Contar(const TBibliotecaDinamica& ABiblioteca) {
     return contador ? contador() : -1;
 }
 
-TEST(Carga, PrimeiraCargaIniciaUltimaDescargaFinaliza) {
+TEST(Carga, CargasEIniciosSaoContados) {
     ASSERT_FALSE(EstahCarregada(CArquivo));
     {
         const TBibliotecaDinamica primeira(CArquivo);
@@ -37,28 +43,19 @@ TEST(Carga, PrimeiraCargaIniciaUltimaDescargaFinaliza) {
             EXPECT_EQ(Contar(segunda), 1) << "a second load of the same file is not a second start";
         }
         EXPECT_TRUE(EstahCarregada(CArquivo)) << "the first load still holds it";
+        auto* iniciar = primeira.Buscar<void()>(CIniciar);
+        auto* finalizar = primeira.Buscar<void()>(CFinalizar);
+        ASSERT_TRUE(iniciar && finalizar);
+        iniciar();
+        EXPECT_EQ(Contar(primeira), 2) << "starts nest";
+        for (const int esperado : {1, 0, 0}) {
+            finalizar();
+            EXPECT_EQ(Contar(primeira), esperado) << "one stop too many does nothing";
+        }
+        iniciar();
         EXPECT_EQ(Contar(primeira), 1);
     }
-    EXPECT_FALSE(EstahCarregada(CArquivo));
-}
-
-TEST(Carga, InicioManualAninhaSobreACarga) {
-    const TBibliotecaDinamica biblioteca(CArquivo);
-    ASSERT_TRUE(biblioteca);
-    auto* iniciar = biblioteca.Buscar<void()>(CIniciar);
-    auto* finalizar = biblioteca.Buscar<void()>(CFinalizar);
-    ASSERT_TRUE(iniciar && finalizar);
-    iniciar();
-    iniciar();
-    EXPECT_EQ(Contar(biblioteca), 3);
-    finalizar();
-    finalizar();
-    finalizar();
-    EXPECT_EQ(Contar(biblioteca), 0);
-    finalizar();
-    EXPECT_EQ(Contar(biblioteca), 0) << "one stop too many does nothing";
-    iniciar();
-    EXPECT_EQ(Contar(biblioteca), 1);
+    EXPECT_FALSE(EstahCarregada(CArquivo)) << "the last one unloads";
 }
 
 TEST(Carga, ArquivoQueFaltaNaoEhErroFatal) {
@@ -67,16 +64,45 @@ TEST(Carga, ArquivoQueFaltaNaoEhErroFatal) {
     EXPECT_EQ(falta.Buscar<void()>(CIniciar), nullptr);
 }
 
+/// The names of all global instances, read from the headers that declare them.
+std::vector<std::string> ListarInstancias() {
+    const std::regex declaracao(R"(^extern ORY_API TInstanciaGlobal<\w+> (\w+);)");
+    std::vector<std::string> nomes;
+    for (const auto& item : std::filesystem::recursive_directory_iterator(ORY_PASTA_DO_PROJETO "/oryutils")) {
+        if (item.path().extension() != ".hpp") continue;
+        std::ifstream cabecalho(item.path());
+        std::smatch achado;
+        for (std::string linha; std::getline(cabecalho, linha);)
+            if (std::regex_search(linha, achado, declaracao)) nomes.push_back(achado[1]);
+    }
+    return nomes;
+}
+
+// GOryUtilsFiles was declared and defined, and nobody created it.
+TEST(Unidades, CadaInstanciaDeclaradaViveEntreInicioEFim) {
+    const TBibliotecaDinamica biblioteca(CArquivo);
+    ASSERT_TRUE(biblioteca);
+    // An instance is a pointer to the object.
+    static_assert(sizeof(OryUtils::GOryUtilsStrings) == sizeof(void*));
+    const auto nomes = ListarInstancias();
+    ASSERT_GE(nomes.size(), 11U);
+    for (const std::string& nome : nomes) {
+        void* const* instancia =
+            biblioteca.Buscar<void*>(("_ZN8OryUtils" + std::to_string(nome.size()) + nome + "E").c_str());
+        ASSERT_TRUE(instancia) << nome;
+        EXPECT_TRUE(*instancia) << nome << " is in a header, and not in the table of units";
+        biblioteca.Buscar<void()>(CFinalizar)();
+        EXPECT_FALSE(*instancia) << nome;
+        biblioteca.Buscar<void()>(CIniciar)();
+    }
+}
+
 // Linked statically, the same units start before main.
-TEST(Unidades, InstanciasGlobaisVivemEntreInicioEFim) {
+TEST(Unidades, InstanciaDoHospedeiroFica) {
     ASSERT_GE(OryUtils::BuscarContadorInicioOryUtils(), 1) << "the static link pulls the entry in";
-    ASSERT_TRUE(OryUtils::GOryUtilsStrings);
     ASSERT_TRUE(OryUtils::GOryUtilsDialogs);
     OryUtils::FinalizarOryUtils();
     EXPECT_FALSE(OryUtils::GOryUtilsStrings);
-    EXPECT_FALSE(OryUtils::GOryUtilsDialogs);
-
-    // An instance that the host put there before the start is kept.
     auto propria = std::make_unique<OryUtils::TOryUtilsStrings>();
     const auto* endereco = propria.get();
     OryUtils::GOryUtilsStrings.Assumir(std::move(propria));
