@@ -2,6 +2,7 @@
 
 #include "oryutils/OryExport.hpp"
 #include "oryutils/fields/CamposTipos.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/Objeto.hpp"
 #include "oryutils/runtime/Variante.hpp"
 

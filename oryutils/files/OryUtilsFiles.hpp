@@ -2,6 +2,7 @@
 
 #include "oryutils/OryExport.hpp"
 #include "oryutils/runtime/DataHora.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/Instancia.hpp"
 
 #include <cstdint>

@@ -4,6 +4,7 @@
 #include "oryutils/files/UnOryUtilsArquivoLogEventos.hpp"
 #include "oryutils/files/UnOryUtilsArquivoLogTypes.hpp"
 #include "oryutils/runtime/DataHora.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/Formatos.hpp"
 #include "oryutils/runtime/Objeto.hpp"
 

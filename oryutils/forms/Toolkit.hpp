@@ -2,6 +2,7 @@
 
 #include "oryutils/OryExport.hpp"
 #include "oryutils/forms/Formulario.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
 
 #include <cstdint>
 #include <functional>

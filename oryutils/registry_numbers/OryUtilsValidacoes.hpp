@@ -5,6 +5,7 @@
 #include "oryutils/registry_numbers/UnOryUtilsValidacoesTypes.hpp"
 #include "oryutils/runtime/Controle.hpp"
 #include "oryutils/runtime/DataHora.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/Instancia.hpp"
 #include "oryutils/runtime/Variante.hpp"
 #include "oryutils/types/OryTypesSistema.hpp"

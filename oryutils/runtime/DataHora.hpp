@@ -2,6 +2,7 @@
 
 #include "oryutils/OryExport.hpp"
 #include "oryutils/platform/Relogio.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
 
 #include <cstdint>
 #include <optional>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "oryutils/OryExport.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/Formatos.hpp"
 
 #include <cstdint>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "oryutils/OryExport.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/Instancia.hpp"
 #include "oryutils/runtime/Variante.hpp"
 #include "oryutils/system/UnOryUtilsSystemDadosProcesso.hpp"

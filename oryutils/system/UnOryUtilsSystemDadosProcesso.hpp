@@ -2,6 +2,7 @@
 
 #include "oryutils/OryExport.hpp"
 #include "oryutils/platform/AlcaDeProcesso.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/ListaDeObjetos.hpp"
 
 #include <cstdint>

@@ -2,6 +2,7 @@
 
 #include "oryutils/OryExport.hpp"
 #include "oryutils/characters/Caracteres.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/Instancia.hpp"
 #include "oryutils/types/OryTypesSistema.hpp"
 

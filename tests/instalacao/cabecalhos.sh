@@ -22,6 +22,14 @@ lista() {
     find . -name '*.hpp' | sed 's|^\./||; s|^oryutils-qt/||' | if [ "$ORY_SISTEMA" = windows ]; then grep win32/; else cat; fi
 }
 lista | xargs -P 2 -I{} bash -c 'sozinho {}'
+# Whoever includes a header alone may catch what its operations raise.
+apanha() {
+    printf '#include "%s"\nvoid F();\nvoid F() { try { F(); } catch (const OryUtils::Exception&) {} }\n' "$1" |
+        $cxx $opcoes -x c++ - || { echo "FAILED: $1 tells what is raised and does not bring Exception" >&2; return 1; }
+}
+export -f apanha
+lista | xargs grep -lE '\b([Rr]aises?|E[A-Z][A-Za-z]*(Error|Exception))\b' | grep -v '^oryutils/types/' |
+    xargs -P 2 -I{} bash -c 'apanha {}'
 # All of them together.
 find . -name '*.hpp' | sed 's|^\./||; s|^oryutils-qt/||; s|.*|#include "&"|' | $cxx $opcoes -x c++ -
 for padrao in c89 c99 c17; do
