@@ -25,7 +25,7 @@ TEventoNotificacao TConverteMetodoEvento::ConverterParaEvento(const TComponente*
 }
 
 void TConverteMetodoEvento::LimparListaEventos() {
-    // Out of the list first: what a closure held may come back here when it goes.
+    // The list is emptied first: the end of an object that a closure held may call this or ConverterParaEvento.
     const auto antigos = std::exchange(FListaEventos, {});
 }
 

@@ -13,8 +13,8 @@ namespace OryUtils {
 /// A counted closure that takes the sender.
 using TAcaoEvento = TMetodoAnonimo<TObjeto* /*ASender*/>;
 
-/// Turns closures into events, for whoever expects a method bound to an object, and keeps alive what the events are
-/// bound to. As a component it may have an owner, which frees it.
+/// Turns closures into events. An event is a method bound to an object; for each closure the converter makes such an
+/// object and owns it. As a component the converter may have an owner, which frees it.
 /// Example:
 ///   TFormulario formulario;
 ///   auto& conversor = TConverteMetodoEvento::Create(formulario);
@@ -33,20 +33,19 @@ public:
         TAcaoEvento FEvento{};
     };
 
-    /// Without an owner: it belongs to whoever made it.
+    /// A converter without an owner: its maker frees it.
     TConverteMetodoEvento() = default;
-    /// One that AOwner frees.
+    /// A converter that AOwner frees.
     static TConverteMetodoEvento& Create(TComponente& AOwner) { return AOwner.Criar<TConverteMetodoEvento>(); }
     ~TConverteMetodoEvento() override;
 
     /// An event that calls AAcao, valid until LimparListaEventos or the end of this object. Each call makes an event of
     /// its own: two for the same closure are not equal. An empty closure makes an event that does nothing.
-    /// AComponente  not used; callers name the component that the event is for.
+    /// AComponente  the component that the event is for; not used.
     TEventoNotificacao ConverterParaEvento(const TComponente* AComponente, TAcaoEvento AAcao);
 
-    /// Frees the objects behind all events, and with them their closures. An event handed out before must not fire
-    /// any more: unhook it first (OnClick = {}). An event may call this while it fires; it is the last time that it
-    /// may.
+    /// Frees the objects behind all events, and their closures. Unhook events handed out before (OnClick = {}): they
+    /// must not fire any more. An event may call this while it fires, if it does not fire again.
     void LimparListaEventos();
 
 private:

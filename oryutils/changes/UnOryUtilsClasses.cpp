@@ -6,6 +6,4 @@ TInstanciaGlobal<TOryUtilsClasses> GOryUtilsClasses;
 
 bool TOryUtilsClasses::ComparouMetodos(const TMetodo& A, const TMetodo& B) noexcept { return A == B; }
 
-bool ComparouMetodos(const TMetodo& A, const TMetodo& B) noexcept { return TOryUtilsClasses::ComparouMetodos(A, B); }
-
 }  // namespace OryUtils

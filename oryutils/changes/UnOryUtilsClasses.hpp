@@ -19,6 +19,8 @@ public:
 extern ORY_API TInstanciaGlobal<TOryUtilsClasses> GOryUtilsClasses;
 
 /// TOryUtilsClasses::ComparouMetodos.
-ORY_API bool ComparouMetodos(const TMetodo& A, const TMetodo& B) noexcept;
+inline bool ComparouMetodos(const TMetodo& A, const TMetodo& B) noexcept {
+    return TOryUtilsClasses::ComparouMetodos(A, B);
+}
 
 }  // namespace OryUtils

@@ -21,7 +21,7 @@ void TOryUtilsControleAlteracoes::Adicionar(std::u16string_view AVersao, TMetodo
 }
 
 void TOryUtilsControleAlteracoes::Executar() {
-    // By position: a step may append to the list, which then moves.
+    // By position, since a step may append to the list, and the list then moves in memory.
     for (std::size_t i = 0; i < FListaControle.size(); ++i) {
         const TDadosControleAlteracaoIOP& dados = *FListaControle[i];
         if (BuscarVersaoAtualAlteracao() >= dados.Versao) return ValidarStatusExecucao(CNadaMais);

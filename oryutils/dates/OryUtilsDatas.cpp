@@ -36,7 +36,7 @@ int BuscarPrimeiroMes(TDateTime AData, int AMesesDoPeriodo) {
     return periodo == 0 ? 0 : (periodo - 1) * AMesesDoPeriodo + 1;
 }
 
-// A value without a date raises here, since there is no day 0 to be had.
+// Raises EConvertError for month 0, which stands for a value without a date and has no days.
 TDateTime BuscarFimDoMes(int AAno, int AMes) { return CodificarData(AAno, AMes, BuscarDiasNoMes(AAno, AMes)); }
 
 TDateTime BuscarFimDoPeriodo(TDateTime AData, int AMesesDoPeriodo) {
@@ -70,7 +70,7 @@ std::u16string Capitalizar(std::u16string_view ATexto) {
     return resultado;
 }
 
-// Empty but for punctuation.
+// True when ATexto holds nothing but punctuation and blanks.
 bool EstahSemConteudo(std::u16string_view ATexto) { return TOryUtilsStrings::LimparTexto(ATexto).empty(); }
 
 // The number in AQuantidade characters from the 1-based position AInicio on; fewer when the text ends before.
@@ -193,7 +193,7 @@ int TOryUtilsDatas::ConverterMinutosParaMilisegundos(int AMinutos) {
 
 std::u16string TOryUtilsDatas::ConverterMilisegundosParaTempo(int AMilisegundos, bool ARetornarUnidade) {
     std::u16string tempo = FormatarDataHora(u"tt", AMilisegundos / 86400000.0);
-    // The unit is told by the text, so by what the long time format shows.
+    // The unit follows from the text: a long time format without seconds never says "segundo(s)".
     if (ARetornarUnidade && !Aparar(tempo).empty()) tempo += BuscarUnidade(DecodificarHora(TextoParaHora(tempo)));
     return tempo;
 }

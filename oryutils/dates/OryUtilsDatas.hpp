@@ -167,7 +167,7 @@ inline std::u16string GetDataFormatada(TDateTime AData, TTipoFormatacaoData ATip
 /// but the date is dropped: the result is always 0. Callers of old depend on it; use the class operation.
 ORY_API TDateTime ConverterOrientacaoData(std::u16string_view AData, TTipoOrientadaData ATipoOrientacao);
 /// NEVER call it: it calls itself without end until the stack is exhausted and the process dies. It stays because its
-/// name is part of the interface; use TOryUtilsDatas::BuscarDataFinalDoTrimestre.
+/// name is part of the interface. Use TOryUtilsDatas::BuscarDataFinalDoTrimestre instead.
 ORY_API TDateTime BuscarDataFinalDoTrimestre(TDateTime AData);
 
 }  // namespace OryUtils

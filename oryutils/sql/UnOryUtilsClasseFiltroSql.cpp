@@ -123,7 +123,7 @@ void TOryUtilsFiltroSql::Assign(const TListaDeObjetos& ASource) {
     const auto* origem = dynamic_cast<const TOryUtilsFiltroSql*>(&ASource);
     if (!origem) return;
 
-    // ASource may be below this node: the present children live until everything is copied.
+    // ASource may be one of the present children, so they are freed only after everything is copied.
     TOryUtilsFiltroSql antigos(FOperador);
     antigos.FItens = std::exchange(FItens, {});
     struct TPasso {

@@ -45,10 +45,10 @@ enum TCondicaoFiltro : std::uint8_t {
 ///   filial.SetTabela(u"f"), filial.SetCampo(u"filial"), filial.SetCondicao(cfIgual), filial.SetValor(3);
 ///   sql += filtro.BuscarSQLWhere();  // " WHERE ( ( F.NOME STARTING WITH 'Ana' ) AND ( F.FILIAL = 3 ) )"
 ///
-/// What it protects: a quoted value (QuoteStr, and always in cfIniciaCom, cfTerminaCom and cfContem) cannot leave its
-/// quotes, whatever it holds. What it does not: Tabela, Campo and a Valor without QuoteStr go into the statement as
-/// they stand, so they must come from the program, never from its user; and in cfTerminaCom and cfContem a "%" or "_"
-/// inside the value is still a wildcard of LIKE.
+/// A quoted value (QuoteStr, and always in cfIniciaCom, cfTerminaCom and cfContem) cannot leave its quotes, whatever it
+/// holds. Tabela, Campo and a Valor without QuoteStr go into the statement as they stand, so they must come from the
+/// program, never from its user. In cfTerminaCom and cfContem a "%" or "_" inside the value is still a wildcard of
+/// LIKE.
 class ORY_API TOryUtilsFiltroSql : public TListaDeObjetos {
 public:
     /// An empty node: no condition, Valor unassigned. AOperador joins the children that it may get.
@@ -59,20 +59,20 @@ public:
     /// group: its Tabela and Campo become empty, its Condicao cfNenhum, its Valor unassigned. AOperador is how the
     /// child joins its own children.
     TOryUtilsFiltroSql& Add(TOperadorFiltro AOperador);
-    /// The child of that number, from 0. Raises EListError when there is none.
+    /// The child number AIndice, counted from 0. Raises EListError when there is none.
     TOryUtilsFiltroSql& GetItem(int AIndice) const {
         // Only Add and SetItem fill the list.
         return static_cast<TOryUtilsFiltroSql&>(*FItens[ConferirIndice(AIndice)]);
     }
-    /// Puts AValor in the place of that child, which is freed. Raises EListError when there is none, and when AValor
-    /// is null.
+    /// Frees the child number AIndice and puts AValor in its place. Raises EListError when there is no such child, and
+    /// when AValor is null.
     void SetItem(int AIndice, std::unique_ptr<TOryUtilsFiltroSql> AValor);
     /// Frees the children.
     void Clear() override;
 
-    /// Copies the conditions of ASource in place of the present children, and not its groups: each group met on the
-    /// way drops what was copied before it and only gives its conditions. From ((a, b), c, (d, e), f) come d, e, f.
-    /// A list of another kind is ignored. The null tests are copied with UsarUpperCase false, as they answer it.
+    /// Frees the present children and copies the conditions of ASource, in their order and without the groups around
+    /// them. A group drops everything that was copied before it: from ((a, b), c, (d, e), f) come d, e, f. A source
+    /// that is no TOryUtilsFiltroSql is ignored. Null tests are copied with UsarUpperCase false, as they answer it.
     void Assign(const TListaDeObjetos& ASource);
 
     const std::u16string& GetCampo() const noexcept { return FCampo; }
@@ -81,16 +81,16 @@ public:
     void SetCondicao(TCondicaoFiltro AValor) noexcept { FCondicao = AValor; }
     TOperadorFiltro GetOperador() const noexcept { return FOperador; }
     void SetOperador(TOperadorFiltro AValor) noexcept { FOperador = AValor; }
-    /// A free slot for the caller: neither owned nor used here.
+    /// A node of the caller's choice. The filter neither frees nor reads it.
     TOryUtilsFiltroSql* GetOwner() const noexcept { return FOwner; }
     void SetOwner(TOryUtilsFiltroSql* AValor) noexcept { FOwner = AValor; }
-    /// The value is text: it goes in quotes.
+    /// Whether the value is written between apostrophes, as a text.
     bool GetQuoteStr() const noexcept { return FQuoteStr; }
     void SetQuoteStr(bool AValor) noexcept { FQuoteStr = AValor; }
     /// The alias of the table.
     const std::u16string& GetTabela() const noexcept { return FTabela; }
     void SetTabela(std::u16string_view AValor) { FTabela = AValor; }
-    /// Upper and lower case are the same; false for cfIsNull and cfIsNotNull, whatever was set.
+    /// Whether the comparison ignores case, by UPPER. Always false for cfIsNull and cfIsNotNull.
     bool GetUsarUpperCase() const noexcept {
         return FUsarUpperCase && FCondicao != cfIsNull && FCondicao != cfIsNotNull;
     }
@@ -105,15 +105,16 @@ public:
     /// " AND " or " OR ".
     std::u16string BuscarOperadorStr() const;
 
-    /// The text of the condition, "( F.NOME = 'Ana' )" or, of a group, "( ( F.A = 1 ) AND ( F.B = 2 ) )". What names
-    /// no table, column or condition, and what is on a table that ATabelas does not list (case ignored; an empty list
-    /// lists all), is left out together with the word that joins it; empty when nothing is left.
+    /// The text of the condition, "( F.NOME = 'Ana' )" or, of a group, "( ( F.A = 1 ) AND ( F.B = 2 ) )".
+    /// A condition without a table, a column or a kind is left out. So is a condition on a table that ATabelas does not
+    /// list; case is ignored, and an empty list allows every table. The word that joins a condition goes with it. The
+    /// text is empty when no condition is left.
     ///
     /// cfIniciaCom compares with the value as given, also where UsarUpperCase turns the column to upper case. cfIn and
     /// cfNotIn count elements in 8 bits: an array of N gives its first ((N - 1) mod 256) + 1, so 300 give 44. cfBetween
     /// takes one value as both limits.
     /// Raises Exception "Erro na geração do SQL com cláusula IN ou NOT IN." for an array that is empty or holds an
-    /// array, "Número de parâmetros incorreto para a pesquisa com BETWEEN." for one of other than two elements, and
+    /// array, "Número de parâmetros incorreto para a pesquisa com BETWEEN." for an array of any size but two, and
     /// EVariantTypeCastError for an array in other conditions. cfTerminaCom and cfContem search u"%" + Valor, which
     /// raises EVariantTypeCastError unless Valor is a text, null (which makes the whole text empty) or unassigned.
     std::u16string BuscarSQL(const std::vector<std::u16string>& ATabelas) const;

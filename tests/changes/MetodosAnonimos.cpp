@@ -3,9 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
-#include <random>
-
 namespace OryUtils {
 namespace {
 
@@ -161,63 +158,25 @@ TEST(Componente, DonoLiberaOsSeusDoMaisNovoAoMaisVelho) {
     EXPECT_EQ(fim, (std::vector<int>{1, 11, 3, 2}));
 }
 
-// Trees that grow, lose branches and are cleared at random; events are fired only while their converter lives.
-TEST(ConverteMetodoEvento, VaiComADonaEmQualquerOrdem) {
-    const auto semente = std::random_device{}();
-    SCOPED_TRACE("seed " + std::to_string(semente));
-    std::mt19937 gerador(semente);
-    for (int rodada = 0; rodada < 100; ++rodada) {
-        const auto vivos = std::make_shared<int>(0);  // its count tells how many closures live
-        struct TDado {
-            std::map<TComponente*, std::vector<TEventoNotificacao>> Eventos{};
-        } dado;
-        /// Tells when it goes, so that nobody uses its events any more.
-        struct TVigiado : TConverteMetodoEvento {
-            explicit TVigiado(TDado& ADado) : Dado(ADado) { Dado.Eventos[this]; }
-            ~TVigiado() override { Dado.Eventos.erase(this); }
-            TDado& Dado;
-        };
-        auto raiz = std::make_unique<TVigiado>(dado);
-        const auto sortear = [&] {
-            auto posicao = dado.Eventos.begin();
-            std::advance(posicao, static_cast<long>(gerador() % dado.Eventos.size()));
-            return static_cast<TVigiado*>(posicao->first);
-        };
-        std::size_t chamados = 0, esperados = 0;
-        for (int passo = 0; passo < 200; ++passo) {
-            TVigiado* const alvo = sortear();
-            switch (gerador() % 8) {
-                case 0:
-                case 1:
-                    alvo->Criar<TVigiado>(dado);
-                    break;
-                case 2:
-                    if (alvo != raiz.get()) alvo->GetOwner()->Retirar(*alvo);
-                    break;
-                case 3:
-                    alvo->LimparListaEventos();
-                    dado.Eventos[alvo].clear();
-                    break;
-                case 4:
-                    for (const auto& [componente, eventos] : dado.Eventos)
-                        for (const auto& evento : eventos) {
-                            evento(componente);
-                            ++esperados;
-                        }
-                    break;
-                default:
-                    dado.Eventos[alvo].push_back(alvo->ConverterParaEvento(
-                        nullptr, [vivos, alvo, &chamados](TObjeto* ASender) { chamados += ASender == alvo; }));
-            }
-            std::size_t guardados = 0;
-            for (const auto& [componente, eventos] : dado.Eventos) guardados += eventos.size();
-            ASSERT_EQ(static_cast<std::size_t>(vivos.use_count()), guardados + 1);
+// An owner takes its converters with it, and they their closures; one that is taken out lives on.
+TEST(ConverteMetodoEvento, VaiComADona) {
+    const auto capturado = std::make_shared<int>(0);
+    std::unique_ptr<TComponente> retirado;
+    TEventoNotificacao evento;
+    {
+        TComponente dono;
+        for (int i = 0; i < 3; ++i) {
+            auto& conversor = TConverteMetodoEvento::Create(dono);
+            evento = conversor.ConverterParaEvento(&dono, [capturado](TObjeto*) { ++*capturado; });
         }
-        EXPECT_EQ(chamados, esperados);
-        raiz.reset();
-        EXPECT_TRUE(dado.Eventos.empty());
-        EXPECT_EQ(vivos.use_count(), 1);
+        EXPECT_EQ(capturado.use_count(), 4);
+        retirado = dono.Retirar(dono.GetComponent(2));
     }
+    EXPECT_EQ(capturado.use_count(), 2);
+    evento(nullptr);
+    EXPECT_EQ(*capturado, 1);
+    retirado.reset();
+    EXPECT_EQ(capturado.use_count(), 1);
 }
 
 }  // namespace

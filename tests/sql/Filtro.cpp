@@ -236,32 +236,23 @@ TEST(FiltroSql, CopiaAchata) {
     EXPECT_EQ(origem.GetCount(), 0) << "from itself: cleared first";
 }
 
-TEST(FiltroSql, TrocaDeItens) {
-    TFiltro raiz(ofAnd);
-    Preencher(raiz.Add(ofAnd), {u"a", cfIgual, 1});
-    auto novo = std::make_unique<TFiltro>(ofAnd);
-    Preencher(*novo, {u"b", cfIgual, 2});
-    raiz.SetItem(0, std::move(novo));
-    EXPECT_EQ(raiz.BuscarSQL(), u"( ( F.B = 2 ) )");
-    EXPECT_THROW(raiz.SetItem(0, nullptr), EListError);
-    EXPECT_THROW(raiz.GetItem(1), EListError);
-    EXPECT_THROW(raiz.GetItem(-1), EListError);
-    raiz.Clear();
-    EXPECT_EQ(raiz.GetCount(), 0);
-}
-
 // A node was once made in memory of the library's own, which knew no other form of new.
-TEST(FiltroSql, NosSaoObjetosComoOutros) {
-    const std::unique_ptr<TFiltro> no(new (std::nothrow) TFiltro(ofAnd));
-    ASSERT_TRUE(no);
+TEST(FiltroSql, NosSaoObjetosQueSeTrocam) {
     struct TMaior : TFiltro {
         using TFiltro::TFiltro;
         std::u16string Anotacao = u"um texto do programa que não cabe no próprio objeto";
     };
-    no->Add(ofAnd);
-    no->SetItem(0, std::make_unique<TMaior>(ofOr));
-    Preencher(no->GetItem(0).Add(ofAnd), {u"a", cfIgual, 1});
-    EXPECT_EQ(no->BuscarSQL(), u"( ( ( F.A = 1 ) ) )");
+    const std::unique_ptr<TFiltro> raiz(new (std::nothrow) TFiltro(ofAnd));
+    ASSERT_TRUE(raiz);
+    Preencher(raiz->Add(ofAnd), {u"a", cfIgual, 1});
+    raiz->SetItem(0, std::make_unique<TMaior>(ofOr));
+    Preencher(raiz->GetItem(0).Add(ofAnd), {u"b", cfIgual, 2});
+    EXPECT_EQ(raiz->BuscarSQL(), u"( ( ( F.B = 2 ) ) )");
+    EXPECT_THROW(raiz->SetItem(0, nullptr), EListError);
+    EXPECT_THROW(raiz->GetItem(1), EListError);
+    EXPECT_THROW(raiz->GetItem(-1), EListError);
+    raiz->Clear();
+    EXPECT_EQ(raiz->GetCount(), 0);
 }
 
 // Any recursion over the depth would exhaust the stack here.

@@ -70,24 +70,24 @@ inline bool AtendeFolha(const TOryUtilsFiltroSql& AFolha, const std::vector<TCol
         return (diferenca > 0) - (diferenca < 0);
     };
     const Variant& valor = AFolha.GetValor();
-    const auto comparar_escalar = [&] {
+    const auto compararEscalar = [&] {
         return comparar(maiusculas ? Variant(MaiusculaDe(VarianteParaTexto(valor))) : valor);
     };
     const std::vector<Variant> um{valor};
     const auto& itens = valor.GetItens() ? *valor.GetItens() : um;
     switch (condicao) {
         case cfIgual:
-            return comparar_escalar() == 0;
+            return compararEscalar() == 0;
         case cfDiferente:
-            return comparar_escalar() != 0;
+            return compararEscalar() != 0;
         case cfMaior:
-            return comparar_escalar() > 0;
+            return compararEscalar() > 0;
         case cfMaiorIgual:
-            return comparar_escalar() >= 0;
+            return compararEscalar() >= 0;
         case cfMenor:
-            return comparar_escalar() < 0;
+            return compararEscalar() < 0;
         case cfMenorIgual:
-            return comparar_escalar() <= 0;
+            return compararEscalar() <= 0;
         case cfIn:
         case cfNotIn:
             return std::any_of(itens.begin(), itens.end(), [&](const Variant& A) { return comparar(A) == 0; }) ==

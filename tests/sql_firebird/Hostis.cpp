@@ -64,9 +64,9 @@ TEST(ValoresHostis, TrazemAsSuasLinhasENadaMais) {
         std::vector<TLinha> esperadas;
         for (std::size_t k = 0; k < std::size(CCondicoes); ++k) {
             TOryUtilsFiltroSql filtro(ofAnd);
-            TOryUtilsFiltroSql& do_lote = filtro.Add(ofAnd);
-            do_lote.SetTabela(u"h"), do_lote.SetCampo(u"lote"), do_lote.SetCondicao(cfIgual);
-            do_lote.SetValor(static_cast<std::int64_t>(lote));
+            TOryUtilsFiltroSql& doLote = filtro.Add(ofAnd);
+            doLote.SetTabela(u"h"), doLote.SetCampo(u"lote"), doLote.SetCondicao(cfIgual);
+            doLote.SetValor(static_cast<std::int64_t>(lote));
             TOryUtilsFiltroSql& condicao = filtro.Add(ofAnd);
             condicao.SetTabela(u"h"), condicao.SetCampo(u"valor"), condicao.SetCondicao(CCondicoes[k]);
             condicao.SetQuoteStr(true);

@@ -77,59 +77,48 @@ TEST_F(TesteDialogos, FormularioPadrao) {
 
 // The options layout, step by step on the form before it.
 TEST_F(TesteDialogos, OpcoesPeloAlgoritmo) {
-    struct TCaso {
+    const struct {
         std::vector<std::u16string> Opcoes;
-        int Padrao, Indice;
+        int Padrao, Indice, LarguraGrupo;
         const char* Porque;
+    } casos[] = {
+        {{}, 0, -1, 150, "no options: the form still grows by 100"},
+        {{u"Uma"}, 5, -1, 162, "default outside the list"},
+        {{u"Uma", std::u16string(30, u'o'), u"Outra"}, 2, 2, 270, "30 characters make 270 pixels"},
+        {std::vector<std::u16string>(12, std::u16string(120, u'z')), -1, -1, 630, "wider than the buttons"},
     };
-    const TCaso casos[] = {
-        {{}, 0, -1, "no options: the form still grows by 100"},
-        {{u"Uma"}, 5, -1, "default outside the list"},
-        {{u"Uma", std::u16string(30, u'o'), u"Outra"}, 2, 2, "30 characters make 270 pixels"},
-        {std::vector<std::u16string>(12, std::u16string(120, u'z')), -1, -1, "wider than the buttons"},
-    };
-    for (const TCaso& caso : casos) {
+    for (const auto& caso : casos) {
+        SCOPED_TRACE(caso.Porque);
         const auto base =
             OryMsg::GetConfirmationCustomForm(u"Qual?", mtConfirmation, CTresBotoes, mrNo, u"T", CTresCaptions);
-        const auto antes = base->GetBotoes();
-        std::size_t maior = 0;
-        for (const auto& opcao : caso.Opcoes) maior = std::max(maior, opcao.size());
+        const int topo = base->GetBotoes()[0]->GetTop();
         const int altura = 40 + 20 * static_cast<int>(caso.Opcoes.size());
-        const int largura = static_cast<int>(maior) * 4 + 150;
-        const int larguras[] = {75, 169, 75};
-
         Toolkit.Roteiro.push_back([&](TFormulario& AFormulario) {
             const auto* grupo = dynamic_cast<TGrupoOpcoes*>(AFormulario.BuscarControle(u"Opcoes"));
             ASSERT_TRUE(grupo);
             EXPECT_EQ(grupo->GetTexto(), u"Opções: ");
             EXPECT_TRUE(grupo->GetQuebraLinha());
             EXPECT_EQ(grupo->GetItens(), caso.Opcoes);
-            EXPECT_EQ(grupo->GetRetangulo(), (TRetangulo{52, antes[0]->GetTop(), largura, altura})) << caso.Porque;
-            int esquerda = 52;
-            for (std::size_t k = 0; k < 3; ++k) {
-                const TRetangulo esperado{esquerda, antes[k]->GetTop() + altura + 15, larguras[k], 23};
-                EXPECT_EQ(AFormulario.GetBotoes()[k]->GetRetangulo(), esperado) << caso.Porque << k;
-                esquerda += larguras[k] + 3;
-            }
+            EXPECT_EQ(grupo->GetRetangulo(), (TRetangulo{52, topo, caso.LarguraGrupo, altura}));
+            const auto botoes = AFormulario.GetBotoes();
+            const int abaixo = topo + altura + 15;
+            EXPECT_EQ(botoes[0]->GetRetangulo(), (TRetangulo{52, abaixo, 75, 23}));
+            EXPECT_EQ(botoes[1]->GetRetangulo(), (TRetangulo{130, abaixo, 169, 23}));
+            EXPECT_EQ(botoes[2]->GetRetangulo(), (TRetangulo{302, abaixo, 75, 23}));
             EXPECT_EQ(AFormulario.GetAlturaCliente(), base->GetAlturaCliente() + std::max(altura + 15, 100));
-            EXPECT_EQ(AFormulario.GetLarguraCliente(),
-                      std::max(base->GetLarguraCliente(), std::max(319, largura) + 100));
+            EXPECT_EQ(AFormulario.GetLarguraCliente(), std::max(319, caso.LarguraGrupo) + 100);
             ConferirEncaixe(AFormulario);
-            EXPECT_EQ(AFormulario.GetControleAtivo(), AFormulario.GetBotoes()[1]) << "the focus stays on the default";
-            AFormulario.GetBotoes()[0]->Clicar();
+            EXPECT_EQ(AFormulario.GetControleAtivo(), botoes[1]) << "the focus stays on the default";
+            botoes[0]->Clicar();
         });
         Toolkit.MensagensProcessadas = 0;
         TOryUtilsDialogsFormCustomizadoComOpcoesIOP parametros;
-        parametros.Assign(TOryUtilsDialogsFormCustomizadoBaseIOP{.Titulo = u"T",
-                                                                 .BotaoPadrao = mrNo,
-                                                                 .TipoDialogo = mtConfirmation,
-                                                                 .Mensagem = u"Qual?",
-                                                                 .Botoes = CTresBotoes,
-                                                                 .CaptionBotoes = CTresCaptions});
+        parametros.Assign(
+            TOryUtilsDialogsFormCustomizadoBaseIOP{u"T", mrNo, mtConfirmation, u"Qual?", CTresBotoes, CTresCaptions});
         parametros.OpcaoPadrao = caso.Padrao;
         parametros.OpcoesMensagem = caso.Opcoes;
         const auto retorno = Dialogos.ConfirmacaoCustomizadaComOpcoes(parametros);
-        EXPECT_EQ(retorno->IndiceOpcao, caso.Indice) << caso.Porque;
+        EXPECT_EQ(retorno->IndiceOpcao, caso.Indice);
         EXPECT_EQ(retorno->RetornoMensagem, mrYes);
         EXPECT_GE(Toolkit.MensagensProcessadas, static_cast<int>(caso.Opcoes.size()) + 3);
     }

@@ -21,39 +21,35 @@ TOryUtilsDialogsFormCustomizadoIOP MontarTemporizada(int AMilissegundos) {
 
 TEST_F(TesteDialogos, MensagemQueSeFecha) {
     const auto parametros = MontarTemporizada(150000);
-    Toolkit.Roteiro.push_back([&](TFormulario& AFormulario) {
-        EXPECT_EQ(BuscarTexto(AFormulario, u"Message"),
-                  u"Encerrar o sistema?\r\n\r\nObservação: \r\nEsta mensagem será fechada automaticamente em 00:02:30 "
-                  u"minuto(s) caso não haja intervenção.");
-        ASSERT_EQ(Toolkit.Temporizadores.size(), 1U);
-        EXPECT_EQ(Toolkit.Temporizadores.begin()->second.first, 150000);
-        EXPECT_TRUE(Dialogos.GetTemporizadorLigado());
-        EXPECT_EQ(Dialogos.GetConfiguracao(), parametros);
-        Toolkit.VencerTempo();
-        EXPECT_FALSE(Dialogos.GetTemporizadorLigado()) << "off from the first tick on";
-    });
-    EXPECT_EQ(Dialogos.ConfirmacaoCustomizada(parametros), mrCancel);
-    EXPECT_EQ(Dialogos.GetFormularioAtual(), nullptr);
-}
-
-TEST_F(TesteDialogos, TemporizadorLigadoSoEnquantoMostra) {
-    const auto parametros = MontarTemporizada(5000);
     const auto formulario = Dialogos.BuscarFormularioConfirmacaoCustomizado(parametros);
     EXPECT_TRUE(Toolkit.Temporizadores.empty()) << "built, not shown";
-    const std::vector<TToolkitRoteirizado::TPasso> fins{
-        [](TFormulario& AFormulario) { BuscarBotao(AFormulario, u"&Sim").Clicar(); },
-        [](TFormulario&) { throw std::runtime_error("event of the host"); },
-        [](TFormulario& AFormulario) { AFormulario.Fechar(); },
+    const std::pair<TToolkitRoteirizado::TPasso, int> fins[] = {
+        {[this](TFormulario&) {
+             Toolkit.VencerTempo();
+             EXPECT_FALSE(Dialogos.GetTemporizadorLigado()) << "off from the first tick on";
+         },
+         mrCancel},
+        {[](TFormulario& AFormulario) { BuscarBotao(AFormulario, u"&Sim").Clicar(); }, mrYes},
+        {[](TFormulario&) { throw std::runtime_error("event of the host"); }, -1},
+        {[](TFormulario& AFormulario) { AFormulario.Fechar(); }, mrCancel},
     };
-    for (const auto& fim : fins) {
+    for (const auto& [fim, esperado] : fins) {
         Toolkit.Roteiro.push_back([&](TFormulario& AFormulario) {
-            EXPECT_EQ(Toolkit.Temporizadores.size(), 1U);
+            EXPECT_EQ(BuscarTexto(AFormulario, u"Message"),
+                      u"Encerrar o sistema?\r\n\r\nObservação: \r\nEsta mensagem será fechada automaticamente em "
+                      u"00:02:30 minuto(s) caso não haja intervenção.");
+            ASSERT_EQ(Toolkit.Temporizadores.size(), 1U);
+            EXPECT_EQ(Toolkit.Temporizadores.begin()->second.first, 150000);
+            EXPECT_TRUE(Dialogos.GetTemporizadorLigado());
+            EXPECT_EQ(Dialogos.GetConfiguracao(), parametros);
             fim(AFormulario);
         });
+        int resultado = -1;
         try {
-            formulario->ExecutarModal();
+            resultado = formulario->ExecutarModal();
         } catch (const std::runtime_error&) {
         }
+        EXPECT_EQ(resultado, esperado);
         EXPECT_TRUE(Toolkit.Temporizadores.empty());
     }
     Toolkit.Roteiro.push_back(
@@ -112,30 +108,25 @@ TEST_F(TesteDialogos, DetalheAbreEFecha) {
 }
 
 TEST_F(TesteDialogos, CtrlCCopiaTudo) {
-    struct TCaso {
-        char Tecla;
-        bool Ctrl, Shift, Alt, Copia;
-    };
-    constexpr TCaso CCasos[] = {
-        {'C', true, false, false, true}, {'C', false, false, false, false}, {'C', true, true, false, false},
-        {'C', true, false, true, false}, {'X', true, false, false, false},
+    const auto conferir = [&](TFormulario& AFormulario, TTecla ATecla, std::u16string_view AEsperado) {
+        Toolkit.AreaDeTransferencia.clear();
+        Toolkit.Bipes = 0;
+        EXPECT_EQ(AFormulario.TratarTecla(ATecla), !AEsperado.empty());
+        EXPECT_EQ(Toolkit.AreaDeTransferencia, AEsperado);
+        EXPECT_EQ(Toolkit.Bipes, AEsperado.empty() ? 0 : 1);
     };
     Toolkit.Roteiro.push_back([&](TFormulario& AFormulario) {
-        for (const TCaso& caso : CCasos) {
-            Toolkit.AreaDeTransferencia.clear();
-            Toolkit.Bipes = 0;
-            EXPECT_EQ(Teclar(AFormulario, static_cast<std::uint16_t>(caso.Tecla), caso.Ctrl, caso.Shift, caso.Alt),
-                      caso.Copia);
-            EXPECT_EQ(Toolkit.AreaDeTransferencia, caso.Copia ? u"Falhou.\r\n\r\nlinha 1" : u"");
-            EXPECT_EQ(Toolkit.Bipes, caso.Copia ? 1 : 0);
-        }
+        conferir(AFormulario, {.Codigo = 'C', .Ctrl = true}, u"Falhou.\r\n\r\nlinha 1");
+        conferir(AFormulario, {.Codigo = 'C'}, u"");
+        conferir(AFormulario, {.Codigo = 'C', .Shift = true, .Ctrl = true}, u"");
+        conferir(AFormulario, {.Codigo = 'C', .Ctrl = true, .Alt = true}, u"");
+        conferir(AFormulario, {.Codigo = 'X', .Ctrl = true}, u"");
     });
     OryMsg::InfoDlg(u"Falhou.", u"linha 1");
     Toolkit.Roteiro.push_back([&](TFormulario& AFormulario) {
         EXPECT_EQ(AFormulario.GetTitulo(), u"Atenção") << "the kind's title";
         EXPECT_FALSE(AFormulario.BuscarControle(u"Detalhes")->GetHabilitado()) << "no detail to show";
-        Teclar(AFormulario, 'C', true);
-        EXPECT_EQ(Toolkit.AreaDeTransferencia, u"Só isto");
+        conferir(AFormulario, {.Codigo = 'C', .Ctrl = true}, u"Só isto");
         BuscarBotao(AFormulario, u"&Fechar").Clicar();
     });
     EXPECT_EQ(OryMsg::DetailDlg(u"Só isto", u"", mtWarning, {mbClose}), mrClose);

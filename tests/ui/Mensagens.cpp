@@ -74,49 +74,34 @@ TEST_F(TesteDialogos, AvisosDasDuasGeracoes) {
     EXPECT_EQ(CCaptionsDialogo[mtWarning], u"Atenção") << "differs from the title of Alerta on purpose";
 }
 
-TEST_F(TesteDialogos, TitulosDasConfirmacoes) {
-    struct TCaso {
-        const char16_t *Dado, *Nova, *Antiga;
-        const char* Porque;
-    };
-    constexpr TCaso CCasos[] = {
-        {u"", u"Confirmação", u"Confirmação", "empty"},
-        {u" \t ", u"Confirmação", u" \t ", "blank: only the newer generation trims"},
-        {u" Clientes ", u" Clientes ", u" Clientes ", "given titles stay as they are"},
-    };
-    for (const TCaso& caso : CCasos) {
-        Dialogos.Confirmacao(u"?", btYes, caso.Dado);
-        EXPECT_EQ(Toolkit.Titulos.back(), caso.Nova) << caso.Porque;
-        OryMsg::Confirmation(u"?", btYes, caso.Dado);
-        EXPECT_EQ(Toolkit.Titulos.back(), caso.Antiga) << caso.Porque;
-    }
-    OryMsg::ConfirmationType(u"?", btNo);
-    EXPECT_EQ(Toolkit.Titulos.back(), u"Confirmação");
-}
-
-TEST_F(TesteDialogos, TeclasDaConfirmacao) {
+TEST_F(TesteDialogos, TitulosETeclasDasConfirmacoes) {
     struct TCaso {
         TButtonType Padrao;
         std::uint16_t Tecla;
         int Resultado;
+        const char16_t *Dado, *Nova, *Antiga;
+        const char* Porque;
     };
     constexpr TCaso CCasos[] = {
-        {btYes, CEnter, mrYes},  {btNo, CEnter, mrNo}, {btNone, CEnter, mrYes},
-        {btYes, CEsc, mrCancel}, {btNo, 0, mrCancel},
+        {btYes, CEnter, mrYes, u"", u"Confirmação", u"Confirmação", "no title"},
+        {btNo, CEnter, mrNo, u" \t ", u"Confirmação", u" \t ", "blank: only the newer generation trims"},
+        {btNone, CEnter, mrYes, u" Clientes ", u" Clientes ", u" Clientes ", "a given title stays as it is"},
+        {btYes, CEsc, mrCancel, u"T", u"T", u"T", "Esc never says yes"},
+        {btNo, 0, mrCancel, u"T", u"T", u"T", "the window's button"},
     };
     for (const TCaso& caso : CCasos) {
-        for (const bool antiga : {false, true}) {
-            Toolkit.Roteiro.push_back([&](TFormulario& AFormulario) {
-                if (caso.Tecla) Teclar(AFormulario, caso.Tecla);
-                // The same key with Shift is not a command.
-                else
-                    EXPECT_FALSE(Teclar(AFormulario, CEnter, false, true));
-            });
-            if (antiga)
-                EXPECT_EQ(OryMsg::Confirmation(u"Gravar?", caso.Padrao, u""), caso.Resultado == mrYes);
-            else
-                EXPECT_EQ(Dialogos.ConfirmacaoRetornoModal(u"Gravar?", caso.Padrao, u""), caso.Resultado);
-        }
+        SCOPED_TRACE(caso.Porque);
+        const auto passo = [&](TFormulario& AFormulario) {
+            EXPECT_FALSE(Teclar(AFormulario, CEnter, false, true)) << "with Shift no command";
+            if (caso.Tecla) Teclar(AFormulario, caso.Tecla);
+        };
+        Toolkit.Roteiro = {passo, passo, passo};
+        EXPECT_EQ(Dialogos.ConfirmacaoRetornoModal(u"?", caso.Padrao, caso.Dado), caso.Resultado);
+        EXPECT_EQ(Toolkit.Titulos.back(), caso.Nova);
+        EXPECT_EQ(OryMsg::Confirmation(u"?", caso.Padrao, caso.Dado), caso.Resultado == mrYes);
+        EXPECT_EQ(Toolkit.Titulos.back(), caso.Antiga);
+        EXPECT_EQ(OryMsg::ConfirmationType(u"?", caso.Padrao), caso.Resultado == mrYes);
+        EXPECT_EQ(Toolkit.Titulos.back(), u"Confirmação");
     }
 }
 
@@ -167,26 +152,13 @@ TEST_F(TesteDialogos, CaptionsEResultadosSeguemAsListas) {
     }
 }
 
-TEST_F(TesteDialogos, HospedeiroAcrescentaControles) {
-    TOryUtilsDialogsFormCustomizadoIOP parametros;
-    parametros.Botoes = {mbOK, mbCancel};
-    parametros.CaptionBotoes = {u"Gravar", u"Voltar"};
-    const auto formulario = Dialogos.BuscarFormularioConfirmacaoCustomizado(parametros);
-    auto& edicao = formulario->Adicionar<TCaixaEdicao>();
-    formulario->SetControleAtivo(&edicao);
-    Toolkit.Roteiro.push_back([&](TFormulario& AFormulario) {
-        edicao.AceitarTexto(u"digitado");
-        Teclar(AFormulario, CEnter);  // from the edit box: the default button
-    });
-    EXPECT_EQ(formulario->ExecutarModal(), mrOk);
-    EXPECT_EQ(edicao.GetTexto(), u"digitado");
-    EXPECT_EQ(Dialogos.GetFormularioAtual(), formulario.get()) << "until the host frees it";
-}
-
 TEST_F(TesteDialogos, TextosTrocadosPeloHospedeiro) {
     struct TRestauro {
         ~TRestauro() { TextosDialogos().Restaurar(); }
     } restauro;
+    TextosDialogos().Substituir(mbNo, u"&No");
+    EXPECT_EQ(TextosDialogos().Buscar(tdNao), u"&No") << "the same text under both names";
+    TextosDialogos().Substituir(static_cast<TMsgDlgBtn>(CQuantidadeBotoes), u"ignored");
     TextosDialogos().Substituir(tdSim, u"&Yes, of course, please");
     TextosDialogos().Substituir(tdAviso, u"Warning");
     TextosDialogos().Substituir(static_cast<TTextoDialogo>(77), u"ignored");
@@ -255,31 +227,19 @@ TEST_F(TesteDialogos, OutraThreadRecebeErro) {
 }
 
 TEST_F(TesteDialogos, ObjetosDeParametrosCopiamTudo) {
-    TOryUtilsDialogsFormCustomizadoComOpcoesIOP origem;
-    origem.Titulo = u"t";
-    origem.BotaoPadrao = mrNo;
-    origem.TipoDialogo = mtError;
-    origem.Mensagem = u"m";
-    origem.Botoes = {mbNo, mbYes, mbNo};
-    origem.CaptionBotoes = {u"a", u"b"};
-    origem.FecharMensagemAutomaticamente = true;
-    origem.TempoFinalizacaoAutomatica = 1500;
+    TOryUtilsDialogsFormCustomizadoComOpcoesIOP origem, copia;
+    origem.Assign(
+        TOryUtilsDialogsFormCustomizadoBaseIOP{u"t", mrNo, mtError, u"m", {mbNo, mbYes, mbNo}, {u"a"}, true, 1500});
     origem.OpcaoPadrao = 1;
     origem.OpcoesMensagem = {u"x", u"y"};
-    TOryUtilsDialogsFormCustomizadoComOpcoesIOP copia;
     copia.Assign(origem);
     EXPECT_EQ(copia, origem);
-
     TOryUtilsDialogsFormCustomizadoComDetalhesIOP detalhes;
     detalhes.MensagemDetalhe = u"fica";
     detalhes.Assign(origem);  // from the common base: its own properties stay
     EXPECT_EQ(detalhes.MensagemDetalhe, u"fica");
     EXPECT_EQ(static_cast<TOryUtilsDialogsFormCustomizadoBaseIOP&>(detalhes), origem);
     EXPECT_EQ(detalhes.GetListaDeBotoes(), (TMsgDlgButtons{mbYes, mbNo}));
-    const auto padrao = Dialogos.BuscarConfiguracaoPadraoMensagem(u"m");
-    EXPECT_EQ(padrao->Botoes, std::vector{mbOK});
-    EXPECT_EQ(padrao->CaptionBotoes, std::vector<std::u16string>{u"O&K"});
-    EXPECT_EQ(padrao->BotaoPadrao, 0);
 }
 
 TEST_F(TesteDialogos, Seletores) {

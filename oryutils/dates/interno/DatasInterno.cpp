@@ -4,15 +4,13 @@
 #include "oryutils/runtime/interno/LeituraDeData.hpp"
 
 #include <algorithm>
+#include <chrono>
 #include <optional>
 
 namespace OryUtils::Interno {
 namespace {
 
 using namespace Interno;
-
-// Milliseconds of the units of fixed length, by ordinal; 0 for the others.
-constexpr std::array<std::int64_t, 9> CMilissegundosDaMedida{0, 0, 0, 1000, 60'000, 3'600'000, 86'400'000, 0, 0};
 
 // Day, month and year typed without separators: 4, 6 or 8 digits in the order of the formats.
 std::optional<TGrupos> SepararDigitos(std::u16string_view ATexto, TOrdemData AOrdem) {
@@ -91,11 +89,29 @@ std::u16string Completar(std::u16string_view ATexto, const TFormatSettings& AFor
 }  // namespace
 
 TDateTime Deslocar(TDateTime ABase, OryTypes::TTipoMedidaTempo AMedida, int AQuantidade, TDateTime (*AAgora)()) {
-    if (AMedida == OryTypes::tmtMes) return IncrementarMes(ABase, AQuantidade);
-    if (AMedida == OryTypes::tmtAno) return IncrementarAno(ABase, AQuantidade);
-    const auto medida = static_cast<std::size_t>(AMedida);
-    if (medida >= CMilissegundosDaMedida.size() || CMilissegundosDaMedida[medida] == 0) return AAgora();
-    return IncrementarMilissegundos(ABase, CMilissegundosDaMedida[medida] * AQuantidade);
+    using namespace OryTypes;
+    const auto somar = [&](std::chrono::milliseconds AUnidade) {
+        return IncrementarMilissegundos(ABase, AUnidade.count() * AQuantidade);
+    };
+    switch (AMedida) {
+        case tmtSegundo:
+            return somar(std::chrono::seconds(1));
+        case tmtMinuto:
+            return somar(std::chrono::minutes(1));
+        case tmtHora:
+            return somar(std::chrono::hours(1));
+        case tmtDia:
+            return somar(std::chrono::days(1));
+        case tmtMes:
+            return IncrementarMes(ABase, AQuantidade);
+        case tmtAno:
+            return IncrementarAno(ABase, AQuantidade);
+        case tmtNenhuma:
+        case tmtMicrossegundo:
+        case tmtMilissegundo:
+            break;
+    }
+    return AAgora();
 }
 
 std::u16string Completar(std::u16string_view ATexto, const TFormatSettings& AFormatos) {

@@ -56,7 +56,7 @@ void AnexarModelo(std::u16string& ASaida, const Variant& AValor, TFormaDoValor A
 void AnexarLista(std::u16string& ASaida, const Variant& AValor, bool AEntreAspas) try {
     const auto* itens = AValor.GetItens();
     if (!itens) return AnexarValor(ASaida, AValor, AEntreAspas);
-    // The last index is kept in 8 bits; that of an empty array turns to 255, where there is no element.
+    // The last index is kept in 8 bits. For an empty array it becomes 255, and at() raises.
     const auto ultimo = static_cast<std::uint8_t>(itens->size() - 1);
     for (std::size_t i = 0; i <= ultimo; ++i) {
         if (i) ASaida += u',';
