@@ -16,9 +16,8 @@ std::u16string Buscar(std::string_view ABytes, std::size_t ABloco) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
-    if (ATamanho == 0) return 0;
-    const std::string bytes(ABytes + 1, ABytes + ATamanho);
-    Fuzz::Exigir(Buscar(bytes, 1 + ABytes[0] % 16) == Buscar(bytes, bytes.size() + 1));
-    return 0;
+void Fuzz::Provar(TEntrada AEntrada) {
+    const std::size_t bloco = 1 + AEntrada.Byte() % 16;
+    const std::string bytes = AEntrada.Bytes();
+    Exigir(Buscar(bytes, bloco) == Buscar(bytes, bytes.size() + 1));
 }

@@ -73,16 +73,15 @@ std::u16string MontarTexto(Fuzz::TEntrada& AEntrada) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
-    static_cast<void>(TArquivoReg::DeBytes({reinterpret_cast<const char*>(ABytes), ATamanho}));
-    Fuzz::TEntrada entrada(ABytes, ATamanho);
-    auto arquivo = TArquivoReg::DeBytes("\xFF\xFE" + Interno::BytesDeUnidades(MontarTexto(entrada)));
-    if (!arquivo) return 0;
+void Fuzz::Provar(TEntrada AEntrada) {
+    static_cast<void>(TArquivoReg::DeBytes(TEntrada(AEntrada).Bytes()));
+    auto arquivo = TArquivoReg::DeBytes("\xFF\xFE" + Interno::BytesDeUnidades(MontarTexto(AEntrada)));
+    if (!arquivo) return;
     TConteudo esperado = LerTudo(*arquivo);
-    for (int passos = 0; passos < 4 && (passos == 0 || !entrada.Acabou()); ++passos) {
+    for (int passos = 0; passos < 4 && (passos == 0 || !AEntrada.Acabou()); ++passos) {
         static constexpr std::u16string_view CChaves[] = {u"\\a", u"\\A\\b", u"", u"\\a\\b\\c", u"\\n"};
-        const std::u16string chave = CRaiz + std::u16string(CChaves[entrada.Byte() % std::size(CChaves)]);
-        std::u16string nome = entrada.Byte() % 2 ? u"N" : entrada.Texto(4);
+        const std::u16string chave = CRaiz + std::u16string(CChaves[AEntrada.Byte() % std::size(CChaves)]);
+        std::u16string nome = AEntrada.Byte() % 2 ? u"N" : AEntrada.Texto(4);
         if (!Interno::EhNomeDeValorValido(nome)) nome.clear();
         const bool existia = esperado.contains(MinusculaDe(chave));
         const auto acima = [&] {
@@ -90,34 +89,33 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t AT
                 esperado.try_emplace(MinusculaDe(chave.substr(0, barra)));
             esperado.try_emplace(MinusculaDe(chave));
         };
-        switch (entrada.Byte() % 4) {
+        switch (AEntrada.Byte() % 4) {
             case 0: {
-                TDadoRegistro dado{entrada.Byte() % 5u, {}};
-                for (int n = entrada.Byte() % 40; n > 0; --n) dado.Bytes += static_cast<char>(entrada.Byte());
+                TDadoRegistro dado{AEntrada.Byte() % 5u, {}};
+                for (int n = AEntrada.Byte() % 40; n > 0; --n) dado.Bytes += static_cast<char>(AEntrada.Byte());
                 arquivo->Gravar(chave, nome, dado);
                 acima();
                 esperado[MinusculaDe(chave)][MinusculaDe(nome)] = dado;
                 break;
             }
             case 1:
-                Fuzz::Exigir(arquivo->ExcluirValor(chave, nome) ==
-                             (existia && esperado[MinusculaDe(chave)].erase(MinusculaDe(nome)) == 1));
+                Exigir(arquivo->ExcluirValor(chave, nome) ==
+                       (existia && esperado[MinusculaDe(chave)].erase(MinusculaDe(nome)) == 1));
                 break;
             case 2:
                 arquivo->CriarChave(chave);
                 acima();
                 break;
             default:
-                Fuzz::Exigir(arquivo->ExcluirChave(chave) == (existia && chave != CRaiz));
+                Exigir(arquivo->ExcluirChave(chave) == (existia && chave != CRaiz));
                 if (chave != CRaiz)
                     std::erase_if(esperado, [&](const auto& AItem) {
                         return AItem.first == MinusculaDe(chave) || AItem.first.starts_with(MinusculaDe(chave) + u"\\");
                     });
         }
-        Fuzz::Exigir(LerTudo(*arquivo) == esperado);
+        Exigir(LerTudo(*arquivo) == esperado);
         // What was written is a file again.
         const auto relido = TArquivoReg::DeBytes(arquivo->ParaBytes());
-        Fuzz::Exigir(relido && relido->ParaBytes() == arquivo->ParaBytes());
+        Exigir(relido && relido->ParaBytes() == arquivo->ParaBytes());
     }
-    return 0;
 }

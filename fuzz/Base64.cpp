@@ -24,17 +24,16 @@ void Ler(std::u16string ATexto) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
-    const std::string bytes(ABytes, ABytes + ATamanho);
-    Ler(Fuzz::TEntrada(ABytes, ATamanho).Resto());
-    Fuzz::Exigir(Interno::DecodificarBase64(Interno::CodificarBase64(bytes)) == bytes);
+void Fuzz::Provar(TEntrada AEntrada) {
+    const std::string bytes = TEntrada(AEntrada).Bytes();
+    Ler(TEntrada(AEntrada).Resto());
+    Exigir(Interno::DecodificarBase64(Interno::CodificarBase64(bytes)) == bytes);
 
     const std::u16string texto = DeUtf8(bytes);
     const std::string limpo = ParaUtf8(texto);
-    Fuzz::Exigir(EhUtf8Valido(limpo) && EhUtf8Valido(bytes) == (limpo == bytes) && DeUtf8(limpo) == texto);
-    Fuzz::Exigir(ParaWindows1252(DeWindows1252(bytes)) == bytes);
-    const std::u16string unidades = Fuzz::TEntrada(ABytes, ATamanho).Resto();
-    Fuzz::Exigir(Interno::DeUtf8Exato(Interno::ParaUtf8Exato(unidades)) == unidades);
-    Fuzz::Exigir(EhUtf8Valido(ParaUtf8(unidades)));
-    return 0;
+    Exigir(EhUtf8Valido(limpo) && EhUtf8Valido(bytes) == (limpo == bytes) && DeUtf8(limpo) == texto);
+    Exigir(ParaWindows1252(DeWindows1252(bytes)) == bytes);
+    const std::u16string unidades = TEntrada(AEntrada).Resto();
+    Exigir(Interno::DeUtf8Exato(Interno::ParaUtf8Exato(unidades)) == unidades);
+    Exigir(EhUtf8Valido(ParaUtf8(unidades)));
 }

@@ -28,12 +28,11 @@ void Conferir(const std::string& ARespostas, std::size_t ALinhas) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
+void Fuzz::Provar(TEntrada AEntrada) {
     static const TPreparo preparo;
-    Fuzz::TEntrada entrada(ABytes, ATamanho);
-    const std::size_t pedaco = 1 + entrada.Byte();
-    const std::size_t maior = entrada.Byte() % 2 ? CMaiorRequisicao : 64;
-    const std::string bytes = entrada.Bytes();
+    const std::size_t pedaco = 1 + AEntrada.Byte();
+    const std::size_t maior = AEntrada.Byte() % 2 ? CMaiorRequisicao : 64;
+    const std::string bytes = AEntrada.Bytes();
     std::string_view linhas = bytes;
     if (linhas.starts_with("\xEF\xBB\xBF")) linhas.remove_prefix(3);
     const auto quebras = static_cast<std::size_t>(std::ranges::count(linhas, '\n'));
@@ -42,5 +41,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t AT
     TSaidaDeTexto saida;
     ChamarEmLote(fluxo, saida, maior);
     Conferir(saida.Texto, quebras + (!linhas.empty() && !linhas.ends_with('\n')));
-    return 0;
 }

@@ -30,24 +30,10 @@ public:
         return valor;
     }
     /// At most AMaior characters; most of them ASCII, as the languages are.
-    std::u16string Texto(std::size_t AMaior) {
-        std::u16string texto;
-        for (std::size_t n = Byte() % (AMaior + 1); n > 0 && !Acabou(); --n) {
-            const std::uint8_t c = Byte();
-            texto += c < 0xF0 ? char16_t{c} : Valor<char16_t>();
-        }
-        return texto;
-    }
+    std::u16string Texto(std::size_t AMaior) { return Caracteres(Byte() % (AMaior + 1)); }
     /// All that is left, in the same way, without a length before it: entries of a dictionary and files of a corpus
     /// stand for themselves.
-    std::u16string Resto() {
-        std::u16string texto;
-        while (!Acabou()) {
-            const std::uint8_t c = Byte();
-            texto += c < 0xF0 ? char16_t{c} : Valor<char16_t>();
-        }
-        return texto;
-    }
+    std::u16string Resto() { return Caracteres(std::string::npos); }
     std::string Bytes() {
         std::string bytes(reinterpret_cast<const char*>(FBytes), FTamanho);
         FBytes += std::exchange(FTamanho, 0);
@@ -55,9 +41,21 @@ public:
     }
 
 private:
+    std::u16string Caracteres(std::size_t AQuantos) {
+        std::u16string texto;
+        for (; AQuantos > 0 && !Acabou(); --AQuantos) {
+            const std::uint8_t c = Byte();
+            texto += c < 0xF0 ? char16_t{c} : Valor<char16_t>();
+        }
+        return texto;
+    }
+
     const std::uint8_t* FBytes;
     std::size_t FTamanho;
 };
+
+/// What a target does with one input.
+void Provar(TEntrada AEntrada);
 
 /// A finding unless ACondicao.
 inline void Exigir(bool ACondicao) {
@@ -65,3 +63,8 @@ inline void Exigir(bool ACondicao) {
 }
 
 }  // namespace Fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
+    Fuzz::Provar({ABytes, ATamanho});
+    return 0;
+}

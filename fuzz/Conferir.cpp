@@ -64,14 +64,13 @@ void ConferirLeitura(const std::string& ABytes, char ADelimitador, const TLimite
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
+void Fuzz::Provar(TEntrada AEntrada) {
     static const OryUtils::TFormatosTemporarios formatos(OryUtils::BuscarFormatosBrasileiros());
-    Fuzz::TEntrada entrada(ABytes, ATamanho);
-    const std::uint8_t chaves = entrada.Byte();
-    const auto tipo = static_cast<TTipoColuna>(1 + entrada.Byte() % tcNcm);
-    const std::size_t bloco = 4 + entrada.Byte() % 64;
-    const std::size_t pedaco = 1 + entrada.Byte() % 16;
-    const std::string bytes = entrada.Bytes();
+    const std::uint8_t chaves = AEntrada.Byte();
+    const auto tipo = static_cast<TTipoColuna>(1 + AEntrada.Byte() % tcNcm);
+    const std::size_t bloco = 4 + AEntrada.Byte() % 64;
+    const std::size_t pedaco = 1 + AEntrada.Byte() % 16;
+    const std::string bytes = AEntrada.Bytes();
 
     TOpcoesDeConferencia opcoes;
     opcoes.Tarefas = 0;
@@ -92,11 +91,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t AT
     miudas.Limites.Bloco = bloco;
     // Starting threads costs as much as dozens of runs without them.
     if (chaves == 0xFF) miudas.Tarefas = 2;
-    Fuzz::Exigir(Rodar(bytes, opcoes, std::string::npos) == Rodar(bytes, miudas, pedaco));
-    Fuzz::Exigir(RodarVereditos(bytes, tipo, opcoes, std::string::npos) == RodarVereditos(bytes, tipo, miudas, pedaco));
+    Exigir(Rodar(bytes, opcoes, std::string::npos) == Rodar(bytes, miudas, pedaco));
+    Exigir(RodarVereditos(bytes, tipo, opcoes, std::string::npos) == RodarVereditos(bytes, tipo, miudas, pedaco));
     ConferirLeitura(bytes, delimitador, miudas.Limites, pedaco);
     miudas.Limites.Registro = bloco;
     miudas.Tarefas = 0;
     static_cast<void>(Rodar(bytes, miudas, pedaco));
-    return 0;
 }

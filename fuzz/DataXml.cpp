@@ -7,19 +7,17 @@
 
 using namespace OryUtils;
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
-    Fuzz::TEntrada entrada(ABytes, ATamanho);
-    const int local = static_cast<std::int8_t>(entrada.Byte()) * 6;
-    const std::u16string texto = entrada.Resto();
+void Fuzz::Provar(TEntrada AEntrada) {
+    const int local = static_cast<std::int8_t>(AEntrada.Byte()) * 6;
+    const std::u16string texto = AEntrada.Resto();
     try {
         const TDateTime instante = XmlParaDataHoraUtc(texto, local);
         const TPartesData dia = DecodificarData(instante);
-        Fuzz::Exigir(TentarCodificarData(dia.Ano, dia.Mes, dia.Dia).has_value());
+        Exigir(TentarCodificarData(dia.Ano, dia.Mes, dia.Dia).has_value());
         const TDateTime volta = XmlParaDataHoraUtc(DataHoraParaXml(instante, 0), local);
-        Fuzz::Exigir(DecodificarData(volta) == dia && DecodificarHora(volta) == DecodificarHora(instante));
+        Exigir(DecodificarData(volta) == dia && DecodificarHora(volta) == DecodificarHora(instante));
         static_cast<void>(XmlParaDataHoraUtc(texto));
     } catch (const EConvertError&) {
         // The answer for what is no date.
     }
-    return 0;
 }

@@ -38,15 +38,14 @@ void Montar(TDialetoFirewall ADialeto, int APorta, const std::u16string& AProgra
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
-    Fuzz::TEntrada entrada(ABytes, ATamanho);
-    const auto dialeto = entrada.Byte() % 2 ? dfAvancado : dfAntigo;
-    const auto porta = entrada.Valor<std::int32_t>();
-    const std::u16string programa = entrada.Texto(40), nome = entrada.Texto(40);
+void Fuzz::Provar(TEntrada AEntrada) {
+    const auto dialeto = AEntrada.Byte() % 2 ? dfAvancado : dfAntigo;
+    const auto porta = AEntrada.Valor<std::int32_t>();
+    const std::u16string programa = AEntrada.Texto(40), nome = AEntrada.Texto(40);
     Montar(dialeto, porta, programa, nome);
 
     // The answer reaches the library in bytes.
-    const std::string bytes = entrada.Bytes();
+    const std::string bytes = AEntrada.Bytes();
     const TExecutorDeComando netsh = [&](std::u16string_view, std::vector<std::u16string>& ASaida) {
         ASaida = LinhasDaSaidaDeComando(bytes);
     };
@@ -54,8 +53,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t AT
     for (const TResultStatus& r :
          {LiberouPorta(netsh, dialeto, tpTCP, porta, nome), ExcluiuPorta(netsh, dialeto, tpUDP, porta),
           LiberouPrograma(netsh, dialeto, programa, nome), ExcluiuPrograma(netsh, dialeto, programa, nome)}) {
-        Fuzz::Exigir(r.Status == TemOk(resposta));
-        Fuzz::Exigir(r.Status ? r.Mensagem.empty() : r.Mensagem.ends_with(resposta));
+        Exigir(r.Status == TemOk(resposta));
+        Exigir(r.Status ? r.Mensagem.empty() : r.Mensagem.ends_with(resposta));
     }
-    return 0;
 }

@@ -3,19 +3,17 @@
 
 #include "Comum.hpp"
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
-    Fuzz::TEntrada entrada(ABytes, ATamanho);
+void Fuzz::Provar(TEntrada AEntrada) {
     OryUtils::TFormatSettings formatos = OryUtils::BuscarFormatosBrasileiros();
-    if (entrada.Byte() % 4 == 0) {
-        formatos.DecimalSeparator = entrada.Valor<char16_t>();
-        formatos.ThousandSeparator = entrada.Valor<char16_t>();
+    if (AEntrada.Byte() % 4 == 0) {
+        formatos.DecimalSeparator = AEntrada.Valor<char16_t>();
+        formatos.ThousandSeparator = AEntrada.Valor<char16_t>();
     }
     // A double in half of the cases: not every pattern of 80 bits is a number that programs make.
-    const OryUtils::Extended valor = entrada.Byte() % 2
-                                         ? OryUtils::Extended{entrada.Valor<double>()}
-                                         : static_cast<OryUtils::Extended>(entrada.Valor<std::int32_t>()) / 100;
-    const std::u16string formato = entrada.Texto(255);
+    const OryUtils::Extended valor = AEntrada.Byte() % 2
+                                         ? OryUtils::Extended{AEntrada.Valor<double>()}
+                                         : static_cast<OryUtils::Extended>(AEntrada.Valor<std::int32_t>()) / 100;
+    const std::u16string formato = AEntrada.Texto(255);
     const std::u16string texto = OryUtils::FormatarNumero(formato, valor, formatos);
-    Fuzz::Exigir(texto.size() <= 2 * formato.size() + 400);
-    return 0;
+    Exigir(texto.size() <= 2 * formato.size() + 400);
 }

@@ -29,10 +29,9 @@ Extended PorPassos(TOryUtilsFormulas& AFormula, std::u16string ATexto) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
+void Fuzz::Provar(TEntrada AEntrada) {
     static const TFormatosTemporarios formatos(BuscarFormatosBrasileiros());
-    Fuzz::TEntrada entrada(ABytes, ATamanho);
-    const std::uint8_t chaves = entrada.Byte();
+    const std::uint8_t chaves = AEntrada.Byte();
     TFormulaReescrita reescrita;
     reescrita.Ajuste = static_cast<TMetodoArredondamento>(chaves % 3);
     reescrita.Casas = chaves / 4 % 8;
@@ -44,9 +43,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t AT
         reescrita.Variaveis[nome] = ExtendedParaTexto(valor);
         formula.AdicionarVariavel(nome, valor);
     }
-    const std::u16string texto = entrada.Resto();
+    const std::u16string texto = AEntrada.Resto();
     const std::string valor = Descrever([&] { return formula.Calcular(texto); });
-    Fuzz::Exigir(valor == Descrever([&] { return PorPassos(formula, texto); }));
-    if (texto.size() <= 256) Fuzz::Exigir(valor == Descrever([&] { return reescrita.Calcular(texto); }));
-    return 0;
+    Exigir(valor == Descrever([&] { return PorPassos(formula, texto); }));
+    if (texto.size() <= 256) Exigir(valor == Descrever([&] { return reescrita.Calcular(texto); }));
 }

@@ -20,20 +20,18 @@ std::u16string Citar(const std::u16string& AArgumento) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
-    const std::u16string texto = Fuzz::TEntrada(ABytes, ATamanho).Resto();
+void Fuzz::Provar(TEntrada AEntrada) {
+    const std::u16string texto = TEntrada(AEntrada).Resto();
     std::size_t tamanho = 0;
     for (const auto& parte : SepararLinhaDeComando(texto)) tamanho += parte.size();
-    Fuzz::Exigir(tamanho <= texto.size());
+    Exigir(tamanho <= texto.size());
 
-    Fuzz::TEntrada entrada(ABytes, ATamanho);
     std::vector<std::u16string> argumentos;
     std::u16string linha;
-    while (!entrada.Acabou()) {
-        argumentos.push_back(entrada.Texto(40));
+    while (!AEntrada.Acabou()) {
+        argumentos.push_back(AEntrada.Texto(40));
         linha += (linha.empty() ? u"" : u" ") + Citar(argumentos.back());
     }
-    Fuzz::Exigir(SepararArgumentos(linha) == argumentos);
-    Fuzz::Exigir(SepararLinhaDeComando(u"x.exe " + linha).size() == argumentos.size() + 1);
-    return 0;
+    Exigir(SepararArgumentos(linha) == argumentos);
+    Exigir(SepararLinhaDeComando(u"x.exe " + linha).size() == argumentos.size() + 1);
 }

@@ -7,26 +7,24 @@
 
 using namespace OryUtils;
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
-    Fuzz::TEntrada entrada(ABytes, ATamanho);
-    const auto codificacao = static_cast<TCodificacaoLog>(entrada.Byte() % 3);
-    const std::size_t lugar = entrada.Byte();
-    const auto linhas = SepararLinhas(entrada.Bytes(), codificacao);
+void Fuzz::Provar(TEntrada AEntrada) {
+    const auto codificacao = static_cast<TCodificacaoLog>(AEntrada.Byte() % 3);
+    const std::size_t lugar = AEntrada.Byte();
+    const auto linhas = SepararLinhas(AEntrada.Bytes(), codificacao);
     TLinhasDoLog inteiro, aospoucos;
     inteiro.SetCodificacao(codificacao);
     aospoucos.SetCodificacao(codificacao);
     inteiro.Substituir(linhas);
     for (const auto& linha : linhas) {
-        Fuzz::Exigir(linha.find_first_of(u"\r\n") == std::u16string::npos);
+        Exigir(linha.find_first_of(u"\r\n") == std::u16string::npos);
         aospoucos.Adicionar(linha);
         static_cast<void>(aospoucos.BuscarTextoPronto());
     }
-    Fuzz::Exigir(inteiro.GetTexto() == aospoucos.GetTexto());
-    Fuzz::Exigir(inteiro.BuscarTextoPronto().Bytes == aospoucos.BuscarTextoPronto().Bytes);
+    Exigir(inteiro.GetTexto() == aospoucos.GetTexto());
+    Exigir(inteiro.BuscarTextoPronto().Bytes == aospoucos.BuscarTextoPronto().Bytes);
     if (lugar <= linhas.size()) {
         inteiro.Inserir(lugar, u"\xD800 ç");
         aospoucos.Inserir(lugar, u"\xD800 ç");
-        Fuzz::Exigir(inteiro.BuscarTextoPronto().Bytes == aospoucos.BuscarTextoPronto().Bytes);
+        Exigir(inteiro.BuscarTextoPronto().Bytes == aospoucos.BuscarTextoPronto().Bytes);
     }
-    return 0;
 }

@@ -8,31 +8,29 @@
 using namespace OryUtils;
 using S = TOryUtilsManipulacaoSQL;
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
-    Fuzz::TEntrada entrada(ABytes, ATamanho);
-    const auto tipo = static_cast<TFieldType>(entrada.Byte() % 40);
-    const std::u16string texto = entrada.Resto();
+void Fuzz::Provar(TEntrada AEntrada) {
+    const auto tipo = static_cast<TFieldType>(AEntrada.Byte() % 40);
+    const std::u16string texto = AEntrada.Resto();
     S comando;
     comando.SetScriptSQL(texto);
     const std::u16string& principal = comando.GetSQLPrincipal();
     const std::u16string& adicional = comando.GetSQLAdicional();
-    Fuzz::Exigir(comando.GetScriptSQL() == texto && texto.starts_with(principal));
+    Exigir(comando.GetScriptSQL() == texto && texto.starts_with(principal));
     if (!adicional.empty()) {
         // The character in front of the clause stands in both.
-        Fuzz::Exigir(principal.back() == adicional.front() && principal + adicional.substr(1) == texto);
+        Exigir(principal.back() == adicional.front() && principal + adicional.substr(1) == texto);
         const std::u16string clausula = adicional.substr(1, 8);
-        Fuzz::Exigir(clausula == u"GROUP BY" || clausula == u"ORDER BY");
+        Exigir(clausula == u"GROUP BY" || clausula == u"ORDER BY");
     }
-    Fuzz::Exigir(S::FormatarCondicaoComOperadorSQL(texto).ends_with(texto));
+    Exigir(S::FormatarCondicaoComOperadorSQL(texto).ends_with(texto));
     const std::u16string valor = S::FormatarParametroPesquisa(texto, tipo, fppPesquisaBancoDados);
     const auto apostrofos = std::ranges::count(valor, u'\'');
     // A text that goes between apostrophes cannot end there: each run of them is even.
     for (std::size_t i = 0; i < valor.size() && tipo == ftString;) {
         std::size_t fim = i;
         while (fim < valor.size() && valor[fim] == u'\'') ++fim;
-        Fuzz::Exigir((fim - i) % 2 == 0);
+        Exigir((fim - i) % 2 == 0);
         i = fim + 1;
     }
-    if (tipo == ftString) Fuzz::Exigir(apostrofos == 2 * std::ranges::count(texto, u'\''));
-    return 0;
+    if (tipo == ftString) Exigir(apostrofos == 2 * std::ranges::count(texto, u'\''));
 }

@@ -46,13 +46,11 @@ void Percorrer(const TMascara& AMascara, Fuzz::TEntrada& AEntrada) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
-    Fuzz::TEntrada entrada(ABytes, ATamanho);
-    const std::u16string padrao = entrada.Texto(40);
+void Fuzz::Provar(TEntrada AEntrada) {
+    const std::u16string padrao = AEntrada.Texto(40);
     try {
-        Percorrer(TMascara(padrao, BuscarFormatosBrasileiros()), entrada);
+        Percorrer(TMascara(padrao, BuscarFormatosBrasileiros()), AEntrada);
     } catch (const EConvertError&) {
         // A broken mask: its only answer.
     }
-    return 0;
 }

@@ -38,19 +38,17 @@ void Ler(std::u16string_view ATexto) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
-    Fuzz::TEntrada entrada(ABytes, ATamanho);
-    Ler(Fuzz::TEntrada(ABytes, ATamanho).Resto());
+void Fuzz::Provar(TEntrada AEntrada) {
+    Ler(TEntrada(AEntrada).Resto());
     const TFormatSettings& formatos = BuscarFormatosBrasileiros();
     const Extended valor =
-        entrada.Valor<double>() * std::pow(10.0L, static_cast<std::int16_t>(entrada.Valor<std::int16_t>() % 4000));
+        AEntrada.Valor<double>() * std::pow(10.0L, static_cast<std::int16_t>(AEntrada.Valor<std::int16_t>() % 4000));
     const std::u16string texto = ExtendedParaTexto(valor, formatos);
     if (std::isfinite(valor)) {
         const Extended volta = ArredondarPara15Digitos(valor);
         const auto lido = TentarTextoParaExtended(texto, formatos);
-        Fuzz::Exigir(std::isfinite(volta) ? lido == volta : !lido.has_value());
+        Exigir(std::isfinite(volta) ? lido == volta : !lido.has_value());
     }
-    const int digitos = entrada.Byte();
-    Fuzz::Exigir(FormatarZeros(valor, digitos).size() >= static_cast<std::size_t>(digitos));
-    return 0;
+    const int digitos = AEntrada.Byte();
+    Exigir(FormatarZeros(valor, digitos).size() >= static_cast<std::size_t>(digitos));
 }

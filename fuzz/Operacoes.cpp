@@ -63,19 +63,17 @@ struct TPreparo {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
+void Fuzz::Provar(TEntrada AEntrada) {
     static const TPreparo preparo;
-    Fuzz::TEntrada entrada(ABytes, ATamanho);
-    while (!entrada.Acabou()) {
-        const TOperacao& operacao = *preparo.Todas[entrada.Valor<std::uint16_t>() % preparo.Todas.size()];
+    while (!AEntrada.Acabou()) {
+        const TOperacao& operacao = *preparo.Todas[AEntrada.Valor<std::uint16_t>() % preparo.Todas.size()];
         TJson argumentos = TJson::array();
-        for (const TParametro& parametro : operacao.Parametros) argumentos.push_back(Valor(entrada, parametro.Tipo));
+        for (const TParametro& parametro : operacao.Parametros) argumentos.push_back(Valor(AEntrada, parametro.Tipo));
         const std::string requisicao =
             TJson{{"op", operacao.Nome}, {"args", argumentos}}.dump(-1, ' ', false, TJson::error_handler_t::replace);
         const TJson resposta = TJson::parse(Chamar(requisicao), nullptr, false);
-        Fuzz::Exigir(resposta.is_object() && (resposta.contains("resultado") || resposta.contains("erro")));
+        Exigir(resposta.is_object() && (resposta.contains("resultado") || resposta.contains("erro")));
         // Arguments of the right number are never an unknown request.
-        if (resposta.contains("erro")) Fuzz::Exigir(resposta.at("classe") != "EOperacaoDesconhecida");
+        if (resposta.contains("erro")) Exigir(resposta.at("classe") != "EOperacaoDesconhecida");
     }
-    return 0;
 }

@@ -57,17 +57,16 @@ std::vector<char> Trocar(std::string ABytes, Fuzz::TEntrada AEntrada) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
+void Fuzz::Provar(TEntrada AEntrada) {
     static const std::string bloco = Pe::Montar(Pe::Raiz(
         {{1, 2, 3, 4}},
         {Pe::Textos({Pe::Tabela(u"040904b0", {Pe::Texto(u"CompanyName", u"a"), Pe::Texto(u"Comments", u"b")})}),
          Pe::Traducoes({{0x409, 1200}})}));
     static const std::string arquivos[] = {Pe::MontarArquivo(false, {{0, bloco}}),
                                            Pe::MontarArquivo(true, {{0x416, bloco}, {0x409, bloco}})};
-    const std::vector<char> bytes(ABytes, ABytes + ATamanho);
-    LerArquivo(bytes);
-    Perguntar(bytes);
-    for (const std::string& arquivo : arquivos) LerArquivo(Trocar(arquivo, {ABytes, ATamanho}));
-    Perguntar(Trocar(bloco, {ABytes, ATamanho}));
-    return 0;
+    const std::string bytes = TEntrada(AEntrada).Bytes();
+    LerArquivo({bytes.begin(), bytes.end()});
+    Perguntar({bytes.begin(), bytes.end()});
+    for (const std::string& arquivo : arquivos) LerArquivo(Trocar(arquivo, AEntrada));
+    Perguntar(Trocar(bloco, AEntrada));
 }

@@ -9,10 +9,9 @@
 using namespace OryUtils;
 using namespace OryUtils::Interno;
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
-    Fuzz::TEntrada entrada(ABytes, ATamanho);
-    const std::size_t pedaco = 1 + entrada.Byte();
-    const std::string bytes = entrada.Bytes();
+void Fuzz::Provar(TEntrada AEntrada) {
+    const std::size_t pedaco = 1 + AEntrada.Byte();
+    const std::string bytes = AEntrada.Bytes();
 
     std::vector<std::u16string> linhas, empedacos;
     std::u16string texto;
@@ -27,10 +26,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t AT
     toda.FecharParte();
     corrida.FecharParte();
     partes.FecharParte();
-    Fuzz::Exigir(linhas == empedacos && texto.size() <= 2 * bytes.size());
+    Exigir(linhas == empedacos && texto.size() <= 2 * bytes.size());
 
-    for (const auto& endereco : ListarEnderecosDaSaidaARP(linhas)) Fuzz::Exigir(endereco.size() <= texto.size());
+    for (const auto& endereco : ListarEnderecosDaSaidaARP(linhas)) Exigir(endereco.size() <= texto.size());
     const std::u16string mac = ExtrairEnderecoMac(texto);
-    Fuzz::Exigir(mac.size() <= 17 && MaiusculaDe(mac) == mac);
-    return 0;
+    Exigir(mac.size() <= 17 && MaiusculaDe(mac) == mac);
 }

@@ -35,20 +35,18 @@ void MontarUnidadeDe(const std::string& ANome, const std::string& AExecutavel) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
-    const std::string bytes(ABytes, ABytes + ATamanho);
+void Fuzz::Provar(TEntrada AEntrada) {
+    const std::string bytes = TEntrada(AEntrada).Bytes();
     if (const auto situacao = LerSituacaoUnidade(bytes))
-        Fuzz::Exigir(situacao->Situacao.Estado >= 1 && situacao->Situacao.Estado <= 7);
+        Exigir(situacao->Situacao.Estado >= 1 && situacao->Situacao.Estado <= 7);
     if (EhNomeDeUnidade(bytes))
-        Fuzz::Exigir(!bytes.empty() && bytes.front() != '-' && bytes.front() != '.' &&
-                     bytes.find_first_of(std::string_view("/\n\0 ;$\"'", 8)) == std::string::npos);
+        Exigir(!bytes.empty() && bytes.front() != '-' && bytes.front() != '.' &&
+               bytes.find_first_of(std::string_view("/\n\0 ;$\"'", 8)) == std::string::npos);
 
-    Fuzz::TEntrada entrada(ABytes, ATamanho);
-    const std::u16string servico = entrada.Texto(40), outro = entrada.Texto(40), senha = entrada.Texto(40);
+    const std::u16string servico = AEntrada.Texto(40), outro = AEntrada.Texto(40), senha = AEntrada.Texto(40);
     Montar(servico, outro, senha);
     MontarUnidadeDe(ParaUtf8(servico), ParaUtf8(outro));
-    const std::u16string saida = Fuzz::TEntrada(ABytes, ATamanho).Resto();
-    Fuzz::Exigir(!SaidaIndicaFalha(saida) || SaidaIndicaFalha(saida + u"x"));
-    Fuzz::Exigir(MontarMensagemFalha(u"a", saida).find(saida) != std::u16string::npos);
-    return 0;
+    const std::u16string saida = TEntrada(AEntrada).Resto();
+    Exigir(!SaidaIndicaFalha(saida) || SaidaIndicaFalha(saida + u"x"));
+    Exigir(MontarMensagemFalha(u"a", saida).find(saida) != std::u16string::npos);
 }

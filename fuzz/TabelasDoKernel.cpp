@@ -6,16 +6,14 @@
 
 using namespace OryUtils::Interno;
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* ABytes, std::size_t ATamanho) {
-    Fuzz::TEntrada entrada(ABytes, ATamanho);
-    const auto endereco = entrada.Valor<TEnderecoIP>();
-    const std::string tabela = entrada.Bytes();
+void Fuzz::Provar(TEntrada AEntrada) {
+    const auto endereco = AEntrada.Valor<TEnderecoIP>();
+    const std::string tabela = AEntrada.Bytes();
     const auto montagens = LerTabelaDeMontagens(tabela);
     // "/" is there even when the table does not tell of it.
-    Fuzz::Exigir(!montagens.empty() && montagens.front().Pasta == "/");
-    for (const TMontagem& montagem : montagens) Fuzz::Exigir(montagem.Pasta.size() <= tabela.size() + 1);
+    Exigir(!montagens.empty() && montagens.front().Pasta == "/");
+    for (const TMontagem& montagem : montagens) Exigir(montagem.Pasta.size() <= tabela.size() + 1);
     static_cast<void>(ProcurarVizinho(tabela, endereco));
     static_cast<void>(EstahNoEnlace(tabela, endereco));
-    Fuzz::Exigir(BuscarInterfacePadrao(tabela).size() <= tabela.size());
-    return 0;
+    Exigir(BuscarInterfacePadrao(tabela).size() <= tabela.size());
 }
