@@ -7,30 +7,26 @@
 #include "conferir/Conferencia.hpp"
 #include "conferir/Relatorio.hpp"
 
+#include <optional>
+
 using namespace Ory;
 
 namespace {
 
 constexpr std::string_view CMarca = "\xEF\xBB\xBF";
 
-std::string Rodar(std::string_view ABytes, const TOpcoesDeConferencia& AOpcoes, std::size_t APedaco) {
+/// The report, the answer in JSON and the rows written for ATipo none; the verdicts on a column of ATipo otherwise.
+std::string Rodar(std::string_view ABytes, const TOpcoesDeConferencia& AOpcoes, std::size_t APedaco,
+                  std::optional<TTipoColuna> ATipo = {}) {
     TEntradaDeTexto entrada(ABytes, APedaco);
     TSaidaDeTexto saida;
     try {
+        if (ATipo) {
+            EscreverVereditos(entrada, saida, *ATipo, AOpcoes);
+            return saida.Texto;
+        }
         const TResumo resumo = ConferirCsv(entrada, &saida, AOpcoes);
         return EscreverRelatorio(resumo, "fuzz", 80, true) + EscreverRelatorioJson(resumo, "fuzz") + saida.Texto;
-    } catch (const EFalha& erro) {
-        return erro.what();
-    }
-}
-
-std::string RodarVereditos(std::string_view ABytes, TTipoColuna ATipo, const TOpcoesDeConferencia& AOpcoes,
-                           std::size_t APedaco) {
-    TEntradaDeTexto entrada(ABytes, APedaco);
-    TSaidaDeTexto saida;
-    try {
-        EscreverVereditos(entrada, saida, ATipo, AOpcoes);
-        return saida.Texto;
     } catch (const EFalha& erro) {
         return erro.what();
     }
@@ -92,7 +88,7 @@ void Fuzz::Provar(TEntrada AEntrada) {
     // Starting threads costs as much as dozens of runs without them.
     if (chaves == 0xFF) miudas.Tarefas = 2;
     Exigir(Rodar(bytes, opcoes, std::string::npos) == Rodar(bytes, miudas, pedaco));
-    Exigir(RodarVereditos(bytes, tipo, opcoes, std::string::npos) == RodarVereditos(bytes, tipo, miudas, pedaco));
+    Exigir(Rodar(bytes, opcoes, std::string::npos, tipo) == Rodar(bytes, miudas, pedaco, tipo));
     ConferirLeitura(bytes, delimitador, miudas.Limites, pedaco);
     miudas.Limites.Registro = bloco;
     miudas.Tarefas = 0;
