@@ -15,11 +15,11 @@ std::vector<TLinha> LerCsv(const std::filesystem::path& AArquivo) {
     while (std::getline(arquivo, texto)) {
         if (texto.ends_with('\r')) texto.pop_back();
         std::vector<std::string> campos(1);
-        bool entre_aspas = false;
+        bool entreAspas = false;
         for (const char c : texto)
             if (c == '"')
-                entre_aspas = !entre_aspas;
-            else if (c == ',' && !entre_aspas)
+                entreAspas = !entreAspas;
+            else if (c == ',' && !entreAspas)
                 campos.emplace_back();
             else
                 campos.back() += c;

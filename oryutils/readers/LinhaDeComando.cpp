@@ -16,8 +16,8 @@ std::size_t Contar(std::u16string_view ATexto, std::size_t AInicio, char16_t ACa
 // The argument that begins at APosicao, which moves behind it.
 std::u16string LerArgumento(std::u16string_view ATexto, std::size_t& APosicao) {
     std::u16string argumento;
-    bool entre_aspas = false;
-    while (APosicao < ATexto.size() && (entre_aspas || !EhSeparador(ATexto[APosicao]))) {
+    bool entreAspas = false;
+    while (APosicao < ATexto.size() && (entreAspas || !EhSeparador(ATexto[APosicao]))) {
         const std::size_t barras = Contar(ATexto, APosicao, u'\\');
         APosicao += barras;
         std::size_t aspas = Contar(ATexto, APosicao, u'"');
@@ -32,9 +32,9 @@ std::u16string LerArgumento(std::u16string_view ATexto, std::size_t& APosicao) {
             --aspas;
         }
         // Three in a row, an opening one included, give one; two that are left open and close.
-        const std::size_t total = aspas + (entre_aspas ? 1 : 0);
+        const std::size_t total = aspas + (entreAspas ? 1 : 0);
         argumento.append(total / 3, u'"');
-        entre_aspas = total % 3 == 1;
+        entreAspas = total % 3 == 1;
     }
     return argumento;
 }
@@ -53,10 +53,10 @@ std::vector<std::u16string> SepararArgumentos(std::u16string_view AArgumentos) {
 
 std::vector<std::u16string> SepararLinhaDeComando(std::u16string_view ALinha) {
     if (ALinha.empty()) return {};
-    const bool entre_aspas = ALinha.front() == u'"';
-    if (entre_aspas) ALinha.remove_prefix(1);
+    const bool entreAspas = ALinha.front() == u'"';
+    if (entreAspas) ALinha.remove_prefix(1);
     const auto fim = std::find_if(ALinha.begin(), ALinha.end(), [&](char16_t ACaractere) {
-        return entre_aspas ? ACaractere == u'"' : EhSeparador(ACaractere);
+        return entreAspas ? ACaractere == u'"' : EhSeparador(ACaractere);
     });
     const auto tamanho = static_cast<std::size_t>(fim - ALinha.begin());
     std::vector<std::u16string> partes{std::u16string(ALinha.substr(0, tamanho))};

@@ -39,21 +39,21 @@ constexpr std::int64_t CMenorOrdem = TLimites::min_exponent10 - TLimites::digits
 std::optional<TDecimal> LerDecimal(std::u16string_view ATexto, char16_t ASeparador) noexcept {
     TDecimal decimal;
     std::size_t i = 0;
-    bool tem_digito = false;
-    bool tem_separador = false;
+    bool temDigito = false;
+    bool temSeparador = false;
     for (; i < ATexto.size(); ++i) {
-        if (ATexto[i] == ASeparador && !tem_separador) {
-            tem_separador = true;
+        if (ATexto[i] == ASeparador && !temSeparador) {
+            temSeparador = true;
             continue;
         }
         if (!EhDigito(ATexto[i])) break;
-        tem_digito = true;
-        decimal.Expoente -= tem_separador;
+        temDigito = true;
+        decimal.Expoente -= temSeparador;
         const auto digito = static_cast<unsigned>(ATexto[i] - u'0');
         if (decimal.Significativos == 0 && digito == 0) continue;
         if (++decimal.Significativos <= CDigitosEm64Bits) decimal.Inicio = decimal.Inicio * 10 + digito;
     }
-    if (!tem_digito) return std::nullopt;
+    if (!temDigito) return std::nullopt;
     decimal.Digitos = ATexto.substr(0, i);
     if (i == ATexto.size()) return decimal;
 
@@ -240,17 +240,17 @@ std::u16string_view EscreverExtended(Extended AValor, std::span<char16_t, CTaman
     constexpr int CDigitos = 15;
     std::array<char16_t, 24> digitos{};
     const char16_t* resto = digitos.data();
-    const char16_t* fim_dos_digitos = EscreverInteiro(digitos.data(), static_cast<std::int64_t>(valor));
-    while (fim_dos_digitos[-1] == u'0') --fim_dos_digitos;
+    const char16_t* fimDosDigitos = EscreverInteiro(digitos.data(), static_cast<std::int64_t>(valor));
+    while (fimDosDigitos[-1] == u'0') --fimDosDigitos;
 
     const bool cientifico = ordem >= CDigitos || ordem < -4;
     int inteiros = cientifico ? 1 : ordem + 1;
     if (inteiros <= 0) *fim++ = u'0';
-    for (; inteiros > 0; --inteiros) *fim++ = resto < fim_dos_digitos ? *resto++ : u'0';
-    if (resto < fim_dos_digitos) {
+    for (; inteiros > 0; --inteiros) *fim++ = resto < fimDosDigitos ? *resto++ : u'0';
+    if (resto < fimDosDigitos) {
         *fim++ = ASeparadorDecimal;
         for (; inteiros < 0; ++inteiros) *fim++ = u'0';
-        fim = std::copy(resto, fim_dos_digitos, fim);
+        fim = std::copy(resto, fimDosDigitos, fim);
     }
     if (cientifico) {
         *fim++ = u'E';
@@ -288,7 +288,7 @@ std::u16string_view EscreverZeros(Extended AValor, int ADigitos, std::span<char1
     const auto por = [&](char16_t ACaractere) {
         if (inicio > 0) ADestino[--inicio] = ACaractere;
     };
-    const auto por_grupo = [&](std::uint64_t AGrupo, int AMinimo) {
+    const auto porGrupo = [&](std::uint64_t AGrupo, int AMinimo) {
         for (; AGrupo > 0 || AMinimo > 0; AGrupo /= 10, --AMinimo) por(static_cast<char16_t>(u'0' + AGrupo % 10));
     };
 
@@ -297,14 +297,14 @@ std::u16string_view EscreverZeros(Extended AValor, int ADigitos, std::span<char1
         const auto inteiro = static_cast<std::uint64_t>(magnitude);
         const std::uint64_t arredondado = inteiro + (magnitude - static_cast<Extended>(inteiro) >= 0.5L);
         zero = arredondado == 0;
-        por_grupo(arredondado, 0);
+        porGrupo(arredondado, 0);
     } else {
         const TBinario binario = SepararBinario(magnitude);
         TInteiroLongo numero(binario.Mantissa);
         numero.DeslocarEsquerda(binario.Expoente);
         while (!numero.EhZero()) {
             const std::uint32_t grupo = numero.Dividir(1'000'000'000);
-            por_grupo(grupo, numero.EhZero() ? 0 : 9);
+            porGrupo(grupo, numero.EhZero() ? 0 : 9);
         }
     }
     for (auto digitos = static_cast<std::int64_t>(ADestino.size() - inicio); digitos < ADigitos && inicio > 0;

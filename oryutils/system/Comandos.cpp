@@ -24,15 +24,15 @@ void ProcessarMensagens() { CosturaInterface().ProcessarMensagens(); }
 void LerSaida(TProcessoCapturado& AProcesso, Interno::TSaidaDeComando& ASaida) {
     std::vector<char> bloco(std::size_t{256} * 1024);
     using TRelogio = std::chrono::steady_clock;
-    auto ultima_leitura = TRelogio::now();
+    auto ultimaLeitura = TRelogio::now();
     while (true) {
         std::size_t lidos = 0;
         const TProcessoCapturado::TLeitura leitura = AProcesso.Ler(bloco, CIntervaloDasMensagens, lidos);
         if (leitura == TProcessoCapturado::lcFim) break;
         if (leitura == TProcessoCapturado::lcBytes) {
             ASaida.Receber({bloco.data(), lidos});
-            ultima_leitura = TRelogio::now();
-        } else if (TRelogio::now() - ultima_leitura >= CPausa) {
+            ultimaLeitura = TRelogio::now();
+        } else if (TRelogio::now() - ultimaLeitura >= CPausa) {
             ASaida.FecharParte();
         }
         ProcessarMensagens();

@@ -135,12 +135,12 @@ TEST(LogAcrescimo, SoContinuaOQueEleMesmoDeixou) {
         log.Adicionar(u"e depois", clBlue);
         EXPECT_EQ(ambiente.Bytes, LerBytes(arquivo).size() - esperado.size()) << "then it goes on: " << c.Porque;
     };
-    const auto conferir_todos = [&] {
+    const auto conferirTodos = [&] {
         for (const TCaso& c : casos)
             for (const int antes : {1, 100}) conferir(c, antes);
     };
-    conferir_todos();
-    std::thread(conferir_todos).join();  // the system tells the first thread in a shorter way
+    conferirTodos();
+    std::thread(conferirTodos).join();  // the system tells the first thread in a shorter way
 }
 
 TEST(LogAcrescimo, TextoMudadoNoMeioRegravaTudo) {

@@ -143,11 +143,11 @@ TEST(NumeroTexto, LeituraArredondaCerto) {
     std::mt19937_64 gerador(semente);
     for (int i = 0; i < 5000; ++i) {
         std::string texto;
-        const int expoente_maximo = i % 2 ? 40 : 4900;
+        const int expoenteMaximo = i % 2 ? 40 : 4900;
         for (auto n = gerador() % (i % 100 == 0 ? 3000 : 40) + 1; n > 0; --n)
             texto += static_cast<char>('0' + gerador() % 10);
         texto.insert(gerador() % texto.size(), ".");
-        texto += "E" + std::to_string(static_cast<int>(gerador() % 9800) % expoente_maximo - expoente_maximo / 2);
+        texto += "E" + std::to_string(static_cast<int>(gerador() % 9800) % expoenteMaximo - expoenteMaximo / 2);
         // What is too large is refused here and infinite there.
         const Extended outro = std::strtold(texto.c_str(), nullptr);
         EXPECT_EQ(TentarTextoParaExtended(DeUtf8(texto), CPonto),

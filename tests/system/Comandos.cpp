@@ -52,9 +52,9 @@ TEST(Comandos, CadaSaidaComoOComandoATermina) {
 }
 
 TEST(Comandos, OQueNaoIniciaDeixaALista) {
-    const std::u16string com_zero = Comando(u"argumentos a") + u'\0' + u"b";
+    const std::u16string comZero = Comando(u"argumentos a") + u'\0' + u"b";
     for (const std::u16string& linha : {std::u16string(u"este-programa-nao-existe -a"), std::u16string(),
-                                        std::u16string(u"   "), com_zero, EntreAspas(ORY_PASTA_DO_PROJETO)}) {
+                                        std::u16string(u"   "), comZero, EntreAspas(ORY_PASTA_DO_PROJETO)}) {
         TLinhas linhas{u"ja havia", u""};
         TOryUtilsSistema::ExecutarComandoComRetorno(linha, linhas);
         EXPECT_EQ(linhas, (TLinhas{u"ja havia", u""}));
@@ -105,7 +105,7 @@ TEST(Comandos, AsMensagensFluemEUmaPausaFechaAParte) {
     int vezes = 0;
     // Messages are processed for longer than what counts as a pause; only then does the program go on.
     const auto inicio = std::chrono::steady_clock::now();
-    const TAoProcessarMensagens ao_processar([&] {
+    const TAoProcessarMensagens aoProcessar([&] {
         if (++vezes >= 2 && std::chrono::steady_clock::now() - inicio > std::chrono::milliseconds(1500))
             std::ofstream(pasta / "siga") << "sim";
     });
@@ -118,7 +118,7 @@ TEST(Comandos, AsMensagensFluemEUmaPausaFechaAParte) {
 
 TEST(Comandos, DormirDeixaAsMensagensFluir) {
     int vezes = 0;
-    const TAoProcessarMensagens ao_processar([&] { ++vezes; });
+    const TAoProcessarMensagens aoProcessar([&] { ++vezes; });
     TOryUtilsSistema::Dormir(0);
     EXPECT_EQ(vezes, 0);
     TOryUtilsSistema::Dormir(60);  // returns
@@ -161,7 +161,7 @@ TEST(Comandos, ModoAdministradorDesligado) {
     const TPastaTemporaria pasta;
     bool bloqueadas = false;
     // Messages never end: each one that is processed brings the next.
-    const TAoProcessarMensagens ao_processar([&] {
+    const TAoProcessarMensagens aoProcessar([&] {
         bloqueadas |= desabilitadas;
         ::Testes::EnviarMensagemAEstaThread();
     });

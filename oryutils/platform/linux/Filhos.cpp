@@ -75,9 +75,9 @@ private:
 
 pid_t GerarFilho(const TPedidoDeFilho& APedido) {
     ColherFilhos();
-    const auto possui_zero = [](const std::string& ATexto) { return ATexto.find('\0') != std::string::npos; };
-    if (APedido.Argumentos.empty() || APedido.Argumentos.front().empty() || possui_zero(APedido.Pasta) ||
-        std::ranges::any_of(APedido.Argumentos, possui_zero))
+    const auto possuiZero = [](const std::string& ATexto) { return ATexto.find('\0') != std::string::npos; };
+    if (APedido.Argumentos.empty() || APedido.Argumentos.front().empty() || possuiZero(APedido.Pasta) ||
+        std::ranges::any_of(APedido.Argumentos, possuiZero))
         return 0;
     std::vector<char*> argumentos;
     // The system's function predates const; it writes nothing.

@@ -138,7 +138,7 @@ pid_t BuscarPid(std::uint32_t AID) { return AID <= INT_MAX ? static_cast<pid_t>(
 
 std::vector<TProcessoDoSistema> ListarProcessos(const std::function<bool(std::u16string_view)>& AQuer) {
     ColherFilhos();
-    const std::intptr_t maior_alca = BuscarMaiorAlca();
+    const std::intptr_t maiorAlca = BuscarMaiorAlca();
     struct TUsuario {
         std::u16string Nome;
         bool Quer;
@@ -160,7 +160,7 @@ std::vector<TProcessoDoSistema> ListarProcessos(const std::function<bool(std::u1
                              .Nome = DeUtf8(NomeDe(caminho, situacao->Nome)),
                              .Usuario = usuario->second.Nome,
                              .Caminho = DeUtf8(caminho),
-                             .Alca = AbrirComReserva(APid, maior_alca),
+                             .Alca = AbrirComReserva(APid, maiorAlca),
                              .Memoria = situacao->Memoria});
         return true;
     });
@@ -232,11 +232,11 @@ void LiberarMemoria() { ::malloc_trim(0); }
 
 void AbrirConfiguracaoDeDataHora() {
     if (!::secure_getenv("DISPLAY") && !::secure_getenv("WAYLAND_DISPLAY")) return;
-    const std::array<std::vector<std::string>, 4> CProgramas{{{"gnome-control-center", "datetime"},
-                                                              {"systemsettings", "kcm_clock"},
-                                                              {"cinnamon-settings", "calendar"},
-                                                              {"time-admin"}}};
-    for (const std::vector<std::string>& programa : CProgramas)
+    const std::array<std::vector<std::string>, 4> programas{{{"gnome-control-center", "datetime"},
+                                                             {"systemsettings", "kcm_clock"},
+                                                             {"cinnamon-settings", "calendar"},
+                                                             {"time-admin"}}};
+    for (const std::vector<std::string>& programa : programas)
         if (GerarFilho({.Argumentos = programa, .FecharDescritores = true}) != 0) return;
 }
 

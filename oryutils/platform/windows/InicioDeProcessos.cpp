@@ -51,8 +51,8 @@ std::optional<TProcessoIniciado> CriarProcesso(std::u16string_view ALinhaDeComan
 }
 
 std::optional<TProcessoIniciado> ExecutarPeloSistema(const TPedidoDeExecucao& APedido) {
-    const auto possui_zero = [](const std::u16string& ATexto) { return ATexto.find(u'\0') != ATexto.npos; };
-    if (possui_zero(APedido.Aplicacao) || possui_zero(APedido.Parametros) || possui_zero(APedido.Pasta))
+    const auto possuiZero = [](const std::u16string& ATexto) { return ATexto.find(u'\0') != ATexto.npos; };
+    if (possuiZero(APedido.Aplicacao) || possuiZero(APedido.Parametros) || possuiZero(APedido.Pasta))
         return std::nullopt;
     SHELLEXECUTEINFOW dados{};
     dados.cbSize = sizeof(dados);

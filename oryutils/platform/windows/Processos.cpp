@@ -75,17 +75,17 @@ TDonoDeProcesso BuscarDonoDoProcesso(std::uint32_t AID) {
     std::vector<std::uint64_t> memoria(tamanho / sizeof(std::uint64_t) + 1);  // aligned for what it holds
     if (!::GetTokenInformation(alca, TokenUser, memoria.data(), tamanho, &tamanho)) return {};
     const PSID conta = reinterpret_cast<const TOKEN_USER*>(memoria.data())->User.Sid;
-    DWORD tamanho_usuario = 0;
-    DWORD tamanho_dominio = 0;
+    DWORD tamanhoUsuario = 0;
+    DWORD tamanhoDominio = 0;
     SID_NAME_USE uso{};
-    ::LookupAccountSidW(nullptr, conta, nullptr, &tamanho_usuario, nullptr, &tamanho_dominio, &uso);
-    std::u16string usuario(tamanho_usuario, u'\0');
-    std::u16string dominio(tamanho_dominio, u'\0');
-    if (!::LookupAccountSidW(nullptr, conta, ParaWide(usuario.data()), &tamanho_usuario, ParaWide(dominio.data()),
-                             &tamanho_dominio, &uso))
+    ::LookupAccountSidW(nullptr, conta, nullptr, &tamanhoUsuario, nullptr, &tamanhoDominio, &uso);
+    std::u16string usuario(tamanhoUsuario, u'\0');
+    std::u16string dominio(tamanhoDominio, u'\0');
+    if (!::LookupAccountSidW(nullptr, conta, ParaWide(usuario.data()), &tamanhoUsuario, ParaWide(dominio.data()),
+                             &tamanhoDominio, &uso))
         return {};
-    usuario.resize(tamanho_usuario);
-    dominio.resize(tamanho_dominio);
+    usuario.resize(tamanhoUsuario);
+    dominio.resize(tamanhoDominio);
     return {std::move(usuario), std::move(dominio)};
 }
 

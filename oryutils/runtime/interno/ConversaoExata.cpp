@@ -16,8 +16,8 @@ std::optional<Extended> Arredondar(const TInteiroLongo& ANumero, int AExpoente, 
     const int descartados = std::max({ANumero.ContarBits() - 64, CMenorBit - AExpoente, 0});
     const std::uint64_t mantissa = ANumero.Buscar64Bits(descartados);
     const bool metade = ANumero.Bit(descartados - 1);
-    const bool para_cima = metade && ((mantissa & 1) || ASobrou || ANumero.TemBitAbaixoDe(descartados - 1));
-    return JuntarBinario(mantissa, AExpoente + descartados, para_cima);
+    const bool paraCima = metade && ((mantissa & 1) || ASobrou || ANumero.TemBitAbaixoDe(descartados - 1));
+    return JuntarBinario(mantissa, AExpoente + descartados, paraCima);
 }
 
 /// The first digits of ATexto from the first that is not 0, as many as may decide; true when others follow.
@@ -56,8 +56,8 @@ std::optional<Extended> ConverterExato(const TDecimal& ADecimal) noexcept {
         return Arredondar(numero, expoente, sobrou);
     }
     // Enough bits in front for the quotient to keep more than the 64 of the result.
-    const int bits_do_divisor = -expoente * 7 / 3 + 1;
-    const int deslocamento = std::max(bits_do_divisor + 66 - numero.ContarBits(), 0);
+    const int bitsDoDivisor = -expoente * 7 / 3 + 1;
+    const int deslocamento = std::max(bitsDoDivisor + 66 - numero.ContarBits(), 0);
     numero.DeslocarEsquerda(deslocamento);
     sobrou |= numero.DividirPorPotenciaDe5(-expoente);
     return Arredondar(numero, expoente - deslocamento, sobrou);

@@ -56,13 +56,13 @@ TEstimativa Multiplicar(const TEstimativa& AUm, const TEstimativa& AOutro) noexc
     const auto parte = [](const TEstimativa& A, int ADeslocamento) {
         return TInteiro128{static_cast<std::uint64_t>(A.Mantissa >> ADeslocamento)};
     };
-    const auto baixo_de = [](TInteiro128 A) { return TInteiro128{static_cast<std::uint64_t>(A)}; };
+    const auto baixoDe = [](TInteiro128 A) { return TInteiro128{static_cast<std::uint64_t>(A)}; };
     const TInteiro128 baixo = parte(AUm, 0) * parte(AOutro, 0);
     const TInteiro128 meio1 = parte(AUm, 64) * parte(AOutro, 0);
     const TInteiro128 meio2 = parte(AUm, 0) * parte(AOutro, 64);
-    const TInteiro128 meio = (baixo >> 64) + baixo_de(meio1) + baixo_de(meio2);
+    const TInteiro128 meio = (baixo >> 64) + baixoDe(meio1) + baixoDe(meio2);
     TInteiro128 mantissa = parte(AUm, 64) * parte(AOutro, 64) + (meio1 >> 64) + (meio2 >> 64) + (meio >> 64);
-    TInteiro128 resto = meio << 64 | baixo_de(baixo);
+    TInteiro128 resto = meio << 64 | baixoDe(baixo);
     int expoente = AUm.Expoente + AOutro.Expoente + 128;
 
     // Each error counts less than one unit of the product for each of its own; the two of them together, and the part
