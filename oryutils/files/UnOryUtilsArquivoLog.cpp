@@ -114,6 +114,7 @@ void TOryUtilsArquivoLog::FinalizarLog() {
     AdicionarMensagem(CSeparador, clWindowText);
     AdicionarMensagem(u"Fim do processo", clBlue);
     AdicionarMensagem({}, clWindowText);
+    FGravador->Soltar();  // the last save looks at the file
     SalvarArquivoLog();
     FGravador->Soltar();
     if (FTipoPeriodicidade == tplDiario) AtualizarDataModificacaoLogFechamento(FDataControleLog);
@@ -216,7 +217,6 @@ void TOryUtilsArquivoLog::ValidarEventoOnStatus(std::u16string_view AStatus, TCo
 void TOryUtilsArquivoLog::AtualizarDataModificacaoLogFechamento(TDateTime AData) {
     if (EhVazio(FArquivoLog)) return;
     TOryUtilsFiles::AlterouDataHoraArquivo(FArquivoLog, AData);
-    FGravador->AceitarNovaData();
 }
 
 // Lines come in bursts; those of one instant share the text.

@@ -89,10 +89,11 @@ public:
     void SetSalvarAutomaticamente(bool AValor) noexcept { FSalvarAutomaticamente = AValor; }
     TModoGravacao GetModoGravacao() const noexcept { return FModoGravacao; }
     /// mgReescrever, at first: each save writes the whole file anew (one open, one write, one close), so that saving
-    /// after each of N messages writes N*N/2 lines. mgAcrescentar: a save writes only what is new, as long as the file
-    /// is exactly what this log wrote last (same file, size and time); otherwise, and after any fault, the whole.
-    /// (Linux) After some such saves the file is kept open and watched until FinalizarLog, so that a save costs little
-    /// more than its write.
+    /// after each of N messages writes N*N/2 lines. mgAcrescentar: the file stays open until FinalizarLog, and a save
+    /// writes only what is new. Before a write, at most every 100 ms, and in FinalizarLog the log looks at the name of
+    /// its file: where the name leads to another file, to none, or to one of another size than was written, the save
+    /// writes the whole text anew, as it does after any fault. (Windows) While the file is open, another program that
+    /// opens it must let others write, and cannot rename the folder.
     void SetModoGravacao(TModoGravacao AValor) noexcept { FModoGravacao = AValor; }
     TCodificacaoLog GetCodificacao() const noexcept;
     /// Encoding in which the file is written and loaded; clPadrao at first. A character that it lacks becomes "?" in

@@ -21,15 +21,15 @@ enum TErroFluxo : int {
     efOutro,
 };
 
-/// Tells a file and its state from others: two equal marks mean that nobody has put another file in its place or
-/// written to it, as far as the file system's clock can tell.
+/// Which file it is, and its size. Two equal marks: nobody has put another file in its place, lengthened or cut it.
 struct TMarcaDeArquivo {
     std::uint64_t Volume = 0;
     std::uint64_t Indice = 0;  // of the file in its volume
     std::uint64_t Tamanho = 0;
-    std::int64_t Tempo = 0;  // last writing, in the system's own units
     bool operator==(const TMarcaDeArquivo&) const = default;
 };
+/// The mark of the file that ANome leads to now; none for what is no file or cannot be asked.
+std::optional<TMarcaDeArquivo> BuscarMarcaDoArquivo(const std::string& ANome);
 
 /// An open file or a standard stream, as bytes: nothing is buffered or translated. Names are UTF-8 on Windows and the
 /// system's own bytes on Linux. Closes what it opened when it goes; the standard streams stay open.
@@ -51,10 +51,12 @@ public:
     TErroFluxo CriarNovo(const std::string& ANome, const std::string& ASubstituido = {});
     /// Creates a file, or empties the one that is there, for writing. Others may read it meanwhile.
     TErroFluxo CriarOuEsvaziar(const std::string& ANome);
-    /// Opens an existing file for writing behind its end. Others may read it meanwhile.
+    /// Opens an existing file for writing behind its end, also where another program has moved that end. Others may
+    /// read, write, rename and delete it meanwhile. (Windows) Who opens it must let others write.
     TErroFluxo AbrirParaAcrescentar(const std::string& ANome);
     /// Also tells of what the system could only now not write. A closed stream gives efNenhum.
     TErroFluxo Fechar() noexcept;
+    bool EstahAberto() const noexcept { return FAlca != CNenhum; }
 
     /// Waits for input and reads at most ADestino.size() bytes; 0 at the end of input or on an error, told by AErro.
     std::size_t Ler(std::span<char> ADestino, TErroFluxo& AErro) noexcept;
@@ -65,8 +67,6 @@ public:
     std::optional<std::uint64_t> BuscarTamanho() const noexcept;
     /// The mark of a file; none when the system does not tell.
     std::optional<TMarcaDeArquivo> BuscarMarca() const noexcept;
-    /// The mark that a file just written to will have once it is closed.
-    std::optional<TMarcaDeArquivo> FixarMarca() noexcept;
     /// The file descriptor or HANDLE, for other calls of the system; below zero when nothing is open.
     std::intptr_t GetAlca() const noexcept { return FAlca; }
     bool EhTerminal() const noexcept;

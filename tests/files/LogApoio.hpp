@@ -9,20 +9,25 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cstddef>
 #include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-/// A world whose clock stands until it is moved, and that counts what a save does.
+/// A world that counts what a save does. Its date stands until it is moved; the clock that spaces the looks at a file
+/// moves so far at each question that every save looks.
 struct TAmbienteDeTeste final : OryUtils::TAmbienteDoLog {
     OryUtils::TDateTime Agora = OryUtils::CodificarData(2026, 11, 15);
     int Tentativas = 0;
     std::size_t Bytes = 0;
     std::function<void(int)> AoTentar{};
+    std::chrono::steady_clock::time_point Relogio{};
+    std::chrono::milliseconds Passo{100};
 
     OryUtils::TDateTime BuscarAgora() override { return Agora; }
+    std::chrono::steady_clock::time_point BuscarRelogio() override { return Relogio += Passo; }
     std::u16string BuscarAplicacao() override { return u"Importador.exe"; }
     std::u16string BuscarVersao() override { return u"7.2.0.15"; }
     std::u16string BuscarIP() override { return u"192.168.0.10"; }

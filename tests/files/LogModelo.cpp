@@ -1,4 +1,5 @@
 #include "oryutils/characters/Caracteres.hpp"
+#include "oryutils/platform/Pastas.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
 
 #include "files/LogApoio.hpp"
@@ -153,18 +154,24 @@ private:
         const auto achado = FObvio.Arquivos.find(FObvio.Arquivo());
         if (achado == FObvio.Arquivos.end()) return;
         const auto arquivo = FPasta.Caminho() / achado->first;
+        const int estrago = Sortear(5);
+        if (estrago >= 2 && Interno::BuscarSeparadorDePastas() == u'\\') {
+            // Windows lets nobody take the name of an open file.
+            FLog.FinalizarLog();
+            FObvio.Finalizar();
+        }
         std::vector<std::u16string>& linhas = achado->second;
-        switch (Sortear(5)) {
+        switch (estrago) {
             case 0:
+                linhas.push_back(u"de outro programa");
+                return GravarBytes(arquivo, JuntarLinhas({u"de outro programa"}), std::ios::app);
+            case 1:
+                linhas.resize(linhas.size() / 2);
+                return GravarBytes(arquivo, JuntarLinhas(linhas));
+            case 2:
                 std::filesystem::remove(arquivo);
                 FObvio.Arquivos.erase(achado);
                 return;
-            case 1:
-                linhas.push_back(u"de outro programa");
-                return GravarBytes(arquivo, JuntarLinhas({u"de outro programa"}), std::ios::app);
-            case 2:
-                linhas.resize(linhas.size() / 2);
-                return GravarBytes(arquivo, JuntarLinhas(linhas));
             case 3: {
                 const auto outro = FPasta.Caminho() / "novo";
                 linhas = {u"um arquivo novo de outro tamanho, que ninguém mais tem: " +

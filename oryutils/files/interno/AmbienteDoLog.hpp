@@ -2,6 +2,7 @@
 
 #include "oryutils/runtime/DataHora.hpp"
 
+#include <chrono>
 #include <cstddef>
 #include <string>
 
@@ -14,6 +15,8 @@ public:
 
     /// The current local date and time.
     virtual TDateTime BuscarAgora() = 0;
+    /// The clock that spaces the looks at the file of a log.
+    virtual std::chrono::steady_clock::time_point BuscarRelogio() { return std::chrono::steady_clock::now(); }
     /// File name of the running executable, without its folder.
     virtual std::u16string BuscarAplicacao() = 0;
     /// Version of the running executable.

@@ -4,8 +4,6 @@
 #include "oryutils/platform/TextoDoSistema.hpp"
 
 #include <algorithm>
-#include <array>
-#include <cstring>
 
 namespace OryUtils {
 namespace {
@@ -32,48 +30,14 @@ std::u16string Decodificar(std::string_view ABytes, TCodificacaoLog ACodificacao
     }
 }
 
-constexpr std::size_t CBloco = 16;
-
-// Narrows one block; false when a character of it is beyond ASCII. The compiler turns it into few instructions.
-bool EstreitarBloco(char* ADestino, const char16_t* AOrigem) {
-    std::array<char16_t, CBloco> letras;
-    std::array<char, CBloco> bytes;
-    std::memcpy(letras.data(), AOrigem, sizeof letras);
-    char16_t todas = 0;
-    for (std::size_t i = 0; i < CBloco; ++i) {
-        todas = static_cast<char16_t>(todas | letras[i]);
-        bytes[i] = static_cast<char>(letras[i]);
-    }
-    std::memcpy(ADestino, bytes.data(), sizeof bytes);
-    return todas < 0x80;
-}
-
-// Appends ATexto up to its first character beyond ASCII; the number of characters appended.
-std::size_t EstreitarAscii(std::string& ADestino, std::u16string_view ATexto) {
-    const std::size_t antes = ADestino.size();
-    const std::size_t tamanho = ATexto.size();
-    ADestino.resize(antes + tamanho);
-    char* const destino = ADestino.data() + antes;
-    std::size_t feitos = 0;
-    while (feitos + CBloco <= tamanho && EstreitarBloco(destino + feitos, ATexto.data() + feitos)) feitos += CBloco;
-    // What is left is the end of one more block, which reaches back into the one before.
-    const std::size_t ultimo = tamanho - std::min(tamanho, CBloco);
-    if (feitos > ultimo && EstreitarBloco(destino + ultimo, ATexto.data() + ultimo)) return tamanho;
-    while (feitos < tamanho && ATexto[feitos] < 0x80) {
-        destino[feitos] = static_cast<char>(ATexto[feitos]);
-        ++feitos;
-    }
-    ADestino.resize(antes + feitos);
-    return feitos;
-}
-
 }  // namespace
 
-// Every encoding here holds ASCII as it is, and most of a log is ASCII.
 bool AcrescentarCodificado(std::string& ADestino, std::u16string_view ATexto, TCodificacaoLog ACodificacao) {
-    const std::size_t ascii = EstreitarAscii(ADestino, ATexto);
-    if (ascii == ATexto.size()) return true;
-    ADestino += Codificar(ATexto.substr(ascii), ACodificacao);
+    // Every encoding here holds ASCII as it is, and most of a log is ASCII.
+    const auto fim = std::find_if(ATexto.begin(), ATexto.end(), [](char16_t c) { return c >= 0x80; });
+    ADestino.append(ATexto.begin(), fim);
+    if (fim == ATexto.end()) return true;
+    ADestino += Codificar({fim, ATexto.end()}, ACodificacao);
     return false;
 }
 

@@ -10,13 +10,12 @@ namespace OryUtils {
 
 void TLinhasDoLog::Adicionar(std::u16string_view ALinha) {
     if (FLinhas.empty()) FPronto.clear();  // it may hold the text of a log without lines
-    FMemoria.Preparar(FPronto, ALinha.size() + Interno::BuscarQuebraDeLinha().size());
     const std::size_t inicio = FPronto.size();
     FLinhas.push_back({inicio, nullptr});
     try {
         if (!AcrescentarCodificado(FPronto, ALinha, FCodificacao))
             FLinhas.back().Original = std::make_unique<std::u16string>(ALinha);
-        for (const char16_t c : Interno::BuscarQuebraDeLinha()) FPronto.push_back(static_cast<char>(c));
+        AcrescentarCodificado(FPronto, Interno::BuscarQuebraDeLinha(), FCodificacao);
     } catch (...) {
         FPronto.resize(inicio);
         FLinhas.pop_back();

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "oryutils/files/UnOryUtilsArquivoLogTypes.hpp"
-#include "oryutils/platform/MemoriaDeTexto.hpp"
 
 #include <cstddef>
 #include <cstdint>
@@ -48,7 +47,6 @@ private:
 
     std::vector<TLinha> FLinhas{};
     std::string FPronto{};
-    Interno::TMemoriaDeTexto<std::string> FMemoria{};
     std::uint64_t FGeracao = 0;
     TCodificacaoLog FCodificacao = clPadrao;
 };

@@ -54,9 +54,9 @@ bool ValeRepetir(int AAlca, short AEvento) noexcept {
 /// A pipe without a reader is refused, where opening it would wait for one.
 constexpr int CParaEscrever = O_WRONLY | O_NONBLOCK | O_CLOEXEC;
 
-TMarcaDeArquivo DeDados(const struct stat& ADados) {
-    return {ADados.st_dev, ADados.st_ino, static_cast<std::uint64_t>(ADados.st_size),
-            std::int64_t{ADados.st_mtim.tv_sec} * 1'000'000'000 + ADados.st_mtim.tv_nsec};
+std::optional<TMarcaDeArquivo> DeDados(const struct stat& ADados) {
+    if (!S_ISREG(ADados.st_mode)) return {};
+    return TMarcaDeArquivo{ADados.st_dev, ADados.st_ino, static_cast<std::uint64_t>(ADados.st_size)};
 }
 
 }  // namespace
@@ -160,12 +160,15 @@ std::optional<std::uint64_t> TFluxo::BuscarTamanho() const noexcept {
 
 std::optional<TMarcaDeArquivo> TFluxo::BuscarMarca() const noexcept {
     struct stat dados {};
-    if (::fstat(Descritor(FAlca), &dados) != 0 || !S_ISREG(dados.st_mode)) return {};
+    if (::fstat(Descritor(FAlca), &dados) != 0) return {};
     return DeDados(dados);
 }
 
-// A write has changed the time already; closing does not.
-std::optional<TMarcaDeArquivo> TFluxo::FixarMarca() noexcept { return BuscarMarca(); }
+std::optional<TMarcaDeArquivo> BuscarMarcaDoArquivo(const std::string& ANome) {
+    struct stat dados {};
+    if (::stat(ANome.c_str(), &dados) != 0) return {};
+    return DeDados(dados);
+}
 
 bool TFluxo::EhTerminal() const noexcept { return ::isatty(Descritor(FAlca)) == 1; }
 

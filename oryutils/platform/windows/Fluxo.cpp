@@ -51,6 +51,8 @@ bool EhPasta(const std::wstring& ANome) {
     return atributos != INVALID_FILE_ATTRIBUTES && (atributos & FILE_ATTRIBUTE_DIRECTORY);
 }
 
+constexpr DWORD CPartilhaTudo = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
 // One call of the system takes a 32-bit count; big writes to a pipe or a console go in parts, to a file in one piece.
 constexpr std::size_t CMaiorParte = 1u << 20;
 constexpr std::size_t CMaiorParteDeArquivo = 1u << 30;
@@ -78,9 +80,8 @@ TFluxo TFluxo::ErroPadrao() noexcept {
 TErroFluxo TFluxo::AbrirParaLer(const std::string& ANome) {
     Fechar();
     const std::wstring nome = ParaLargo(ANome);
-    const HANDLE alca =
-        ::CreateFileW(nome.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                      OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr);
+    const HANDLE alca = ::CreateFileW(nome.c_str(), GENERIC_READ, CPartilhaTudo, nullptr, OPEN_EXISTING,
+                                      FILE_FLAG_SEQUENTIAL_SCAN, nullptr);
     if (alca == INVALID_HANDLE_VALUE) {
         const DWORD erro = ::GetLastError();
         return EhPasta(nome) ? efEhPasta : DeErroDoSistema(erro);
@@ -116,9 +117,8 @@ TErroFluxo TFluxo::CriarOuEsvaziar(const std::string& ANome) {
 
 TErroFluxo TFluxo::AbrirParaAcrescentar(const std::string& ANome) {
     Fechar();
-    const HANDLE alca = ::CreateFileW(ParaLargo(ANome).c_str(),
-                                      FILE_APPEND_DATA | FILE_READ_ATTRIBUTES | FILE_WRITE_ATTRIBUTES | SYNCHRONIZE,
-                                      FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE alca = ::CreateFileW(ParaLargo(ANome).c_str(), FILE_APPEND_DATA | FILE_READ_ATTRIBUTES | SYNCHRONIZE,
+                                      CPartilhaTudo, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (alca == INVALID_HANDLE_VALUE) return DeErroDoSistema(::GetLastError());
     FAlca = reinterpret_cast<std::intptr_t>(alca);
     FDono = true;
@@ -166,18 +166,14 @@ std::optional<TMarcaDeArquivo> TFluxo::BuscarMarca() const noexcept {
     BY_HANDLE_FILE_INFORMATION dados{};
     if (::GetFileType(Alca(FAlca)) != FILE_TYPE_DISK || !::GetFileInformationByHandle(Alca(FAlca), &dados)) return {};
     const auto juntar = [](DWORD AAlta, DWORD ABaixa) { return std::uint64_t{AAlta} << 32 | ABaixa; };
-    return TMarcaDeArquivo{
-        dados.dwVolumeSerialNumber, juntar(dados.nFileIndexHigh, dados.nFileIndexLow),
-        juntar(dados.nFileSizeHigh, dados.nFileSizeLow),
-        static_cast<std::int64_t>(juntar(dados.ftLastWriteTime.dwHighDateTime, dados.ftLastWriteTime.dwLowDateTime))};
+    return TMarcaDeArquivo{dados.dwVolumeSerialNumber, juntar(dados.nFileIndexHigh, dados.nFileIndexLow),
+                           juntar(dados.nFileSizeHigh, dados.nFileSizeLow)};
 }
 
-// The system may set the time of a write only when the file is closed; a time set by hand it leaves alone.
-std::optional<TMarcaDeArquivo> TFluxo::FixarMarca() noexcept {
-    FILETIME agora{};
-    ::GetSystemTimeAsFileTime(&agora);
-    if (!::SetFileTime(Alca(FAlca), nullptr, nullptr, &agora)) return {};
-    return BuscarMarca();
+std::optional<TMarcaDeArquivo> BuscarMarcaDoArquivo(const std::string& ANome) {
+    TFluxo fluxo;
+    if (fluxo.AbrirParaAcrescentar(ANome) != efNenhum) return {};
+    return fluxo.BuscarMarca();
 }
 
 bool TFluxo::EhTerminal() const noexcept {

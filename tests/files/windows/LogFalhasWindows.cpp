@@ -28,7 +28,7 @@ TEST_P(LogFalhasWindows, AbertoPorOutroSemPartilhar) {
     const auto arquivo = pasta.Caminho() / "Preso.log";
     TLogDeTeste log(arquivo.u16string(), ambiente, GetParam());
     log.Adicionar(u"livre", clBlue);
-    log.SalvarArquivoLog();
+    log.FinalizarLog();  // while a log by append keeps the file open, the other program could not open it so
     const std::string antes = LerBytes(arquivo);
     for (const DWORD partilha : {DWORD{0}, DWORD{FILE_SHARE_READ}}) {
         const TAbertoPorOutro outro(arquivo, partilha);
