@@ -26,11 +26,11 @@ LEITURA = "plain pass over the bytes"
 
 OPERACOES = (
     Operacao("CPF and CNPJ validated", "CpfCnpj_Biblioteca",
-             (Par("CpfCnpj_brazilian-utils", "npm brazilian-utils", "vezes", 25),
-              Par("CpfCnpj_LacoSimples", "plain C++ loop", "parte", 0.30)), "CpfCnpj_UmaLeitura", LEITURA),
+             (Par("CpfCnpj_brazilian-utils", "npm brazilian-utils", "vezes", 20),
+              Par("CpfCnpj_LacoSimples", "plain C++ loop", "parte", 1)), "CpfCnpj_UmaLeitura", LEITURA),
     Operacao("state registration validated", "IE_Biblioteca",
-             (Par("IE_brazilian-utils", "npm brazilian-utils", "vezes", 20),
-              Par("IE_inscricaoestadual", "npm inscricaoestadual", "vezes", 20)), "IE_UmaLeitura", LEITURA),
+             (Par("IE_brazilian-utils", "npm brazilian-utils", "vezes", 4),
+              Par("IE_inscricaoestadual", "npm inscricaoestadual", "vezes", 8)), "IE_UmaLeitura", LEITURA),
     Operacao("amount in words", "Extenso_Biblioteca",
              (Par("Extenso_extenso", "npm extenso", "vezes", 15),
               Par("Extenso_Concatenacao", "plain C++ concatenation")), "Extenso_Copia", "copy of the text"),

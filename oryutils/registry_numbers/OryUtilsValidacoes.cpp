@@ -2,10 +2,9 @@
 
 #include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/registry_numbers/UnOryUtilsValidacoesClasseIE.hpp"
-#include "oryutils/registry_numbers/interno/DigitosCpfCnpj.hpp"
+#include "oryutils/registry_numbers/interno/CpfCnpj.hpp"
 #include "oryutils/registry_numbers/interno/OutrosDocumentos.hpp"
 #include "oryutils/runtime/Costura.hpp"
-#include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
 
 #include <algorithm>
@@ -17,7 +16,7 @@ TInstanciaGlobal<TOryUtilsValidacoes> GOryUtilsValidacoes;
 
 namespace {
 
-using namespace OryTypes;
+using namespace Interno;
 
 constexpr std::u16string_view CCodigoInvalido = u"Código inválido. Verifique.";
 
@@ -28,8 +27,8 @@ struct TDocumento {
     std::u16string_view Mensagem;
 };
 constexpr std::array CDocumentos{
-    TDocumento{tiCNPJ, DigitosCpfCnpj::ConferirCnpj<char16_t>, u"CNPJ inválido. Verifique."},
-    TDocumento{tiCPF, DigitosCpfCnpj::ConferirCpf<char16_t>, u"CPF inválido. Verifique."},
+    TDocumento{tiCNPJ, ConferirCnpj<char16_t>, u"CNPJ inválido. Verifique."},
+    TDocumento{tiCPF, ConferirCpf<char16_t>, u"CPF inválido. Verifique."},
     TDocumento{tiCEI, ConferirCei, u"CEI inválido. Verifique."},
     TDocumento{tiPIS, ConferirPis, u"PIS inválido. Verifique."},
     TDocumento{tiCNH, ConferirCnh, u"CNH inválida. Verifique."},
@@ -55,21 +54,19 @@ void TOryUtilsValidacoes::TratarResultadoValidacao(TWinControl* AControle, std::
 }
 
 bool TOryUtilsValidacoes::ValidouCnpjCpf(TTipoInscricao ATipo, std::u16string_view ANumero) noexcept {
-    if (ATipo == tiCNPJ) return DigitosCpfCnpj::ConferirCnpj(ANumero) == mrNenhum;
-    return ATipo == tiCPF && DigitosCpfCnpj::ConferirCpf(ANumero) == mrNenhum;
+    if (ATipo == tiCNPJ) return ConferirCnpj(ANumero) == mrNenhum;
+    return ATipo == tiCPF && ConferirCpf(ANumero) == mrNenhum;
 }
 
 bool TOryUtilsValidacoes::ValidouCnpjAlfanumerico(std::u16string_view ANumero) noexcept {
-    return DigitosCpfCnpj::ConferirCnpjAlfanumerico(ANumero) == mrNenhum;
+    return ConferirCnpjAlfanumerico(ANumero) == mrNenhum;
 }
 
 std::u16string TOryUtilsValidacoes::FormatarCnpjAlfanumerico(std::u16string_view ANumero) {
-    const auto cnpj = DigitosCpfCnpj::LimparCnpjAlfanumerico(ANumero);
-    if (cnpj.Motivo != mrNenhum) return std::u16string(ANumero);
+    const TNumeroLido cnpj = LerCnpjAlfanumerico(ANumero);
+    if (!TemFormaDeCnpj(cnpj)) return std::u16string(ANumero);
     std::u16string texto;
-    std::size_t lidos = 0;
-    for (const char lugar : DigitosCpfCnpj::CCnpjFormatado)
-        texto += lugar == '0' ? cnpj.Texto[lidos++] : static_cast<char16_t>(lugar);
+    EscreverNaMascara(texto, CFormatoCnpj.Mascara, cnpj);
     return texto;
 }
 
@@ -134,15 +131,15 @@ void TOryUtilsValidacoes::ValidarCampoNumerico(const TObjeto* ASender, TWinContr
                                                std::int16_t APrecisao, std::int16_t ADecimais) {
     if (!ValidouCampo(ASender, AControle)) return;
     std::ptrdiff_t mantidos = 0;
-    std::ptrdiff_t primeira_virgula = -1;
+    std::ptrdiff_t primeiraVirgula = -1;
     for (const char16_t c : AValor) {
         if (c != u',' && !EhDigito(c)) continue;
-        if (c == u',' && primeira_virgula < 0) primeira_virgula = mantidos;
+        if (c == u',' && primeiraVirgula < 0) primeiraVirgula = mantidos;
         ++mantidos;
     }
-    const bool tem_fracao = primeira_virgula > 0;
-    const std::ptrdiff_t inteiros = tem_fracao ? primeira_virgula : mantidos;
-    const std::ptrdiff_t decimais = tem_fracao ? mantidos - primeira_virgula - 1 : 0;
+    const bool temFracao = primeiraVirgula > 0;
+    const std::ptrdiff_t inteiros = temFracao ? primeiraVirgula : mantidos;
+    const std::ptrdiff_t decimais = temFracao ? mantidos - primeiraVirgula - 1 : 0;
     if (inteiros == 0 || inteiros > APrecisao - ADecimais || decimais > ADecimais)
         TratarResultadoValidacao(AControle, AMensagem);
 }
@@ -162,75 +159,19 @@ void TOryUtilsValidacoes::ValidarCampoSomenteCaracteresEspeciais(const TObjeto* 
 
 bool TOryUtilsValidacoes::ValidouMetodosRetorno(std::vector<TValidacaoMetodoRetorno> AMetodos,
                                                 TTipoValidacaoResultadoMetodoRetorno ATipo) {
-    const bool resultado_que_para = ATipo == tvrPrimeiroResultadoVerdadeiro;
+    const bool resultadoQuePara = ATipo == tvrPrimeiroResultadoVerdadeiro;
     bool resultado = false;
     for (TValidacaoMetodoRetorno& metodo : AMetodos) {
         if (!metodo) throw Exception(u"Argumento <AMetodos> não está instanciado.");
         resultado = metodo();
         metodo = nullptr;
-        if (resultado == resultado_que_para) break;
+        if (resultado == resultadoQuePara) break;
     }
     return resultado;
 }
 
 Variant TOryUtilsValidacoes::Iif(bool ACondicao, const Variant& AValorVerdadeiro, const Variant& AValorFalso) {
     return ACondicao ? AValorVerdadeiro : AValorFalso;
-}
-
-bool ValidarCampo(const TObjeto* ASender, const TWinControl* AControle) {
-    return TOryUtilsValidacoes::ValidouCampo(ASender, AControle);
-}
-bool ValidarCampo(const TObjeto* ASender, std::span<TWinControl* const> AControles) {
-    return TOryUtilsValidacoes::ValidouCampo(ASender, AControles);
-}
-bool ValidarDocumento(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ANumero,
-                      TTipoInscricao ATipo) {
-    return TOryUtilsValidacoes::ValidouDocumento(ASender, AControle, ANumero, ATipo);
-}
-bool ValidouCnpjCpf(TTipoInscricao ATipo, std::u16string_view ANumero) noexcept {
-    return TOryUtilsValidacoes::ValidouCnpjCpf(ATipo, ANumero);
-}
-bool ValidouCnpjAlfanumerico(std::u16string_view ANumero) noexcept {
-    return TOryUtilsValidacoes::ValidouCnpjAlfanumerico(ANumero);
-}
-std::u16string FormatarCnpjAlfanumerico(std::u16string_view ANumero) {
-    return TOryUtilsValidacoes::FormatarCnpjAlfanumerico(ANumero);
-}
-bool ValidouPIS(std::u16string_view ANumero) noexcept { return TOryUtilsValidacoes::ValidouPIS(ANumero); }
-bool ValidouCEI(std::u16string_view ANumero) { return TOryUtilsValidacoes::ValidouCEI(ANumero); }
-bool ValidouCNH(std::u16string_view ANumero) noexcept { return TOryUtilsValidacoes::ValidouCNH(ANumero); }
-bool ValidouCodigoMunicipioOficial(std::u16string_view ACodigo) {
-    return TOryUtilsValidacoes::ValidouCodigoMunicipioOficial(ACodigo);
-}
-bool ValidouIE(std::u16string_view AIE, std::u16string_view AUF) noexcept {
-    return TOryUtilsValidacoes::ValidouIE(AIE, AUF);
-}
-void ValidarIE(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AIE, std::u16string_view AUF,
-               std::u16string_view AMensagem) {
-    TOryUtilsValidacoes::ValidarIE(ASender, AControle, AIE, AUF, AMensagem);
-}
-void ValidarString(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
-                   std::u16string_view AMensagem) {
-    TOryUtilsValidacoes::ValidarString(ASender, AControle, AValor, AMensagem);
-}
-void ValidarCodigoCadastral(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
-                            std::u16string_view AMensagem) {
-    TOryUtilsValidacoes::ValidarCodigoCadastral(ASender, AControle, AValor, AMensagem);
-}
-void ValidarCampoNumerico(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
-                          std::u16string_view AMensagem, std::int16_t APrecisao, std::int16_t ADecimais) {
-    TOryUtilsValidacoes::ValidarCampoNumerico(ASender, AControle, AValor, AMensagem, APrecisao, ADecimais);
-}
-void ValidarCampoSomenteNumeros(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
-                                std::u16string_view AMensagem) {
-    TOryUtilsValidacoes::ValidarCampoSomenteNumeros(ASender, AControle, AValor, AMensagem);
-}
-void ValidarCampoSomenteCaracteresEspeciais(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
-                                            std::u16string_view AMensagem) {
-    TOryUtilsValidacoes::ValidarCampoSomenteCaracteresEspeciais(ASender, AControle, AValor, AMensagem);
-}
-Variant Iif(bool ACondicao, const Variant& AValorVerdadeiro, const Variant& AValorFalso) {
-    return TOryUtilsValidacoes::Iif(ACondicao, AValorVerdadeiro, AValorFalso);
 }
 
 }  // namespace OryUtils

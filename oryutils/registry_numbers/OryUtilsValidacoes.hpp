@@ -20,6 +20,7 @@ namespace OryUtils {
 
 using OryTypes::TResultStatus;
 using OryTypes::TTipoInscricao;
+using enum OryTypes::TTipoInscricao;
 
 /// Validations of Brazilian registry numbers and of form fields.
 ///
@@ -179,53 +180,101 @@ extern ORY_API TInstanciaGlobal<TOryUtilsValidacoes> GOryUtilsValidacoes;
 // The free functions forward to the operation of TOryUtilsValidacoes with the same name, except the first five.
 
 /// ValidouCampo.
-ORY_API bool ValidarCampo(const TObjeto* ASender, const TWinControl* AControle);
-ORY_API bool ValidarCampo(const TObjeto* ASender, std::span<TWinControl* const> AControles);
+inline bool ValidarCampo(const TObjeto* ASender, const TWinControl* AControle) {
+    return TOryUtilsValidacoes::ValidouCampo(ASender, AControle);
+}
+inline bool ValidarCampo(const TObjeto* ASender, std::span<TWinControl* const> AControles) {
+    return TOryUtilsValidacoes::ValidouCampo(ASender, AControles);
+}
 /// ValidouDocumento.
-ORY_API bool ValidarDocumento(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ANumero,
-                              TTipoInscricao ATipo);
+inline bool ValidarDocumento(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ANumero,
+                             TTipoInscricao ATipo) {
+    return TOryUtilsValidacoes::ValidouDocumento(ASender, AControle, ANumero, ATipo);
+}
 /// ValidouData.
-ORY_API bool ValidarData(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ATexto,
-                         std::u16string_view AMensagem);
+inline bool ValidarData(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ATexto,
+                        std::u16string_view AMensagem) {
+    return TOryUtilsValidacoes::ValidouData(ASender, AControle, ATexto, AMensagem);
+}
 /// ValidouEnderecoIP.
-ORY_API bool ValidarIPAddress(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AEndereco,
-                              std::u16string_view AMensagem);
+inline bool ValidarIPAddress(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AEndereco,
+                             std::u16string_view AMensagem) {
+    return TOryUtilsValidacoes::ValidouEnderecoIP(ASender, AControle, AEndereco, AMensagem);
+}
 
-ORY_API bool ValidouCnpjCpf(TTipoInscricao ATipo, std::u16string_view ANumero) noexcept;
-ORY_API bool ValidouCnpjAlfanumerico(std::u16string_view ANumero) noexcept;
-ORY_API std::u16string FormatarCnpjAlfanumerico(std::u16string_view ANumero);
-ORY_API bool ValidouPIS(std::u16string_view ANumero) noexcept;
-ORY_API bool ValidouCEI(std::u16string_view ANumero);
-ORY_API bool ValidouCNH(std::u16string_view ANumero) noexcept;
-ORY_API bool ValidouCodigoMunicipioOficial(std::u16string_view ACodigo);
-ORY_API bool ValidouIE(std::u16string_view AIE, std::u16string_view AUF) noexcept;
-ORY_API void ValidarIE(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AIE, std::u16string_view AUF,
-                       std::u16string_view AMensagem);
-ORY_API void ValidarString(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
-                           std::u16string_view AMensagem);
-ORY_API void ValidarCodigoCadastral(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
-                                    std::u16string_view AMensagem);
-ORY_API void ValidarCampoNumerico(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
-                                  std::u16string_view AMensagem, std::int16_t APrecisao, std::int16_t ADecimais);
-ORY_API void ValidarCampoSomenteNumeros(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
-                                        std::u16string_view AMensagem);
-ORY_API void ValidarCampoSomenteCaracteresEspeciais(const TObjeto* ASender, TWinControl* AControle,
-                                                    std::u16string_view AValor, std::u16string_view AMensagem);
-ORY_API bool ValidouCRC(std::u16string_view ACRC) noexcept;
-ORY_API void ValidarCRC(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ACRC,
-                        std::u16string_view AMensagem);
-ORY_API bool ValidouCaractereControle(char16_t ACaractere, std::u16string_view ATexto, TFieldType ATipo,
-                                      std::uint16_t AQuantidade) noexcept;
-ORY_API bool ValidouDataHora(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ATexto,
-                             std::u16string_view AMensagem);
-ORY_API bool ValidouHora(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ATexto,
-                         std::u16string_view AMensagem);
-ORY_API void ValidarDiretorio(const TObjeto* ASender, TWinControl* AControle, std::u16string_view APasta,
-                              std::u16string_view AMensagem);
-ORY_API void ValidarDataInicioFim(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AInicio,
-                                  std::u16string_view AFim, std::u16string_view AMensagem);
-ORY_API void ValidarDataInicioFim(const TObjeto* ASender, TWinControl* AControle, TDateTime AInicio, TDateTime AFim,
-                                  std::u16string_view AMensagem);
-ORY_API Variant Iif(bool ACondicao, const Variant& AValorVerdadeiro, const Variant& AValorFalso);
+inline bool ValidouCnpjCpf(TTipoInscricao ATipo, std::u16string_view ANumero) noexcept {
+    return TOryUtilsValidacoes::ValidouCnpjCpf(ATipo, ANumero);
+}
+inline bool ValidouCnpjAlfanumerico(std::u16string_view ANumero) noexcept {
+    return TOryUtilsValidacoes::ValidouCnpjAlfanumerico(ANumero);
+}
+inline std::u16string FormatarCnpjAlfanumerico(std::u16string_view ANumero) {
+    return TOryUtilsValidacoes::FormatarCnpjAlfanumerico(ANumero);
+}
+inline bool ValidouPIS(std::u16string_view ANumero) noexcept { return TOryUtilsValidacoes::ValidouPIS(ANumero); }
+inline bool ValidouCEI(std::u16string_view ANumero) { return TOryUtilsValidacoes::ValidouCEI(ANumero); }
+inline bool ValidouCNH(std::u16string_view ANumero) noexcept { return TOryUtilsValidacoes::ValidouCNH(ANumero); }
+inline bool ValidouCodigoMunicipioOficial(std::u16string_view ACodigo) {
+    return TOryUtilsValidacoes::ValidouCodigoMunicipioOficial(ACodigo);
+}
+inline bool ValidouIE(std::u16string_view AIE, std::u16string_view AUF) noexcept {
+    return TOryUtilsValidacoes::ValidouIE(AIE, AUF);
+}
+inline void ValidarIE(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AIE, std::u16string_view AUF,
+                      std::u16string_view AMensagem) {
+    TOryUtilsValidacoes::ValidarIE(ASender, AControle, AIE, AUF, AMensagem);
+}
+inline void ValidarString(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
+                          std::u16string_view AMensagem) {
+    TOryUtilsValidacoes::ValidarString(ASender, AControle, AValor, AMensagem);
+}
+inline void ValidarCodigoCadastral(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
+                                   std::u16string_view AMensagem) {
+    TOryUtilsValidacoes::ValidarCodigoCadastral(ASender, AControle, AValor, AMensagem);
+}
+inline void ValidarCampoNumerico(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
+                                 std::u16string_view AMensagem, std::int16_t APrecisao, std::int16_t ADecimais) {
+    TOryUtilsValidacoes::ValidarCampoNumerico(ASender, AControle, AValor, AMensagem, APrecisao, ADecimais);
+}
+inline void ValidarCampoSomenteNumeros(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AValor,
+                                       std::u16string_view AMensagem) {
+    TOryUtilsValidacoes::ValidarCampoSomenteNumeros(ASender, AControle, AValor, AMensagem);
+}
+inline void ValidarCampoSomenteCaracteresEspeciais(const TObjeto* ASender, TWinControl* AControle,
+                                                   std::u16string_view AValor, std::u16string_view AMensagem) {
+    TOryUtilsValidacoes::ValidarCampoSomenteCaracteresEspeciais(ASender, AControle, AValor, AMensagem);
+}
+inline bool ValidouCRC(std::u16string_view ACRC) noexcept { return TOryUtilsValidacoes::ValidouCRC(ACRC); }
+inline void ValidarCRC(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ACRC,
+                       std::u16string_view AMensagem) {
+    TOryUtilsValidacoes::ValidarCRC(ASender, AControle, ACRC, AMensagem);
+}
+inline bool ValidouCaractereControle(char16_t ACaractere, std::u16string_view ATexto, TFieldType ATipo,
+                                     std::uint16_t AQuantidade) noexcept {
+    return TOryUtilsValidacoes::ValidouCaractereControle(ACaractere, ATexto, ATipo, AQuantidade);
+}
+inline bool ValidouDataHora(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ATexto,
+                            std::u16string_view AMensagem) {
+    return TOryUtilsValidacoes::ValidouDataHora(ASender, AControle, ATexto, AMensagem);
+}
+inline bool ValidouHora(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ATexto,
+                        std::u16string_view AMensagem) {
+    return TOryUtilsValidacoes::ValidouHora(ASender, AControle, ATexto, AMensagem);
+}
+inline void ValidarDiretorio(const TObjeto* ASender, TWinControl* AControle, std::u16string_view APasta,
+                             std::u16string_view AMensagem) {
+    TOryUtilsValidacoes::ValidarDiretorio(ASender, AControle, APasta, AMensagem);
+}
+inline void ValidarDataInicioFim(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AInicio,
+                                 std::u16string_view AFim, std::u16string_view AMensagem) {
+    TOryUtilsValidacoes::ValidarDataInicioFim(ASender, AControle, AInicio, AFim, AMensagem);
+}
+inline void ValidarDataInicioFim(const TObjeto* ASender, TWinControl* AControle, TDateTime AInicio, TDateTime AFim,
+                                 std::u16string_view AMensagem) {
+    TOryUtilsValidacoes::ValidarDataInicioFim(ASender, AControle, AInicio, AFim, AMensagem);
+}
+inline Variant Iif(bool ACondicao, const Variant& AValorVerdadeiro, const Variant& AValorFalso) {
+    return TOryUtilsValidacoes::Iif(ACondicao, AValorVerdadeiro, AValorFalso);
+}
 
 }  // namespace OryUtils

@@ -12,6 +12,7 @@
 namespace OryUtils {
 namespace {
 
+using namespace Interno;
 using C = TOryUtilsValidacoes;
 
 constexpr std::u16string_view CListaVazia = u"Não é possível validar a lista de e-mail. Lista vazia.";
@@ -155,44 +156,6 @@ void C::ValidarConteudoVariavel(const TObjeto* ASender, TWinControl* AControle, 
                                 std::u16string_view AMensagem) {
     const bool sempre = !ASender && !AControle;
     if (AFalhou && (sempre || ValidouCampo(ASender, AControle))) TratarResultadoValidacao(AControle, AMensagem);
-}
-
-bool ValidarData(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ATexto,
-                 std::u16string_view AMensagem) {
-    return C::ValidouData(ASender, AControle, ATexto, AMensagem);
-}
-bool ValidarIPAddress(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AEndereco,
-                      std::u16string_view AMensagem) {
-    return C::ValidouEnderecoIP(ASender, AControle, AEndereco, AMensagem);
-}
-bool ValidouCRC(std::u16string_view ACRC) noexcept { return C::ValidouCRC(ACRC); }
-void ValidarCRC(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ACRC,
-                std::u16string_view AMensagem) {
-    C::ValidarCRC(ASender, AControle, ACRC, AMensagem);
-}
-bool ValidouCaractereControle(char16_t ACaractere, std::u16string_view ATexto, TFieldType ATipo,
-                              std::uint16_t AQuantidade) noexcept {
-    return C::ValidouCaractereControle(ACaractere, ATexto, ATipo, AQuantidade);
-}
-bool ValidouDataHora(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ATexto,
-                     std::u16string_view AMensagem) {
-    return C::ValidouDataHora(ASender, AControle, ATexto, AMensagem);
-}
-bool ValidouHora(const TObjeto* ASender, TWinControl* AControle, std::u16string_view ATexto,
-                 std::u16string_view AMensagem) {
-    return C::ValidouHora(ASender, AControle, ATexto, AMensagem);
-}
-void ValidarDiretorio(const TObjeto* ASender, TWinControl* AControle, std::u16string_view APasta,
-                      std::u16string_view AMensagem) {
-    C::ValidarDiretorio(ASender, AControle, APasta, AMensagem);
-}
-void ValidarDataInicioFim(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AInicio,
-                          std::u16string_view AFim, std::u16string_view AMensagem) {
-    C::ValidarDataInicioFim(ASender, AControle, AInicio, AFim, AMensagem);
-}
-void ValidarDataInicioFim(const TObjeto* ASender, TWinControl* AControle, TDateTime AInicio, TDateTime AFim,
-                          std::u16string_view AMensagem) {
-    C::ValidarDataInicioFim(ASender, AControle, AInicio, AFim, AMensagem);
 }
 
 }  // namespace OryUtils

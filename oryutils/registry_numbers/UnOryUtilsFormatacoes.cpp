@@ -2,18 +2,13 @@
 
 #include "oryutils/fields/ControladorFormatos.hpp"
 #include "oryutils/registry_numbers/interno/MascarasDeCampos.hpp"
-#include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/Formatos.hpp"
 
 namespace OryUtils {
 
 TInstanciaGlobal<TOryUtilsFormatacoes> GOryUtilsFormatacoes;
 
-namespace {
-
-using namespace MascarasDeCampos;
-
-}  // namespace
+using namespace Interno;
 
 void TOryUtilsFormatacoes::TFormatoPadraoDatasEValores::SetUsarNosControlesDevExpress(bool AUsar) {
     FUsarNosControlesDevExpress = AUsar;
@@ -30,20 +25,18 @@ void TOryUtilsFormatacoes::TFormatoPadraoDatasEValores::Configurar() {
     DefinirFormatSettings(BuscarFormatosBrasileiros());
 }
 
-TOryUtilsFormatacoes::TOryUtilsFormatacoes()
-    : FFormatoPadraoDatasEValores(std::make_unique<TFormatoPadraoDatasEValores>()) {}
-TOryUtilsFormatacoes::~TOryUtilsFormatacoes() = default;
-
 void TOryUtilsFormatacoes::FormatarCampo(TField& ACampo, std::u16string_view AMascara) { ACampo.SetEditMask(AMascara); }
-void TOryUtilsFormatacoes::FormatarCEP(TField& ACampo) { FormatarCampo(ACampo, CCep); }
-void TOryUtilsFormatacoes::FormatarCNPJ(TField& ACampo) { FormatarCampo(ACampo, CCnpj); }
-void TOryUtilsFormatacoes::FormatarCnpjAlfanumericoCampo(TField& ACampo) { FormatarCampo(ACampo, CCnpjAlfanumerico); }
-void TOryUtilsFormatacoes::FormatarCPF(TField& ACampo) { FormatarCampo(ACampo, CCpf); }
-void TOryUtilsFormatacoes::FormatarCRC(TField& ACampo) { FormatarCampo(ACampo, CCrc); }
-void TOryUtilsFormatacoes::FormatarCEI(TField& ACampo) { FormatarCampo(ACampo, CCei); }
-void TOryUtilsFormatacoes::FormatarCompetencia(TField& ACampo) { FormatarCampo(ACampo, CCompetencia); }
-void TOryUtilsFormatacoes::FormatarFone(TField& ACampo) { FormatarCampo(ACampo, CFone); }
-void TOryUtilsFormatacoes::FormatarNCM(TField& ACampo) { FormatarCampo(ACampo, CNcm); }
+void TOryUtilsFormatacoes::FormatarCEP(TField& ACampo) { FormatarCampo(ACampo, CMascaraCep); }
+void TOryUtilsFormatacoes::FormatarCNPJ(TField& ACampo) { FormatarCampo(ACampo, CMascaraCnpj); }
+void TOryUtilsFormatacoes::FormatarCnpjAlfanumericoCampo(TField& ACampo) {
+    FormatarCampo(ACampo, CMascaraCnpjAlfanumerico);
+}
+void TOryUtilsFormatacoes::FormatarCPF(TField& ACampo) { FormatarCampo(ACampo, CMascaraCpf); }
+void TOryUtilsFormatacoes::FormatarCRC(TField& ACampo) { FormatarCampo(ACampo, CMascaraCrc); }
+void TOryUtilsFormatacoes::FormatarCEI(TField& ACampo) { FormatarCampo(ACampo, CMascaraCei); }
+void TOryUtilsFormatacoes::FormatarCompetencia(TField& ACampo) { FormatarCampo(ACampo, CMascaraCompetencia); }
+void TOryUtilsFormatacoes::FormatarFone(TField& ACampo) { FormatarCampo(ACampo, CMascaraFone); }
+void TOryUtilsFormatacoes::FormatarNCM(TField& ACampo) { FormatarCampo(ACampo, CMascaraNcm); }
 
 void TOryUtilsFormatacoes::FormatarCampoNumerico(TField& ACampo, std::u16string_view AFormatoExibicao,
                                                  std::u16string_view AFormatoEdicao) {
@@ -52,33 +45,10 @@ void TOryUtilsFormatacoes::FormatarCampoNumerico(TField& ACampo, std::u16string_
     numerico->SetDisplayFormat(AFormatoExibicao);
     numerico->SetEditFormat(AFormatoEdicao);
 }
-void TOryUtilsFormatacoes::FormatarCampoValor(TField& ACampo) {
-    FormatarCampoNumerico(ACampo, CValor.Exibicao, CValor.Edicao);
-}
+void TOryUtilsFormatacoes::FormatarCampoValor(TField& ACampo) { FormatarCampoNumerico(ACampo, u",0.00", u"0.00"); }
 void TOryUtilsFormatacoes::FormatarCampoPercentual(TField& ACampo) {
-    FormatarCampoNumerico(ACampo, CPercentual.Exibicao, CPercentual.Edicao);
+    FormatarCampoNumerico(ACampo, u",0.00 %", u"0.00");
 }
-void TOryUtilsFormatacoes::FormatarCampoInteiro(TField& ACampo) {
-    FormatarCampoNumerico(ACampo, CInteiro.Exibicao, CInteiro.Edicao);
-}
-
-void FormatarCampo(TField& ACampo, std::u16string_view AMascara) {
-    GOryUtilsFormatacoes->FormatarCampo(ACampo, AMascara);
-}
-void FormatarCampoNumerico(TField& ACampo, std::u16string_view AFormatoExibicao, std::u16string_view AFormatoEdicao) {
-    GOryUtilsFormatacoes->FormatarCampoNumerico(ACampo, AFormatoExibicao, AFormatoEdicao);
-}
-void FormatarCampoInteiro(TField& ACampo) { GOryUtilsFormatacoes->FormatarCampoInteiro(ACampo); }
-void FormatarCampoPercentual(TField& ACampo) { GOryUtilsFormatacoes->FormatarCampoPercentual(ACampo); }
-void FormatarCampoValor(TField& ACampo) { GOryUtilsFormatacoes->FormatarCampoValor(ACampo); }
-void FormatarCEP(TField& ACampo) { GOryUtilsFormatacoes->FormatarCEP(ACampo); }
-void FormatarCNPJ(TField& ACampo) { GOryUtilsFormatacoes->FormatarCNPJ(ACampo); }
-void FormatarCnpjAlfanumericoCampo(TField& ACampo) { GOryUtilsFormatacoes->FormatarCnpjAlfanumericoCampo(ACampo); }
-void FormatarCPF(TField& ACampo) { GOryUtilsFormatacoes->FormatarCPF(ACampo); }
-void FormatarCRC(TField& ACampo) { GOryUtilsFormatacoes->FormatarCRC(ACampo); }
-void FormatarFone(TField& ACampo) { GOryUtilsFormatacoes->FormatarFone(ACampo); }
-void FormatarNCM(TField& ACampo) { GOryUtilsFormatacoes->FormatarNCM(ACampo); }
-void FormatarCEI(TField& ACampo) { GOryUtilsFormatacoes->FormatarCEI(ACampo); }
-void FormatarCompetencia(TField& ACampo) { GOryUtilsFormatacoes->FormatarCompetencia(ACampo); }
+void TOryUtilsFormatacoes::FormatarCampoInteiro(TField& ACampo) { FormatarCampoNumerico(ACampo, u"0", u"0"); }
 
 }  // namespace OryUtils

@@ -5,7 +5,6 @@
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/Instancia.hpp"
 
-#include <memory>
 #include <string_view>
 
 namespace OryUtils {
@@ -22,7 +21,7 @@ public:
         /// Whether the controls that listen to the format controller follow the process-wide formats. True at first,
         /// without the controller having been told.
         bool GetUsarNosControlesDevExpress() const noexcept { return FUsarNosControlesDevExpress; }
-        /// Also tells the format controller (runtime/ControladorFormatos.hpp), which reads the formats anew and
+        /// Also tells the format controller (fields/ControladorFormatos.hpp), which reads the formats anew and
         /// notifies its listeners: set it after Configurar to bring what is already shown up to date.
         void SetUsarNosControlesDevExpress(bool AUsar);
 
@@ -35,12 +34,11 @@ public:
         bool FUsarNosControlesDevExpress = true;
     };
 
-    TOryUtilsFormatacoes();
-    ~TOryUtilsFormatacoes();
+    TOryUtilsFormatacoes() = default;
     TOryUtilsFormatacoes(const TOryUtilsFormatacoes&) = delete;
     TOryUtilsFormatacoes& operator=(const TOryUtilsFormatacoes&) = delete;
 
-    TFormatoPadraoDatasEValores& GetFormatoPadraoDatasEValores() noexcept { return *FFormatoPadraoDatasEValores; }
+    TFormatoPadraoDatasEValores& GetFormatoPadraoDatasEValores() noexcept { return FFormatoPadraoDatasEValores; }
 
     /// Sets the edit mask of the field (see TMascara). Raises EConvertError for a broken one.
     void FormatarCampo(TField& ACampo, std::u16string_view AMascara);
@@ -74,27 +72,33 @@ public:
     void FormatarCampoInteiro(TField& ACampo);
 
 private:
-    std::unique_ptr<TFormatoPadraoDatasEValores> FFormatoPadraoDatasEValores;
+    TFormatoPadraoDatasEValores FFormatoPadraoDatasEValores;
 };
 
 extern ORY_API TInstanciaGlobal<TOryUtilsFormatacoes> GOryUtilsFormatacoes;
 
 // The free functions forward to the operation of the global instance with the same name.
 
-ORY_API void FormatarCampo(TField& ACampo, std::u16string_view AMascara);
-ORY_API void FormatarCampoInteiro(TField& ACampo);
-ORY_API void FormatarCampoNumerico(TField& ACampo, std::u16string_view AFormatoExibicao,
-                                   std::u16string_view AFormatoEdicao);
-ORY_API void FormatarCampoPercentual(TField& ACampo);
-ORY_API void FormatarCampoValor(TField& ACampo);
-ORY_API void FormatarCEP(TField& ACampo);
-ORY_API void FormatarCNPJ(TField& ACampo);
-ORY_API void FormatarCnpjAlfanumericoCampo(TField& ACampo);
-ORY_API void FormatarCPF(TField& ACampo);
-ORY_API void FormatarCRC(TField& ACampo);
-ORY_API void FormatarFone(TField& ACampo);
-ORY_API void FormatarNCM(TField& ACampo);
-ORY_API void FormatarCEI(TField& ACampo);
-ORY_API void FormatarCompetencia(TField& ACampo);
+inline void FormatarCampo(TField& ACampo, std::u16string_view AMascara) {
+    GOryUtilsFormatacoes->FormatarCampo(ACampo, AMascara);
+}
+inline void FormatarCampoInteiro(TField& ACampo) { GOryUtilsFormatacoes->FormatarCampoInteiro(ACampo); }
+inline void FormatarCampoNumerico(TField& ACampo, std::u16string_view AFormatoExibicao,
+                                  std::u16string_view AFormatoEdicao) {
+    GOryUtilsFormatacoes->FormatarCampoNumerico(ACampo, AFormatoExibicao, AFormatoEdicao);
+}
+inline void FormatarCampoPercentual(TField& ACampo) { GOryUtilsFormatacoes->FormatarCampoPercentual(ACampo); }
+inline void FormatarCampoValor(TField& ACampo) { GOryUtilsFormatacoes->FormatarCampoValor(ACampo); }
+inline void FormatarCEP(TField& ACampo) { GOryUtilsFormatacoes->FormatarCEP(ACampo); }
+inline void FormatarCNPJ(TField& ACampo) { GOryUtilsFormatacoes->FormatarCNPJ(ACampo); }
+inline void FormatarCnpjAlfanumericoCampo(TField& ACampo) {
+    GOryUtilsFormatacoes->FormatarCnpjAlfanumericoCampo(ACampo);
+}
+inline void FormatarCPF(TField& ACampo) { GOryUtilsFormatacoes->FormatarCPF(ACampo); }
+inline void FormatarCRC(TField& ACampo) { GOryUtilsFormatacoes->FormatarCRC(ACampo); }
+inline void FormatarFone(TField& ACampo) { GOryUtilsFormatacoes->FormatarFone(ACampo); }
+inline void FormatarNCM(TField& ACampo) { GOryUtilsFormatacoes->FormatarNCM(ACampo); }
+inline void FormatarCEI(TField& ACampo) { GOryUtilsFormatacoes->FormatarCEI(ACampo); }
+inline void FormatarCompetencia(TField& ACampo) { GOryUtilsFormatacoes->FormatarCompetencia(ACampo); }
 
 }  // namespace OryUtils

@@ -1,41 +1,26 @@
 #include "oryutils/registry_numbers/UnOryUtilsValidacoesClasseCRC.hpp"
 
 #include "oryutils/characters/Caracteres.hpp"
-#include "oryutils/registry_numbers/interno/MotivoRecusa.hpp"
+#include "oryutils/registry_numbers/interno/RegraDeDocumento.hpp"
 
 #include <algorithm>
 
 namespace OryUtils {
 namespace {
 
-struct TCodigo {
-    std::u16string_view Letras, Numero;
-};
+using namespace Interno;
+
 // clang-format off
-// The old unit GB stays, and there is no 24.
-constexpr std::array CUnidades{
-    TCodigo{u"AM", u"01"}, TCodigo{u"PA", u"02"}, TCodigo{u"MA", u"03"}, TCodigo{u"PI", u"04"}, TCodigo{u"CE", u"05"},
-    TCodigo{u"RN", u"06"}, TCodigo{u"PB", u"07"}, TCodigo{u"PE", u"08"}, TCodigo{u"AL", u"09"}, TCodigo{u"SE", u"10"},
-    TCodigo{u"BA", u"11"}, TCodigo{u"ES", u"12"}, TCodigo{u"RJ", u"13"}, TCodigo{u"SP", u"14"}, TCodigo{u"PR", u"15"},
-    TCodigo{u"SC", u"16"}, TCodigo{u"RS", u"17"}, TCodigo{u"MG", u"18"}, TCodigo{u"MT", u"19"}, TCodigo{u"GO", u"20"},
-    TCodigo{u"DF", u"21"}, TCodigo{u"GB", u"22"}, TCodigo{u"MS", u"23"}, TCodigo{u"AP", u"25"}, TCodigo{u"AC", u"26"},
-    TCodigo{u"RR", u"27"}, TCodigo{u"TO", u"28"}, TCodigo{u"RO", u"29"},
-};
-static_assert(CUnidades.size() == 28);
-constexpr std::array CTipos{
-    TCodigo{u"O", u"1"}, TCodigo{u"T", u"2"}, TCodigo{u"S", u"3"}, TCodigo{u"P", u"4"},
-};
-constexpr std::array CPesos{3, 10, 9, 8, 7, 6, 5, 4, 3, 2};
+/// The number of each unit is its place. GB is an old unit; nothing has the number 24.
+constexpr std::u16string_view CUnidades[]{
+    u"", u"AM", u"PA", u"MA", u"PI", u"CE", u"RN", u"PB", u"PE", u"AL", u"SE", u"BA", u"ES", u"RJ", u"SP", u"PR",
+    u"SC", u"RS", u"MG", u"MT", u"GO", u"DF", u"GB", u"MS", u"", u"AP", u"AC", u"RR", u"TO", u"RO"};
 // clang-format on
+/// The number of each kind of registration is its place, counted from 1.
+constexpr std::u16string_view CTipos = u"OTSP";
 
-constexpr int ValorDe(char16_t ACaractere) { return EhDigito(ACaractere) ? ACaractere - u'0' : 0; }
-
-template <std::size_t N>
-constexpr std::u16string_view Buscar(const std::array<TCodigo, N>& ATabela, std::u16string_view ALetras,
-                                     std::u16string_view AAusente) {
-    const auto codigo = std::ranges::find(ATabela, ALetras, &TCodigo::Letras);
-    return codigo == ATabela.end() ? AAusente : codigo->Numero;
-}
+/// The number once unit and kind are digits.
+constexpr TFormatoDocumento CFormatoCrc{11, {}, {{11, {3, 10, 9, 8, 7, 6, 5, 4, 3, 2}}}};
 
 }  // namespace
 
@@ -49,15 +34,16 @@ void TOryUtilsValidacoesCRC::Validar() noexcept {
         FMotivo = FTamanho == 0 ? mrVazio : mrTamanho;
         return;
     }
-    std::array<char16_t, CTamanho> normal = FCRC;
-    const std::u16string_view texto = GetCRC();
-    Buscar(CUnidades, texto.substr(1, 2), u"00").copy(&normal[1], 2);
-    Buscar(CTipos, texto.substr(9, 1), texto.substr(9, 1)).copy(&normal[9], 1);
-
-    int soma = 0;
-    for (std::size_t i = 0; i < CPesos.size(); ++i) soma += ValorDe(normal[i]) * CPesos[i];
-    const int digito = 11 - soma % 11;
-    FMotivo = (digito <= 9 ? digito : 0) == ValorDe(normal.back()) ? mrNenhum : mrDigito;
+    TNumeroLido crc = LerNumero(GetCRC(), [](char16_t) { return false; });
+    const auto* achada = std::ranges::find(CUnidades, GetCRC().substr(1, 2));
+    const auto unidade = achada == std::end(CUnidades) ? 0 : achada - CUnidades;
+    crc.Valores[1] = static_cast<std::int16_t>(unidade / 10);
+    crc.Valores[2] = static_cast<std::int16_t>(unidade % 10);
+    if (const auto tipo = CTipos.find(FCRC[9]); tipo != CTipos.npos)
+        crc.Valores[9] = static_cast<std::int16_t>(tipo + 1);
+    std::ranges::replace_if(
+        crc.Valores, [](std::int16_t AValor) { return AValor > 9; }, std::int16_t{0});
+    FMotivo = Conferir(CFormatoCrc, crc);
 }
 
 }  // namespace OryUtils

@@ -50,18 +50,20 @@ public:
     /// Converts ATexto (the kept IE when not given) to a number, 0 when it is not one, and writes it with at least as
     /// many digits as AModelo has zeros, at most 20. The result becomes the working base and stays until the next call.
     /// Example:  FormatarBase(u"00000", u"42")  ->  "00042"
-    std::u16string_view FormatarBase(std::u16string_view AModelo) noexcept;
+    std::u16string_view FormatarBase(std::u16string_view AModelo) noexcept { return FormatarBase(AModelo, GetIE()); }
     std::u16string_view FormatarBase(std::u16string_view AModelo, std::u16string_view ATexto) noexcept;
 
     /// Sum of digit k times weight k over all of APesos, the leftmost digit first, of the working base or of ABase.
     /// Digits that ABase does not have count 0.
-    int SomarBase(std::span<const int> APesos) const noexcept;
+    int SomarBase(std::span<const int> APesos) const noexcept { return SomarBase(APesos, GetBase()); }
     int SomarBase(std::span<const int> APesos, std::u16string_view ABase) const noexcept;
     /// SomarBase mod 11.
-    int BuscarSomaModulo11(std::span<const int> APesos) const noexcept;
-    int BuscarSomaModulo11(std::span<const int> APesos, std::u16string_view ABase) const noexcept;
+    int BuscarSomaModulo11(std::span<const int> APesos) const noexcept { return SomarBase(APesos) % 11; }
+    int BuscarSomaModulo11(std::span<const int> APesos, std::u16string_view ABase) const noexcept {
+        return SomarBase(APesos, ABase) % 11;
+    }
     /// The usual check digit of a remainder of 11: 0 when AResto is 0 or 1, else 11 - AResto.
-    static int BuscarDigitoPadrao(int AResto) noexcept;
+    static int BuscarDigitoPadrao(int AResto) noexcept { return AResto < 2 ? 0 : 11 - AResto; }
 
     /// The rules of the units. Each sets the verdict for the kept IE, without the tests that Validar makes first.
     void Validar_AC() noexcept;
@@ -92,7 +94,7 @@ public:
     void Validar_SP() noexcept;
     void Validar_TO() noexcept;
     /// Export: valid whatever the IE.
-    void Validar_Exportacao() noexcept;
+    void Validar_Exportacao() noexcept { FMotivo = TMotivoRecusa{0}; }
 
 private:
     template <std::size_t N>
@@ -100,6 +102,8 @@ private:
         std::array<char16_t, N> Texto{};
         std::size_t Tamanho = 0;
     };
+
+    std::u16string_view GetBase() const noexcept { return {FBase.Texto.data(), FBase.Tamanho}; }
 
     TTexto<15> FIE;
     TTexto<3> FUF;  // a third character tells that the unit is none

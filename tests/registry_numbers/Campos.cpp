@@ -12,6 +12,8 @@
 namespace OryUtils {
 namespace {
 
+using namespace Interno;
+
 TEST(Crc, PeloMotivoCerto) {
     struct TCaso {
         std::u16string_view Numero;

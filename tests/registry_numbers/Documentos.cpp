@@ -1,6 +1,6 @@
 #include "oryutils/characters/Utf.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
-#include "oryutils/registry_numbers/interno/DigitosCpfCnpj.hpp"
+#include "oryutils/registry_numbers/interno/CpfCnpj.hpp"
 #include "oryutils/registry_numbers/interno/OutrosDocumentos.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/Formatos.hpp"
@@ -17,7 +17,7 @@ namespace OryUtils {
 namespace {
 
 using namespace OryTypes;
-using namespace DigitosCpfCnpj;
+using namespace Interno;
 
 std::u16string Digitos(std::int64_t AValor, int ADigitos) {
     return FormatarZeros(static_cast<Extended>(AValor), ADigitos);
@@ -50,8 +50,8 @@ TEST(CpfCnpj, IgualALeituraLenta) {
     int validos = 0;
     for (int i = 0; i < 200000; ++i) {
         const TTipoInscricao tipo = i % 2 ? tiCPF : tiCNPJ;
-        const std::string_view forma =
-            tipo == tiCPF ? (i % 3 ? CCpfFormatado : CCpfLimpo) : (i % 3 ? CCnpjFormatado : CCnpjLimpo);
+        const std::string_view forma = tipo == tiCPF ? (i % 3 ? CFormatoCpf.Mascara : "00000000000")
+                                                     : (i % 3 ? CFormatoCnpj.Mascara : "00000000000000");
         std::u16string texto;
         for (const char lugar : forma)
             texto += lugar == '0' ? static_cast<char16_t>(u'0' + gerador() % 10) : static_cast<char16_t>(lugar);

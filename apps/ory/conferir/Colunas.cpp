@@ -2,7 +2,7 @@
 
 #include "oryutils/characters/Utf.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
-#include "oryutils/registry_numbers/interno/DigitosCpfCnpj.hpp"
+#include "oryutils/registry_numbers/interno/CpfCnpj.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
 
@@ -15,6 +15,7 @@
 namespace Ory {
 namespace {
 
+namespace Interno = OryUtils::Interno;
 using OryUtils::TOryUtilsStrings;
 using OryUtils::TOryUtilsValidacoes;
 
@@ -140,22 +141,11 @@ bool PodeSerNumero(std::string_view ACampo) {
     });
 }
 
-/// The rule of ValidouCnpjAlfanumerico over bytes. The two usual forms of a numeric one are checked where they stand.
-bool ValidouCnpj(std::string_view ACampo) {
-    namespace Digitos = OryUtils::DigitosCpfCnpj;
-    if (ACampo.size() == Digitos::CCnpjFormatado.size()) {
-        const bool pontuado = ACampo[2] == '.' && ACampo[6] == '.' && ACampo[10] == '/' && ACampo[15] == '-';
-        const auto motivo = Digitos::ConferirDesenho<Digitos::CDesenhoCnpjFormatado>(ACampo.data());
-        if (pontuado && motivo != OryUtils::mrCaractere) return motivo == OryUtils::mrNenhum;
-    } else if (ACampo.size() == Digitos::CCnpjLimpo.size()) {
-        const auto motivo = Digitos::ConferirDesenho<Digitos::CDesenhoCnpjLimpo>(ACampo.data());
-        if (motivo != OryUtils::mrCaractere) return motivo == OryUtils::mrNenhum;
-    }
-    return Digitos::ConferirCnpjAlfanumerico(ACampo) == OryUtils::mrNenhum;
-}
+/// The rule of ValidouCnpjAlfanumerico over bytes.
+bool ValidouCnpj(std::string_view ACampo) { return Interno::ConferirCnpjAlfanumerico(ACampo) == OryUtils::mrNenhum; }
 
 /// The rule of ValidouCnpjCpf over bytes.
-bool ValidouCpf(std::string_view ACampo) { return OryUtils::DigitosCpfCnpj::ConferirCpf(ACampo) == OryUtils::mrNenhum; }
+bool ValidouCpf(std::string_view ACampo) { return Interno::ConferirCpf(ACampo) == OryUtils::mrNenhum; }
 
 bool Validou(TTipoColuna ATipo, std::string_view ACampo, std::string_view AUf) {
     if (EhColunaDeCampo(ATipo)) return ValidouCampo(ATipo, ACampo);
@@ -207,43 +197,26 @@ bool EstahNaForma(std::string_view ACampo, std::string_view AForma) {
                       [](char c, char lugar) { return lugar == '0' ? c >= '0' && c <= '9' : c == lugar; });
 }
 
-/// ACaracteres in the places that AForma has for them.
-void EscreverNaForma(std::string& ASaida, std::string_view ACaracteres, std::string_view AForma) {
-    for (const char lugar : AForma) {
-        ASaida += lugar == '0' ? ACaracteres.front() : lugar;
-        if (lugar == '0') ACaracteres.remove_prefix(1);
-    }
-}
-
 // CNPJ and CPF are most of what files hold: written from byte to byte, as the library writes them.
 
 void EscreverCnpj(std::string& ASaida, std::string_view ACampo) {
-    namespace Digitos = OryUtils::DigitosCpfCnpj;
-    if (EstahNaForma(ACampo, Digitos::CCnpjFormatado)) {
+    if (EstahNaForma(ACampo, Interno::CFormatoCnpj.Mascara)) {
         ASaida += ACampo;
         return;
     }
-    const auto cnpj = Digitos::LimparCnpjAlfanumerico(ACampo);
-    if (cnpj.Motivo == OryUtils::mrNenhum)
-        return EscreverNaForma(ASaida, {cnpj.Texto.data(), cnpj.Texto.size()}, Digitos::CCnpjFormatado);
+    const auto cnpj = Interno::LerCnpjAlfanumerico(ACampo);
+    if (Interno::TemFormaDeCnpj(cnpj)) return Interno::EscreverNaMascara(ASaida, Interno::CFormatoCnpj.Mascara, cnpj);
     Juntar(ASaida, TOryUtilsValidacoes::FormatarCnpjAlfanumerico(TTextoDeCampo(ACampo).Get()));
 }
 
 void EscreverCpf(std::string& ASaida, std::string_view ACampo) {
-    namespace Digitos = OryUtils::DigitosCpfCnpj;
-    if (EstahNaForma(ACampo, Digitos::CCpfFormatado)) {
+    if (EstahNaForma(ACampo, Interno::CFormatoCpf.Mascara)) {
         ASaida += ACampo;
         return;
     }
-    std::array<char, CTamanhoCpf> digitos;
-    std::size_t quantos = 0;
-    for (const char c : ACampo) {
-        if (c < '0' || c > '9') continue;
-        if (quantos == CTamanhoCpf) return EscreverInscricao(ASaida, OryTypes::tiCPF, ACampo);
-        digitos[quantos++] = c;
-    }
-    if (quantos < CTamanhoCpf) return EscreverInscricao(ASaida, OryTypes::tiCPF, ACampo);
-    EscreverNaForma(ASaida, {digitos.data(), digitos.size()}, Digitos::CCpfFormatado);
+    const auto cpf = Interno::LerDigitos(ACampo);
+    if (cpf.Tamanho == CTamanhoCpf) return Interno::EscreverNaMascara(ASaida, Interno::CFormatoCpf.Mascara, cpf);
+    EscreverInscricao(ASaida, OryTypes::tiCPF, ACampo);
 }
 
 }  // namespace

@@ -16,7 +16,6 @@
 namespace Ory {
 namespace {
 
-namespace Mascaras = OryUtils::MascarasDeCampos;
 using OryUtils::TMascara;
 using OryUtils::TOryUtilsValidacoes;
 
@@ -27,10 +26,10 @@ struct TColunaMascarada {
     std::size_t MenosDigitos;
 };
 constexpr std::array CMascaradas{
-    TColunaMascarada{tcCep, Mascaras::CCep, 8},
-    TColunaMascarada{tcTelefone, Mascaras::CFone, 10},  // area code and eight digits
-    TColunaMascarada{tcCompetencia, Mascaras::CCompetencia, 6},
-    TColunaMascarada{tcNcm, Mascaras::CNcm, 8},
+    TColunaMascarada{tcCep, OryUtils::Interno::CMascaraCep, 8},
+    TColunaMascarada{tcTelefone, OryUtils::Interno::CMascaraFone, 10},  // area code and eight digits
+    TColunaMascarada{tcCompetencia, OryUtils::Interno::CMascaraCompetencia, 6},
+    TColunaMascarada{tcNcm, OryUtils::Interno::CMascaraNcm, 8},
 };
 
 const TColunaMascarada* BuscarMascarada(TTipoColuna ATipo) {

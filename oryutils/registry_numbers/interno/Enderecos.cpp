@@ -8,7 +8,7 @@
 #include <array>
 #include <limits>
 
-namespace OryUtils {
+namespace OryUtils::Interno {
 namespace {
 
 constexpr std::size_t CAusente = std::u16string_view::npos;
@@ -78,4 +78,4 @@ TRecusaIp ConferirEnderecoIp(std::u16string_view AEndereco) noexcept {
     return riNenhuma;
 }
 
-}  // namespace OryUtils
+}  // namespace OryUtils::Interno

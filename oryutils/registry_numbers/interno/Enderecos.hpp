@@ -3,7 +3,7 @@
 #include <string_view>
 
 /// The rules of e-mail and IPv4 addresses.
-namespace OryUtils {
+namespace OryUtils::Interno {
 
 /// Why an e-mail address is refused.
 enum TRecusaEmail : int {
@@ -28,4 +28,4 @@ enum TRecusaIp : int { riNenhuma, riCaractere, riPartes, riParte, riValor };
 /// An empty or blank address is valid.
 TRecusaIp ConferirEnderecoIp(std::u16string_view AEndereco) noexcept;
 
-}  // namespace OryUtils
+}  // namespace OryUtils::Interno

@@ -4,8 +4,8 @@
 
 #include <string_view>
 
-/// The rules of the documents with few numbers: the social security ones, the driving licence, the municipality.
-namespace OryUtils {
+/// The rules of PIS, CEI, driving licence and municipality code.
+namespace OryUtils::Interno {
 
 TMotivoRecusa ConferirPis(std::u16string_view ANumero) noexcept;
 /// Raises EConvertError when the twelve characters are not a number.
@@ -19,4 +19,4 @@ TMotivoRecusa ConferirCodigoMunicipio(std::u16string_view ACodigo);
 /// As above, and mrNenhum for the codes in use that break the rule.
 TMotivoRecusa ConferirCodigoMunicipioOficial(std::u16string_view ACodigo);
 
-}  // namespace OryUtils
+}  // namespace OryUtils::Interno
