@@ -4,6 +4,7 @@
 #include "oryutils/dates/UnOryUtilsDatasIOP.hpp"
 #include "oryutils/dates/UnOryUtilsDatasTypes.hpp"
 #include "oryutils/runtime/DataHora.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/Instancia.hpp"
 #include "oryutils/types/OryTypesTempo.hpp"
 
@@ -11,6 +12,10 @@
 #include <string_view>
 
 namespace OryUtils {
+
+using OryTypes::CVetorDiasSemanaCompleto;
+using OryTypes::TTipoMedidaTempo;
+using enum OryTypes::TTipoMedidaTempo;
 
 /// The enumerations of the free functions; the same ordinals as TTipoFormatoData and TTipoOrientacaoData.
 enum TTipoFormatacaoData : int {
@@ -105,7 +110,7 @@ public:
     /// ADataHoraBase moved by AQuantidade seconds, minutes, hours, days, months or years (ordinals 3 to 8 of the unit);
     /// months and years are of the calendar, with the day clamped to the month's end. Any other ordinal gives the
     /// current date and time, not the base. Raises EConvertError when months or years leave 1 to 9999.
-    static TDateTime BuscarDataHoraMedidaTempo(TDateTime ADataHoraBase, OryTypes::TTipoMedidaTempo ATipoMedidaTempo,
+    static TDateTime BuscarDataHoraMedidaTempo(TDateTime ADataHoraBase, TTipoMedidaTempo ATipoMedidaTempo,
                                                int AQuantidade);
 
     /// Completes a date, a time or a date and time as typed, in the process-wide formats. Never raises.

@@ -19,7 +19,8 @@ constexpr std::u16string_view CListaVazia = u"Não é possível validar a lista 
 constexpr std::u16string_view CEmailsInvalidos = u"Os seguintes endereços de e-mail são inválidos: \r\n\r\n";
 constexpr std::u16string_view CNovaLinha = u"\r\n";
 
-/// The end of every check: reports unless AValido is true of the value. It is asked only when the check applies.
+/// Reports when the check applies to AControle and AValido says false. AValido is called only when the check applies.
+/// The result is true: a report ends the caller.
 template <typename TRegra>
 bool Exigir(const TObjeto* ASender, TWinControl* AControle, std::u16string_view AMensagem, TRegra AValido) {
     if (C::ValidouCampo(ASender, AControle) && !AValido()) C::TratarResultadoValidacao(AControle, AMensagem);

@@ -18,8 +18,8 @@ class ORY_API TOryUtilsFormatacoes {
 public:
     class ORY_API TFormatoPadraoDatasEValores {
     public:
-        /// Whether the controls that listen to the format controller follow the process-wide formats. True at first,
-        /// without the controller having been told.
+        /// Whether the controls that listen to the format controller follow the process-wide formats. Starts as
+        /// true, and the controller is not told of that.
         bool GetUsarNosControlesDevExpress() const noexcept { return FUsarNosControlesDevExpress; }
         /// Also tells the format controller (fields/ControladorFormatos.hpp), which reads the formats anew and
         /// notifies its listeners: set it after Configurar to bring what is already shown up to date.

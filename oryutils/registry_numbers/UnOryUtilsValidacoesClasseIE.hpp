@@ -44,7 +44,7 @@ public:
     /// 15 or more characters, otherwise as the rule of the UF says.
     void Validar() noexcept;
 
-    /// What SetUF, SetIE, Validar and GetValido answer, in one go.
+    /// The verdict of a new object after SetUF, SetIE and Validar.
     static bool Validou(std::u16string_view AIE, std::u16string_view AUF) noexcept;
 
     /// Converts ATexto (the kept IE when not given) to a number, 0 when it is not one, and writes it with at least as
@@ -106,7 +106,7 @@ private:
     std::u16string_view GetBase() const noexcept { return {FBase.Texto.data(), FBase.Tamanho}; }
 
     TTexto<15> FIE;
-    TTexto<3> FUF;  // a third character tells that the unit is none
+    TTexto<3> FUF;  // a third character marks a text that is no unit
     TTexto<20> FBase;
     bool FIsenta = false;
     TMotivoRecusa FMotivo{1};  // not valid before a rule says so

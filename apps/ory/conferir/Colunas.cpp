@@ -148,7 +148,7 @@ bool ValidouCnpj(std::string_view ACampo) { return Interno::ConferirCnpjAlfanume
 bool ValidouCpf(std::string_view ACampo) { return Interno::ConferirCpf(ACampo) == OryUtils::mrNenhum; }
 
 bool Validou(TTipoColuna ATipo, std::string_view ACampo, std::string_view AUf) {
-    if (EhColunaDeCampo(ATipo)) return ValidouCampo(ATipo, ACampo);
+    if (EhColunaDeCampo(ATipo)) return ValidouColunaDeCampo(ATipo, ACampo);
     switch (ATipo) {
         case tcCnpj:
             return ValidouCnpj(ACampo);

@@ -90,7 +90,7 @@ std::u16string NormalizarCrc(std::u16string_view ATexto) { return OryUtils::Maiu
 
 bool EhColunaDeCampo(TTipoColuna ATipo) { return ATipo >= tcEmail && ATipo <= tcNcm; }
 
-bool ValidouCampo(TTipoColuna ATipo, std::string_view ACampo) {
+bool ValidouColunaDeCampo(TTipoColuna ATipo, std::string_view ACampo) {
     const std::u16string texto = Decodificar(ACampo);
     switch (ATipo) {
         case tcEmail:

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t CAusente = std::u16string_view::npos;
 
-// CCarateresEspeciais as a set: each entry is one 8-bit character or empty.
+// The entries of CCarateresEspeciais as a set. Each is one 8-bit character or empty.
 static_assert(std::ranges::all_of(CCarateresEspeciais, [](std::u16string_view ATexto) {
     return ATexto.empty() || (ATexto.size() == 1 && ATexto.front() < 256);
 }));
@@ -52,7 +52,7 @@ TRecusaIp ConferirEnderecoIp(std::u16string_view AEndereco) noexcept {
     const std::u16string_view endereco = Aparar(AEndereco);
     if (endereco.empty()) return riNenhuma;
 
-    // The scan has always kept its length in eight bits: what lies behind it is only read as part of a number.
+    // The scan has always counted in eight bits, so it looks at the length modulo 256. The conversion below reads all.
     std::array<std::size_t, 3> pontos{};
     std::size_t quantidade = 0;
     const std::size_t fim = endereco.size() % 256;
@@ -72,7 +72,7 @@ TRecusaIp ConferirEnderecoIp(std::u16string_view AEndereco) noexcept {
         const auto valor = TentarTextoParaInt64(parte);
         if (!valor || *valor > std::numeric_limits<int>::max() || *valor < std::numeric_limits<int>::min())
             return riParte;
-        // "0300" passes: a leading zero was taken for an octal part.
+        // A part with a leading zero may be above 255 ("0300"): it was once taken for octal.
         if (*valor > 255 && parte.front() != u'0') return riValor;
     }
     return riNenhuma;

@@ -14,7 +14,7 @@ inline constexpr std::u16string_view CMascaraCep = u"99999-999;0; ";
 inline constexpr std::u16string_view CMascaraCompetencia = u"99/9999;0; ";
 /// Digit, unit in two letters, six digits, letter of the kind, digit.
 inline constexpr std::u16string_view CMascaraCrc = u"9>LL<999999>L<9;0; ";
-/// The only one that stores its literals.
+/// The value is stored with the parentheses and the hyphen, unlike those of the other masks.
 inline constexpr std::u16string_view CMascaraFone = u"!(999)99999-9999;1; ";
 inline constexpr std::u16string_view CMascaraNcm = u"9999.999.99;0; ";
 

@@ -2,7 +2,8 @@
 
 namespace OryUtils {
 
-/// Why a registry number is refused. The public verdict is "mrNenhum"; the tests tell a right refusal from a lucky one.
+/// Why a registry number is refused. Callers see the verdict alone; the tests compare the reason too, so that a refusal
+/// by the wrong rule shows.
 enum TMotivoRecusa : int {
     mrNenhum,     // valid
     mrVazio,      // nothing to check

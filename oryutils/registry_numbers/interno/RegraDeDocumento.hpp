@@ -20,7 +20,8 @@
 ///   Conferir(CExemplo, LerNumero(u"28.000.000-6", EhMarca))  ->  mrNenhum
 namespace OryUtils::Interno {
 
-/// Of the arrays with a place for each character; one place more than the longest number has.
+/// The size of the arrays that have an entry for each character: one more than the longest number has. A document that
+/// needs more, here or in the arrays of a row, makes them larger.
 inline constexpr std::size_t CLugares = 16;
 
 inline constexpr std::int16_t CSemValor = 99;
@@ -56,7 +57,7 @@ constexpr TNumeroLido LerNumero(std::basic_string_view<C> ATexto, TSobra ASobra)
     return numero;
 }
 
-/// Appends AMascara to ASaida, each "0" of it replaced by the next character of ANumero, letters in upper case.
+/// Appends AMascara to ASaida with the characters of ANumero in the places of its "0"; letters come in upper case.
 template <typename C>
 constexpr void EscreverNaMascara(std::basic_string<C>& ASaida, std::string_view AMascara, const TNumeroLido& ANumero) {
     std::size_t lidos = 0;
