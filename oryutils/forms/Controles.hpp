@@ -28,7 +28,7 @@ struct TTamanho {
     bool operator==(const TTamanho&) const = default;
 };
 
-/// What of a control or form has changed; a toolkit brings the native side up to date.
+/// Which property of a control or form has changed: the toolkit brings that part of the native side up to date.
 enum TMudanca : unsigned {
     mdPosicao = 1,   ///< rectangle
     mdTexto = 2,     ///< caption or text

@@ -1,4 +1,4 @@
 #pragma once
 
-// The room of this header is now another; its old path stays.
+// The header moved to another room; this path stays for callers.
 #include "oryutils/fields/ControladorFormatos.hpp"

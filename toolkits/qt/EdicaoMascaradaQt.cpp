@@ -134,7 +134,7 @@ bool TEdicaoMascaradaQt::TratarTecla(const QKeyEvent& ATecla) {
 }
 
 bool TEdicaoMascaradaQt::eventFilter(QObject* AObjeto, QEvent* AEvento) {
-    // A widget on its way out still sends events, but is no line edit any more.
+    // A widget that is being destroyed still sends events, but is no QLineEdit any more.
     if (!qobject_cast<QLineEdit*>(AObjeto) || AObjeto != FWidget || FWidget->isReadOnly())
         return QObject::eventFilter(AObjeto, AEvento);
     switch (AEvento->type()) {

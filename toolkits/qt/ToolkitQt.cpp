@@ -222,7 +222,7 @@ void TToolkitQt::CopiarParaAreaDeTransferencia(std::u16string_view ATexto) {
 
 namespace {
 
-// Never destroyed: dialogs may be shown by what runs at the very end of the program.
+// Never destroyed: destructors of globals, which run last, may still show dialogs.
 TToolkitQt& BuscarToolkitQt() {
     static auto* toolkit = new TToolkitQt;
     return *toolkit;

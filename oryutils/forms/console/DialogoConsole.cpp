@@ -30,7 +30,7 @@ void Chamar(const std::function<void()>& AManipulador) {
     try {
         AManipulador();
     } catch (const EAbort&) {
-        // Silent by its meaning.
+        // EAbort ends the handler and nothing else.
     }
 }
 
@@ -129,7 +129,7 @@ void TDialogoConsole::ImprimirControle(const TControleFormulario& AControle) {
 }
 
 void TDialogoConsole::PerguntarControles() {
-    // By position: a handler may add controls.
+    // The loop counts positions, since a handler may add controls.
     for (std::size_t i = 0; i < FFormulario.GetControles().size(); ++i) {
         TControleFormulario& controle = *FFormulario.GetControles()[i];
         if (FFormulario.GetModalResult() != mrNone) return;

@@ -83,7 +83,7 @@ void TToolkitConsole::DispararTemporizadores() {
         try {
             acao();
         } catch (const EAbort&) {
-            // Silent by its meaning.
+            // EAbort ends the handler and nothing else.
         }
     }
 }

@@ -32,7 +32,7 @@ constexpr int CRecuoOpcoes = 8;
 constexpr int CBordaInferiorGrupo = 4;
 // Square of a radio button and the gap before its text.
 constexpr int CMarcaOpcao = 20;
-// No screen shows more than this; painting a longer label would take the system minutes.
+// The longest text of a label. The system takes minutes to paint a longer one, and no screen shows all of it.
 constexpr std::size_t CMaiorRotulo = 32768;
 
 DWORD EstiloDoRotulo(const TControleFormulario& AModelo) {

@@ -16,7 +16,7 @@ bool TControleWin32::PodeReceberFoco() const {
 }
 
 void TControleWin32::ReceberFoco() {
-    // The focus only moves inside the active window.
+    // Setting the focus works inside the active window only.
     if (HWND raiz = ::GetAncestor(FJanela, GA_ROOT); raiz && raiz != ::GetActiveWindow()) ::SetActiveWindow(raiz);
     ::SetFocus(FJanela);
 }

@@ -98,7 +98,7 @@ void TJanelaWin32::Posicionar(HWND ADona) {
         esquerda = (area.left + area.right - moldura.right) / 2;
         topo = (area.top + area.bottom - moldura.bottom) / 2;
     }
-    // Not drawn by the caller: the whole window stays on the screen, its title bar at any rate.
+    // The caller gave no position: the whole window stays on the screen; where it is too large, its title bar does.
     if (FFormulario.Posicao == pfCentroDaTela) {
         esquerda = std::max(std::min(esquerda, area.right - moldura.right), area.left);
         topo = std::max(std::min(topo, area.bottom - moldura.bottom), area.top);
@@ -200,7 +200,8 @@ bool TJanelaWin32::AcompanharFoco() {
         auto& caixa = static_cast<TCaixaEdicao&>(*anterior);
         aceitou = Proteger(FExcecao, [&] { caixa.OnSair(&caixa); });
     }
-    // Where the handler put the focus is where the user now is; what the focus only passed through was not left.
+    // The handler may have moved the focus: the user is where it put it, and boxes that the focus only passed through
+    // were not left.
     if (const TControleNativo* final = BuscarNativo(::GetFocus()); final && &final->GetModelo() != FFocado) {
         FFocado = &final->GetModelo();
         FFormulario.AceitarControleAtivo(FFocado);
@@ -229,7 +230,7 @@ bool TJanelaWin32::TratarTecla(const MSG& AMensagem) {
     tecla.Alt = EstahPressionada(VK_MENU) || (AMensagem.message == WM_SYSKEYDOWN && AMensagem.lParam & CAltPressionada);
     bool gasta = true;
     if (!Proteger(FExcecao, [&] { gasta = FFormulario.TratarTecla(tecla); }) || gasta) return true;
-    // Multi-line boxes do not know this one by themselves.
+    // The system's multi-line box does not select everything by Ctrl+A.
     const TControleNativo* focado = BuscarNativo(AMensagem.hwnd);
     if (tecla.Codigo == 'A' && tecla.Ctrl && !tecla.Alt && !tecla.Shift && focado && EhTexto(focado->GetModelo())) {
         ::SendMessageW(AMensagem.hwnd, EM_SETSEL, 0, -1);
@@ -262,7 +263,7 @@ void TJanelaWin32::Mudou(TControleFormulario& AControle, TMudanca AMudanca) {
             }
         }
     }
-    // Nobody types into a control that was switched off.
+    // A control that was switched off loses the focus.
     if (AMudanca == mdEstado && nativo->Possui(::GetFocus()) && !AControle.PodeReceberFoco()) Focar(nullptr);
 }
 
@@ -332,7 +333,7 @@ LRESULT TJanelaWin32::Tratar(UINT AMensagem, WPARAM AW, LPARAM AL) {
             ::SetCursor(FLaco.Cursor);
             return TRUE;
         case WM_DESTROY:
-            // Also when somebody else destroys it, with its owner for one.
+            // Runs also when somebody else destroys the window, as the system does when its owner goes.
             LerTudo();
             FFormulario.Fechar();
             return 0;

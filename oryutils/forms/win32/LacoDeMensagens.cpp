@@ -27,7 +27,7 @@ void TLacoDeMensagens::Bombear() {
         MSG mensagem;
         while (!excecao && ::PeekMessageW(&mensagem, nullptr, 0, 0, PM_REMOVE)) {
             if (mensagem.message == WM_QUIT) {
-                // It ends the loops below this one, not only this turn.
+                // The message that ends the program must reach the loops below this one too.
                 ::PostQuitMessage(static_cast<int>(mensagem.wParam));
                 break;
             }

@@ -11,7 +11,7 @@
 namespace OryUtils::Interno {
 namespace {
 
-/// With no loop of this library running there is nobody to raise to: the user is told.
+/// No loop of this library runs that could raise the exception: the user is told of it.
 void Informar(const std::exception_ptr& AExcecao) {
     std::exception_ptr ignorada;
     Proteger(ignorada, [&] {

@@ -9,7 +9,7 @@
 namespace OryUtils {
 namespace {
 
-// Only the thread of the user interface runs handlers.
+// Handlers run on the thread of the user interface alone.
 TGuardaQt* GAtual = nullptr;
 
 }  // namespace
@@ -24,7 +24,7 @@ bool TGuardaQt::Executar(const std::function<void()>& AAcao) noexcept {
         AAcao();
         return true;
     } catch (const EAbort&) {
-        // Silent by its meaning.
+        // EAbort ends the handler and nothing else.
     } catch (...) {
         if (GAtual) {
             if (!GAtual->FErro) GAtual->FErro = std::current_exception();

@@ -42,7 +42,7 @@ QStyle::StandardPixmap BuscarIcone(int AId) {
     }
 }
 
-// The tipo of a control says its class.
+// The control's Tipo tells its class, so the casts are safe.
 template <typename T>
 T& Como(TControleFormulario& AControle) {
     return static_cast<T&>(AControle);
@@ -353,7 +353,7 @@ bool TJanelaQt::eventFilter(QObject* AObjeto, QEvent* AEvento) {
         case QEvent::FocusOut: {
             // A window or a menu that comes to the front takes nothing away from the form's own control.
             const Qt::FocusReason motivo = static_cast<QFocusEvent*>(AEvento)->reason();
-            // Nor was anybody yet in a box that a handler takes the focus back from.
+            // A handler may take the focus back from a box before the user was in it: that box was not left either.
             const bool sai =
                 motivo != Qt::ActiveWindowFocusReason && motivo != Qt::PopupFocusReason && !FAvisandoSaidas;
             if (!controle || !sai || controle->GetTipo() != tcCaixaEdicao) break;

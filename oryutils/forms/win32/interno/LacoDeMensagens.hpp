@@ -19,7 +19,7 @@ public:
 
     /// The forms shown, innermost last.
     std::vector<TJanelaWin32*> Janelas;
-    /// Where each running loop keeps what an action outside of its form raised, innermost last.
+    /// One place for each running loop, innermost last: it keeps the exception of an action outside of the loop's form.
     std::vector<std::exception_ptr*> Destinos;
     /// Cursor of all forms; null for each window's own.
     HCURSOR Cursor = nullptr;
