@@ -2,6 +2,7 @@
 
 #include "oryutils/runtime/interno/Calendario.hpp"
 #include "oryutils/runtime/interno/ErroDeData.hpp"
+#include "oryutils/runtime/interno/InstanteLocal.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -110,23 +111,13 @@ TDateTime IncrementarMilissegundos(TDateTime AData, std::int64_t AMilissegundos)
     return Interno::Recompor({dia, static_cast<int>(mili)});
 }
 
-TDateTime DeInstanteLocal(const Interno::TInstanteLocal& AInstante) noexcept {
+TDateTime Interno::DeInstanteLocal(const TInstanteLocal& AInstante) noexcept {
     const auto data = TentarCodificarData(AInstante.Ano, AInstante.Mes, AInstante.Dia);
     const auto hora = TentarCodificarHora(AInstante.Hora, AInstante.Minuto, AInstante.Segundo, AInstante.Milissegundo);
     return data && hora ? JuntarDataHora(*data, *hora) : TDateTime();
 }
 
-TDateTime Agora() {
-    // Who asks often asks many times in a millisecond.
-    thread_local Interno::TInstanteLocal anterior{};
-    thread_local TDateTime data;
-    const Interno::TInstanteLocal instante = Interno::BuscarInstanteLocal();
-    if (instante != anterior) {
-        data = DeInstanteLocal(instante);
-        anterior = instante;
-    }
-    return data;
-}
+TDateTime Agora() { return Interno::DeInstanteLocal(Interno::BuscarInstanteLocal()); }
 TDateTime Hoje() { return BuscarParteData(Agora()); }
 
 }  // namespace OryUtils

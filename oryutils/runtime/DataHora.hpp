@@ -1,7 +1,6 @@
 #pragma once
 
 #include "oryutils/OryExport.hpp"
-#include "oryutils/platform/Relogio.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 
 #include <cstdint>
@@ -66,7 +65,5 @@ ORY_API TDateTime IncrementarMilissegundos(TDateTime AData, std::int64_t AMiliss
 /// The current local date and time; the current date.
 ORY_API TDateTime Agora();
 ORY_API TDateTime Hoje();
-/// An instant as the system's clock tells it; 0 when it is no date and time.
-ORY_API TDateTime DeInstanteLocal(const Interno::TInstanteLocal& AInstante) noexcept;
 
 }  // namespace OryUtils

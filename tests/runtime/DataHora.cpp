@@ -1,6 +1,7 @@
 #include "oryutils/runtime/DataHora.hpp"
 
 #include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/runtime/interno/InstanteLocal.hpp"
 
 #include <gtest/gtest.h>
 
@@ -126,8 +127,8 @@ TEST(DataHora, IncrementaMesesComoUmPorUm) {
 }
 
 TEST(DataHora, InstanteDoRelogio) {
-    EXPECT_EQ(DeInstanteLocal({2024, 3, 5, 14, 7, 9, 250}), 45356 + (14 * 3600 + 7 * 60 + 9.25) / 86400);
-    EXPECT_EQ(DeInstanteLocal({2024, 2, 30, 0, 0, 0, 0}), 0);
+    EXPECT_EQ(Interno::DeInstanteLocal({2024, 3, 5, 14, 7, 9, 250}), 45356 + (14 * 3600 + 7 * 60 + 9.25) / 86400);
+    EXPECT_EQ(Interno::DeInstanteLocal({2024, 2, 30, 0, 0, 0, 0}), 0);
 }
 
 }  // namespace
