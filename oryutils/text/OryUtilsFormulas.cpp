@@ -1,36 +1,33 @@
+// The object: its formula, its variables and the steps of an evaluation that work on plain text.
 #include "oryutils/text/OryUtilsFormulas.hpp"
 
+#include "oryutils/characters/Caixa.hpp"
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/interno/PrecisaoPlena.hpp"
-#include "oryutils/text/interno/FormulaAvaliador.hpp"
+#include "oryutils/text/interno/Busca.hpp"
 
-#include <array>
-#include <cmath>
+#include <algorithm>
 
 namespace OryUtils {
 namespace {
 
-constexpr std::u16string_view COperadores = u"*/+-";  // in the order of TOperCalc
-
-Interno::TRegrasFormula BuscarRegras(TMetodoArredondamento AAjuste, std::uint8_t ACasas) {
-    const TFormatSettings& formatos = FormatSettings();
-    return {formatos.DecimalSeparator, formatos.ThousandSeparator, AAjuste, ACasas};
-}
-
-Extended Operar(TOperCalc AOperador, Extended AUm, Extended AOutro) noexcept {
-    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { return Operar(AOperador, AUm, AOutro); });
-    return Interno::CalcularOperacao(AOperador, AUm, AOutro);
+bool IniciaNome(char16_t ACaractere, const TFormatSettings& AFormatos) noexcept {
+    switch (ACaractere) {
+        case u'*':
+        case u'/':
+        case u'+':
+        case u'-':
+        case u'(':
+        case u')':
+            return false;
+        default:
+            return !EhDigito(ACaractere) && ACaractere != AFormatos.DecimalSeparator &&
+                   ACaractere != AFormatos.ThousandSeparator;
+    }
 }
 
 }  // namespace
-
-TOryUtilsFormulas::TOryUtilsFormulas() : FAvaliador(std::make_unique<Interno::TAvaliador>()) {}
-TOryUtilsFormulas::~TOryUtilsFormulas() = default;
-
-Interno::TAvaliador& TOryUtilsFormulas::Preparar() {
-    FAvaliador->SetRegras(BuscarRegras(FTipoAjusteValor, FCasasDecimais));
-    return *FAvaliador;
-}
 
 void TOryUtilsFormulas::SetExpressao(std::u16string_view AExpressao) {
     if (AExpressao == FExpressao) return;
@@ -44,16 +41,23 @@ void TOryUtilsFormulas::SetValor(Extended AValor) {
     FExpressao = AValor == 0 ? std::u16string() : ExtendedParaTexto(AValor);
 }
 
-const std::vector<std::u16string>& TOryUtilsFormulas::GetVariaveis() const noexcept {
-    return FAvaliador->Variaveis.GetLinhas();
-}
-
 void TOryUtilsFormulas::SetVariaveis(const std::vector<std::u16string>& AVariaveis) {
-    FAvaliador->Variaveis.SetLinhas(RetirarEspacosEmBranco(AVariaveis));
+    FVariaveis = RetirarEspacosEmBranco(AVariaveis);
+    FVariavelPorNome.clear();
+    for (std::size_t i = 0; i < FVariaveis.size(); ++i) IndexarVariavel(i);
 }
 
 void TOryUtilsFormulas::AdicionarVariavel(std::u16string_view ANome, Extended AValor) {
-    FAvaliador->Variaveis.Definir(ANome, AValor, FormatSettings().DecimalSeparator);
+    std::u16string linha(ANome);
+    (linha += u'=') += ExtendedParaTexto(AValor);
+    if (const auto existente = FVariavelPorNome.find(MinusculaDe(ANome)); existente != FVariavelPorNome.end()) {
+        TVariavel& variavel = existente->second;
+        FVariaveis[variavel.Linha] = std::move(linha);
+        variavel.Regras = {};
+        return;
+    }
+    FVariaveis.push_back(std::move(linha));
+    IndexarVariavel(FVariaveis.size() - 1);
 }
 
 void TOryUtilsFormulas::AdicionarVariaveis(const std::vector<std::u16string>& ANomes,
@@ -64,17 +68,59 @@ void TOryUtilsFormulas::AdicionarVariaveis(const std::vector<std::u16string>& AN
 }
 
 void TOryUtilsFormulas::LimparVariaveis() {
-    FAvaliador->Variaveis.Limpar();
+    FVariaveis.clear();
+    FVariavelPorNome.clear();
     FExpressaoResolvida.clear();
+}
+
+/// Lines without "=" name nothing. Of equal names the first line stays.
+void TOryUtilsFormulas::IndexarVariavel(std::size_t ALinha) {
+    const std::u16string& linha = FVariaveis[ALinha];
+    const std::size_t igual = linha.find(u'=');
+    if (igual != linha.npos) FVariavelPorNome.try_emplace(MinusculaDe(linha.substr(0, igual)), TVariavel{ALinha});
+}
+
+/// What stands for the variable in formulas.
+const std::u16string& TOryUtilsFormulas::BuscarTextoDaVariavel(std::u16string_view ANome) {
+    const auto encontrada = FVariavelPorNome.find(MinusculaDe(ANome));
+    if (encontrada == FVariavelPorNome.end()) throw Exception(u"Variável '" + std::u16string(ANome) + u"' não existe.");
+    TVariavel& variavel = encontrada->second;
+    const TRegras regras{FTipoAjusteValor, FCasasDecimais, FormatSettings().DecimalSeparator};
+    if (variavel.Regras != regras) {
+        std::u16string_view valor = FVariaveis[variavel.Linha];
+        valor.remove_prefix(valor.find(u'=') + 1);
+        variavel.Texto = ExtendedParaTexto(AjustarValorVariavel(TextoParaExtended(valor)));
+        variavel.Regras = regras;
+    }
+    return variavel.Texto;
 }
 
 Extended TOryUtilsFormulas::Calcular(std::u16string_view AExpressao) {
     if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { return Calcular(AExpressao); });
-    return Preparar().Calcular(AExpressao, &FExpressaoResolvida);
+    std::u16string formula(AExpressao);
+    ResolverFuncoes(formula);
+    ResolverVariaveis(formula);
+    FExpressaoResolvida = formula;
+    return CalcularSemNomes(formula);
+}
+
+/// The steps behind ResolverVariaveis.
+Extended TOryUtilsFormulas::CalcularSemNomes(std::u16string& AFormula) {
+    ResolverDuploSinalNegativo(AFormula);
+    ResolverParenteses(AFormula);
+    return CalcularExpressao(AFormula);
 }
 
 Extended TOryUtilsFormulas::AjustarValorVariavel(Extended AValor) const {
-    return BuscarRegras(FTipoAjusteValor, FCasasDecimais).Ajustar(AValor);
+    switch (FTipoAjusteValor) {
+        case maMatematico:
+            return TOryUtilsMatematica::Arredondar(AValor, maMatematico, FCasasDecimais,
+                                                   static_cast<std::uint8_t>(FCasasDecimais + 1));
+        case maTruncamento:
+            return TOryUtilsMatematica::Arredondar(AValor, maTruncamento, FCasasDecimais, 10);
+        default:
+            return AValor;
+    }
 }
 
 std::u16string TOryUtilsFormulas::RetirarEspacosEmBranco(std::u16string_view ATexto) {
@@ -89,102 +135,35 @@ std::vector<std::u16string> TOryUtilsFormulas::RetirarEspacosEmBranco(const std:
     return linhas;
 }
 
-void TOryUtilsFormulas::ResolverFuncoes(std::u16string& AFormula) {
-    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { ResolverFuncoes(AFormula); });
-    const std::u16string_view resolvida = Preparar().ResolverFuncoes(AFormula);
-    FAvaliador->LancarErro();
-    AFormula = resolvida;
-}
+bool TOryUtilsFormulas::EhVariavel(char16_t ACaractere) { return IniciaNome(ACaractere, FormatSettings()); }
 
 void TOryUtilsFormulas::ResolverVariaveis(std::u16string& AFormula) {
-    const std::u16string_view resolvida = Preparar().ResolverVariaveis(AFormula);
-    FAvaliador->LancarErro();
-    AFormula = resolvida;
+    const TFormatSettings& formatos = FormatSettings();
+    const auto iniciaNome = [&](char16_t c) { return IniciaNome(c, formatos); };
+    const auto ehDoNome = [&](char16_t c) { return iniciaNome(c) || EhDigito(c) || c == formatos.DecimalSeparator; };
+    if (std::none_of(AFormula.begin(), AFormula.end(), iniciaNome)) return;
+    // No formula grows to this size, unless the values of variables name variables ("1E20" names E20) for ever.
+    const std::size_t limite = 64 * AFormula.size() + 64 * 1024;
+
+    // What is still to be read, backwards. The value of a variable is read again, so it goes to the end.
+    std::u16string resto(AFormula.rbegin(), AFormula.rend());
+    std::u16string resolvida;
+    while (true) {
+        const auto nome = std::find_if(resto.rbegin(), resto.rend(), iniciaNome);
+        resolvida.append(resto.rbegin(), nome);
+        if (nome == resto.rend()) break;
+        const auto fimDoNome = std::find_if_not(nome, resto.rend(), ehDoNome);
+        const std::u16string& valor = BuscarTextoDaVariavel(std::u16string(nome, fimDoNome));
+        if (resolvida.size() + resto.size() > limite) throw Exception(u"Variáveis da fórmula sem fim.");
+        resto.erase(fimDoNome.base(), resto.end());
+        resto.append(valor.rbegin(), valor.rend());
+    }
+    AFormula = std::move(resolvida);
 }
 
 void TOryUtilsFormulas::ResolverDuploSinalNegativo(std::u16string& AFormula) {
-    AFormula = Preparar().ResolverDuploSinalNegativo(AFormula);
-}
-
-void TOryUtilsFormulas::ResolverParenteses(std::u16string& AFormula) {
-    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { ResolverParenteses(AFormula); });
-    const std::u16string_view resolvida = Preparar().ResolverParenteses(AFormula);
-    FAvaliador->LancarErro();
-    AFormula = resolvida;
-}
-
-Extended TOryUtilsFormulas::CalcularExpressao(std::u16string_view ATexto) {
-    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { return CalcularExpressao(ATexto); });
-    const Extended valor = Preparar().CalcularExpressao(ATexto);
-    FAvaliador->LancarErro();
-    return valor;
-}
-
-bool TOryUtilsFormulas::EhVariavel(char16_t ACaractere) { return BuscarRegras(maNenhum, 0).EhVariavel(ACaractere); }
-
-bool TOryUtilsFormulas::EhOperador(std::u16string_view ATexto, std::size_t APosicao) {
-    if (APosicao == 0 || APosicao > ATexto.size()) return false;
-    const char16_t c = ATexto[APosicao - 1];
-    if (c == u'-') return APosicao >= 2 && !Interno::EhOperadorExcetoSubtracao(ATexto[APosicao - 2]);
-    return Interno::EhOperadorExcetoSubtracao(c);
-}
-
-std::size_t TOryUtilsFormulas::GetPosOperador(TOperCalc AOperador, std::u16string_view ATexto) {
-    for (std::size_t p = 1; p <= ATexto.size(); ++p)
-        if (ATexto[p - 1] == COperadores[AOperador] && EhOperador(ATexto, p)) return p;
-    return 0;
-}
-
-std::u16string TOryUtilsFormulas::GetPrimeiroArgumento(std::u16string_view ATexto, std::size_t APosicao) {
-    if (APosicao == 0 || APosicao > ATexto.size()) return {};
-    std::size_t antes = APosicao - 1;
-    while (antes > 0 && !EhOperador(ATexto, antes)) --antes;
-    return std::u16string(ATexto.substr(antes, APosicao - 1 - antes));
-}
-
-std::u16string TOryUtilsFormulas::GetSegundoArgumento(std::u16string_view ATexto, std::size_t APosicao) {
-    if (APosicao == 0 || APosicao > ATexto.size()) return {};
-    std::size_t depois = APosicao + 1;
-    while (depois <= ATexto.size() && !EhOperador(ATexto, depois)) ++depois;
-    return std::u16string(ATexto.substr(APosicao, depois - 1 - APosicao));
-}
-
-std::pair<std::u16string, std::u16string> TOryUtilsFormulas::GetArgumentos(std::u16string_view ATexto) {
-    const std::size_t separador = ATexto.find(u';');
-    if (separador == std::u16string_view::npos)
-        throw Exception(u"São necessários dois argumentos para calcular a função.");
-    return {std::u16string(ATexto.substr(0, separador)), std::u16string(ATexto.substr(separador + 1))};
-}
-
-Extended TOryUtilsFormulas::GetSoma(Extended AUm, Extended AOutro) noexcept { return Operar(ocSoma, AUm, AOutro); }
-
-Extended TOryUtilsFormulas::GetSubtracao(Extended AUm, Extended AOutro) noexcept {
-    return Operar(ocSubtracao, AUm, AOutro);
-}
-
-Extended TOryUtilsFormulas::GetMultiplicacao(Extended AUm, Extended AOutro) noexcept {
-    return Operar(ocMultiplicacao, AUm, AOutro);
-}
-
-Extended TOryUtilsFormulas::GetDivisao(Extended ADividendo, Extended ADivisor) noexcept {
-    return Operar(ocDivisao, ADividendo, ADivisor);
-}
-
-Extended TOryUtilsFormulas::GetInteiro(Extended AValor) noexcept { return std::trunc(AValor); }
-
-Extended TOryUtilsFormulas::GetExponencial(Extended ABase, Extended AExpoente) noexcept {
-    if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { return GetExponencial(ABase, AExpoente); });
-    constexpr Extended CMaiorExpoenteInteiro = 2147483647;
-    if (std::trunc(AExpoente) != AExpoente || !(std::abs(AExpoente) <= CMaiorExpoenteInteiro))
-        return std::pow(ABase, AExpoente);
-    // By squares: whole powers are exact as far as the digits go, on every system.
-    Extended potencia = 1;
-    Extended quadrado = ABase;
-    for (auto resto = static_cast<std::uint64_t>(std::abs(AExpoente)); resto > 0; resto >>= 1) {
-        if (resto & 1) potencia *= quadrado;
-        quadrado *= quadrado;
-    }
-    return AExpoente < 0 ? 1 / potencia : potencia;
+    if (AFormula.find(GetDuploSinalNegativo()) != AFormula.npos)
+        AFormula = Interno::SubstituirTodos(AFormula, GetDuploSinalNegativo(), u"+");
 }
 
 }  // namespace OryUtils

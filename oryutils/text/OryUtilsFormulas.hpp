@@ -7,17 +7,13 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
+#include <map>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 namespace OryUtils {
-
-namespace Interno {
-class TAvaliador;
-}
 
 /// The functions of formulas, in the order in which they are resolved.
 enum TFuncCalc : std::uint8_t { fcSQR, fcLOG, fcLN, fcINT, fcABS, fcMAX, fcMIN, fcEXP };
@@ -32,27 +28,36 @@ enum TOperCalc : std::uint8_t { ocMultiplicacao, ocDivisao, ocSoma, ocSubtracao 
 ///     formula.GetValor();              // 165
 ///     formula.GetExpressaoResolvida(); // "165"
 ///
-/// The value is that of resolving the text piece by piece, each piece replaced by its number as text:
-/// - case, blanks and every "." are disregarded; the decimal separator is that of the process-wide formats, a comma;
-/// - functions come first, in the order of TFuncCalc, each evaluating its arguments: SQR square root, LOG decimal
-///   and LN natural logarithm, INT without the fraction, ABS, MAX(a;b), MIN(a;b), EXP(a;b) a to the power b. The first
-///   ";" separates the arguments, so the first argument takes no two-argument function of the same or a later kind;
-/// - then variables, pairs "--" (they become "+"), parentheses and the operators: every "*", then every "/", every
-///   "+", every "-". So "8/2*2" is 2 and "10-2+3" is 5. A "-" at the start or behind another of "*/+" is a sign;
-/// - each result is rounded as TipoAjusteValor says and keeps 15 significant digits. One below 0,0001 is written with
-///   an exponent ("1E-5"), which the operators do not understand: it ends in EConvertError unless rounded away.
-/// - x/0 is 0; an operand that is missing or only "-" counts 0; what a parenthesis leaves is text like any other:
-///   "2(3)" is 23. A missing ")" stands at the end.
+/// An evaluation rewrites the text of the formula: each piece is replaced by its value, written as text, until one
+/// number is left. The steps, in this order:
+/// 1. The text is put in upper case, and every blank and every "." is removed. The decimal separator is that of the
+///    process-wide formats, a comma.
+/// 2. The functions are resolved in the order of TFuncCalc, and each evaluates its arguments as formulas. SQR is the
+///    square root, LOG the decimal and LN the natural logarithm, INT drops the fraction, ABS drops the sign;
+///    MAX(a;b), MIN(a;b) and EXP(a;b), a to the power b, have two arguments. The first ";" separates the arguments, so
+///    the first argument cannot hold a two-argument function of the same or of a later kind.
+/// 3. Each variable is replaced by its value, rounded as TipoAjusteValor says.
+/// 4. Each "--" becomes "+".
+/// 5. The parentheses are resolved, the inner ones first.
+/// 6. The operators are resolved: every "*", then every "/", every "+", every "-". So "8/2*2" is 2 and "10-2+3" is 5.
+///    A "-" at the start, or right behind one of "*/+", is the sign of a number.
 ///
-/// Errors: Exception "São necessários dois argumentos para calcular a função.", "Variável 'X' não existe." or, when the
-/// values of variables name other variables without end, "Variáveis da fórmula sem fim."; EConvertError for an operand
-/// that is no number. Time grows with the length of the formula, and depth has no limit but memory.
-/// One object belongs to one thread at a time.
+/// What follows from rewriting text:
+/// - each result is rounded as TipoAjusteValor says and keeps 15 significant digits;
+/// - a result below 0,0001 is written with an exponent ("1E-5"). The operators do not understand it: the evaluation
+///   ends in EConvertError unless the result is rounded away;
+/// - the value of a parenthesis joins the text around it: "2(3)" is 23;
+/// - a missing ")" counts as standing at the end; x/0 is 0; an operand that is missing or only "-" counts 0.
+///
+/// Errors: Exception "São necessários dois argumentos para calcular a função.", Exception "Variável 'X' não existe.",
+/// Exception "Variáveis da fórmula sem fim." when the values of variables name other variables without end, and
+/// EConvertError for an operand that is no number.
+/// The time grows with the length of the formula; only memory limits the depth. One object belongs to one thread at a
+/// time.
 class ORY_API TOryUtilsFormulas {
 public:
-    /// Without variables; 2 places, no adjustment.
-    TOryUtilsFormulas();
-    ~TOryUtilsFormulas();
+    /// Starts without variables, with 2 places and no adjustment.
+    TOryUtilsFormulas() = default;
     TOryUtilsFormulas(const TOryUtilsFormulas&) = delete;
     TOryUtilsFormulas& operator=(const TOryUtilsFormulas&) = delete;
 
@@ -66,10 +71,11 @@ public:
     void SetValor(Extended AValor);
 
     /// The variables, one line for each: name, "=", value as text.
-    const std::vector<std::u16string>& GetVariaveis() const noexcept;
+    const std::vector<std::u16string>& GetVariaveis() const noexcept { return FVariaveis; }
     /// Replaces the variables by the lines of AVariaveis without their blanks. Of equal names the first counts.
     void SetVariaveis(const std::vector<std::u16string>& AVariaveis);
-    /// Adds a variable or gives a new value to the one of that name; case plays no part.
+    /// Adds a variable or gives a new value to the one of that name; case plays no part. No formula can use a variable
+    /// whose name holds a blank, since the blanks of a formula are removed: "Salário base" never matches.
     void AdicionarVariavel(std::u16string_view ANome, Extended AValor);
     /// Adds each pair in order. Raises Exception when the lists differ in length; nothing is added then.
     void AdicionarVariaveis(const std::vector<std::u16string>& ANomes, const std::vector<Extended>& AValores);
@@ -87,16 +93,17 @@ public:
 
     /// Evaluates AExpressao without keeping it; sets ExpressaoResolvida.
     Extended Calcular(std::u16string_view AExpressao);
-    /// AValor rounded to CasasDecimais: maMatematico looks at one digit more, maTruncamento cuts; nothing else rounds.
+    /// AValor rounded to CasasDecimais by TipoAjusteValor: maMatematico looks at one digit more, maTruncamento cuts,
+    /// the other methods leave AValor unchanged.
     Extended AjustarValorVariavel(Extended AValor) const;
 
     /// Without any " ".
     static std::u16string RetirarEspacosEmBranco(std::u16string_view ATexto);
     static std::vector<std::u16string> RetirarEspacosEmBranco(const std::vector<std::u16string>& ALinhas);
 
-    // The steps of an evaluation, each on the text that the one before leaves.
+    // The steps of an evaluation. Each works on the text that the step before leaves.
 
-    /// Puts AFormula in upper case without blanks and points and resolves its functions.
+    /// Steps 1 and 2: upper case, no blanks, no points, no functions.
     void ResolverFuncoes(std::u16string& AFormula);
     void ResolverVariaveis(std::u16string& AFormula);
     void ResolverDuploSinalNegativo(std::u16string& AFormula);
@@ -131,14 +138,29 @@ public:
     static std::u16string_view GetDuploSinalNegativo() noexcept { return u"--"; }
 
 private:
-    Interno::TAvaliador& Preparar();
+    /// What the text of a variable depends on besides its line.
+    struct TRegras {
+        TMetodoArredondamento Ajuste = maNenhum;
+        std::uint8_t Casas = 0;
+        char16_t SeparadorDecimal = 0;
+        bool operator==(const TRegras&) const = default;
+    };
+    struct TVariavel {
+        std::size_t Linha;
+        TRegras Regras{};  // those that Texto was made with; no separator before that
+        std::u16string Texto{};
+    };
+    void IndexarVariavel(std::size_t ALinha);
+    const std::u16string& BuscarTextoDaVariavel(std::u16string_view ANome);
+    Extended CalcularSemNomes(std::u16string& AFormula);
 
     std::u16string FExpressao;
     Extended FValor = 0;
     std::u16string FExpressaoResolvida;
     std::uint8_t FCasasDecimais = 2;
     TMetodoArredondamento FTipoAjusteValor = maNenhum;
-    std::unique_ptr<Interno::TAvaliador> FAvaliador;
+    std::vector<std::u16string> FVariaveis;
+    std::map<std::u16string, TVariavel> FVariavelPorNome;  // the name in lower case
 };
 
 }  // namespace OryUtils

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <random>
 #include <string>
 
@@ -152,6 +153,7 @@ TEST(Formulas, Regras) {
         {u"10000000*1000000000", "1E16", "no minus in the exponent"},
     };
     for (const TCaso& c : casos) EXPECT_EQ(Calcular(c.Formula), c.Esperado) << ParaUtf8(c.Formula) << ": " << c.Porque;
+    EXPECT_FALSE(std::signbit(TOryUtilsFormulas().Calcular(u"-"))) << "a lone minus is 0, not -0";
 }
 
 TEST(Formulas, AjusteDosValores) {
