@@ -2,16 +2,20 @@
 
 #include <algorithm>
 #include <bitset>
+#include <concepts>
 #include <initializer_list>
 #include <string_view>
 
 namespace OryUtils {
 
-/// Characters given as an argument: a list in braces or a text. Borrows them; never keep one.
+/// Characters given as an argument: a list in braces, or a text of any kind (u".-", a std::u16string, a view). Borrows
+/// them; never keep one.
 class TCaracteres {
 public:
     constexpr TCaracteres(std::initializer_list<char16_t> ALista) : FTexto(ALista.begin(), ALista.size()) {}
-    constexpr TCaracteres(std::u16string_view ATexto) : FTexto(ATexto) {}
+    template <typename TTexto>
+    requires std::convertible_to<const TTexto&, std::u16string_view>
+    constexpr TCaracteres(const TTexto& ATexto) : FTexto(ATexto) {}
 
     constexpr auto begin() const { return FTexto.begin(); }
     constexpr auto end() const { return FTexto.end(); }
@@ -25,6 +29,10 @@ private:
 class TConjuntoCaracteres {
 public:
     constexpr TConjuntoCaracteres() = default;
+    TConjuntoCaracteres(std::initializer_list<char16_t> ALista) : TConjuntoCaracteres(TCaracteres(ALista)) {}
+    template <typename TTexto>
+    requires std::convertible_to<const TTexto&, std::u16string_view> TConjuntoCaracteres(const TTexto& ATexto)
+        : TConjuntoCaracteres(TCaracteres(ATexto)) {}
     TConjuntoCaracteres(TCaracteres ACaracteres) {
         for (const char16_t c : ACaracteres)
             if (c < 256) FMembros.set(c);

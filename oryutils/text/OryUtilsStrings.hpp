@@ -90,8 +90,7 @@ public:
     /// character goes each time: "xaay" with "aa" and "b" gives "xbay".
     /// An ANovo from which AAntigo arises again (it contains AAntigo, or does with what is left of it behind) would
     /// never end: do not ask for that. When AAntigo occurs at all it raises an Exception instead of hanging.
-    /// Time: linear for a one-character AAntigo or an ANovo that shares no character with it; otherwise each deletion
-    /// costs up to the lengths of AAntigo and ANovo.
+    /// Each deletion costs up to the lengths of AAntigo and ANovo, however long the text is.
     static std::u16string SubstituirCaracteres(std::u16string_view ATexto, std::u16string_view AAntigo,
                                                std::u16string_view ANovo);
     /// Puts ASubstituto, which may be empty, in the place of each character that is EhCaractereAcentuadoOuEspecial.
@@ -206,63 +205,109 @@ public:
 
 extern ORY_API TInstanciaGlobal<TOryUtilsStrings> GOryUtilsStrings;
 
-// Each free function is the operation of TOryUtilsStrings of the same name.
+// Each free function is the operation of TOryUtilsStrings that it calls.
 
-ORY_API std::u16string AllTrim(std::u16string_view ATexto);
-ORY_API std::u16string BuscarPastaDoNivelAnterior(std::u16string_view ACaminho);
-ORY_API int BuscarQuantidadeCaractereNoTexto(std::u16string_view ATexto, char16_t ACaractere);
-ORY_API std::u16string ConverterStringListParaTextoComDelimitador(const std::vector<std::u16string>* AStringList,
-                                                                  std::u16string_view ADelimitador);
-ORY_API std::vector<std::u16string> ConverterStringListParaVetorDeStrings(
-    const std::vector<std::u16string>& AStringList);
-ORY_API std::u16string ConverterTeclaVirtualParaCaractere(std::uint16_t ATecla);
-ORY_API std::optional<std::vector<std::u16string>> ConverterTextoComDelimitadorParaStringList(
-    std::u16string_view ATexto, std::u16string_view ADelimitador);
-ORY_API std::unique_ptr<TVetorDeCaracteres> ConverterTextoParaVetorDeCaracteres(std::u16string_view ATexto);
-ORY_API std::vector<std::u16string> ConverterVetorDeStringsParaStringList(const std::vector<std::u16string>& AVetor);
-ORY_API bool EhCaractereAcentuadoOuEspecial(char16_t ACaractere);
-ORY_API std::u16string FormatarEspacoEmBranco(std::u16string_view ATexto, int ATamanho);
-ORY_API std::u16string FormatarInscricaoFederal(TTipoInscricao ATipo, std::u16string_view ANumero);
-ORY_API std::u16string RemoverAcentos(std::u16string_view ATexto);
-ORY_API std::u16string RemoverCaracteres(TCaracteres ACaracteres, std::u16string_view ATexto);
-ORY_API std::vector<std::u16string> StringToStringDynArray(const std::vector<std::u16string>& AVetor);
-ORY_API std::u16string SubstituirCaracteres(std::u16string_view ATexto, std::u16string_view AAntigo,
-                                            std::u16string_view ANovo);
-ORY_API std::u16string SubstituirMultiplosTextos(std::u16string_view ATexto,
-                                                 const std::vector<std::u16string>& AAntigos,
-                                                 const std::vector<std::u16string>& ANovos, bool AIgnorarCaixa);
-ORY_API bool TextoEhAlfaNumerico(std::u16string_view ATexto);
-ORY_API bool TextoEhSomenteCaracteres(std::u16string_view ATexto);
-ORY_API bool TextoEhSomenteNumerico(std::u16string_view ATexto);
-ORY_API bool TextoPossuiCaracteres(std::u16string_view ATexto);
-ORY_API bool TextoPossuiNumeros(std::u16string_view ATexto);
-ORY_API bool TextoPossuiSomenteCaracteresEspeciais(std::u16string_view ATexto);
+inline std::u16string AllTrim(std::u16string_view ATexto) { return TOryUtilsStrings::AllTrim(ATexto); }
+inline std::u16string BuscarPastaDoNivelAnterior(std::u16string_view ACaminho) {
+    return TOryUtilsStrings::BuscarPastaDoNivelAnterior(ACaminho);
+}
+inline int BuscarQuantidadeCaractereNoTexto(std::u16string_view ATexto, char16_t ACaractere) {
+    return TOryUtilsStrings::BuscarQuantidadeCaractereNoTexto(ATexto, ACaractere);
+}
+inline std::u16string ConverterStringListParaTextoComDelimitador(const std::vector<std::u16string>* AStringList,
+                                                                 std::u16string_view ADelimitador) {
+    return TOryUtilsStrings::ConverterStringListParaTextoComDelimitador(AStringList, ADelimitador);
+}
+inline std::vector<std::u16string> ConverterStringListParaVetorDeStrings(
+    const std::vector<std::u16string>& AStringList) {
+    return TOryUtilsStrings::ConverterStringListParaVetorDeStrings(AStringList);
+}
+inline std::u16string ConverterTeclaVirtualParaCaractere(std::uint16_t ATecla) {
+    return TOryUtilsStrings::ConverterTeclaVirtualParaCaractere(ATecla);
+}
+inline std::optional<std::vector<std::u16string>> ConverterTextoComDelimitadorParaStringList(
+    std::u16string_view ATexto, std::u16string_view ADelimitador) {
+    return TOryUtilsStrings::ConverterTextoComDelimitadorParaStringList(ATexto, ADelimitador);
+}
+inline std::unique_ptr<TVetorDeCaracteres> ConverterTextoParaVetorDeCaracteres(std::u16string_view ATexto) {
+    return TOryUtilsStrings::ConverterTextoParaVetorDeCaracteres(ATexto);
+}
+inline std::vector<std::u16string> ConverterVetorDeStringsParaStringList(const std::vector<std::u16string>& AVetor) {
+    return TOryUtilsStrings::ConverterVetorDeStringsParaStringList(AVetor);
+}
+inline bool EhCaractereAcentuadoOuEspecial(char16_t ACaractere) {
+    return TOryUtilsStrings::EhCaractereAcentuadoOuEspecial(ACaractere);
+}
+inline std::u16string FormatarEspacoEmBranco(std::u16string_view ATexto, int ATamanho) {
+    return TOryUtilsStrings::FormatarEspacoEmBranco(ATexto, ATamanho);
+}
+inline std::u16string FormatarInscricaoFederal(TTipoInscricao ATipo, std::u16string_view ANumero) {
+    return TOryUtilsStrings::FormatarInscricaoFederal(ATipo, ANumero);
+}
+inline std::u16string RemoverAcentos(std::u16string_view ATexto) { return TOryUtilsStrings::RemoverAcentos(ATexto); }
+inline std::u16string RemoverCaracteres(TCaracteres ACaracteres, std::u16string_view ATexto) {
+    return TOryUtilsStrings::RemoverCaracteres(ACaracteres, ATexto);
+}
+inline std::vector<std::u16string> StringToStringDynArray(const std::vector<std::u16string>& AVetor) {
+    return TOryUtilsStrings::StringToStringDynArray(AVetor);
+}
+inline std::u16string SubstituirCaracteres(std::u16string_view ATexto, std::u16string_view AAntigo,
+                                           std::u16string_view ANovo) {
+    return TOryUtilsStrings::SubstituirCaracteres(ATexto, AAntigo, ANovo);
+}
+inline std::u16string SubstituirMultiplosTextos(std::u16string_view ATexto, const std::vector<std::u16string>& AAntigos,
+                                                const std::vector<std::u16string>& ANovos, bool AIgnorarCaixa) {
+    return TOryUtilsStrings::SubstituirMultiplosTextos(ATexto, AAntigos, ANovos, AIgnorarCaixa);
+}
+inline bool TextoEhAlfaNumerico(std::u16string_view ATexto) { return TOryUtilsStrings::TextoEhAlfaNumerico(ATexto); }
+inline bool TextoEhSomenteCaracteres(std::u16string_view ATexto) {
+    return TOryUtilsStrings::TextoEhSomenteCaracteres(ATexto);
+}
+inline bool TextoEhSomenteNumerico(std::u16string_view ATexto) {
+    return TOryUtilsStrings::TextoEhSomenteNumerico(ATexto);
+}
+inline bool TextoPossuiCaracteres(std::u16string_view ATexto) {
+    return TOryUtilsStrings::TextoPossuiCaracteres(ATexto);
+}
+inline bool TextoPossuiNumeros(std::u16string_view ATexto) { return TOryUtilsStrings::TextoPossuiNumeros(ATexto); }
+inline bool TextoPossuiSomenteCaracteresEspeciais(std::u16string_view ATexto) {
+    return TOryUtilsStrings::TextoPossuiSomenteCaracteresEspeciais(ATexto);
+}
 
 // Older names.
 
-/// LimparTexto.
-ORY_API std::u16string ClearString(std::u16string_view ATexto);
-ORY_API std::u16string ClearString(std::u16string_view ATexto, TCaracteres ACaracteres);
-ORY_API std::u16string ClearString(std::u16string_view ATexto, const std::vector<std::u16string>& ATextos);
-/// LimparTextoMantendoCaracteres.
-ORY_API std::u16string ClearStringKeepChars(std::u16string_view ATexto, const TConjuntoCaracteres& ACaracteres);
-/// ExtrairUltimaPastaDaURL.
-ORY_API std::u16string ExtractLastDirFromUrl(std::u16string_view AURL);
-/// BuscarValorPadrao.
-ORY_API std::u16string GetDefaultValue(std::u16string_view AValor, std::u16string_view APadrao);
-/// BuscarMascara.
-ORY_API std::u16string GetMask(TTipoInscricao ATipo);
-/// BuscarNovoGuid.
-ORY_API std::u16string GetNewGuid();
-/// BuscarTextoFormatado.
-ORY_API std::u16string GetStringFormatada(std::u16string_view ATexto, int ATamanho, std::u16string_view APreenchimento);
-/// RemoverCaractere.
-ORY_API std::u16string RemoverCaracter(std::u16string_view ATexto, std::u16string_view ACaracteres);
-/// RemoverCaractereSomenteDeTextos.
-ORY_API std::u16string RemoverCaracterSomenteDeStrings(std::u16string_view ATexto, char16_t ACaractere);
-/// RepetirCaractere.
-ORY_API std::u16string RepetirCaracter(char16_t ACaractere, int AQuantidade);
-/// CompletarUltimoCaractereTexto.
-ORY_API std::u16string StrCompleteLastChar(char16_t ACaractere, std::u16string_view ATexto);
+inline std::u16string ClearString(std::u16string_view ATexto) { return TOryUtilsStrings::LimparTexto(ATexto); }
+inline std::u16string ClearString(std::u16string_view ATexto, TCaracteres ACaracteres) {
+    return TOryUtilsStrings::LimparTexto(ATexto, ACaracteres);
+}
+inline std::u16string ClearString(std::u16string_view ATexto, const std::vector<std::u16string>& ATextos) {
+    return TOryUtilsStrings::LimparTexto(ATexto, ATextos);
+}
+inline std::u16string ClearStringKeepChars(std::u16string_view ATexto, const TConjuntoCaracteres& ACaracteres) {
+    return TOryUtilsStrings::LimparTextoMantendoCaracteres(ATexto, ACaracteres);
+}
+inline std::u16string ExtractLastDirFromUrl(std::u16string_view AURL) {
+    return TOryUtilsStrings::ExtrairUltimaPastaDaURL(AURL);
+}
+inline std::u16string GetDefaultValue(std::u16string_view AValor, std::u16string_view APadrao) {
+    return TOryUtilsStrings::BuscarValorPadrao(AValor, APadrao);
+}
+inline std::u16string GetMask(TTipoInscricao ATipo) { return TOryUtilsStrings::BuscarMascara(ATipo); }
+inline std::u16string GetNewGuid() { return TOryUtilsStrings::BuscarNovoGuid(); }
+inline std::u16string GetStringFormatada(std::u16string_view ATexto, int ATamanho, std::u16string_view APreenchimento) {
+    return TOryUtilsStrings::BuscarTextoFormatado(ATexto, ATamanho, APreenchimento);
+}
+inline std::u16string RemoverCaracter(std::u16string_view ATexto, std::u16string_view ACaracteres) {
+    return TOryUtilsStrings::RemoverCaractere(ATexto, ACaracteres);
+}
+inline std::u16string RemoverCaracterSomenteDeStrings(std::u16string_view ATexto, char16_t ACaractere) {
+    return TOryUtilsStrings::RemoverCaractereSomenteDeTextos(ATexto, ACaractere);
+}
+inline std::u16string RepetirCaracter(char16_t ACaractere, int AQuantidade) {
+    return TOryUtilsStrings::RepetirCaractere(ACaractere, AQuantidade);
+}
+inline std::u16string StrCompleteLastChar(char16_t ACaractere, std::u16string_view ATexto) {
+    return TOryUtilsStrings::CompletarUltimoCaractereTexto(ACaractere, ATexto);
+}
 
 }  // namespace OryUtils

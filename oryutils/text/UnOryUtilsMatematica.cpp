@@ -112,8 +112,8 @@ Extended TOryUtilsMatematica::ConverterCentimetrosParaPolegadas(Extended AValor)
 
 int TOryUtilsMatematica::ConverterCentimetrosParaPixels(Extended AValor) {
     if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { return ConverterCentimetrosParaPixels(AValor); });
-    const auto pixels_por_polegada = static_cast<Extended>(CosturaInterface().BuscarPixelsPorPolegada());
-    return Baixos32Bits(std::trunc(pixels_por_polegada / CCentimetrosPorPolegada * AValor));
+    const auto pixelsPorPolegada = static_cast<Extended>(CosturaInterface().BuscarPixelsPorPolegada());
+    return Baixos32Bits(std::trunc(pixelsPorPolegada / CCentimetrosPorPolegada * AValor));
 }
 
 int TOryUtilsMatematica::SomarCombinacaoBinaria(const std::vector<bool>& AValores, int AValorInicial,

@@ -186,7 +186,7 @@ TEST(Arredondar, CincoMetodos) {
 
     TFormatSettings ponto = BuscarFormatosBrasileiros();
     ponto.DecimalSeparator = u'.';
-    const TFormatosTemporarios com_ponto(ponto);
+    const TFormatosTemporarios comPonto(ponto);
     EXPECT_EQ(TMat::Arredondar(2.349L, maTruncamento, 2, 10), 2.349L) << "only a comma is looked for";
 }
 

@@ -1,33 +1,23 @@
 #pragma once
 
 #include <algorithm>
-#include <bitset>
 #include <string>
 #include <string_view>
 
 namespace OryUtils::Interno {
 
-/// Answers quickly whether a character is one of a text's, however long that text is.
+/// Answers whether a character is one of a text's, in a time that hardly grows with that text.
 class TPertinencia {
 public:
-    explicit TPertinencia(std::u16string_view ACaracteres) {
-        for (const char16_t c : ACaracteres) {
-            if (c < FBaixos.size())
-                FBaixos.set(c);
-            else
-                FAltos += c;
-        }
-        std::sort(FAltos.begin(), FAltos.end());
-        FAltos.erase(std::unique(FAltos.begin(), FAltos.end()), FAltos.end());
+    explicit TPertinencia(std::u16string_view ACaracteres) : FCaracteres(ACaracteres) {
+        std::sort(FCaracteres.begin(), FCaracteres.end());
     }
     bool Contem(char16_t ACaractere) const {
-        return ACaractere < FBaixos.size() ? FBaixos.test(ACaractere)
-                                           : std::binary_search(FAltos.begin(), FAltos.end(), ACaractere);
+        return std::binary_search(FCaracteres.begin(), FCaracteres.end(), ACaractere);
     }
 
 private:
-    std::bitset<256> FBaixos;
-    std::u16string FAltos;  // in ascending order
+    std::u16string FCaracteres;  // in ascending order
 };
 
 /// The characters of ATexto that APredicado keeps.

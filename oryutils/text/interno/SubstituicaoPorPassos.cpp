@@ -2,9 +2,7 @@
 
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/text/interno/Busca.hpp"
-#include "oryutils/text/interno/Pertinencia.hpp"
 
-#include <algorithm>
 #include <vector>
 
 namespace OryUtils::Interno {
@@ -22,25 +20,6 @@ bool NuncaTermina(std::u16string_view AAntigo, std::u16string_view ANovo) {
     if (Localizar(junto, AAntigo) < ANovo.size()) return true;
     junto.erase(ANovo.size(), 1);
     return Localizar(junto, AAntigo) != CNaoEncontrado;
-}
-
-// A new text that cannot be part of an occurrence, nor what stands before it: each occurrence of the text as given
-// loses its first character, and the rest of it may belong to the next occurrence.
-bool NadaEmComum(std::u16string_view AAntigo, std::u16string_view ANovo) {
-    if (AAntigo.size() == 1) return true;
-    const TPertinencia antigos(AAntigo);
-    return !ANovo.empty() && std::none_of(ANovo.begin(), ANovo.end(), [&](char16_t c) { return antigos.Contem(c); });
-}
-
-std::u16string SubstituirDeUmaVez(std::u16string_view ATexto, std::u16string_view AAntigo, std::u16string_view ANovo) {
-    TOcorrencias ocorrencias(ATexto, AAntigo);
-    std::u16string resultado;
-    std::size_t inicio = 0;
-    for (std::size_t p = ocorrencias.Proxima(); p != CNaoEncontrado; p = ocorrencias.Proxima()) {
-        resultado.append(ATexto, inicio, p - inicio).append(ANovo);
-        inicio = p + 1;
-    }
-    return resultado.append(ATexto.substr(inicio));
 }
 
 // A text with a reading point. What is before the point was searched already, and the state after each of its
@@ -101,8 +80,7 @@ std::u16string SubstituirUmPorUm(std::u16string_view ATexto, std::u16string_view
 std::u16string SubstituirPorPassos(std::u16string_view ATexto, std::u16string_view AAntigo, std::u16string_view ANovo) {
     if (Localizar(ATexto, AAntigo) == CNaoEncontrado) return std::u16string(ATexto);
     if (NuncaTermina(AAntigo, ANovo)) RecusarSemFim();
-    return NadaEmComum(AAntigo, ANovo) ? SubstituirDeUmaVez(ATexto, AAntigo, ANovo)
-                                       : SubstituirUmPorUm(ATexto, AAntigo, ANovo);
+    return SubstituirUmPorUm(ATexto, AAntigo, ANovo);
 }
 
 }  // namespace OryUtils::Interno
