@@ -4,7 +4,6 @@
 #include "oryutils/text/interno/Acentos.hpp"
 #include "oryutils/text/interno/Busca.hpp"
 #include "oryutils/text/interno/Pertinencia.hpp"
-#include "oryutils/text/interno/SubstituicaoPorPassos.hpp"
 
 #include <algorithm>
 
@@ -63,11 +62,6 @@ std::u16string TOryUtilsStrings::RemoverCaractereSomenteDeTextos(std::u16string_
         if (c == u',' && entreAspas) c = u' ';
     }
     return resultado;
-}
-
-std::u16string TOryUtilsStrings::SubstituirCaracteres(std::u16string_view ATexto, std::u16string_view AAntigo,
-                                                      std::u16string_view ANovo) {
-    return Interno::SubstituirPorPassos(ATexto, AAntigo, ANovo);
 }
 
 std::u16string TOryUtilsStrings::SubstituirCaracteresAcentuados(std::u16string_view ATexto,

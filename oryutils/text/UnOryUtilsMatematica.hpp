@@ -18,8 +18,8 @@ enum TMetodoArredondamento : std::uint8_t {
     maNenhum,       // the value as it is
     maMatematico,   // half up, one digit after the other: a 5 that a carry made rounds again
     maTruncamento,  // the decimal text cut
-    maParaCima,     // away from zero
-    maParaBaixo     // towards zero
+    maParaCima,     // away from zero; also moves amounts that already have the places asked for, see Arredondar
+    maParaBaixo     // towards zero; the same
 };
 
 class TOryUtilsMatematica;
@@ -76,6 +76,9 @@ public:
     /// of them than ACasas none is dropped, and the digits looked at count as ACasas decimals.
     /// maTruncamento cuts the text of the number behind a decimal comma; where the process-wide decimal separator is
     /// not a comma, the value comes back unchanged, and so it does when the cut text is no number.
+    /// maParaCima and maParaBaixo look at the binary number, which is seldom exactly the decimal one. So they also move
+    /// amounts that already have the places asked for: to 2 places, 1.10 up is 1.11 and 1.05 down is 1.04. Use
+    /// maMatematico for amounts that other operations computed.
     /// The factor 10^ACasas is of single precision; from 39 places up it has none and the value comes back unchanged.
     static Extended Arredondar(Extended AValor, TMetodoArredondamento AMetodo, std::uint8_t ACasas,
                                std::uint8_t ACasasAConsiderar);

@@ -1,4 +1,3 @@
-#include "oryutils/characters/Caixa.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
 
@@ -92,27 +91,6 @@ TEST(Strings, TeclaVirtual) {
     EXPECT_EQ(OryUtils::ConverterTeclaVirtualParaCaractere(0xFFFF), u"");
     const std::u16string a = OryUtils::ConverterTeclaVirtualParaCaractere(u'A');
     EXPECT_TRUE(a.empty() || a == u"a" || a == u"A" || a == u"\x01") << OryUtils::ParaUtf8(a);
-}
-
-TEST(Caixa, CadaCaractereConcordaNosDoisSentidos) {
-    using OryUtils::MaiusculaDe;
-    using OryUtils::MinusculaDe;
-    for (unsigned i = 0; i <= 0xFFFF; ++i) {
-        const auto c = static_cast<char16_t>(i);
-        const char16_t maiuscula = MaiusculaDe(c);
-        const char16_t minuscula = MinusculaDe(c);
-        ASSERT_TRUE(c == maiuscula || c == minuscula) << i;
-        ASSERT_EQ(MinusculaDe(maiuscula), minuscula) << i;
-        ASSERT_EQ(MaiusculaDe(minuscula), maiuscula) << i;
-    }
-}
-
-TEST(Caixa, LetrasConhecidas) {
-    EXPECT_EQ(OryUtils::MaiusculaDe(u"áàâãäéêíóôõúüçñÿœšžőł αωάώ абвяё ｚ ß×÷1ıİ"),
-              u"ÁÀÂÃÄÉÊÍÓÔÕÚÜÇÑŸŒŠŽŐŁ ΑΩΆΏ АБВЯЁ Ｚ ß×÷1ıİ");
-    EXPECT_EQ(OryUtils::MinusculaDe(u"AÇÃO × ŽŸ"), u"ação × žÿ");
-    EXPECT_TRUE(OryUtils::IguaisIgnorandoCaixa(u"São", u"SÃO"));
-    EXPECT_FALSE(OryUtils::IguaisIgnorandoCaixa(u"São", u"SÃOS"));
 }
 
 }  // namespace

@@ -11,9 +11,7 @@
 namespace {
 
 using S = OryUtils::TOryUtilsStrings;
-using OryUtils::Aparar;
 using Testes::TLista;
-using Testes::TSorteio;
 
 int GPassos = 0;
 int GFalharNoPasso = 0;
@@ -47,6 +45,7 @@ TEST_F(StringsListas, Divisao) {
     const TCaso casos[] = {
         {u"a, b,,c,", u",", {u"a", u"b", u"", u"c"}, "trimmed; a last delimiter adds nothing"},
         {u"a;;b", u";;", {u"a", u";b"}, "only the first character of the delimiter is consumed"},
+        {u"a;;;b", u";;", {u"a", u"", u";b"}, "so the next one may overlap it"},
         {u"a\r\nb", u"\r\n", {u"a", u"b"}, "trimming removes what stays of the delimiter"},
         {u"", u";", {}, "empty"},
         {u";", u";", {u""}, "one empty item before it"},
@@ -59,23 +58,6 @@ TEST_F(StringsListas, Divisao) {
         EXPECT_EQ(S::ConverterTextoComDelimitadorParaVetorDeStrings(c.Texto, c.Delimitador), c.Itens) << c.Porque;
     }
     EXPECT_EQ(GErros, TLista{});
-}
-
-TEST_F(StringsListas, DivisaoComoADevagar) {
-    TSorteio sorteio;
-    for (int i = 0; i < 20000; ++i) {
-        const std::u16string texto = sorteio.Texto(u"ab ;", 0, 20);
-        const std::u16string delimitador = sorteio.Texto(u"a;", 1, 4);
-        TLista esperada;
-        std::u16string resto = texto;
-        while (!resto.empty()) {
-            const std::size_t p = resto.find(delimitador);
-            esperada.emplace_back(Aparar(std::u16string_view(resto).substr(0, p)));
-            resto.erase(0, p == resto.npos ? p : p + 1);
-        }
-        ASSERT_EQ(OryUtils::ConverterTextoComDelimitadorParaStringList(texto, delimitador), esperada)
-            << sorteio.Semente();
-    }
 }
 
 TEST_F(StringsListas, FalhaDaDivisaoMostraErroENaoDevolveLista) {

@@ -169,6 +169,8 @@ TEST(Arredondar, CincoMetodos) {
         {-2.341L, maParaCima, 2, 10, -2.35L, "the same below zero"},
         {2.75L, maParaCima, 2, 10, 2.75L, "nothing to round"},
         {2.999L, maParaCima, 2, 10, 3, "carry"},
+        {1.10L, maParaCima, 2, 10, 1.11L, "the nearest binary number is a little above 1.10"},
+        {1.05L, maParaBaixo, 2, 10, 1.04L, "the nearest binary number is a little below 1.05"},
         {0.5L, maParaCima, 10, 10, 0.0705032704L, "5,000,000,000 in 32 bits"},
         {2.349L, maParaBaixo, 2, 10, 2.34L, "towards zero"},
         {2.349L, maNenhum, 2, 10, 2.349L, "unchanged"},

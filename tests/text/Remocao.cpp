@@ -9,10 +9,8 @@
 
 namespace {
 
-using namespace std::literals;
 using OryUtils::TCaracteres;
 using OryUtils::TOryUtilsStrings;
-using Testes::TLista;
 using Testes::TSorteio;
 
 TEST(Strings, Acentos) {
@@ -101,29 +99,6 @@ TEST(Strings, SubstituicaoPorPassos) {
     EXPECT_THROW(OryUtils::SubstituirCaracteres(u"abc", u"b", u"bb"), OryUtils::Exception);
     EXPECT_THROW(OryUtils::SubstituirCaracteres(u"ababaa", u"abaa", u"aab"), OryUtils::Exception)
         << "endless only because of what stands before it";
-}
-
-std::u16string TrocarDevagar(std::u16string_view ATexto, const std::u16string& AAntigo, const std::u16string& ANovo) {
-    std::u16string resultado;
-    while (!ATexto.empty()) {
-        const bool aqui = !AAntigo.empty() && ATexto.substr(0, AAntigo.size()) == AAntigo;
-        resultado += aqui ? ANovo : std::u16string(1, ATexto.front());
-        ATexto.remove_prefix(aqui ? AAntigo.size() : 1);
-    }
-    return resultado;
-}
-
-TEST(Strings, MultiplosTextosComoADevagar) {
-    TSorteio sorteio;
-    for (int i = 0; i < 20000; ++i) {
-        const std::u16string texto = sorteio.Texto(u"abA", 0, 25);
-        const TLista antigos{sorteio.Texto(u"ab", 0, 4), sorteio.Texto(u"abA", 1, 3)};
-        const TLista novos(static_cast<std::size_t>(sorteio.Numero(0, 2)), sorteio.Texto(u"abx", 0, 3));
-        std::u16string esperado = texto;
-        for (std::size_t j = 0; j < antigos.size(); ++j)
-            esperado = TrocarDevagar(esperado, antigos[j], j < novos.size() ? novos[j] : u""s);
-        ASSERT_EQ(OryUtils::SubstituirMultiplosTextos(texto, antigos, novos, false), esperado) << sorteio.Semente();
-    }
 }
 
 }  // namespace

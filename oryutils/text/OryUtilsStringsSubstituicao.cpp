@@ -1,19 +1,23 @@
-#include "oryutils/text/interno/SubstituicaoPorPassos.hpp"
-
+// SubstituirCaracteres: the replacement that looks at the whole text again after each step.
 #include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/text/OryUtilsStrings.hpp"
 #include "oryutils/text/interno/Busca.hpp"
 
 #include <vector>
 
-namespace OryUtils::Interno {
+namespace OryUtils {
 namespace {
+
+using Interno::CNaoEncontrado;
+using Interno::Localizar;
 
 [[noreturn]] void RecusarSemFim() {
     throw Exception(u"Argumento <ANovo> recria <AAntigo>: a substituição não terminaria.");
 }
 
-// With ANovo put in before AAntigo, either the first occurrence starts inside ANovo, and the deletion leaves the old
-// one whole, or it is the old one, and what remains of it completes another one behind ANovo. There is always one more.
+// Whether each step makes a new occurrence. A step puts ANovo before AAntigo and deletes one character. Where an
+// occurrence now starts inside ANovo, that one loses its character and AAntigo stays whole. Otherwise AAntigo loses its
+// first character, and ANovo with the rest of it may hold AAntigo again.
 bool NuncaTermina(std::u16string_view AAntigo, std::u16string_view ANovo) {
     std::u16string junto(ANovo);
     junto += AAntigo;
@@ -22,8 +26,8 @@ bool NuncaTermina(std::u16string_view AAntigo, std::u16string_view ANovo) {
     return Localizar(junto, AAntigo) != CNaoEncontrado;
 }
 
-// A text with a reading point. What is before the point was searched already, and the state after each of its
-// characters is kept: going back to change something never means reading from the start again.
+// A text with a reading point. The text before the point is searched already. The state of the search after each of its
+// characters is kept, so that going back to change something never means reading from the start again.
 class TTextoComPonto {
 public:
     TTextoComPonto(std::u16string_view ATexto, std::u16string_view APadrao)
@@ -54,33 +58,30 @@ public:
     const std::u16string& GetAntes() const { return FAntes; }
 
 private:
-    TAutomato FAutomato;
+    Interno::TAutomato FAutomato;
     std::u16string FAntes;
     std::vector<std::size_t> FEstados{0};  // one more than FAntes: the first is the state before everything
     std::u16string FDepois;                // the last character is the next one
 };
 
-std::u16string SubstituirUmPorUm(std::u16string_view ATexto, std::u16string_view AAntigo, std::u16string_view ANovo) {
+}  // namespace
+
+std::u16string TOryUtilsStrings::SubstituirCaracteres(std::u16string_view ATexto, std::u16string_view AAntigo,
+                                                      std::u16string_view ANovo) {
+    if (Localizar(ATexto, AAntigo) == CNaoEncontrado) return std::u16string(ATexto);
+    if (NuncaTermina(AAntigo, ANovo)) RecusarSemFim();
     TTextoComPonto texto(ATexto, AAntigo);
     std::size_t passos = 0;
     while (texto.LerAteOcorrencia()) {
-        // A text that ends has fewer deletions than characters; one that has twice as many never ends.
+        // A replacement that ends deletes fewer characters than the text has. Twice as many never end.
         if (++passos > 2 * ATexto.size()) RecusarSemFim();
         texto.Voltar(AAntigo.size());
         texto.Inserir(ANovo);
-        texto.LerAteOcorrencia();  // perhaps an earlier one, made of what stood before and ANovo
+        texto.LerAteOcorrencia();  // may be an earlier one than before: ANovo can complete what stood in front of it
         texto.Voltar(AAntigo.size() - 1);
         texto.ApagarAnterior();
     }
     return texto.GetAntes();
 }
 
-}  // namespace
-
-std::u16string SubstituirPorPassos(std::u16string_view ATexto, std::u16string_view AAntigo, std::u16string_view ANovo) {
-    if (Localizar(ATexto, AAntigo) == CNaoEncontrado) return std::u16string(ATexto);
-    if (NuncaTermina(AAntigo, ANovo)) RecusarSemFim();
-    return SubstituirUmPorUm(ATexto, AAntigo, ANovo);
-}
-
-}  // namespace OryUtils::Interno
+}  // namespace OryUtils
