@@ -265,6 +265,7 @@ TEST(Formulas, TextosEnormes) {
     EXPECT_EQ(Calcular(repetir(u"(")), "0");
     EXPECT_EQ(Calcular(repetir(u"ABS(-") + u"1"), "1") << "one call inside the other";
     EXPECT_EQ(Calcular(repetir(u"MAX(1;")), "1");
+    EXPECT_EQ(Calcular(repetir(u"MAX(1;") + repetir(u"SQR(4)+") + u"0"), "285716") << "many calls inside many";
     EXPECT_EQ(Calcular(repetir(u"SQR(Y)+")), "Exception: Variável 'Y' não existe.");
     EXPECT_EQ(Calcular(repetir(u"INT(LOG(")), "Exception: Variável 'INF' não existe.");
     EXPECT_EQ(Calcular(repetir(u"1+") + u"0"), "500000");

@@ -51,6 +51,7 @@ TEST(Strings, Remocao) {
         {OryUtils::SubstituirMultiplosTextos(u"abc", {u"a", u"b"}, {u"x"}, false), u"xc", "no partner: nothing"},
         {OryUtils::SubstituirMultiplosTextos(u"abc", {u"a", u"xb"}, {u"x", u"y"}, false), u"yc", "on the result"},
         {OryUtils::SubstituirMultiplosTextos(u"São SÃO", {u"são"}, {u"x"}, true), u"x x", "ignoring case"},
+        {OryUtils::SubstituirMultiplosTextos(u"ababa", {u"aba"}, {u"x"}, false), u"xba", "occurrences do not overlap"},
         {OryUtils::SubstituirMultiplosTextos(u"aaa", {u"aa"}, {u"aab"}, false), u"aaba", "what is put in is not seen"},
     };
     for (const TCaso& c : casos) EXPECT_EQ(c.Obtido, c.Esperado) << c.Porque;
