@@ -52,9 +52,10 @@ public:
         const TOryUtilsDialogsFormCustomizadoComOpcoesIOP& AParametros);
 
     /// With one check box, not checked at first.
-    /// AMarcada  out: its state, however the form was closed.
     std::unique_ptr<TOryUtilsDialogsRetornoMensagemCaixaChecagemIOP> ConfirmacaoCustomizadaComCaixaChecagem(
         const TOryUtilsDialogsFormCustomizadoCaixaChecagemIOP& AParametros);
+    /// The same with positional arguments.
+    /// AMarcada  out: the state of the check box, however the form was closed.
     int ConfirmacaoCustomizadaComCaixaChecagem(std::u16string_view AMensagem, TMsgDlgType ATipo,
                                                const std::vector<TMsgDlgBtn>& ABotoes, int APadrao,
                                                std::u16string_view ATitulo,

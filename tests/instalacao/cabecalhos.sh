@@ -28,8 +28,10 @@ apanha() {
         $cxx $opcoes -x c++ - || { echo "FAILED: $1 tells what is raised and does not bring Exception" >&2; return 1; }
 }
 export -f apanha
-lista | xargs grep -lE '\b([Rr]aises?|E[A-Z][A-Za-z]*(Error|Exception))\b' | grep -v '^oryutils/types/' |
-    xargs -P 2 -I{} bash -c 'apanha {}'
+# The sibling library stands below the exceptions.
+quem_levanta() { find . -name '*.hpp' -exec grep -lE '\b([Rr]aises?|E[A-Z][A-Za-z]*(Error|Exception))\b' {} +; }
+quem_levanta | sed 's|^\./||; s|^oryutils-qt/||' | grep -v '^oryutils/types/' |
+    if [ "$ORY_SISTEMA" = windows ]; then grep win32/ || true; else cat; fi | xargs -r -P 2 -I{} bash -c 'apanha {}'
 # All of them together.
 find . -name '*.hpp' | sed 's|^\./||; s|^oryutils-qt/||; s|.*|#include "&"|' | $cxx $opcoes -x c++ -
 for padrao in c89 c99 c17; do
