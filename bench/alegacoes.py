@@ -73,8 +73,8 @@ OPERACOES = (
     Operacao("a command started, 1 GiB in use", "IniciarCom1GiB_Biblioteca", (
         Par("IniciarCom1GiB_Popen", "popen", "parte", 0.65),), "Iniciar_Vfork", "bare vfork and exec"),
     Operacao("100 MB of a command captured, one text", "Capturar_Biblioteca", (
-        Par("Capturar_Read255Decodificado", "loop of read(255), decoded", "vezes", 1.8),
-        Par("Capturar_Read255Alargado", "loop of read(255), widened", "vezes", 1.8),
+        Par("Capturar_Read255Decodificado", "loop of read(255), decoded", "vezes", 1),
+        Par("Capturar_Read255Alargado", "loop of read(255), widened"),
         Par("Capturar_Read255", "loop of read(255), forgotten")), "Capturar_Read64K", "loop of read(64 KiB)"),
     Operacao("100 MB of a command captured, lines", "CapturarEmLista_Biblioteca", (
         Par("CapturarEmLista_Read255", "loop of read(255), forgotten"),), "Capturar_Read64K", "loop of read(64 KiB)"),

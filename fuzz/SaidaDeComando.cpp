@@ -2,6 +2,8 @@
 #include "oryutils/system/interno/SaidaDeComando.hpp"
 
 #include "oryutils/characters/Caixa.hpp"
+#include "oryutils/platform/CodificacaoAnsi.hpp"
+#include "oryutils/system/interno/Executor.hpp"
 #include "oryutils/system/interno/RegrasDeRede.hpp"
 
 #include "Comum.hpp"
@@ -13,20 +15,17 @@ void Fuzz::Provar(TEntrada AEntrada) {
     const std::size_t pedaco = 1 + AEntrada.Byte();
     const std::string bytes = AEntrada.Bytes();
 
-    std::vector<std::u16string> linhas, empedacos;
-    std::u16string texto;
     Interno::TDecodificadorAnsi decodificador;
     const auto decodificar = [&](std::string_view AParte) { return decodificador.Decodificar(AParte); };
-    TSaidaEmLista lista(linhas), lista2(empedacos);
-    TSaidaEmTexto emtexto(texto);
-    TSaidaDeComando toda(lista, decodificar), partes(lista2, decodificar), corrida(emtexto, decodificar);
+    TSaidaDeComando toda(decodificar), partes(decodificar), corrida(decodificar);
     toda.Receber(bytes);
     corrida.Receber(bytes);
     for (std::size_t i = 0; i < bytes.size(); i += pedaco) partes.Receber(std::string_view(bytes).substr(i, pedaco));
-    toda.FecharParte();
-    corrida.FecharParte();
-    partes.FecharParte();
-    Exigir(linhas == empedacos && texto.size() <= 2 * bytes.size());
+    std::vector<std::u16string> linhas, empedacos;
+    toda.ContinuarLista(linhas);
+    partes.ContinuarLista(empedacos);
+    const std::u16string texto = corrida.RetirarTexto();
+    Exigir(linhas == empedacos && texto == JuntarLinhas(linhas) && texto.size() <= 2 * bytes.size());
 
     for (const auto& endereco : ListarEnderecosDaSaidaARP(linhas)) Exigir(endereco.size() <= texto.size());
     const std::u16string mac = ExtrairEnderecoMac(texto);

@@ -10,7 +10,7 @@ namespace OryUtils::Interno {
 
 /// Reads the bytes that the system's console programs write: by the ANSI code page on Windows, by the code set of the
 /// environment's locale (LC_ALL, LC_CTYPE, LANG) on Linux, where the plain "C" locale counts as UTF-8. Malformed bytes
-/// become U+FFFD; never throws for them. The locale is asked once, when the first byte beyond ASCII comes.
+/// become U+FFFD; never throws for them. The locale is asked once, at the first call.
 class ORY_API TDecodificadorAnsi {
 public:
     TDecodificadorAnsi() = default;

@@ -1,3 +1,4 @@
+#include "oryutils/platform/CodificacaoAnsi.hpp"
 #include "oryutils/platform/InicioDeProcessos.hpp"
 #include "oryutils/platform/Processos.hpp"
 #include "oryutils/platform/interno/Prazo.hpp"
@@ -5,8 +6,8 @@
 #include "oryutils/system/OryUtilsSystem.hpp"
 #include "oryutils/system/interno/SaidaDeComando.hpp"
 
-#include <array>
 #include <chrono>
+#include <memory>
 
 namespace OryUtils {
 namespace {
@@ -15,20 +16,20 @@ using Interno::TProcessoCapturado;
 
 /// The application's messages are looked after at least so often, in milliseconds.
 constexpr std::uint32_t CIntervaloDasMensagens = 20;
-/// A producer silent for so long has paused: what it wrote last is a chunk of its own. One that the system merely stops
-/// for a moment, in the middle of a long output, has not.
+/// A command that prints nothing for so long has paused, and its last bytes become a chunk. It is longer than the
+/// system keeps a running program waiting for the processor.
 constexpr auto CPausa = std::chrono::milliseconds(100);
 
 void ProcessarMensagens() { CosturaInterface().ProcessarMensagens(); }
 
 void LerSaida(TProcessoCapturado& AProcesso, Interno::TSaidaDeComando& ASaida) {
-    std::vector<char> bloco(std::size_t{256} * 1024);
     using TRelogio = std::chrono::steady_clock;
+    std::vector<char> bloco(std::size_t{256} * 1024);
     auto ultimaLeitura = TRelogio::now();
     while (true) {
         std::size_t lidos = 0;
         const TProcessoCapturado::TLeitura leitura = AProcesso.Ler(bloco, CIntervaloDasMensagens, lidos);
-        if (leitura == TProcessoCapturado::lcFim) break;
+        if (leitura == TProcessoCapturado::lcFim) return;
         if (leitura == TProcessoCapturado::lcBytes) {
             ASaida.Receber({bloco.data(), lidos});
             ultimaLeitura = TRelogio::now();
@@ -37,33 +38,29 @@ void LerSaida(TProcessoCapturado& AProcesso, Interno::TSaidaDeComando& ASaida) {
         }
         ProcessarMensagens();
     }
-    ASaida.FecharParte();
 }
 
-void Executar(std::u16string_view ALinhaDeComando, Interno::TDestinoDaSaida& ADestino) {
+/// The output of a command line; nothing when the command cannot be started.
+Interno::TSaidaDeComando Executar(std::u16string_view ALinhaDeComando) {
+    const auto decodificador = std::make_shared<Interno::TDecodificadorAnsi>();
+    Interno::TSaidaDeComando saida([=](std::string_view ABytes) { return decodificador->Decodificar(ABytes); });
     const std::unique_ptr<TProcessoCapturado> processo = TProcessoCapturado::Iniciar(ALinhaDeComando);
-    if (!processo) return;
-    Interno::TDecodificadorAnsi decodificador;
-    Interno::TSaidaDeComando saida(ADestino,
-                                   [&](std::string_view ABytes) { return decodificador.Decodificar(ABytes); });
+    if (!processo) return saida;
     LerSaida(*processo, saida);
     while (Interno::EsperarProcesso(processo->GetProcesso(), Interno::CEsperaSemLimite, true) != Interno::epTerminou)
         ProcessarMensagens();
+    return saida;
 }
 
 }  // namespace
 
 void TOryUtilsSistema::ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando,
                                                  std::vector<std::u16string>& ASaida) {
-    Interno::TSaidaEmLista lista(ASaida);
-    Executar(ALinhaDeComando, lista);
+    Executar(ALinhaDeComando).ContinuarLista(ASaida);
 }
 
 std::u16string TOryUtilsSistema::ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando) {
-    std::u16string texto;
-    Interno::TSaidaEmTexto destino(texto);
-    Executar(ALinhaDeComando, destino);
-    return texto;
+    return Executar(ALinhaDeComando).RetirarTexto();
 }
 
 std::unique_ptr<TOryUtilsSystemDadosRetornoProcessoIOP> TOryUtilsSistema::CriarProcesso(

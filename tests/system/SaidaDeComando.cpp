@@ -79,15 +79,12 @@ TEST(SaidaDeComando, IgualAoLacoDe255BytesQueJuntaTudoDeNovo) {
         const bool longa = rodada % 20 == 0;  // many chunks in one read
         const std::size_t tamanho = ate(longa ? 15000 : 1500);
         const std::size_t variedade = ate(std::size(pedacos) - 1);
-        const bool so_brancos = ate(9) == 0;
-        while (saida.size() < tamanho) saida += so_brancos ? pedacos[2 + ate(6)] : pedacos[ate(variedade)];
+        const bool soBrancos = ate(9) == 0;
+        while (saida.size() < tamanho) saida += soBrancos ? pedacos[2 + ate(6)] : pedacos[ate(variedade)];
         TLinhas esperado = iniciais[ate(std::size(iniciais) - 1)];
         TLinhas obtido = esperado;
-        TSaidaEmLista lista(obtido);
-        TSaidaDeComando alvo(lista, [](std::string_view ABytes) { return DeUtf8(ABytes); });
-        std::u16string texto = JuntarLinhas(obtido);
-        TSaidaEmTexto destino(texto);
-        TSaidaDeComando em_texto(destino, [](std::string_view ABytes) { return DeUtf8(ABytes); });
+        TSaidaDeComando emLista(DeUtf8);
+        TSaidaDeComando emTexto(DeUtf8);
         const bool vazia = obtido.empty();
         // Several outputs with pauses in between, each handed over in pieces.
         for (std::string_view resto = saida; !resto.empty();) {
@@ -96,37 +93,32 @@ TEST(SaidaDeComando, IgualAoLacoDe255BytesQueJuntaTudoDeNovo) {
             for (std::size_t i = 0; i < parte.size(); i += 255) LerParte(esperado, parte.substr(i, 255));
             while (!parte.empty()) {
                 const std::size_t bytes = std::min(1 + ate(longa ? 15000 : 400), parte.size());
-                alvo.Receber(parte.substr(0, bytes));
-                em_texto.Receber(parte.substr(0, bytes));
+                emLista.Receber(parte.substr(0, bytes));
+                emTexto.Receber(parte.substr(0, bytes));
                 parte.remove_prefix(bytes);
             }
-            alvo.FecharParte();
-            em_texto.FecharParte();
+            emLista.FecharParte();
+            emTexto.FecharParte();
         }
+        emLista.ContinuarLista(obtido);
         ASSERT_EQ(obtido, esperado) << "seed " << semente << ", round " << rodada;
         if (vazia) {
-            ASSERT_EQ(texto, JuntarLinhas(esperado)) << "seed " << semente << ", round " << rodada;
+            ASSERT_EQ(emTexto.RetirarTexto(), JuntarLinhas(esperado)) << "seed " << semente << ", round " << rodada;
         }
     }
 }
 
-// Long enough for the text and the list to move more than once.
-TEST(SaidaDeComando, UmaSaidaLongaNaoPerdeNada) {
+// Long enough for the text and the list to grow many times.
+TEST(SaidaDeComando, UmResultadoLongoOcupaPoucoMaisQueOTexto) {
     std::string saida;
-    for (int i = 0; saida.size() < 3'000'000; ++i) saida += std::to_string(i) + "\r\n";
-    std::u16string esperado;
-    for (std::size_t i = 0; i < saida.size(); i += 255) {
-        const std::u16string parte(saida.begin() + static_cast<std::ptrdiff_t>(i),
-                                   saida.begin() + static_cast<std::ptrdiff_t>(std::min(i + 255, saida.size())));
-        esperado += Aparar(parte);
-    }
-    std::u16string texto;
-    TSaidaEmTexto destino(texto);
-    TSaidaDeComando em_texto(destino, [](std::string_view ABytes) { return DeUtf8(ABytes); });
-    em_texto.Receber(saida);
-    em_texto.FecharParte();
-    EXPECT_TRUE(texto == esperado);
-    EXPECT_TRUE(JuntarLinhas(LinhasDaSaidaDeComando(saida)) == esperado);
+    for (int i = 0; saida.size() < 1'400'000; ++i) saida += std::to_string(i) + "\n";
+    TSaidaDeComando emTexto(DeUtf8);
+    emTexto.Receber(saida);
+    const std::u16string texto = emTexto.RetirarTexto();
+    EXPECT_LE(texto.capacity(), texto.size() + 16);
+    const TLinhas linhas = LinhasDaSaidaDeComando(saida);
+    EXPECT_EQ(linhas.capacity(), linhas.size());
+    EXPECT_TRUE(JuntarLinhas(linhas) == texto);
 }
 
 }  // namespace

@@ -1,89 +1,48 @@
 #pragma once
 
-#include "oryutils/platform/CodificacaoAnsi.hpp"
-#include "oryutils/platform/MemoriaDeTexto.hpp"
-
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace OryUtils::Interno {
 
-/// Where the lines of a command's output go.
-class TDestinoDaSaida {
-public:
-    virtual ~TDestinoDaSaida() = default;
-    /// Goes on with the last line, or begins the first one.
-    virtual void Continuar(std::u16string_view ATexto) = 0;
-    virtual void NovaLinha(std::u16string_view ATexto) = 0;
-    /// A chunk of which nothing was left.
-    virtual void ParteVazia() = 0;
-    /// Chunks, all but the last one whole, that are ASCII without zero bytes, not trimmed yet, at most
-    /// TSaidaDeComando::CTamanhoDoGrupo bytes: does with each what the others do. AQuebrasInteiras: inside them every
-    /// line break is CR LF.
-    virtual void ContinuarAscii(std::string_view APartes, bool AQuebrasInteiras) = 0;
-};
-
-/// Goes on with the lines of a list, which must outlive this.
-class TSaidaEmLista final : public TDestinoDaSaida {
-public:
-    explicit TSaidaEmLista(std::vector<std::u16string>& ALinhas) : FLinhas(ALinhas) {}
-    void Continuar(std::u16string_view ATexto) override;
-    void NovaLinha(std::u16string_view ATexto) override;
-    void ParteVazia() override;
-    void ContinuarAscii(std::string_view APartes, bool AQuebrasInteiras) override;
-
-private:
-    void Abrir();
-
-    std::vector<std::u16string>& FLinhas;
-    bool FAberta = false;  // line breaks inside the caller's items have become lines
-};
-
-/// One text, with CR LF between the lines.
-class TSaidaEmTexto final : public TDestinoDaSaida {
-public:
-    explicit TSaidaEmTexto(std::u16string& ATexto) : FTexto(ATexto) {}
-    void Continuar(std::u16string_view ATexto) override;
-    void NovaLinha(std::u16string_view ATexto) override { FTexto.append(u"\r\n").append(ATexto); }
-    void ParteVazia() override {}
-    void ContinuarAscii(std::string_view APartes, bool AQuebrasInteiras) override;
-
-private:
-    std::u16string& FTexto;
-    Interno::TMemoriaDeTexto<std::u16string> FMemoria{Interno::BuscarReservaDeTextoLongo()};
-};
-
-/// What a command prints, taken in chunks of 255 bytes. Each chunk ends at its first zero byte, is turned into text by
-/// itself and trimmed; the list's text, its lines with CR LF between them, becomes the old text followed by the chunk.
-/// The text is never put together again for that: all chunks cost time linear in their bytes.
+/// The text of what a command prints, taken in chunks of 255 bytes. A chunk ends at its first zero byte. Each chunk is
+/// decoded by itself, so both halves of a character that a chunk's end cuts are malformed. Blanks and line breaks at
+/// both ends of a chunk are removed, so two lines may become one there.
 class TSaidaDeComando {
 public:
-    /// Bytes taken at once.
     static constexpr std::size_t CTamanhoDaParte = 255;
-    /// Bytes of the whole chunks that are looked at together.
-    static constexpr std::size_t CTamanhoDoGrupo = 16 * CTamanhoDaParte;
+    /// Turns the bytes of one chunk into text.
     using TDecodificador = std::function<std::u16string(std::string_view)>;
 
-    /// ADecodificador reads the chunks that are not plain ASCII.
-    TSaidaDeComando(TDestinoDaSaida& ADestino, TDecodificador ADecodificador);
+    explicit TSaidaDeComando(TDecodificador ADecodificador) : FDecodificador(std::move(ADecodificador)) {}
 
-    /// Takes the whole chunks of what is left from before and ABytes; the rest is kept for what comes next.
+    /// Takes the whole chunks out of the bytes kept from before and ABytes; keeps the rest for the next call.
     void Receber(std::string_view ABytes);
-    /// The producer has paused or ended: what was kept is a chunk of its own.
+    /// The command has paused or ended: the bytes kept become a chunk.
     void FecharParte();
 
+    /// Ends the output and gives its text, with CR LF between the lines.
+    std::u16string RetirarTexto();
+    /// Ends the output and puts it behind the text of ALinhas: the first line goes on with the last one of the list.
+    /// Each chunk counts as an assignment of the list's text, "old text + chunk". So the first chunk turns line breaks
+    /// inside the items into lines, and a blank chunk before any text removes an empty last line. No output at all
+    /// leaves the list as it is.
+    void ContinuarLista(std::vector<std::u16string>& ALinhas);
+
 private:
-    void ReceberGrupo(std::string_view APartes);
     void ReceberParte(std::string_view ABytes);
 
-    TDestinoDaSaida& FDestino;
     TDecodificador FDecodificador;
-    std::string FResto;
+    std::string FResto;                     // less than a chunk
+    std::u16string FTexto;                  // neither begins nor ends with a line break
+    std::size_t FPartesVaziasNoComeco = 0;  // blank chunks received before any text
 };
 
-/// The lines of what a command printed at once, its bytes being UTF-8.
+/// The lines of a command's output given whole, in UTF-8.
 std::vector<std::u16string> LinhasDaSaidaDeComando(std::string_view ABytes);
 
 }  // namespace OryUtils::Interno
