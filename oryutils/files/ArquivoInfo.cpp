@@ -1,5 +1,6 @@
 #include "oryutils/characters/Caixa.hpp"
 #include "oryutils/characters/Caracteres.hpp"
+#include "oryutils/characters/Hexadecimal.hpp"
 #include "oryutils/files/OryUtilsFiles.hpp"
 #include "oryutils/files/interno/DataDoArquivo.hpp"
 #include "oryutils/platform/DadosDoArquivo.hpp"
@@ -25,12 +26,7 @@ constexpr std::array<std::u16string_view, 13> CChaves{
 
 /// AValor in lower-case hexadecimal behind a "0", without padding: the name of a table of texts has been put together
 /// of two such groups since the first version, so 0x1009 becomes "01009" and is not found.
-std::u16string ParaHexadecimal(std::uint16_t AValor) {
-    std::u16string digitos;
-    for (unsigned resto = AValor; resto > 0 || digitos.empty(); resto >>= 4)
-        digitos.insert(digitos.begin(), u"0123456789abcdef"[resto & 15]);
-    return u"0" + digitos;
-}
+std::u16string ParaHexadecimal(std::uint16_t AValor) { return u"0" + Interno::TextoHexadecimal(AValor); }
 
 std::u16string LerVersaoIni(std::u16string_view AArquivo) { return LerArquivoIni(AArquivo, u"VERSAO", u"Numero"); }
 

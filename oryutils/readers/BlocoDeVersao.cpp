@@ -1,5 +1,6 @@
 #include "oryutils/readers/BlocoDeVersao.hpp"
 
+#include "oryutils/characters/Ascii.hpp"
 #include "oryutils/readers/BytesDePe.hpp"
 
 #include <algorithm>
@@ -16,11 +17,6 @@ constexpr std::size_t CParteFixa = 52;
 constexpr std::size_t CVersaoNaParteFixa = 8;
 
 constexpr std::size_t Alinhar(std::size_t ATamanho) { return (ATamanho + 3) & ~std::size_t{3}; }
-
-/// The keys asked for are ASCII.
-constexpr char16_t Minuscula(char16_t ALetra) {
-    return ALetra >= u'A' && ALetra <= u'Z' ? static_cast<char16_t>(ALetra + (u'a' - u'A')) : ALetra;
-}
 
 }  // namespace
 
@@ -44,7 +40,7 @@ bool TBlocoDeVersao::TemChave(std::size_t AInicio, std::u16string_view AChave) c
     const std::size_t inicio = AInicio + CCabecalho;
     if (FBytes.size() < inicio + (AChave.size() + 1) * CLetra) return false;
     for (std::size_t i = 0; i < AChave.size(); ++i)
-        if (Minuscula(LerPalavra(FBytes, inicio + i * CLetra)) != Minuscula(AChave[i])) return false;
+        if (MinusculaAscii(LerPalavra(FBytes, inicio + i * CLetra)) != MinusculaAscii(AChave[i])) return false;
     return LerPalavra(FBytes, inicio + AChave.size() * CLetra) == 0;
 }
 

@@ -1,5 +1,6 @@
 #include "oryutils/readers/DadoReg.hpp"
 
+#include "oryutils/characters/Hexadecimal.hpp"
 #include "oryutils/characters/Unidades.hpp"
 #include "oryutils/readers/LeitorReg.hpp"
 #include "oryutils/readers/LinhasReg.hpp"
@@ -15,13 +16,6 @@ constexpr std::u16string_view COutroTipo = u"hex(";
 constexpr std::size_t CMaiorColuna = 76;  // room for a byte, its comma and the backslash
 constexpr std::size_t CMaisDigitos = 8;
 
-int ValorDoDigito(char16_t ACaractere) {
-    if (ACaractere >= u'0' && ACaractere <= u'9') return ACaractere - u'0';
-    if (ACaractere >= u'a' && ACaractere <= u'f') return ACaractere - u'a' + 10;
-    if (ACaractere >= u'A' && ACaractere <= u'F') return ACaractere - u'A' + 10;
-    return -1;
-}
-
 struct TNumeroLido {
     std::uint32_t Valor = 0;
     std::size_t Digitos = 0;
@@ -31,7 +25,7 @@ struct TNumeroLido {
 TNumeroLido LerHexadecimal(std::u16string_view ATexto, std::size_t AInicio, std::size_t AMais) {
     TNumeroLido numero;
     while (numero.Digitos < AMais && AInicio + numero.Digitos < ATexto.size()) {
-        const int digito = ValorDoDigito(ATexto[AInicio + numero.Digitos]);
+        const int digito = ValorHexadecimal(ATexto[AInicio + numero.Digitos]);
         if (digito < 0) break;
         numero.Valor = numero.Valor << 4 | static_cast<std::uint32_t>(digito);
         ++numero.Digitos;
@@ -84,16 +78,6 @@ std::size_t BuscarFimDoInteiro(std::u16string_view ATexto, std::size_t AInicio) 
     const std::size_t inicio = AInicio + CInteiro.size();
     const std::size_t digitos = LerHexadecimal(ATexto, inicio, CMaisDigitos).Digitos;
     return digitos == 0 ? ATexto.npos : inicio + digitos;
-}
-
-void AnexarHexadecimal(std::u16string& ATexto, std::uint32_t AValor, int ADigitos) {
-    for (int i = ADigitos - 1; i >= 0; --i) ATexto += u"0123456789abcdef"[AValor >> (4 * i) & 0xF];
-}
-
-void AnexarTipo(std::u16string& ATexto, std::uint32_t ATipo) {
-    int digitos = 1;
-    while (digitos < static_cast<int>(CMaisDigitos) && ATipo >> (4 * digitos) != 0) ++digitos;
-    AnexarHexadecimal(ATexto, ATipo, digitos);
 }
 
 // The characters of a text that fits between quotes: one terminator, at its end, and no control before it.
@@ -160,7 +144,7 @@ void AnexarDadoReg(std::u16string& ATexto, const TDadoRegistro& ADado, std::size
     const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(ADado.Bytes[i]); };
     if (ADado.Tipo == tdrInteiro && ADado.Bytes.size() == 4) {
         ATexto += CInteiro;
-        for (std::size_t i = 4; i > 0; --i) AnexarHexadecimal(ATexto, byte(i - 1), 2);
+        for (std::size_t i = 4; i > 0; --i) ATexto += TextoHexadecimal(byte(i - 1), 2);
         return;
     }
     const std::size_t inicio = ATexto.size();
@@ -168,7 +152,7 @@ void AnexarDadoReg(std::u16string& ATexto, const TDadoRegistro& ADado, std::size
         ATexto += CBinario;
     } else {
         ATexto += COutroTipo;
-        AnexarTipo(ATexto, ADado.Tipo);
+        ATexto += TextoHexadecimal(ADado.Tipo);
         ATexto += u"):";
     }
     std::size_t coluna = AColuna + ATexto.size() - inicio;
@@ -178,7 +162,7 @@ void AnexarDadoReg(std::u16string& ATexto, const TDadoRegistro& ADado, std::size
             ATexto += u"\\\r\n  ";
             coluna = 2;
         }
-        AnexarHexadecimal(ATexto, byte(i), 2);
+        ATexto += TextoHexadecimal(byte(i), 2);
     }
 }
 

@@ -12,13 +12,12 @@ struct TPadraoLido {
     bool operator==(const TPadraoLido&) const = default;
 };
 
-/// AMarca is what stands for the separator in the format language: '/' in a date, ':' in a time, 0 when the separator
-/// shall stay a literal. Names of zones and eras have no equivalent and are dropped.
-
-/// A pattern of strftime.
+/// Translates a pattern of strftime. Names of zones and of eras have no equivalent and are dropped.
+/// AMarca  the character that stands for the separator in the format language: '/' in a date, ':' in a time, 0 to keep
+///         the separator as a literal
 /// Example:  ("%d-%m-%Y", '/')  ->  "dd/mm/yyyy", separator "-"
 TPadraoLido DePadraoStrftime(std::u16string_view APadrao, char16_t AMarca);
-/// A pattern of Windows ("d 'de' MMMM", "h:mm tt").
+/// Translates a pattern of Windows, such as "d 'de' MMMM" and "h:mm tt". AMarca is as above.
 TPadraoLido DePadraoWindows(std::u16string_view APadrao, char16_t AMarca);
 
 /// A time pattern without its seconds.

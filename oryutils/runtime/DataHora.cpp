@@ -1,5 +1,6 @@
 #include "oryutils/runtime/DataHora.hpp"
 
+#include "oryutils/runtime/NumeroTexto.hpp"
 #include "oryutils/runtime/interno/Calendario.hpp"
 #include "oryutils/runtime/interno/ErroDeData.hpp"
 #include "oryutils/runtime/interno/InstanteLocal.hpp"
@@ -17,7 +18,7 @@ std::u16string Citar(std::initializer_list<int> APedacos, char16_t ASeparador) {
     std::u16string texto;
     for (const int pedaco : APedacos) {
         if (!texto.empty()) texto += ASeparador;
-        for (const char c : std::to_string(pedaco)) texto += static_cast<char16_t>(c);
+        texto += InteiroParaTexto(pedaco);
     }
     return texto;
 }

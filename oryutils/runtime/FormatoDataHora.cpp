@@ -1,5 +1,6 @@
 #include "oryutils/runtime/FormatoDataHora.hpp"
 
+#include "oryutils/characters/Ascii.hpp"
 #include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/runtime/interno/Calendario.hpp"
 
@@ -10,10 +11,6 @@
 
 namespace OryUtils {
 namespace {
-
-constexpr char16_t ParaMinuscula(char16_t c) {
-    return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + (u'a' - u'A')) : c;
-}
 
 // Appends ANumero, 0 to 9999, with at least ADigitos digits, 1 to 4.
 void JuntarNumero(std::u16string& ATexto, int ANumero, std::size_t ADigitos) {
@@ -26,7 +23,8 @@ void JuntarNumero(std::u16string& ATexto, int ANumero, std::size_t ADigitos) {
 // Length of the mark of the twelve-hour clock at the start of ATexto; 0 when there is none.
 std::size_t MedirMarca(std::u16string_view ATexto) {
     for (const std::u16string_view marca : {u"am/pm", u"ampm", u"a/p"})
-        if (std::ranges::equal(ATexto.substr(0, marca.size()), marca, {}, ParaMinuscula)) return marca.size();
+        if (std::ranges::equal(ATexto.substr(0, marca.size()), marca, {}, Interno::MinusculaAscii<char16_t>))
+            return marca.size();
     return 0;
 }
 
@@ -77,7 +75,7 @@ private:
                 i = EscreverSinal(APadrao, i);
                 continue;
             }
-            const char16_t letra = ParaMinuscula(c);
+            const char16_t letra = Interno::MinusculaAscii(c);
             if (letra == u'a') {
                 const std::size_t tamanho = MedirMarca(APadrao.substr(i));
                 if (tamanho > 0)
@@ -89,7 +87,7 @@ private:
                 continue;
             }
             std::size_t fim = i + 1;
-            while (fim < APadrao.size() && ParaMinuscula(APadrao[fim]) == letra) ++fim;
+            while (fim < APadrao.size() && Interno::MinusculaAscii(APadrao[fim]) == letra) ++fim;
             EscreverElemento(letra, APadrao.substr(i, fim - i), aposHora, dozeHoras, AInterno);
             aposHora = letra == u'h';
             i = fim;

@@ -4,6 +4,7 @@
 #include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/characters/Utf.hpp"
 #include "oryutils/runtime/FormatoNumero.hpp"
+#include "oryutils/runtime/NumeroTexto.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 
 namespace OryUtils {
@@ -54,7 +55,7 @@ bool TOryUtilsSistema::FinalizouProcesso(std::u16string_view AExecutavel) {
 }
 
 TResultStatus TOryUtilsSistema::FinalizouProcessoPeloPID(std::uint32_t AIDProcesso) {
-    const std::u16string id = DeUtf8(std::to_string(AIDProcesso));
+    const std::u16string id = InteiroParaTexto(AIDProcesso);
     std::u16string erro;
     switch (Interno::TerminarProcesso(AIDProcesso, erro)) {
         case Interno::fpTerminado:

@@ -1,5 +1,6 @@
 #include "oryutils/characters/Caixa.hpp"
 #include "oryutils/characters/Caracteres.hpp"
+#include "oryutils/characters/Hexadecimal.hpp"
 #include "oryutils/platform/Rede.hpp"
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
@@ -16,12 +17,10 @@ std::u16string EscreverIP(const Interno::TEnderecoIP& AEndereco) {
 }
 
 std::u16string EscreverMac(const Interno::TEnderecoMac& AMac) {
-    constexpr std::u16string_view CDigitos = u"0123456789abcdef";
     std::u16string texto;
     for (const std::uint8_t byte : AMac) {
         if (!texto.empty()) texto += u'-';
-        texto += CDigitos[byte >> 4];
-        texto += CDigitos[byte & 15];
+        texto += Interno::TextoHexadecimal(byte, 2);
     }
     return texto;
 }

@@ -1,5 +1,6 @@
 #include "oryutils/platform/Discos.hpp"
 
+#include "oryutils/characters/Hexadecimal.hpp"
 #include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/linux/Descritor.hpp"
 #include "oryutils/readers/TabelaDeMontagens.hpp"
@@ -57,12 +58,6 @@ std::optional<TMontagem> LocalizarUnidade(std::u16string_view AUnidade) {
     const auto indice = static_cast<std::size_t>(numero - CNumeroDaRaiz);
     if (indice >= montagens.size()) return std::nullopt;
     return std::move(montagens[indice]);
-}
-
-int ValorHexadecimal(char ACaractere) {
-    constexpr std::string_view CDigitos = "0123456789abcdef";
-    const std::size_t valor = CDigitos.find(ACaractere);
-    return valor == CDigitos.npos ? -1 : static_cast<int>(valor);
 }
 
 // The names of the links write what a file name should not have as "\x20".
