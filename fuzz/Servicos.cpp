@@ -1,8 +1,8 @@
 // Any text as what systemctl and sc answer; any name, account and password as part of a command or of a unit's file:
 // none of them becomes another argument or another line.
 #include "oryutils/characters/Utf.hpp"
-#include "oryutils/platform/linux/Systemd.hpp"
 #include "oryutils/readers/LinhaDeComando.hpp"
+#include "oryutils/readers/UnidadesSystemd.hpp"
 #include "oryutils/system/interno/ComandosServico.hpp"
 
 #include "Comum.hpp"
@@ -27,18 +27,20 @@ void Montar(const std::u16string& AServico, const std::u16string& AOutro, const 
 }
 
 void MontarUnidadeDe(const std::string& ANome, const std::string& AExecutavel) {
-    const std::string unidade = MontarUnidade(ANome, AExecutavel);
-    if (unidade.empty()) return;
-    Fuzz::Exigir(std::ranges::count(unidade, '\n') == std::ranges::count(MontarUnidade("a", "/b"), '\n'));
-    Fuzz::Exigir(std::ranges::none_of(unidade, [](char c) { return c != '\n' && static_cast<unsigned char>(c) < 32; }));
+    for (const bool ehCaminho : {false, true}) {
+        const std::string unidade = MontarUnidade(ANome, AExecutavel, ehCaminho);
+        if (unidade.empty()) continue;
+        Fuzz::Exigir(std::ranges::count(unidade, '\n') == std::ranges::count(MontarUnidade("a", "/b", true), '\n'));
+        Fuzz::Exigir(
+            std::ranges::none_of(unidade, [](char c) { return c != '\n' && static_cast<unsigned char>(c) < 32; }));
+    }
 }
 
 }  // namespace
 
 void Fuzz::Provar(TEntrada AEntrada) {
     const std::string bytes = TEntrada(AEntrada).Bytes();
-    if (const auto situacao = LerSituacaoUnidade(bytes))
-        Exigir(situacao->Situacao.Estado >= 1 && situacao->Situacao.Estado <= 7);
+    if (const auto situacao = LerSituacaoUnidade(bytes)) Exigir(situacao->Estado >= 1 && situacao->Estado <= 7);
     if (EhNomeDeUnidade(bytes))
         Exigir(!bytes.empty() && bytes.front() != '-' && bytes.front() != '.' &&
                bytes.find_first_of(std::string_view("/\n\0 ;$\"'", 8)) == std::string::npos);

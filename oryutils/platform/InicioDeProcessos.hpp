@@ -3,6 +3,7 @@
 #include "oryutils/OryExport.hpp"
 #include "oryutils/platform/AlcaDeProcesso.hpp"
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -13,8 +14,8 @@
 
 namespace OryUtils::Interno {
 
-/// Milliseconds of a wait without limit.
-inline constexpr std::uint32_t CEsperaSemLimite = 0xFFFFFFFF;
+/// The limit of a wait without limit: the number of milliseconds that Windows takes for it.
+inline constexpr std::chrono::milliseconds CEsperaSemLimite{0xFFFFFFFF};
 
 enum TEspera : int { epTerminou, epMensagens, epTempo };
 
@@ -42,11 +43,12 @@ struct TPedidoDeExecucao {
 /// (Windows) A success without a process of its own, such as a document handed to a running program, has ID 0.
 ORY_API std::optional<TProcessoIniciado> ExecutarPeloSistema(const TPedidoDeExecucao& APedido);
 
-/// Waits for the end of a process, at most ALimite milliseconds. AAcordar: epMensagens as soon as messages of the
-/// application wait, once for each (Linux: they may wait, every few milliseconds).
-ORY_API TEspera EsperarProcesso(const TProcessoIniciado& AProcesso, std::uint32_t ALimite, bool AAcordar);
-/// Waits for messages of the application, at most ALimite milliseconds: epMensagens (see above) or epTempo.
-ORY_API TEspera EsperarMensagens(std::uint32_t ALimite);
+/// Waits for the end of a process, at most ALimite.
+/// AAcordar  true: the wait also ends when the application has messages, with epMensagens. Linux cannot tell that there
+///           are some, so the wait ends every few milliseconds there.
+ORY_API TEspera EsperarProcesso(const TProcessoIniciado& AProcesso, std::chrono::milliseconds ALimite, bool AAcordar);
+/// Waits for messages of the application, at most ALimite: epMensagens (see above) or epTempo.
+ORY_API TEspera EsperarMensagens(std::chrono::milliseconds ALimite);
 
 /// A hidden process whose output comes through a pipe.
 class ORY_API TProcessoCapturado {
@@ -59,9 +61,9 @@ public:
     TProcessoCapturado(const TProcessoCapturado&) = delete;
     TProcessoCapturado& operator=(const TProcessoCapturado&) = delete;
 
-    /// Waits at most ALimite milliseconds for output and reads what is there, at most ADestino.size() bytes.
+    /// Waits at most ALimite for output and reads what is there, at most ADestino.size() bytes.
     /// Result: lcBytes with ALidos set; lcNada when nothing came or messages wait; lcFim when no writer is left.
-    TLeitura Ler(std::span<char> ADestino, std::uint32_t ALimite, std::size_t& ALidos) noexcept;
+    TLeitura Ler(std::span<char> ADestino, std::chrono::milliseconds ALimite, std::size_t& ALidos) noexcept;
     const TProcessoIniciado& GetProcesso() const noexcept { return FProcesso; }
 
 private:

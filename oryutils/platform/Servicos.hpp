@@ -2,6 +2,7 @@
 
 #include "oryutils/OryExport.hpp"
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -16,8 +17,8 @@ struct TSituacaoServico {
     std::uint32_t Estado = 0;
     /// Counts up while the service is on its way.
     std::uint32_t PontoDeVerificacao = 0;
-    /// How long the service asks to be left alone before the next question, in milliseconds.
-    std::uint32_t EsperaSugerida = 0;
+    /// The time that the service wishes to pass before the next question.
+    std::chrono::milliseconds EsperaSugerida{0};
     /// False when there is certainly no process behind the service now.
     bool TemProcesso = true;
 };

@@ -1,7 +1,7 @@
 #include "oryutils/platform/CodificacaoAnsi.hpp"
 #include "oryutils/platform/InicioDeProcessos.hpp"
+#include "oryutils/platform/Prazo.hpp"
 #include "oryutils/platform/Processos.hpp"
-#include "oryutils/platform/interno/Prazo.hpp"
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 #include "oryutils/system/interno/SaidaDeComando.hpp"
@@ -14,8 +14,8 @@ namespace {
 
 using Interno::TProcessoCapturado;
 
-/// The application's messages are looked after at least so often, in milliseconds.
-constexpr std::uint32_t CIntervaloDasMensagens = 20;
+/// The application's messages are looked after at least so often.
+constexpr std::chrono::milliseconds CIntervaloDasMensagens{20};
 /// A command that prints nothing for so long has paused, and its last bytes become a chunk. It is longer than the
 /// system keeps a running program waiting for the processor.
 constexpr auto CPausa = std::chrono::milliseconds(100);
@@ -75,7 +75,7 @@ std::unique_ptr<TOryUtilsSystemDadosRetornoProcessoIOP> TOryUtilsSistema::CriarP
     }
     if (AParametros.MetodoRetornoCriacaoProcesso) AParametros.MetodoRetornoCriacaoProcesso(*retorno);
     if (processo && AParametros.AguardarProcesso)
-        Interno::EsperarProcesso(*processo, AParametros.TempoLimiteProcesso, false);
+        Interno::EsperarProcesso(*processo, std::chrono::milliseconds(AParametros.TempoLimiteProcesso), false);
     return retorno;
 }
 
@@ -91,8 +91,8 @@ bool TOryUtilsSistema::EstahRodandoComoAdministrador() { return Interno::EhAdmin
 bool TOryUtilsSistema::EhSistemaOperacional64bits() { return Interno::EhProcessoDe32BitsEmSistemaDe64(); }
 
 void TOryUtilsSistema::Dormir(std::uint32_t AMilissegundos) {
-    const Interno::TPrazo prazo(AMilissegundos);
-    while (const std::uint32_t resta = prazo.Resta())
+    const Interno::TPrazo prazo{std::chrono::milliseconds(AMilissegundos)};
+    for (auto resta = prazo.Resta(); resta.count() > 0; resta = prazo.Resta())
         if (Interno::EsperarMensagens(resta) == Interno::epMensagens) ProcessarMensagens();
 }
 

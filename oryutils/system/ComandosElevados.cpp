@@ -1,20 +1,20 @@
 #include "oryutils/platform/InicioDeProcessos.hpp"
-#include "oryutils/platform/interno/Prazo.hpp"
+#include "oryutils/platform/Prazo.hpp"
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 
 namespace OryUtils {
 namespace {
 
-/// The limit is that of the whole wait, however often messages wake it: also where nobody takes them from the queue and
-/// they wake every wait at once.
-void EsperarComMensagens(const Interno::TProcessoIniciado& AProcesso, std::uint32_t ALimite) {
+/// Messages end each single wait; ALimite holds for all of them together. A message that nobody takes from the queue
+/// ends every wait at once.
+void EsperarComMensagens(const Interno::TProcessoIniciado& AProcesso, std::chrono::milliseconds ALimite) {
     const Interno::TPrazo prazo(ALimite);
-    std::uint32_t resta = ALimite;
+    std::chrono::milliseconds resta = ALimite;
     while (Interno::EsperarProcesso(AProcesso, resta, true) == Interno::epMensagens) {
         CosturaInterface().ProcessarMensagens();
         resta = prazo.Resta();
-        if (resta == 0) return;
+        if (resta.count() == 0) return;
     }
 }
 
@@ -36,7 +36,7 @@ bool TOryUtilsSistema::ExecutouComandoModoAdministrador(
     if (AParametros.MetodoRetornoCriacaoProcesso) AParametros.MetodoRetornoCriacaoProcesso(retorno);
     if (AParametros.BloquearTela && processo->ID != 0) {
         const std::shared_ptr<void> bloqueio = CosturaInterface().DesabilitarJanelas();
-        EsperarComMensagens(*processo, AParametros.TempoLimiteProcesso);
+        EsperarComMensagens(*processo, std::chrono::milliseconds(AParametros.TempoLimiteProcesso));
     }
     return true;
 }

@@ -36,7 +36,8 @@ public:
         ::posix_spawnattr_init(&FAtributos);
         sigset_t sinais;
         ::sigemptyset(&sinais);
-        ::posix_spawnattr_setsigmask(&FAtributos, &sinais);  // what the host blocks or ignores is its own affair
+        // The child starts with no signal blocked or ignored, whatever its parent does with them.
+        ::posix_spawnattr_setsigmask(&FAtributos, &sinais);
         ::sigfillset(&sinais);
         ::posix_spawnattr_setsigdefault(&FAtributos, &sinais);
         const int sessao = ASessaoPropria ? POSIX_SPAWN_SETSID : 0;
@@ -78,7 +79,7 @@ pid_t GerarFilho(const TPedidoDeFilho& APedido) {
     const auto possuiZero = [](const std::string& ATexto) { return ATexto.find('\0') != std::string::npos; };
     if (APedido.Argumentos.empty() || APedido.Argumentos.front().empty() || possuiZero(APedido.Pasta) ||
         std::ranges::any_of(APedido.Argumentos, possuiZero))
-        return 0;
+        return -EINVAL;
     std::vector<char*> argumentos;
     // The system's function predates const; it writes nothing.
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
@@ -89,7 +90,8 @@ pid_t GerarFilho(const TPedidoDeFilho& APedido) {
     const std::lock_guard trava(GTrava);
     GFilhos.reserve(GFilhos.size() + 1);
     pid_t pid = 0;
-    if (::posix_spawnp(&pid, argumentos[0], acoes.Get(), atributos.Get(), argumentos.data(), environ) != 0) return 0;
+    const int erro = ::posix_spawnp(&pid, argumentos[0], acoes.Get(), atributos.Get(), argumentos.data(), environ);
+    if (erro != 0) return -erro;
     GFilhos.push_back(pid);
     return pid;
 }

@@ -18,8 +18,9 @@ struct TPedidoDeFilho {
     bool FecharDescritores = false;  // nothing beyond 0, 1 and 2 is inherited
 };
 
-/// Starts a child without copying the memory of this process (posix_spawn); 0 when it cannot be started. Its end is
-/// noticed by EsperarFilho or, for those nobody waits for, by ColherFilhos.
+/// Starts a child without copying the memory of this process (posix_spawn). The result is its number, or the negated
+/// error of the system when it cannot be started. EsperarFilho clears the ended child away; ColherFilhos does so for
+/// children that nobody waits for.
 pid_t GerarFilho(const TPedidoDeFilho& APedido);
 
 /// Clears away the ended children of GerarFilho that nobody waits for.

@@ -1,7 +1,7 @@
 #include "oryutils/platform/InicioDeProcessos.hpp"
 
 #include "oryutils/characters/Utf.hpp"
-#include "oryutils/platform/interno/Prazo.hpp"
+#include "oryutils/platform/Prazo.hpp"
 #include "oryutils/platform/linux/Descritor.hpp"
 #include "oryutils/platform/linux/Elevacao.hpp"
 #include "oryutils/platform/linux/Filhos.hpp"
@@ -16,8 +16,10 @@
 namespace OryUtils::Interno {
 namespace {
 
-// A host's message loop has no common signal here: it is looked after so often.
-constexpr std::uint32_t CFatia = 20;
+// The message loops of hosts have no common signal, so they are looked after so often.
+constexpr std::chrono::milliseconds CFatia{20};
+
+int ParaPoll(std::chrono::milliseconds AEspera) { return static_cast<int>(AEspera.count()); }
 
 std::vector<std::string> ConverterArgumentos(const std::vector<std::u16string>& AArgumentos) {
     std::vector<std::string> argumentos;
@@ -25,7 +27,7 @@ std::vector<std::string> ConverterArgumentos(const std::vector<std::u16string>& 
     return argumentos;
 }
 
-// The system takes a line with blanks in front.
+// Blanks in front of a line do not count, as on Windows.
 std::vector<std::string> SepararComando(std::u16string_view ALinha) {
     ALinha.remove_prefix(std::min(ALinha.find_first_not_of(u" \t"), ALinha.size()));
     return ConverterArgumentos(SepararLinhaDeComando(ALinha));
@@ -46,7 +48,7 @@ std::optional<TProcessoIniciado> CriarProcesso(std::u16string_view ALinhaDeComan
     pedido.Entrada = nulo.Get();
     if (!AExibir) pedido.Saida = pedido.Erro = nulo.Get();
     const pid_t pid = GerarFilho(pedido);
-    if (pid == 0) return std::nullopt;
+    if (pid < 0) return std::nullopt;
     return Iniciado(pid);
 }
 
@@ -62,23 +64,23 @@ std::optional<TProcessoIniciado> ExecutarPeloSistema(const TPedidoDeExecucao& AP
         pedido.Argumentos.insert(pedido.Argumentos.begin(), elevador.begin(), elevador.end());
     }
     const pid_t pid = GerarFilho(pedido);
-    if (pid == 0) return std::nullopt;
+    if (pid < 0) return std::nullopt;
     return Iniciado(pid);
 }
 
-TEspera EsperarProcesso(const TProcessoIniciado& AProcesso, std::uint32_t ALimite, bool AAcordar) {
+TEspera EsperarProcesso(const TProcessoIniciado& AProcesso, std::chrono::milliseconds ALimite, bool AAcordar) {
     const auto pid = static_cast<pid_t>(AProcesso.ID);
-    const Interno::TPrazo prazo(ALimite);
+    const TPrazo prazo(ALimite);
     while (true) {
-        const std::uint32_t resta = prazo.Resta();
-        if (EsperarFilho(pid, AProcesso.Processo.Get(), static_cast<int>(std::min(resta, CFatia)))) return epTerminou;
+        const std::chrono::milliseconds resta = prazo.Resta();
+        if (EsperarFilho(pid, AProcesso.Processo.Get(), ParaPoll(std::min(resta, CFatia)))) return epTerminou;
         if (resta <= CFatia) return epTempo;
         if (AAcordar) return epMensagens;
     }
 }
 
-TEspera EsperarMensagens(std::uint32_t ALimite) {
-    ::poll(nullptr, 0, static_cast<int>(std::min(ALimite, CFatia)));
+TEspera EsperarMensagens(std::chrono::milliseconds ALimite) {
+    ::poll(nullptr, 0, ParaPoll(std::min(ALimite, CFatia)));
     return ALimite > CFatia ? epMensagens : epTempo;
 }
 
@@ -87,21 +89,22 @@ std::unique_ptr<TProcessoCapturado> TProcessoCapturado::Iniciar(std::u16string_v
     if (::pipe2(pontas, O_CLOEXEC) != 0) return nullptr;
     TDescritor leitura(pontas[0]);
     const TDescritor escrita(pontas[1]);
-    constexpr int CCapacidade = 1 << 20;  // the writer of much output is stopped less often; a wish, not a need
+    constexpr int CCapacidade = 1 << 20;  // stops the writer of much output less often; the system may refuse it
     ::fcntl(leitura.Get(), F_SETPIPE_SZ, CCapacidade);
     TPedidoDeFilho pedido{.Argumentos = SepararComando(ALinhaDeComando)};
     pedido.Saida = pedido.Erro = escrita.Get();
     const pid_t pid = GerarFilho(pedido);
-    if (pid == 0) return nullptr;
+    if (pid < 0) return nullptr;
     return std::unique_ptr<TProcessoCapturado>(new TProcessoCapturado(Iniciado(pid), leitura.Soltar()));
 }
 
 TProcessoCapturado::~TProcessoCapturado() { ::close(static_cast<int>(FLeitura)); }
 
-TProcessoCapturado::TLeitura TProcessoCapturado::Ler(std::span<char> ADestino, std::uint32_t ALimite,
+TProcessoCapturado::TLeitura TProcessoCapturado::Ler(std::span<char> ADestino, std::chrono::milliseconds ALimite,
                                                      std::size_t& ALidos) noexcept {
     pollfd leitura{.fd = static_cast<int>(FLeitura), .events = POLLIN, .revents = 0};
-    if (::poll(&leitura, 1, static_cast<int>(ALimite)) <= 0) return lcNada;
+    const int espera = ALimite == CEsperaSemLimite ? -1 : ParaPoll(ALimite);
+    if (::poll(&leitura, 1, espera) <= 0) return lcNada;
     const ssize_t lidos = ::read(leitura.fd, ADestino.data(), ADestino.size());
     if (lidos < 0 && errno == EINTR) return lcNada;
     if (lidos <= 0) return lcFim;

@@ -2,6 +2,8 @@
 
 #include "oryutils/platform/linux/TecladoX.hpp"
 
+#include <X11/keysym.h>
+
 #include <algorithm>
 #include <array>
 
@@ -12,12 +14,10 @@ struct TCaractereFixo {
     std::uint16_t Tecla;
     char16_t Caractere;
 };
-// Keys that give the same character in every layout and state.
+// Keys that give the same character in every layout and state, besides the digits of the keypad.
 constexpr std::array CCaracteresFixos{
-    TCaractereFixo{0x08, u'\b'}, TCaractereFixo{0x09, u'\t'}, TCaractereFixo{0x0D, u'\r'}, TCaractereFixo{0x1B, 0x1B},
-    TCaractereFixo{0x20, u' '},  TCaractereFixo{0x60, u'0'},  TCaractereFixo{0x61, u'1'},  TCaractereFixo{0x62, u'2'},
-    TCaractereFixo{0x63, u'3'},  TCaractereFixo{0x64, u'4'},  TCaractereFixo{0x65, u'5'},  TCaractereFixo{0x66, u'6'},
-    TCaractereFixo{0x67, u'7'},  TCaractereFixo{0x68, u'8'},  TCaractereFixo{0x69, u'9'},  TCaractereFixo{0x6A, u'*'},
+    TCaractereFixo{0x08, u'\b'}, TCaractereFixo{0x09, u'\t'}, TCaractereFixo{0x0D, u'\r'},
+    TCaractereFixo{0x1B, 0x1B},  TCaractereFixo{0x20, u' '},  TCaractereFixo{0x6A, u'*'},
     TCaractereFixo{0x6B, u'+'},  TCaractereFixo{0x6D, u'-'},  TCaractereFixo{0x6F, u'/'},
 };
 
@@ -35,88 +35,87 @@ constexpr std::array CTeclasFisicas{
 
 struct TTeclaNomeada {
     std::uint16_t Tecla;
-    TKeysym Keysym;
-    TKeysym Outra;  // the second key of that number: the right one, or the keypad's
+    xcb_keysym_t Keysym;
+    xcb_keysym_t Outra;  // the second key of that number: the right one, or the keypad's
 };
 // Keys that write nothing, and those of the keypad, are found by their names.
 constexpr std::array CTeclasNomeadas{
-    TTeclaNomeada{0x08, 0xFF08, 0},       // BackSpace
-    TTeclaNomeada{0x09, 0xFF09, 0},       // Tab
-    TTeclaNomeada{0x0C, 0xFF0B, 0},       // Clear
-    TTeclaNomeada{0x0D, 0xFF0D, 0xFF8D},  // Return, KP_Enter
-    TTeclaNomeada{0x10, 0xFFE1, 0xFFE2},  // Shift_L, Shift_R
-    TTeclaNomeada{0x11, 0xFFE3, 0xFFE4},  // Control_L, Control_R
-    TTeclaNomeada{0x12, 0xFFE9, 0xFFEA},  // Alt_L, Alt_R
-    TTeclaNomeada{0x13, 0xFF13, 0},       // Pause
-    TTeclaNomeada{0x14, 0xFFE5, 0},       // Caps_Lock
-    TTeclaNomeada{0x1B, 0xFF1B, 0},       // Escape
-    TTeclaNomeada{0x20, 0x0020, 0},       // space
-    TTeclaNomeada{0x21, 0xFF55, 0},       // Prior
-    TTeclaNomeada{0x22, 0xFF56, 0},       // Next
-    TTeclaNomeada{0x23, 0xFF57, 0},       // End
-    TTeclaNomeada{0x24, 0xFF50, 0},       // Home
-    TTeclaNomeada{0x25, 0xFF51, 0},       // Left
-    TTeclaNomeada{0x26, 0xFF52, 0},       // Up
-    TTeclaNomeada{0x27, 0xFF53, 0},       // Right
-    TTeclaNomeada{0x28, 0xFF54, 0},       // Down
-    TTeclaNomeada{0x2C, 0xFF61, 0},       // Print
-    TTeclaNomeada{0x2D, 0xFF63, 0},       // Insert
-    TTeclaNomeada{0x2E, 0xFFFF, 0},       // Delete
-    TTeclaNomeada{0x5B, 0xFFEB, 0},       // Super_L
-    TTeclaNomeada{0x5C, 0xFFEC, 0},       // Super_R
-    TTeclaNomeada{0x5D, 0xFF67, 0},       // Menu
-    TTeclaNomeada{0x6A, 0xFFAA, 0},       // KP_Multiply
-    TTeclaNomeada{0x6B, 0xFFAB, 0},       // KP_Add
-    TTeclaNomeada{0x6C, 0xFFAC, 0},       // KP_Separator
-    TTeclaNomeada{0x6D, 0xFFAD, 0},       // KP_Subtract
-    TTeclaNomeada{0x6E, 0xFFAE, 0xFFAC},  // KP_Decimal, which writes a comma in Brazil
-    TTeclaNomeada{0x6F, 0xFFAF, 0},       // KP_Divide
-    TTeclaNomeada{0x90, 0xFF7F, 0},       // Num_Lock
-    TTeclaNomeada{0x91, 0xFF14, 0},       // Scroll_Lock
-    TTeclaNomeada{0xA0, 0xFFE1, 0},       // Shift_L
-    TTeclaNomeada{0xA1, 0xFFE2, 0},       // Shift_R
-    TTeclaNomeada{0xA2, 0xFFE3, 0},       // Control_L
-    TTeclaNomeada{0xA3, 0xFFE4, 0},       // Control_R
-    TTeclaNomeada{0xA4, 0xFFE9, 0},       // Alt_L
-    TTeclaNomeada{0xA5, 0xFFEA, 0xFE03},  // Alt_R, which is AltGr on many layouts
+    TTeclaNomeada{0x08, XK_BackSpace, 0},
+    TTeclaNomeada{0x09, XK_Tab, 0},
+    TTeclaNomeada{0x0C, XK_Clear, 0},
+    TTeclaNomeada{0x0D, XK_Return, XK_KP_Enter},
+    TTeclaNomeada{0x10, XK_Shift_L, XK_Shift_R},
+    TTeclaNomeada{0x11, XK_Control_L, XK_Control_R},
+    TTeclaNomeada{0x12, XK_Alt_L, XK_Alt_R},
+    TTeclaNomeada{0x13, XK_Pause, 0},
+    TTeclaNomeada{0x14, XK_Caps_Lock, 0},
+    TTeclaNomeada{0x1B, XK_Escape, 0},
+    TTeclaNomeada{0x20, XK_space, 0},
+    TTeclaNomeada{0x21, XK_Prior, 0},
+    TTeclaNomeada{0x22, XK_Next, 0},
+    TTeclaNomeada{0x23, XK_End, 0},
+    TTeclaNomeada{0x24, XK_Home, 0},
+    TTeclaNomeada{0x25, XK_Left, 0},
+    TTeclaNomeada{0x26, XK_Up, 0},
+    TTeclaNomeada{0x27, XK_Right, 0},
+    TTeclaNomeada{0x28, XK_Down, 0},
+    TTeclaNomeada{0x2C, XK_Print, 0},
+    TTeclaNomeada{0x2D, XK_Insert, 0},
+    TTeclaNomeada{0x2E, XK_Delete, 0},
+    TTeclaNomeada{0x5B, XK_Super_L, 0},
+    TTeclaNomeada{0x5C, XK_Super_R, 0},
+    TTeclaNomeada{0x5D, XK_Menu, 0},
+    TTeclaNomeada{0x6A, XK_KP_Multiply, 0},
+    TTeclaNomeada{0x6B, XK_KP_Add, 0},
+    TTeclaNomeada{0x6C, XK_KP_Separator, 0},
+    TTeclaNomeada{0x6D, XK_KP_Subtract, 0},
+    TTeclaNomeada{0x6E, XK_KP_Decimal, XK_KP_Separator},  // writes a comma in Brazil
+    TTeclaNomeada{0x6F, XK_KP_Divide, 0},
+    TTeclaNomeada{0x90, XK_Num_Lock, 0},
+    TTeclaNomeada{0x91, XK_Scroll_Lock, 0},
+    TTeclaNomeada{0xA0, XK_Shift_L, 0},
+    TTeclaNomeada{0xA1, XK_Shift_R, 0},
+    TTeclaNomeada{0xA2, XK_Control_L, 0},
+    TTeclaNomeada{0xA3, XK_Control_R, 0},
+    TTeclaNomeada{0xA4, XK_Alt_L, 0},
+    TTeclaNomeada{0xA5, XK_Alt_R, XK_ISO_Level3_Shift},  // AltGr on many layouts
 };
 constexpr std::uint16_t CPrimeiroDoTeclado = 0x60;  // digits of the keypad
-constexpr TKeysym CKeysymDoTeclado = 0xFFB0;
-constexpr std::uint16_t CPrimeiraFuncao = 0x70;  // F1 to F24
-constexpr TKeysym CKeysymFuncao = 0xFFBE;
+constexpr std::uint16_t CPrimeiraFuncao = 0x70;     // F1 to F24
+constexpr bool EhDigitoDoTeclado(std::uint16_t ATecla) {
+    return ATecla >= CPrimeiroDoTeclado && ATecla < CPrimeiroDoTeclado + 10;
+}
 
 struct TBotao {
     std::uint16_t Tecla;
     unsigned Marca;
 };
-constexpr std::array CBotoes{TBotao{1, CBotaoEsquerdo}, TBotao{2, CBotaoDireito}, TBotao{4, CBotaoDoMeio}};
+constexpr std::array CBotoes{TBotao{1, XCB_BUTTON_MASK_1}, TBotao{2, XCB_BUTTON_MASK_3}, TBotao{4, XCB_BUTTON_MASK_2}};
 
 constexpr std::uint16_t CTeclaDecimal = 0x6E;
 constexpr std::uint8_t CCodigoDecimal = 91;
-constexpr TKeysym CKeysymSeparador = 0xFFAC;  // the keypad's decimal key where it writes a comma
-constexpr TKeysym CKeysymDecimal = 0xFFAE;
-constexpr TKeysym CKeysymEuro = 0x20AC;
-constexpr TKeysym CKeysymUnicode = 0x01000000;
+constexpr xcb_keysym_t CKeysymUnicode = 0x01000000;
+constexpr unsigned CDeslocamentoGrupo = 13;
 
 // Latin-1 stands for itself; dead keys, function keys and the old national sets give nothing.
-std::u16string CaracteresDe(TKeysym AKeysym) {
-    if ((AKeysym >= 0x20 && AKeysym <= 0x7E) || (AKeysym >= 0xA0 && AKeysym <= 0xFF) || AKeysym == CKeysymEuro)
+std::u16string CaracteresDe(xcb_keysym_t AKeysym) {
+    if ((AKeysym >= 0x20 && AKeysym <= 0x7E) || (AKeysym >= 0xA0 && AKeysym <= 0xFF) || AKeysym == XK_EuroSign)
         return std::u16string(1, static_cast<char16_t>(AKeysym));
-    if (AKeysym == CKeysymSeparador) return u",";
-    if (AKeysym == CKeysymDecimal) return u".";
+    if (AKeysym == XK_KP_Separator) return u",";
+    if (AKeysym == XK_KP_Decimal) return u".";
     if (AKeysym > CKeysymUnicode && AKeysym < CKeysymUnicode + 0xD800)
         return std::u16string(1, static_cast<char16_t>(AKeysym - CKeysymUnicode));
     return {};
 }
 
-constexpr bool EhParDeLetras(TKeysym ASemShift, TKeysym AComShift) {
+constexpr bool EhParDeLetras(xcb_keysym_t ASemShift, xcb_keysym_t AComShift) {
     const bool minuscula = (ASemShift >= 'a' && ASemShift <= 'z') || (ASemShift >= 0xE0 && ASemShift <= 0xFE);
     return minuscula && AComShift == ASemShift - 0x20;
 }
 
 // The column of a key: two for each group, then two for each group with AltGr.
 std::size_t BuscarPrimeiroNivel(const TTeclado& ATeclado, std::size_t ATecla) {
-    const bool altGr = ATeclado.Modificadores & CAltGr;
+    const bool altGr = ATeclado.Modificadores & XCB_MOD_MASK_5;
     const std::size_t grupo = ATeclado.Modificadores >> CDeslocamentoGrupo & 1;
     const std::size_t nivel = (altGr ? 4u : 0u) + 2 * grupo;
     // A key that has nothing in the second group keeps what it has in the first.
@@ -124,7 +123,7 @@ std::size_t BuscarPrimeiroNivel(const TTeclado& ATeclado, std::size_t ATecla) {
 }
 
 // The key that writes ALetra (in lower case) or a digit in the present group; on some layouts digits need shift.
-std::optional<std::size_t> LocalizarTecla(const TTeclado& ATeclado, TKeysym AKeysym) {
+std::optional<std::size_t> LocalizarTecla(const TTeclado& ATeclado, xcb_keysym_t AKeysym) {
     const std::size_t grupo = ATeclado.Modificadores >> CDeslocamentoGrupo & 1;
     for (const std::size_t nivel : {2 * grupo, 2 * grupo + 1, std::size_t{0}, std::size_t{1}})
         for (std::size_t tecla = 0; tecla < ATeclado.ContarTeclas(); ++tecla)
@@ -143,10 +142,9 @@ std::optional<std::size_t> LocalizarTeclaVirtual(const TTeclado& ATeclado, std::
 TTeclaNomeada NomearTecla(std::uint16_t ATecla) {
     for (const TTeclaNomeada& nomeada : CTeclasNomeadas)
         if (nomeada.Tecla == ATecla) return nomeada;
-    if (ATecla >= CPrimeiroDoTeclado && ATecla < CPrimeiroDoTeclado + 10)
-        return {ATecla, CKeysymDoTeclado + ATecla - CPrimeiroDoTeclado, 0};
+    if (EhDigitoDoTeclado(ATecla)) return {ATecla, static_cast<xcb_keysym_t>(XK_KP_0 + ATecla - CPrimeiroDoTeclado), 0};
     if (ATecla >= CPrimeiraFuncao && ATecla < CPrimeiraFuncao + 24)
-        return {ATecla, CKeysymFuncao + ATecla - CPrimeiraFuncao, 0};
+        return {ATecla, static_cast<xcb_keysym_t>(XK_F1 + ATecla - CPrimeiraFuncao), 0};
     return {ATecla, 0, 0};
 }
 
@@ -193,21 +191,22 @@ std::u16string TraduzirTeclaVirtual(std::uint16_t ATecla) {
     if (!teclado) return {};
     for (const TCaractereFixo& fixo : CCaracteresFixos)
         if (fixo.Tecla == ATecla) return std::u16string(1, fixo.Caractere);
+    if (EhDigitoDoTeclado(ATecla)) return std::u16string(1, static_cast<char16_t>(u'0' + ATecla - CPrimeiroDoTeclado));
     if (ATecla == CTeclaDecimal) {
         const std::size_t decimal = CCodigoDecimal - std::min(teclado->MenorTecla, CCodigoDecimal);
         return CaracteresDe(teclado->Buscar(decimal, 1));
     }
     const std::optional<std::size_t> tecla = LocalizarTeclaVirtual(*teclado, ATecla);
     if (!tecla) return {};
-    const bool altGr = teclado->Modificadores & CAltGr;
-    if ((teclado->Modificadores & CControl) && !altGr)
+    const bool altGr = teclado->Modificadores & XCB_MOD_MASK_5;
+    if ((teclado->Modificadores & XCB_MOD_MASK_CONTROL) && !altGr)
         return ATecla >= 'A' && ATecla <= 'Z' ? std::u16string(1, static_cast<char16_t>(ATecla - '@'))
                                               : std::u16string();
     const std::size_t nivel = BuscarPrimeiroNivel(*teclado, *tecla);
-    const TKeysym semShift = teclado->Buscar(*tecla, nivel);
-    const TKeysym comShift = teclado->Buscar(*tecla, nivel + 1);
-    const bool shift = teclado->Modificadores & CShift;
-    const bool inverte = (teclado->Modificadores & CCapsLock) && EhParDeLetras(semShift, comShift);
+    const xcb_keysym_t semShift = teclado->Buscar(*tecla, nivel);
+    const xcb_keysym_t comShift = teclado->Buscar(*tecla, nivel + 1);
+    const bool shift = teclado->Modificadores & XCB_MOD_MASK_SHIFT;
+    const bool inverte = (teclado->Modificadores & XCB_MOD_MASK_LOCK) && EhParDeLetras(semShift, comShift);
     return CaracteresDe(shift != inverte ? comShift : semShift);
 }
 

@@ -71,16 +71,18 @@ std::optional<TProcessoIniciado> ExecutarPeloSistema(const TPedidoDeExecucao& AP
     return processo;
 }
 
-TEspera EsperarProcesso(const TProcessoIniciado& AProcesso, std::uint32_t ALimite, bool AAcordar) {
+TEspera EsperarProcesso(const TProcessoIniciado& AProcesso, std::chrono::milliseconds ALimite, bool AAcordar) {
     const HANDLE processo = AlcaDe(AProcesso.Processo);
+    const auto limite = static_cast<DWORD>(ALimite.count());
     const DWORD situacao =
-        AAcordar ? EsperarAlcaOuMensagem(1, &processo, ALimite) : ::WaitForSingleObject(processo, ALimite);
+        AAcordar ? EsperarAlcaOuMensagem(1, &processo, limite) : ::WaitForSingleObject(processo, limite);
     if (situacao == WAIT_TIMEOUT) return epTempo;
     return situacao == WAIT_OBJECT_0 + 1 ? epMensagens : epTerminou;
 }
 
-TEspera EsperarMensagens(std::uint32_t ALimite) {
-    return EsperarAlcaOuMensagem(0, nullptr, ALimite) == WAIT_OBJECT_0 ? epMensagens : epTempo;
+TEspera EsperarMensagens(std::chrono::milliseconds ALimite) {
+    return EsperarAlcaOuMensagem(0, nullptr, static_cast<DWORD>(ALimite.count())) == WAIT_OBJECT_0 ? epMensagens
+                                                                                                   : epTempo;
 }
 
 std::unique_ptr<TProcessoCapturado> TProcessoCapturado::Iniciar(std::u16string_view ALinhaDeComando) {
@@ -108,7 +110,7 @@ std::unique_ptr<TProcessoCapturado> TProcessoCapturado::Iniciar(std::u16string_v
 
 TProcessoCapturado::~TProcessoCapturado() { ::CloseHandle(reinterpret_cast<HANDLE>(FLeitura)); }
 
-TProcessoCapturado::TLeitura TProcessoCapturado::Ler(std::span<char> ADestino, std::uint32_t ALimite,
+TProcessoCapturado::TLeitura TProcessoCapturado::Ler(std::span<char> ADestino, std::chrono::milliseconds ALimite,
                                                      std::size_t& ALidos) noexcept {
     const auto leitura = reinterpret_cast<HANDLE>(FLeitura);
     HANDLE processo = AlcaDe(FProcesso.Processo);
@@ -117,7 +119,7 @@ TProcessoCapturado::TLeitura TProcessoCapturado::Ler(std::span<char> ADestino, s
     for (DWORD passou = 0;; passou += intervalo, intervalo = std::min(intervalo * 2, CMaiorIntervalo)) {
         if (!::PeekNamedPipe(leitura, nullptr, 0, nullptr, &prontos, nullptr)) return lcFim;
         if (prontos > 0) break;
-        if (passou >= ALimite) return lcNada;
+        if (passou >= ALimite.count()) return lcNada;
         // The end of the process is most often the end of the output: it is not slept through.
         const bool vivo = ::WaitForSingleObject(processo, 0) == WAIT_TIMEOUT;
         const DWORD quantidade = vivo ? 1 : 0;

@@ -48,8 +48,8 @@ public:
     std::optional<TSituacaoServico> Consultar() override {
         SERVICE_STATUS situacao{};
         if (!QueryServiceStatus(FServico.get(), &situacao)) return std::nullopt;
-        return TSituacaoServico{situacao.dwCurrentState, situacao.dwCheckPoint, situacao.dwWaitHint,
-                                VivoOuDesconhecido(BuscarIDProcesso())};
+        return TSituacaoServico{situacao.dwCurrentState, situacao.dwCheckPoint,
+                                std::chrono::milliseconds(situacao.dwWaitHint), VivoOuDesconhecido(BuscarIDProcesso())};
     }
     std::uint32_t BuscarIDProcesso() override {
         SERVICE_STATUS_PROCESS situacao{};

@@ -7,8 +7,6 @@
 namespace OryUtils::Interno {
 namespace {
 
-using namespace Interno;
-
 constexpr std::u16string_view CSemGerenciador =
     u"Não foi possível abrir o SC Manager (Gerenciador de serviços do Windows).\r\n\r\nTente executar o processo como "
     u"administrador, se o problema persistir entre em contatocom o suporte técnico.";
@@ -53,23 +51,23 @@ TServicoAberto AbrirServico(const TAbrirGerenciador& AAbrir, std::u16string_view
     return aberto;
 }
 
-/// Counts a limit in seconds down. A round takes off the whole seconds that the service asked for; where it asks for
-/// less than one, the clock decides, or a service that hangs with a short hint would never use the limit up.
+/// Counts a limit in seconds down. Each round takes off the whole seconds that the service asked for. A service that
+/// asks for less than a second would never use the limit up that way, so the clock decides for it.
 class TLimiteDeEspera {
 public:
     explicit TLimiteDeEspera(int ASegundos) : FLimite(ASegundos), FRestante(ASegundos) {}
 
     /// True once the limit has been used up before this round.
-    bool Esgotou(std::uint32_t AEspera) {
-        if (FRestante <= 0) return true;
-        const std::uint32_t segundos = AEspera / 1000;
+    bool Esgotou(std::chrono::milliseconds AEspera) {
+        if (FRestante.count() <= 0) return true;
+        const auto segundos = std::chrono::floor<std::chrono::seconds>(AEspera);
         FRestante -= segundos;
-        return segundos == 0 && std::chrono::steady_clock::now() - FInicio >= FLimite;
+        return segundos.count() == 0 && std::chrono::steady_clock::now() - FInicio >= FLimite;
     }
 
 private:
     std::chrono::seconds FLimite;
-    std::int64_t FRestante;
+    std::chrono::seconds FRestante;
     std::chrono::steady_clock::time_point FInicio = std::chrono::steady_clock::now();
 };
 
@@ -83,7 +81,7 @@ public:
     /// manager goes on as if it were not.
     bool Avancar() {
         const TSituacaoServico anterior = FSituacao;
-        TOryUtilsSistema::Dormir(anterior.EsperaSugerida);
+        TOryUtilsSistema::Dormir(static_cast<std::uint32_t>(anterior.EsperaSugerida.count()));
         const auto nova = FServico.Consultar();
         if (!nova) return false;
         FSituacao = *nova;
@@ -141,7 +139,7 @@ bool PararServico(const TAbrirGerenciador& AAbrir, std::u16string_view AMaquina,
     TLimiteDeEspera limite(ATempoLimite);
     TCaminhada caminhada(*servico.Servico, *situacao);
     while (parou && situacao->Estado != sswServicoParado) {
-        const std::uint32_t espera = situacao->EsperaSugerida;
+        const std::chrono::milliseconds espera = situacao->EsperaSugerida;
         if (!caminhada.Avancar()) break;
         if (situacao->Estado != sswServicoParado && limite.Esgotou(espera))
             if (const std::uint32_t id = servico->BuscarIDProcesso()) TOryUtilsSistema::FinalizouProcessoPeloPID(id);

@@ -1,6 +1,6 @@
 // systemd through a systemctl of the tests: a script that keeps a unit's state in files and records how it was called.
 #include "oryutils/characters/Utf.hpp"
-#include "oryutils/platform/linux/Systemd.hpp"
+#include "oryutils/platform/linux/Servicos.hpp"
 #include "oryutils/system/interno/Servicos.hpp"
 
 #include "files/ApoioArquivos.hpp"
