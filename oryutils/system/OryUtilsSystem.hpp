@@ -250,41 +250,73 @@ private:
 
 extern ORY_API TInstanciaGlobal<TOryUtilsSistema> GOryUtilsSistema;
 
-/// Free functions; each forwards to the operation of the class of the same name or, for the older names, of the same
+/// Free functions. Each forwards to the operation of the class that has the same name or, for the older names, the same
 /// meaning.
-ORY_API void ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando, std::vector<std::u16string>& ASaida);
-ORY_API std::u16string ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando);
-ORY_API bool ExecutarComando(std::u16string_view AComando, bool AAguardar, bool AExibir);
-ORY_API std::unique_ptr<TProcessoItems> GetListaDeProcessosWindows(std::u16string_view AUsuario);
-ORY_API bool ProcessIsRunning(std::u16string_view AProcesso, std::u16string_view AUsuario);
-ORY_API bool ProcessIsRunning(std::uint32_t AIDProcesso, std::u16string_view AUsuario);
-ORY_API bool KillProcess(std::u16string_view AExecutavel);
-ORY_API TAlcaDeProcesso GetEnderecoMemoriaProcesso(std::u16string_view AProcesso);
-ORY_API std::u16string GetMemoriaUsadaProcesso(std::u16string_view AProcesso);
-ORY_API void GetUsuarioEDominioDoProcesso(std::uint32_t AIDProcesso, std::u16string& AUsuario,
-                                          std::u16string& ADominio);
-ORY_API std::u16string GetNomeUsuarioLogadoNoWindows();
-ORY_API std::u16string GetNomeComputador();
-ORY_API std::u16string GetIPLocal();
-ORY_API std::u16string GetEnderecoMac(std::u16string_view AIP);
-ORY_API std::u16string GetMacAddress2(std::u16string_view AIP);
-ORY_API std::u16string BuscarEnderecoMacViaARP(std::u16string_view AIP);
-ORY_API TVersaoWindows GetWindowsVersion();
-ORY_API std::u16string GetWindowsDrive();
-ORY_API std::u16string GetWindowsSystemDir();
-ORY_API std::u16string GetPastaTempWindows();
-ORY_API std::u16string GetPastaArquivoDeProgramas();
-ORY_API std::u16string GetPastaMeusDocumentos();
-ORY_API std::u16string GetApplicationPath();
-ORY_API std::u16string BuscarPastaConfiguracaoFormularios();
-ORY_API std::u16string BuscarPastaOryApps();
-ORY_API std::u16string GetPastaInstalacaoVelmar(TVersaoVelmar AVersao);
-ORY_API TInformacoesVelmar GetInformacoesVelmar(TVersaoVelmar AVersao);
-ORY_API void AbrirPropriedadesDataHora();
-ORY_API void SimularPressionamentoTecla(std::uint16_t ATecla, TShiftState AShift, bool ATeclaEstendida);
-ORY_API bool EhSistemaOperacional64bits();
-ORY_API int VarToIntDef(const Variant& AValor, int APadrao);
-ORY_API bool ServiceStart(std::u16string_view AMaquina, std::u16string_view AServico);
-ORY_API bool ServiceStop(std::u16string_view AMaquina, std::u16string_view AServico, int ATempoLimite);
+inline void ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando, std::vector<std::u16string>& ASaida) {
+    TOryUtilsSistema::ExecutarComandoComRetorno(ALinhaDeComando, ASaida);
+}
+inline std::u16string ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando) {
+    return TOryUtilsSistema::ExecutarComandoComRetorno(ALinhaDeComando);
+}
+inline bool ExecutarComando(std::u16string_view AComando, bool AAguardar, bool AExibir) {
+    return TOryUtilsSistema::ExecutouComando(AComando, AAguardar, AExibir);
+}
+inline std::unique_ptr<TProcessoItems> GetListaDeProcessosWindows(std::u16string_view AUsuario) {
+    return TOryUtilsSistema::BuscarListaDeProcessosWindows(AUsuario);
+}
+inline bool ProcessIsRunning(std::u16string_view AProcesso, std::u16string_view AUsuario) {
+    return TOryUtilsSistema::ProcessoEstahRodando(AProcesso, AUsuario);
+}
+inline bool ProcessIsRunning(std::uint32_t AIDProcesso, std::u16string_view AUsuario) {
+    return TOryUtilsSistema::ProcessoEstahRodando(AIDProcesso, AUsuario);
+}
+inline bool KillProcess(std::u16string_view AExecutavel) { return TOryUtilsSistema::FinalizouProcesso(AExecutavel); }
+inline TAlcaDeProcesso GetEnderecoMemoriaProcesso(std::u16string_view AProcesso) {
+    return TOryUtilsSistema::BuscarEnderecoMemoriaProcesso(AProcesso);
+}
+inline std::u16string GetMemoriaUsadaProcesso(std::u16string_view AProcesso) {
+    return TOryUtilsSistema::BuscarMemoriaUsadaProcesso(AProcesso);
+}
+inline void GetUsuarioEDominioDoProcesso(std::uint32_t AIDProcesso, std::u16string& AUsuario,
+                                         std::u16string& ADominio) {
+    TOryUtilsSistema::BuscarUsuarioEDominioDoProcesso(AIDProcesso, AUsuario, ADominio);
+}
+inline std::u16string GetNomeUsuarioLogadoNoWindows() { return TOryUtilsSistema::BuscarNomeUsuarioLogadoNoWindows(); }
+inline std::u16string GetNomeComputador() { return TOryUtilsSistema::BuscarNomeComputador(); }
+inline std::u16string GetIPLocal() { return TOryUtilsSistema::BuscarIPLocal(); }
+inline std::u16string GetEnderecoMac(std::u16string_view AIP) { return TOryUtilsSistema::BuscarEnderecoMac(AIP); }
+inline std::u16string GetMacAddress2(std::u16string_view AIP) { return TOryUtilsSistema::BuscarEnderecoMac2(AIP); }
+inline std::u16string BuscarEnderecoMacViaARP(std::u16string_view AIP) {
+    return TOryUtilsSistema::BuscarEnderecoMacViaARP(AIP);
+}
+inline TVersaoWindows GetWindowsVersion() { return TOryUtilsSistema::BuscarVersaoWindows(); }
+inline std::u16string GetWindowsDrive() { return TOryUtilsSistema::BuscarUnidadeInstalacaoWindows(); }
+inline std::u16string GetWindowsSystemDir() { return TOryUtilsSistema::BuscarPastaSystemWindows(); }
+inline std::u16string GetPastaTempWindows() { return TOryUtilsSistema::BuscarPastaTempWindows(); }
+inline std::u16string GetPastaArquivoDeProgramas() { return TOryUtilsSistema::BuscarPastaArquivoDeProgramas(); }
+inline std::u16string GetPastaMeusDocumentos() { return TOryUtilsSistema::BuscarPastaMeusDocumentos(); }
+inline std::u16string GetApplicationPath() { return TOryUtilsSistema::BuscarPastaAplicacao(); }
+inline std::u16string BuscarPastaConfiguracaoFormularios() {
+    return TOryUtilsSistema::BuscarPastaConfiguracaoFormularios();
+}
+inline std::u16string BuscarPastaOryApps() { return TOryUtilsSistema::BuscarPastaOryApps(); }
+inline std::u16string GetPastaInstalacaoVelmar(TVersaoVelmar AVersao) {
+    return TOryUtilsSistema::BuscarPastaInstalacaoVelmar(AVersao);
+}
+inline TInformacoesVelmar GetInformacoesVelmar(TVersaoVelmar AVersao) {
+    return TOryUtilsSistema::BuscarInformacoesVelmar(AVersao);
+}
+inline void AbrirPropriedadesDataHora() { TOryUtilsSistema::AbrirPropriedadesDataHora(); }
+inline void SimularPressionamentoTecla(std::uint16_t ATecla, TShiftState AShift, bool ATeclaEstendida) {
+    TOryUtilsSistema::SimularPressionamentoTecla(ATecla, AShift, ATeclaEstendida);
+}
+inline bool EhSistemaOperacional64bits() { return TOryUtilsSistema::EhSistemaOperacional64bits(); }
+inline int VarToIntDef(const Variant& AValor, int APadrao) { return TOryUtilsSistema::VarToIntDef(AValor, APadrao); }
+inline bool ServiceStart(std::u16string_view AMaquina, std::u16string_view AServico) {
+    return TOryUtilsSistema::IniciarServico(AMaquina, AServico);
+}
+inline bool ServiceStop(std::u16string_view AMaquina, std::u16string_view AServico, int ATempoLimite) {
+    return TOryUtilsSistema::PararServico(AMaquina, AServico, ATempoLimite);
+}
 
 }  // namespace OryUtils

@@ -11,7 +11,6 @@
 #include <deque>
 
 using namespace OryUtils;
-using Interno::TExecutorDeComando;
 using namespace Interno;
 
 namespace {
@@ -120,6 +119,10 @@ TEST(Firewall, ProgramasDeVerdadeRecebemOsArgumentos) {
               "netsh|advfirewall|firewall|delete|rule|name=Ory|program=/a b/c\n");
 }
 
+TSituacaoServico Estado(std::uint32_t AEstado, std::uint32_t APonto, int AEspera) {
+    return {AEstado, APonto, std::chrono::milliseconds(AEspera)};
+}
+
 /// What a scripted service answers, one situation a question; the last one stays.
 struct TRoteiro {
     std::deque<std::optional<TSituacaoServico>> Situacoes{};
@@ -223,12 +226,15 @@ TEST(Servicos, InicioEsperaOCaminhoDoServico) {
         bool Aceita, Roda;
     };
     for (const TCaso& caso : {
-             TCaso{"through its check points", {{{2, 1, 1}}, {{2, 2, 1}}, {{2, 2, 1}}, {{4, 0, 0}}}, true, true},
-             TCaso{"check point backwards", {{{2, 5, 1}}, {{2, 1, 1}}, {{4, 0, 0}}}, true, false},
-             TCaso{"no answer any more", {{{2, 1, 1}}, std::nullopt}, true, false},
-             TCaso{"ended on its way", {{{2, 0, 1}}, {{1, 0, 0}}}, true, false},
-             TCaso{"runs already", {{{4, 0, 0}}}, false, true},
-             TCaso{"refused", {{{1, 0, 0}}}, false, false},
+             TCaso{"through its check points",
+                   {Estado(2, 1, 1), Estado(2, 2, 1), Estado(2, 2, 1), Estado(4, 0, 0)},
+                   true,
+                   true},
+             TCaso{"check point backwards", {Estado(2, 5, 1), Estado(2, 1, 1), Estado(4, 0, 0)}, true, false},
+             TCaso{"no answer any more", {Estado(2, 1, 1), std::nullopt}, true, false},
+             TCaso{"ended on its way", {Estado(2, 0, 1), Estado(1, 0, 0)}, true, false},
+             TCaso{"runs already", {Estado(4, 0, 0)}, false, true},
+             TCaso{"refused", {Estado(1, 0, 0)}, false, false},
          }) {
         TRoteiro roteiro{caso.Situacoes, caso.Aceita};
         EXPECT_EQ(Interno::IniciarServico(Abrir(roteiro), u"", u"Ory"), caso.Roda) << caso.Por;
@@ -247,16 +253,16 @@ TEST(Servicos, ParadaEsgotaOLimite) {
         const char* Registro;
     };
     for (const TCaso& caso : {
-             TCaso{"in time", {{{3, 1, 1}}, {{3, 2, 1}}, {{1, 0, 0}}}, true, 60, true, "parar "},
-             TCaso{"no time at all", {{{3, 1, 1}}, {{3, 1, 1}}, {{1, 1, 0}}}, true, 0, true, "parar id "},
+             TCaso{"in time", {Estado(3, 1, 1), Estado(3, 2, 1), Estado(1, 0, 0)}, true, 60, true, "parar "},
+             TCaso{"no time at all", {Estado(3, 1, 1), Estado(3, 1, 1), Estado(1, 1, 0)}, true, 0, true, "parar id "},
              TCaso{"a second of hint uses the limit up; the next round ends the process",
-                   {{{3, 1, 1000}}, {{3, 1, 1}}, {{3, 1, 1}}, {{1, 1, 0}}},
+                   {Estado(3, 1, 1000), Estado(3, 1, 1), Estado(3, 1, 1), Estado(1, 1, 0)},
                    true,
                    1,
                    true,
                    "parar id "},
-             TCaso{"stopped already", {{{1, 0, 0}}}, false, 60, true, "parar "},
-             TCaso{"refused", {{{4, 0, 0}}}, false, 60, false, "parar "},
+             TCaso{"stopped already", {Estado(1, 0, 0)}, false, 60, true, "parar "},
+             TCaso{"refused", {Estado(4, 0, 0)}, false, 60, false, "parar "},
          }) {
         TRoteiro roteiro{caso.Situacoes, caso.Aceita};
         EXPECT_EQ(Interno::PararServico(Abrir(roteiro), u"", u"Ory", caso.Limite), caso.Parou) << caso.Por;

@@ -52,12 +52,4 @@ TResultStatus TOryUtilsSistema::ConfigurouDadosAdicionaisServico(std::u16string_
     return Interno::ConfigurouDadosAdicionaisServico(ExecutarComandoDoSistema, AServico, AConfiguracoes);
 }
 
-bool ServiceStart(std::u16string_view AMaquina, std::u16string_view AServico) {
-    return TOryUtilsSistema::IniciarServico(AMaquina, AServico);
-}
-
-bool ServiceStop(std::u16string_view AMaquina, std::u16string_view AServico, int ATempoLimite) {
-    return TOryUtilsSistema::PararServico(AMaquina, AServico, ATempoLimite);
-}
-
 }  // namespace OryUtils

@@ -1,8 +1,7 @@
-#include "oryutils/platform/Processos.hpp"
-
 #include "oryutils/characters/Caixa.hpp"
 #include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/characters/Utf.hpp"
+#include "oryutils/platform/Processos.hpp"
 #include "oryutils/runtime/FormatoNumero.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
@@ -96,26 +95,5 @@ std::u16string TOryUtilsSistema::BuscarMemoriaUsadaProcesso(std::u16string_view 
 
 void TOryUtilsSistema::LiberarMemoriaResidualProcesso() { Interno::LiberarMemoria(); }
 void TOryUtilsSistema::AbrirPropriedadesDataHora() { Interno::AbrirConfiguracaoDeDataHora(); }
-
-std::unique_ptr<TProcessoItems> GetListaDeProcessosWindows(std::u16string_view AUsuario) {
-    return TOryUtilsSistema::BuscarListaDeProcessosWindows(AUsuario);
-}
-bool ProcessIsRunning(std::u16string_view AProcesso, std::u16string_view AUsuario) {
-    return TOryUtilsSistema::ProcessoEstahRodando(AProcesso, AUsuario);
-}
-bool ProcessIsRunning(std::uint32_t AIDProcesso, std::u16string_view AUsuario) {
-    return TOryUtilsSistema::ProcessoEstahRodando(AIDProcesso, AUsuario);
-}
-bool KillProcess(std::u16string_view AExecutavel) { return TOryUtilsSistema::FinalizouProcesso(AExecutavel); }
-TAlcaDeProcesso GetEnderecoMemoriaProcesso(std::u16string_view AProcesso) {
-    return TOryUtilsSistema::BuscarEnderecoMemoriaProcesso(AProcesso);
-}
-std::u16string GetMemoriaUsadaProcesso(std::u16string_view AProcesso) {
-    return TOryUtilsSistema::BuscarMemoriaUsadaProcesso(AProcesso);
-}
-void GetUsuarioEDominioDoProcesso(std::uint32_t AIDProcesso, std::u16string& AUsuario, std::u16string& ADominio) {
-    TOryUtilsSistema::BuscarUsuarioEDominioDoProcesso(AIDProcesso, AUsuario, ADominio);
-}
-void AbrirPropriedadesDataHora() { TOryUtilsSistema::AbrirPropriedadesDataHora(); }
 
 }  // namespace OryUtils

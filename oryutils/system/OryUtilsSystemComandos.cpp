@@ -96,15 +96,4 @@ void TOryUtilsSistema::Dormir(std::uint32_t AMilissegundos) {
         if (Interno::EsperarMensagens(resta) == Interno::epMensagens) ProcessarMensagens();
 }
 
-void ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando, std::vector<std::u16string>& ASaida) {
-    TOryUtilsSistema::ExecutarComandoComRetorno(ALinhaDeComando, ASaida);
-}
-std::u16string ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando) {
-    return TOryUtilsSistema::ExecutarComandoComRetorno(ALinhaDeComando);
-}
-bool ExecutarComando(std::u16string_view AComando, bool AAguardar, bool AExibir) {
-    return TOryUtilsSistema::ExecutouComando(AComando, AAguardar, AExibir);
-}
-bool EhSistemaOperacional64bits() { return TOryUtilsSistema::EhSistemaOperacional64bits(); }
-
 }  // namespace OryUtils
