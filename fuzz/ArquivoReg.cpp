@@ -1,4 +1,4 @@
-// Any text of an exported registry file and any edit: what is written reads back, and all else stays as it was.
+// Any text of an exported registry file and any edit: what is written reads back, and all other values stay.
 #include "oryutils/readers/ArquivoReg.hpp"
 
 #include "oryutils/characters/Caixa.hpp"
@@ -11,6 +11,7 @@
 
 using namespace OryUtils;
 using Interno::TArquivoReg;
+using Interno::TChaveReg;
 using Interno::TDadoRegistro;
 
 namespace {
@@ -18,26 +19,20 @@ namespace {
 using TConteudo = std::map<std::u16string, std::map<std::u16string, TDadoRegistro>>;
 
 // Every value of every key, by lower-case names.
-void Ler(const TArquivoReg& AArquivo, const std::u16string& AChave, TConteudo& AConteudo, int ANivel = 0) {
-    Fuzz::Exigir(AArquivo.ExisteChave(AChave));
-    auto& valores = AConteudo[MinusculaDe(AChave)];
-    for (const auto& nome : AArquivo.ListarValores(AChave)) {
-        const auto dado = AArquivo.Ler(AChave, nome);
-        Fuzz::Exigir(dado.has_value());
-        valores[MinusculaDe(nome)] = *dado;
-    }
-    if (ANivel < 6)
-        for (const auto& nome : AArquivo.ListarSubchaves(AChave))
-            Ler(AArquivo, AChave + u"\\" + nome, AConteudo, ANivel + 1);
+void Ler(const TChaveReg& AChave, const std::u16string& ACaminho, TConteudo& AConteudo) {
+    auto& valores = AConteudo[ACaminho];
+    for (const auto& [nome, dado] : AChave.Valores) valores[MinusculaDe(nome)] = dado;
+    for (const auto& [nome, subchave] : AChave.Subchaves)
+        Ler(*subchave, ACaminho + u"\\" + MinusculaDe(nome), AConteudo);
 }
-
-const std::u16string CRaiz = u"HKEY_LOCAL_MACHINE";
 
 TConteudo LerTudo(const TArquivoReg& AArquivo) {
     TConteudo conteudo;
-    Ler(AArquivo, CRaiz, conteudo);
+    for (const auto& [nome, raiz] : AArquivo.Topo.Subchaves) Ler(*raiz, MinusculaDe(nome), conteudo);
     return conteudo;
 }
+
+const std::u16string CRaiz = u"HKEY_LOCAL_MACHINE";
 
 // Pieces that such files are made of, and any character.
 std::u16string MontarTexto(Fuzz::TEntrada& AEntrada) {
@@ -60,7 +55,7 @@ std::u16string MontarTexto(Fuzz::TEntrada& AEntrada) {
                                                        u"; x",
                                                        u"[HKEY_LOCAL_MACHINE\\a\\b"};
     std::u16string texto = u"Windows Registry Editor Version 5.00\r\n";
-    // Each value is looked for from the top, in all of the file, after each edit: few pieces, and many inputs.
+    // Everything is compared after each edit: few pieces, and many inputs.
     for (int n = AEntrada.Byte() % 64; n > 0 && !AEntrada.Acabou(); --n) {
         const std::uint8_t qual = AEntrada.Byte();
         if (qual < 200)
@@ -74,8 +69,8 @@ std::u16string MontarTexto(Fuzz::TEntrada& AEntrada) {
 }  // namespace
 
 void Fuzz::Provar(TEntrada AEntrada) {
-    static_cast<void>(TArquivoReg::DeBytes(TEntrada(AEntrada).Bytes()));
-    auto arquivo = TArquivoReg::DeBytes("\xFF\xFE" + Interno::BytesDeUnidades(MontarTexto(AEntrada)));
+    static_cast<void>(Interno::LerArquivoReg(TEntrada(AEntrada).Bytes()));
+    auto arquivo = Interno::LerArquivoReg("\xFF\xFE" + Interno::BytesDeUnidades(MontarTexto(AEntrada)));
     if (!arquivo) return;
     TConteudo esperado = LerTudo(*arquivo);
     for (int passos = 0; passos < 4 && (passos == 0 || !AEntrada.Acabou()); ++passos) {
@@ -93,29 +88,32 @@ void Fuzz::Provar(TEntrada AEntrada) {
             case 0: {
                 TDadoRegistro dado{AEntrada.Byte() % 5u, {}};
                 for (int n = AEntrada.Byte() % 40; n > 0; --n) dado.Bytes += static_cast<char>(AEntrada.Byte());
-                arquivo->Gravar(chave, nome, dado);
+                arquivo->Topo.Criar(chave).Valores[nome] = dado;
                 acima();
                 esperado[MinusculaDe(chave)][MinusculaDe(nome)] = dado;
                 break;
             }
             case 1:
-                Exigir(arquivo->ExcluirValor(chave, nome) ==
-                       (existia && esperado[MinusculaDe(chave)].erase(MinusculaDe(nome)) == 1));
+                Exigir((arquivo->Topo.Buscar(chave) != nullptr) == existia);
+                if (existia)
+                    Exigir(arquivo->Topo.Buscar(chave)->Valores.erase(nome) ==
+                           esperado[MinusculaDe(chave)].erase(MinusculaDe(nome)));
                 break;
             case 2:
-                arquivo->CriarChave(chave);
+                arquivo->Topo.Criar(chave);
                 acima();
                 break;
             default:
-                Exigir(arquivo->ExcluirChave(chave) == (existia && chave != CRaiz));
-                if (chave != CRaiz)
-                    std::erase_if(esperado, [&](const auto& AItem) {
-                        return AItem.first == MinusculaDe(chave) || AItem.first.starts_with(MinusculaDe(chave) + u"\\");
-                    });
+                Exigir(arquivo->Topo.Excluir(chave) == existia);
+                std::erase_if(esperado, [&](const auto& AItem) {
+                    return AItem.first == MinusculaDe(chave) || AItem.first.starts_with(MinusculaDe(chave) + u"\\");
+                });
         }
         Exigir(LerTudo(*arquivo) == esperado);
-        // What was written is a file again.
-        const auto relido = TArquivoReg::DeBytes(arquivo->ParaBytes());
-        Exigir(relido && relido->ParaBytes() == arquivo->ParaBytes());
+        // The file that is written says the same and no more.
+        const std::string bytes = Interno::EscreverArquivoReg(arquivo->Topo);
+        const auto relido = Interno::LerArquivoReg(bytes);
+        Exigir(relido && !relido->PerdeuLinhas && LerTudo(*relido) == esperado &&
+               Interno::EscreverArquivoReg(relido->Topo) == bytes);
     }
 }

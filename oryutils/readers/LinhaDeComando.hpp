@@ -1,24 +1,22 @@
 #pragma once
 
-#include "oryutils/OryExport.hpp"
-
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace OryUtils::Interno {
 
-/// Splits a command line into program and arguments as CommandLineToArgvW of Windows does. A blank is a space or a tab.
-///   - A program that begins with a quote ends at the next quote. Another program ends at the next blank.
-///   - Blanks outside quotes separate the arguments. A quoted part may begin anywhere in an argument.
-///   - 2n backslashes before a quote give n backslashes, and the quote begins or ends a quoted part.
-///   - 2n + 1 backslashes before a quote give n backslashes and a quote of the text.
-///   - Other backslashes stand for themselves.
-///   - Three quotes in a row, the opening one included, give one quote of the text.
-/// A line that begins with a blank has an empty program. An empty line gives an empty list.
+/// Splits a command line into program and arguments as CommandLineToArgvW of Windows does:
+///   - the program goes up to the next quote when it begins with one, else up to the next blank (space or tab);
+///   - arguments are separated by blanks outside quotes; a quoted part may begin anywhere in one;
+///   - 2n backslashes before a quote are n backslashes, and the quote begins or ends a quoted part;
+///   - 2n + 1 backslashes before a quote are n backslashes and a quote of the text;
+///   - all other backslashes stand for themselves;
+///   - of three quotes in a row inside a quoted part, the second and the third make one quote of the text.
+/// A line that begins with a blank has an empty program. An empty line has no parts.
 /// Example:  u"\"C:\\a b\\x.exe\" /c \"d e\""  ->  C:\a b\x.exe, /c, d e
-ORY_API std::vector<std::u16string> SepararLinhaDeComando(std::u16string_view ALinha);
-/// Splits a text that holds arguments alone, without a program in front.
-ORY_API std::vector<std::u16string> SepararArgumentos(std::u16string_view AArgumentos);
+std::vector<std::u16string> SepararLinhaDeComando(std::u16string_view ALinha);
+/// The part behind the program by itself.
+std::vector<std::u16string> SepararArgumentos(std::u16string_view AArgumentos);
 
 }  // namespace OryUtils::Interno

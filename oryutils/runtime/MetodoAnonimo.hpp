@@ -23,7 +23,7 @@ public:
     /// Anything that can be called with these arguments; an empty std::function or a null function makes an empty one.
     template <typename T>
     requires(!std::same_as<std::remove_cvref_t<T>, TMetodoAnonimo> && std::invocable<std::decay_t<T>&, TArgs...>)
-        // What is required leaves copies to the constructor of copies.
+        // Copies go to the copy constructor: the requirement refuses TMetodoAnonimo itself.
         // NOLINTNEXTLINE(bugprone-forwarding-reference-overload)
         TMetodoAnonimo(T&& AChamavel) {
         std::function<void(TArgs...)> funcao(std::forward<T>(AChamavel));

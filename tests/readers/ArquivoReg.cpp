@@ -1,15 +1,11 @@
-// The text of exported registry files: read as an import reads it, edited without losing a character.
+// Exported registry files: read as an import reads them, written as an export shows them.
 #include "oryutils/readers/ArquivoReg.hpp"
 
 #include "oryutils/characters/Unidades.hpp"
 
 #include <gtest/gtest.h>
 
-#include <random>
-
 using namespace OryUtils::Interno;
-using OryUtils::Interno::BytesDeUnidades;
-using OryUtils::Interno::TArquivoReg;
 
 namespace {
 
@@ -19,7 +15,14 @@ std::string BytesDe(std::u16string_view AResto) {
     return "\xFF\xFE" + BytesDeUnidades(std::u16string(CCabecalho).append(AResto));
 }
 
-TArquivoReg Abrir(std::u16string_view AResto) { return TArquivoReg::DeBytes(BytesDe(AResto)).value(); }
+TArquivoReg Abrir(std::u16string_view AResto) { return LerArquivoReg(BytesDe(AResto)).value(); }
+
+// A value of HKEY_LOCAL_MACHINE\AChave; none when the key or the value is missing.
+std::optional<TDadoRegistro> Ler(TArquivoReg& AArquivo, std::u16string_view AChave, std::u16string_view AValor) {
+    TChaveReg* chave = AArquivo.Topo.Buscar(u"HKEY_LOCAL_MACHINE\\" + std::u16string(AChave));
+    if (!chave || !chave->Valores.contains(AValor)) return {};
+    return chave->Valores.find(AValor)->second;
+}
 
 TDadoRegistro Texto(std::u16string_view ATexto) { return {tdrTexto, BytesDeUnidades(std::u16string(ATexto) + u'\0')}; }
 TDadoRegistro Bytes(std::uint32_t ATipo, std::string_view ABytes) { return {ATipo, std::string(ABytes)}; }
@@ -48,37 +51,54 @@ TEST(ArquivoReg, LeCadaFormaDeValor) {
         {u"\"v\"=\"a\"\r\n[-HKEY_LOCAL_MACHINE\\K]", {}, "its key taken away"},
         {u"\"v\"=\"a\"\r\n[-HKEY_LOCAL_MACHINE]", {}, "the root taken away"},
         {u"\"v\"=\"a\"\r\n[-HKEY_LOCAL_MACHINE\\KK]", Texto(u"a"), "another key taken away"},
-        {u"[HKEY_LOCAL_MACHINE\\K", {}, "broken key"},
-        {u"[HKEY_LOCAL_MACHINE\\K\\\\L]\r\n\"v\"=\"a\"", {}, "below no key"},
-        {u"\"v\"=\"a", {}, "cut off"},
-        {u"\"v\"=\"a\r\n\"", {}, "a text does not go on in the next line"},
-        {u"\"v\"=\"C:\\x\"", {}, "no such escape"},
-        {u"\"v\"=\"a\"b", {}, "something behind it"},
-        {u"\"v\"=dword:123456789", {}, "too many digits"},
-        {u"\"v\"=dword:", {}, "no digits"},
-        {u"\"v\"=hex:01,", {}, "cut off behind a comma"},
-        {u"\"v\"=hex:01,\\", {}, "cut off where it goes on"},
-        {u"\"v\"=hex:001", {}, "three digits"},
-        {u"\"v\"=hex(g):01", {}, "no number of a kind"},
-        {u"\"v\"=hex(123456789):01", {}, "nor this"},
-        {u"\"v\"=HEX:01", {}, "capitals"},
-        {u"v=\"a\"", {}, "no quotes"},
         {u"@=\"a\"", {}, "the default value is another one"},
         {u"; \"v\"=\"a\"", {}, "a comment"},
         {u"", {}, "nothing"},
     };
     for (const auto& caso : casos) {
-        const TArquivoReg arquivo = Abrir(u"\r\n[HKEY_LOCAL_MACHINE\\K]\r\n" + std::u16string(caso.Linha));
-        EXPECT_EQ(arquivo.Ler(u"HKEY_LOCAL_MACHINE\\K", u"v"), caso.Esperado) << caso.Porque;
-        EXPECT_EQ(arquivo.ListarValores(u"HKEY_LOCAL_MACHINE\\K").size(),
-                  caso.Esperado.has_value() || caso.Linha.starts_with(u"@") ? 1u : 0u)
+        TArquivoReg arquivo = Abrir(u"\r\n[HKEY_LOCAL_MACHINE\\K]\r\n" + std::u16string(caso.Linha));
+        EXPECT_FALSE(arquivo.PerdeuLinhas) << caso.Porque;
+        EXPECT_EQ(Ler(arquivo, u"K", u"v"), caso.Esperado) << caso.Porque;
+        const TChaveReg* chave = arquivo.Topo.Buscar(u"hkey_local_machine\\k");
+        EXPECT_EQ(chave ? chave->Valores.size() : 0u, caso.Esperado || caso.Linha.starts_with(u"@") ? 1u : 0u)
             << caso.Porque;
     }
 }
 
+TEST(ArquivoReg, DizQuandoUmaLinhaNaoFoiEntendida) {
+    const std::pair<std::u16string_view, const char*> casos[] = {
+        {u"[HKEY_LOCAL_MACHINE\\K", "broken key"},
+        {u"[HKEY_LOCAL_MACHINE\\K\\\\L]\r\n\"v\"=\"a\"", "below no key"},
+        {u"\"v\"=\"a", "cut off"},
+        {u"\"v\"=\"a\r\n\"", "a text does not go on in the next line"},
+        {u"\"v\"=\"C:\\x\"", "no such escape"},
+        {u"\"v\"=\"a\"b", "something behind it"},
+        {u"\"v\"=dword:123456789", "too many digits"},
+        {u"\"v\"=dword:", "no digits"},
+        {u"\"v\"=hex:01,", "cut off behind a comma"},
+        {u"\"v\"=hex:01,\\", "cut off where it goes on"},
+        {u"\"v\"=hex:001", "three digits"},
+        {u"\"v\"=hex(g):01", "no number of a kind"},
+        {u"\"v\"=hex(123456789):01", "nor this"},
+        {u"\"v\"=HEX:01", "capitals"},
+        {u"v=\"a\"", "no quotes"},
+        {u"[-HKEY_LOCAL_MACHINE\\K]\r\n\"v\"=\"a\"", "below a key taken away"},
+        {u"\"w\"=hex:0z,\\\r\n\r\n", "no digit of a byte"},
+    };
+    for (const auto& [linha, porque] : casos) {
+        TArquivoReg arquivo = Abrir(u"[HKEY_LOCAL_MACHINE\\A]\r\n@=\"1\"\r\n[HKEY_LOCAL_MACHINE\\K]\r\n" +
+                                    std::u16string(linha) + u"\r\n[HKEY_LOCAL_MACHINE\\B]\r\n@=\"2\"");
+        EXPECT_TRUE(arquivo.PerdeuLinhas) << porque;
+        EXPECT_EQ(Ler(arquivo, u"K", u"v"), std::nullopt) << porque;
+        EXPECT_EQ(Ler(arquivo, u"A", u""), Texto(u"1")) << "what stands before, " << porque;
+        EXPECT_EQ(Ler(arquivo, u"B", u""), Texto(u"2")) << "what stands behind, " << porque;
+    }
+    EXPECT_TRUE(Abrir(u"\"v\"=\"a\"").PerdeuLinhas) << "a value of no key";
+}
+
 TEST(ArquivoReg, RecusaOQueNaoEhArquivoExportado) {
     const std::string bom = BytesDe(u"\r\n[HKEY_LOCAL_MACHINE\\K]\r\n");
-    ASSERT_TRUE(TArquivoReg::DeBytes(bom));
+    ASSERT_TRUE(LerArquivoReg(bom));
     const std::pair<std::string, const char*> casos[] = {
         {"", "empty"},
         {"\xFF\xFE", "the mark alone"},
@@ -89,59 +109,59 @@ TEST(ArquivoReg, RecusaOQueNaoEhArquivoExportado) {
         {"\xFF\xFE" + BytesDeUnidades(u"REGEDIT4\r\n"), "the older format"},
         {"\xFF\xFE" + BytesDeUnidades(u"Windows Registry Editor Version 5.001\r\n"), "another version"},
     };
-    for (const auto& [bytes, porque] : casos) EXPECT_FALSE(TArquivoReg::DeBytes(bytes)) << porque;
+    for (const auto& [bytes, porque] : casos) EXPECT_FALSE(LerArquivoReg(bytes)) << porque;
     // Cut anywhere else it still is one, with what came whole.
-    for (std::size_t i = 74; i < bom.size(); i += 2) EXPECT_TRUE(TArquivoReg::DeBytes(bom.substr(0, i))) << i;
+    for (std::size_t i = 74; i < bom.size(); i += 2) EXPECT_TRUE(LerArquivoReg(bom.substr(0, i))) << i;
 }
 
-TEST(ArquivoReg, EdicaoDeixaORestoComoEsta) {
+TEST(ArquivoReg, EscreveComoUmaExportacao) {
     constexpr std::u16string_view CAntes =
-        u"; topo\r\n\r\n[HKEY_LOCAL_MACHINE\\A]\r\n\"x\"=dword:00000001 ; "
-        u"nota\r\nlixo\r\n\"quebrado\"=hex:0z,\\\r\n\r\n"
-        u"[HKEY_LOCAL_MACHINE\\A\\B\\C]\n\"y\"=\"1\"\n; fim sem quebra";
-    static constexpr std::u16string_view CChave = u"HKEY_LOCAL_MACHINE\\a";
+        u"; topo\r\n\r\n[HKEY_LOCAL_MACHINE\\b\\C]\n\"Y\"=\"1\" ; nota\n\r\n"
+        u"[HKEY_LOCAL_MACHINE\\B]\r\n\"x\"=hex(1234):1,\\\r\n  02\r\n@=dword:A\r\n; fim sem quebra";
+    constexpr std::u16string_view CComAB =
+        u"\r\n[HKEY_LOCAL_MACHINE\\b]\r\n@=dword:0000000a\r\n\"x\"=hex(1234):01,02\r\n";
+    constexpr std::u16string_view CComC = u"\r\n[HKEY_LOCAL_MACHINE\\b\\C]\r\n\"Y\"=\"1\"\r\n";
+    static constexpr std::u16string_view CChave = u"HKEY_LOCAL_MACHINE\\b";
+    const auto juntar = [](auto... AParte) { return (std::u16string() + ... + std::u16string(AParte)); };
     const struct {
-        void (*Editar)(TArquivoReg&);
-        std::u16string_view De, Para;  // what changes of CAntes
+        void (*Editar)(TChaveReg&);
+        std::u16string Esperado;
         const char* Porque;
     } casos[] = {
-        {[](TArquivoReg& A) { A.Gravar(CChave, u"X", Bytes(4, std::string("\2\0\0\0", 4))); }, u"00000001", u"00000002",
-         "its comment stays"},
-        {[](TArquivoReg& A) { A.Gravar(CChave, u"n\"\\", Texto(u"\\")); }, u"hex:0z,\\\r\n",
-         u"hex:0z,\\\r\n\"n\\\"\\\\\"=\"\\\\\"\r\n", "a new value at the end of its key"},
-        {[](TArquivoReg& A) { A.Gravar(CChave, u"", Texto(u"\r")); }, u"hex:0z,\\\r\n",
-         u"hex:0z,\\\r\n@=hex(1):0d,00,00,00\r\n", "a control does not stand between quotes"},
-        {[](TArquivoReg& A) { A.ExcluirValor(CChave, u"x"); }, u"\"x\"=dword:00000001 ; nota\r\n", u"",
-         "one line less"},
-        {[](TArquivoReg& A) { A.CriarChave(u"HKEY_LOCAL_MACHINE\\A\\B"); }, u"", u"", "the key is there already"},
-        {[](TArquivoReg& A) { A.Gravar(u"HKEY_LOCAL_MACHINE\\A\\B", u"z", Texto(u"")); }, u"quebra",
-         u"quebra\r\n\r\n[HKEY_LOCAL_MACHINE\\A\\B]\r\n\"z\"=\"\"\r\n", "a key that only another one implies"},
-        {[](TArquivoReg& A) { A.ExcluirChave(u"HKEY_LOCAL_MACHINE\\A\\B\\C"); },
-         u"[HKEY_LOCAL_MACHINE\\A\\B\\C]\n\"y\"=\"1\"\n; fim sem quebra", u"\r\n[HKEY_LOCAL_MACHINE\\A\\B]\r\n",
-         "the key above stays"},
-        {[](TArquivoReg& A) { A.ExcluirChave(u"HKEY_LOCAL_MACHINE"); }, u"", u"", "a root stays"},
+        {[](TChaveReg&) {}, juntar(CComAB, CComC), "first spellings, in order, without comments"},
+        {[](TChaveReg& ATopo) { ATopo.Criar(u"HKEY_LOCAL_MACHINE\\B").Valores[u"X"] = Texto(u"\\\""); },
+         juntar(u"\r\n[HKEY_LOCAL_MACHINE\\b]\r\n@=dword:0000000a\r\n\"x\"=\"\\\\\\\"\"\r\n", CComC), "escapes"},
+        {[](TChaveReg& ATopo) { ATopo.Criar(CChave).Valores[u"z\"\\"] = Texto(u"\r"); },
+         juntar(CComAB, u"\"z\\\"\\\\\"=hex(1):0d,00,00,00\r\n", CComC), "a control does not stand between quotes"},
+        {[](TChaveReg& ATopo) { ATopo.Criar(u"HKEY_LOCAL_MACHINE\\B\\c"); }, juntar(CComAB, CComC), "it is there"},
+        {[](TChaveReg& ATopo) { ATopo.Criar(u"HKEY_LOCAL_MACHINE\\b\\d\\e"); },
+         juntar(CComAB, CComC, u"\r\n[HKEY_LOCAL_MACHINE\\b\\d\\e]\r\n"), "the one above is told by it"},
+        {[](TChaveReg& ATopo) { ATopo.Excluir(u"HKEY_LOCAL_MACHINE\\B\\c"); }, juntar(CComAB), "the key above stays"},
+        {[](TChaveReg& ATopo) { ATopo.Excluir(CChave); }, u"\r\n[HKEY_LOCAL_MACHINE]\r\n", "with all below it"},
+        {[](TChaveReg& ATopo) { ATopo.Excluir(u"HKEY_LOCAL_MACHINE\\x\\y"); }, juntar(CComAB, CComC), "no such key"},
     };
     for (const auto& caso : casos) {
         TArquivoReg arquivo = Abrir(CAntes);
-        caso.Editar(arquivo);
-        std::u16string esperado(CAntes);
-        if (!caso.De.empty()) esperado.replace(esperado.rfind(caso.De), caso.De.size(), caso.Para);
-        EXPECT_EQ(arquivo.ParaBytes(), BytesDe(esperado)) << caso.Porque;
-        EXPECT_EQ(arquivo.BuscarTamanho(), arquivo.ParaBytes().size());
+        caso.Editar(arquivo.Topo);
+        const std::string bytes = EscreverArquivoReg(arquivo.Topo);
+        EXPECT_EQ(bytes, BytesDe(caso.Esperado)) << caso.Porque;
+        EXPECT_EQ(EscreverArquivoReg(LerArquivoReg(bytes)->Topo), bytes) << caso.Porque;
     }
 }
 
 TEST(ArquivoReg, LinhasLongasQuebramAntesDaColuna80) {
-    TArquivoReg arquivo;
-    for (std::size_t tamanho = 0; tamanho < 200; ++tamanho) {
-        const TDadoRegistro dado{tdrBinario, std::string(tamanho, '\xA5')};
-        arquivo.Gravar(u"HKEY_LOCAL_MACHINE\\K", u"valor", dado);
-        ASSERT_EQ(arquivo.Ler(u"HKEY_LOCAL_MACHINE\\K", u"valor"), dado);
-    }
-    const std::u16string texto = OryUtils::Interno::UnidadesDeBytes(arquivo.ParaBytes());
+    TChaveReg topo;
+    for (std::size_t tamanho = 0; tamanho < 200; ++tamanho)
+        topo.Criar(u"HKEY_LOCAL_MACHINE\\K").Valores[u"valor" + std::u16string(tamanho, u'x')] = {
+            tdrBinario, std::string(tamanho, '\xA5')};
+    const std::string bytes = EscreverArquivoReg(topo);
+    EXPECT_EQ(LerArquivoReg(bytes)->Topo.Buscar(u"HKEY_LOCAL_MACHINE\\K")->Valores,
+              topo.Buscar(u"HKEY_LOCAL_MACHINE\\K")->Valores);
+    const std::u16string texto = UnidadesDeBytes(bytes);
     for (std::size_t inicio = 0; inicio < texto.size();) {
         const std::size_t fim = texto.find(u"\r\n", inicio);
-        EXPECT_LE(fim - inicio, 80u);
+        // A name is never broken.
+        EXPECT_LE(fim - inicio, texto[inicio] == u'"' && texto.find(u'=', inicio) - inicio > 65 ? 300u : 80u);
         inicio = fim + 2;
     }
 }
@@ -149,9 +169,10 @@ TEST(ArquivoReg, LinhasLongasQuebramAntesDaColuna80) {
 // A megabyte on one line, a hundred thousand keys, and every line one that asks to go on.
 TEST(ArquivoReg, AguentaOQueEhGrande) {
     const std::u16string milhao(1'000'000, u'"');
-    TArquivoReg arquivo;
-    arquivo.Gravar(u"HKEY_LOCAL_MACHINE\\K", u"v", Texto(milhao));
-    EXPECT_EQ(arquivo.Ler(u"HKEY_LOCAL_MACHINE\\K", u"v"), Texto(milhao));
+    TChaveReg topo;
+    topo.Criar(u"HKEY_LOCAL_MACHINE\\K").Valores[u"v"] = Texto(milhao);
+    TArquivoReg arquivo = *LerArquivoReg(EscreverArquivoReg(topo));
+    EXPECT_EQ(Ler(arquivo, u"K", u"v"), Texto(milhao));
 
     std::u16string chaves, emendas;
     for (int i = 0; i < 100'000; ++i) {
@@ -160,8 +181,8 @@ TEST(ArquivoReg, AguentaOQueEhGrande) {
         chaves += u"]\r\n";
         emendas += u"\"v\"=hex:\\\r\n00,\\\r\n";
     }
-    EXPECT_EQ(Abrir(chaves).ListarSubchaves(u"hkey_local_machine\\k").size(), 100'000u);
-    EXPECT_FALSE(Abrir(u"[HKEY_LOCAL_MACHINE\\K]\r\n" + emendas).Ler(u"HKEY_LOCAL_MACHINE\\K", u"v"));
+    EXPECT_EQ(Abrir(chaves).Topo.Buscar(u"hkey_local_machine\\k")->Subchaves.size(), 100'000u);
+    EXPECT_TRUE(Abrir(u"[HKEY_LOCAL_MACHINE\\K]\r\n" + emendas).PerdeuLinhas);
 }
 
 }  // namespace

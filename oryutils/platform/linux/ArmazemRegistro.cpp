@@ -1,6 +1,7 @@
 #include "oryutils/platform/linux/ArmazemRegistro.hpp"
 
 #include "oryutils/characters/Unidades.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/PastasDoSistema.hpp"
 #include "oryutils/platform/linux/Descritor.hpp"
 #include "oryutils/platform/linux/Exibicao.hpp"
@@ -10,11 +11,11 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
-#include <vector>
 
 namespace OryUtils::Interno {
 namespace {
@@ -40,19 +41,9 @@ constexpr std::array CChavesDoUsuario{
 constexpr std::u16string_view CChaveDosProgramas = u"HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion";
 
 TErroRegistro DeErrno(int AErro, TErroRegistro ADemais) {
-    switch (AErro) {
-        case EACCES:
-        case EPERM:
-        case EROFS:
-            return erAcessoNegado;
-        case ENOSPC:
-        case EDQUOT:
-            return erDiscoCheio;
-        case EFBIG:
-            return erArquivoGrande;
-        default:
-            return ADemais;
-    }
+    if (AErro == EACCES || AErro == EPERM || AErro == EROFS) return erAcessoNegado;
+    if (AErro == ENOSPC || AErro == EDQUOT) return erDiscoCheio;
+    return AErro == EFBIG ? erArquivoGrande : ADemais;
 }
 
 std::string BuscarPastaDoUsuario() {
@@ -64,9 +55,8 @@ std::string BuscarPastaDoUsuario() {
 }
 
 std::string BuscarPastaAcima(const std::string& APasta) {
-    const std::size_t barra = APasta.find_last_not_of('/') == APasta.npos ? 0 : APasta.rfind('/');
-    if (barra == APasta.npos) return ".";
-    return barra == 0 ? "/" : APasta.substr(0, barra);
+    const std::string acima = std::filesystem::path(APasta).parent_path();
+    return acima.empty() ? "." : acima;
 }
 
 // What root makes in a user's folder (sudo with the user's HOME) belongs to that user, or would lock the user out.
@@ -90,28 +80,26 @@ bool CriarPasta(const std::string& APasta, mode_t AModo) {
     return !pasta.Falhou() && ::fchmod(pasta.Get(), AModo) == 0 && HerdarDono(pasta, acima);
 }
 
-TArquivoReg CriarArmazemNovo(std::string_view ARaiz) {
-    TArquivoReg arquivo;
+void CriarArmazemNovo(TChaveReg& ATopo, std::string_view ARaiz) {
     if (ARaiz == "HKEY_CURRENT_USER") {
-        for (const char16_t* chave : CChavesDoUsuario) arquivo.CriarChave(chave);
-        return arquivo;
+        for (const char16_t* chave : CChavesDoUsuario) ATopo.Criar(chave);
+        return;
     }
-    for (const char16_t* chave : CChavesDaMaquina) arquivo.CriarChave(chave);
-    arquivo.Gravar(CChaveDosProgramas, u"ProgramFilesDir",
-                   {tdrTexto, BytesDeUnidades(BuscarPastaDeProgramasPadrao() + u'\0')});
-    return arquivo;
+    for (const char16_t* chave : CChavesDaMaquina) ATopo.Criar(chave);
+    ATopo.Criar(CChaveDosProgramas).Valores[u"ProgramFilesDir"] = {
+        tdrTexto, BytesDeUnidades(BuscarPastaDeProgramasPadrao() + u'\0')};
 }
 
 // The whole file, at most CMaiorArquivo.
-TErroRegistro LerBytes(int AAlca, std::string& ABytes) {
+TErroRegistro LerBytes(const TDescritor& AEntrada, std::string& ABytes) {
     struct stat dados {};
-    if (::fstat(AAlca, &dados) != 0) return erFalhaDeLeitura;
+    if (::fstat(AEntrada.Get(), &dados) != 0) return erFalhaDeLeitura;
     if (!S_ISREG(dados.st_mode)) return erCorrompido;
     if (dados.st_size > static_cast<off_t>(CMaiorArquivo)) return erArquivoGrande;
     ABytes.resize(static_cast<std::size_t>(dados.st_size));
     std::size_t lidos = 0;
     while (lidos < ABytes.size()) {
-        const ssize_t parte = ::read(AAlca, ABytes.data() + lidos, ABytes.size() - lidos);
+        const ssize_t parte = ::read(AEntrada.Get(), ABytes.data() + lidos, ABytes.size() - lidos);
         if (parte < 0 && errno == EINTR) continue;
         if (parte < 0) return erFalhaDeLeitura;
         if (parte == 0) break;
@@ -195,31 +183,34 @@ TErroRegistro LerArmazem(const TLocalDoArmazem& ALocal, TArquivoReg& AArquivo) {
     const TDescritor entrada(::open(ALocal.BuscarArquivo().c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     std::string bytes;
     if (!entrada.Falhou()) {
-        if (const TErroRegistro erro = LerBytes(entrada.Get(), bytes); erro != erNenhum) return erro;
+        if (const TErroRegistro erro = LerBytes(entrada, bytes); erro != erNenhum) return erro;
     } else if (errno != ENOENT) {
         return DeErrno(errno, erFalhaDeLeitura);
     }
+    AArquivo = {};
     if (bytes.empty()) {
-        AArquivo = CriarArmazemNovo(ALocal.Raiz);
-        return erNenhum;
+        CriarArmazemNovo(AArquivo.Topo, ALocal.Raiz);
+    } else {
+        auto lido = LerArquivoReg(bytes);
+        if (!lido) return erCorrompido;
+        AArquivo = *std::move(lido);
     }
-    auto lido = TArquivoReg::DeBytes(bytes);
-    if (!lido) return erCorrompido;
-    AArquivo = *std::move(lido);
+    AArquivo.Topo.Criar(DeUtf8(ALocal.Raiz));
     return erNenhum;
 }
 
-TErroRegistro AlterarArmazem(const TLocalDoArmazem& ALocal, TEdicaoDoArmazem AEdicao, const void* AContexto) {
+TErroRegistro AlterarArmazem(const TLocalDoArmazem& ALocal, const std::function<TErroRegistro(TChaveReg&)>& AEdicao) {
     if (ALocal.Pasta.empty()) return erAcessoNegado;
     if (!CriarPasta(ALocal.Pasta, ALocal.ModoDaPasta)) return DeErrno(errno, erFalhaDeGravacao);
-    // A file of its own, since the store's is another one after each edit.
+    // The lock is a file of its own: the store's name leads to another file after each edit.
     const TDescritor trava(AbrirTrava(ALocal));
     if (trava.Falhou() || !Travar(trava)) return DeErrno(errno, erFalhaDeGravacao);
     TArquivoReg arquivo;
     if (const TErroRegistro erro = LerArmazem(ALocal, arquivo); erro != erNenhum) return erro;
-    if (const TErroRegistro erro = AEdicao(arquivo, AContexto); erro != erNenhum) return erro;
-    if (arquivo.BuscarTamanho() > CMaiorArquivo) return erArquivoGrande;
-    return Substituir(ALocal, arquivo.ParaBytes());
+    if (arquivo.PerdeuLinhas) return erCorrompido;
+    if (const TErroRegistro erro = AEdicao(arquivo.Topo); erro != erNenhum) return erro;
+    const std::string bytes = EscreverArquivoReg(arquivo.Topo);
+    return bytes.size() > CMaiorArquivo ? erArquivoGrande : Substituir(ALocal, bytes);
 }
 
 }  // namespace OryUtils::Interno

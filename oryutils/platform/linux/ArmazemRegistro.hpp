@@ -4,6 +4,7 @@
 #include "oryutils/readers/ArquivoReg.hpp"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -27,22 +28,12 @@ TLocalDoArmazem BuscarLocalDoArmazem(TChaveRaiz ARaiz);
 /// True when this process may replace the file; folders that are missing count as what they would be created in.
 bool PodeGravarNoArmazem(const TLocalDoArmazem& ALocal);
 
-/// What the file holds now, or the store as it is born when there is no file. Never sees a half-written file.
+/// What the file holds now, or the store as it is born when there is no file; its root is always there. Never sees a
+/// half-written file.
 TErroRegistro LerArmazem(const TLocalDoArmazem& ALocal, TArquivoReg& AArquivo);
 
-/// An edit; erNenhum when the text shall be written.
-using TEdicaoDoArmazem = TErroRegistro (*)(TArquivoReg& AArquivo, const void* AContexto);
-
-/// Reads, edits and replaces the file while no other process or thread does; waits for its turn.
-TErroRegistro AlterarArmazem(const TLocalDoArmazem& ALocal, TEdicaoDoArmazem AEdicao, const void* AContexto);
-
-/// As above with a callable.
-template <typename TAcao>
-TErroRegistro AlterarArmazem(const TLocalDoArmazem& ALocal, const TAcao& AAcao) {
-    return AlterarArmazem(
-        ALocal,
-        [](TArquivoReg& AArquivo, const void* AContexto) { return (*static_cast<const TAcao*>(AContexto))(AArquivo); },
-        &AAcao);
-}
+/// Reads, edits (AEdicao gets the top of the keys) and replaces the file while no other process or thread does; waits
+/// for its turn. Nothing is written when AEdicao gives another result than erNenhum.
+TErroRegistro AlterarArmazem(const TLocalDoArmazem& ALocal, const std::function<TErroRegistro(TChaveReg&)>& AEdicao);
 
 }  // namespace OryUtils::Interno

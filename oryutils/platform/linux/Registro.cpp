@@ -5,12 +5,9 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
 
 namespace OryUtils::Interno {
 namespace {
-
-using Interno::TArquivoReg;
 
 // Rights of an access mask.
 constexpr std::uint32_t CLerValores = 0x1;
@@ -50,28 +47,37 @@ constexpr std::array CApelidos{
     TApelidoDeRaiz{crCurrentUser, u"HKEY_CURRENT_USER"},
 };
 
+TErroRegistro ListarNomes(const auto& AMapa, std::vector<std::u16string>& ANomes) {
+    ANomes.clear();
+    for (const auto& [nome, conteudo] : AMapa) ANomes.push_back(nome);
+    return erNenhum;
+}
+
 }  // namespace
 
 struct TChaveRegistro::TDados {
-    Interno::TLocalDoArmazem Local;
+    TLocalDoArmazem Local;
     std::u16string Chave;  // full path in the store's file
     std::uint32_t Acesso;
 
     bool Permite(std::uint32_t ADireitos) const { return (Acesso & ADireitos) == ADireitos; }
 
-    /// Reads the store for AAcao (TArquivoReg) while the key exists and the mask has ADireitos.
+    /// Calls AAcao with the key as the store has it now, when the mask has ADireitos.
     template <typename TAcao>
     TErroRegistro Consultar(std::uint32_t ADireitos, TAcao AAcao) const {
         if (!Permite(ADireitos)) return erAcessoNegado;
         TArquivoReg arquivo;
         if (const TErroRegistro erro = LerArmazem(Local, arquivo); erro != erNenhum) return erro;
-        return arquivo.ExisteChave(Chave) ? AAcao(std::as_const(arquivo)) : erChaveExcluida;
+        const TChaveReg* chave = arquivo.Topo.Buscar(Chave);
+        return chave ? AAcao(*chave) : erChaveExcluida;
     }
+    /// The same, and writes the store.
     template <typename TAcao>
     TErroRegistro Alterar(std::uint32_t ADireitos, TAcao AAcao) const {
         if (!Permite(ADireitos)) return erAcessoNegado;
-        return AlterarArmazem(Local, [&](TArquivoReg& AArquivo) {
-            return AArquivo.ExisteChave(Chave) ? AAcao(AArquivo) : erChaveExcluida;
+        return AlterarArmazem(Local, [&](TChaveReg& ATopo) {
+            TChaveReg* chave = ATopo.Buscar(Chave);
+            return chave ? AAcao(*chave) : erChaveExcluida;
         });
     }
 };
@@ -86,20 +92,20 @@ TErroRegistro TChaveRegistro::Abrir(TChaveRaiz ARaiz, std::u16string_view ACamin
     const auto* apelido = std::find_if(CApelidos.begin(), CApelidos.end(),
                                        [&](const TApelidoDeRaiz& AItem) { return AItem.Raiz == ARaiz; });
     if (apelido == CApelidos.end()) return erAlcaInvalida;
-    const std::u16string caminho = Interno::NormalizarCaminho(ACaminho);
+    const std::u16string caminho = NormalizarCaminho(ACaminho);
     std::u16string chave(apelido->Chave);
     if (!caminho.empty()) chave.append(u"\\").append(caminho);
-    if (!Interno::EhCaminhoValido(chave)) return erNomeInvalido;
-    const auto local = Interno::BuscarLocalDoArmazem(ARaiz);
+    if (!EhCaminhoValido(chave)) return erNomeInvalido;
+    const auto local = BuscarLocalDoArmazem(ARaiz);
 
     TArquivoReg arquivo;
     if (const TErroRegistro erro = LerArmazem(local, arquivo); erro != erNenhum) return erro;
-    const bool existe = arquivo.ExisteChave(chave);
+    const bool existe = arquivo.Topo.Buscar(chave) != nullptr;
     if (!existe && !ACriar) return erNaoExiste;
     if ((AAcesso & CDireitosDeGravacao) != 0 && !PodeGravarNoArmazem(local)) return erAcessoNegado;
     if (!existe) {
-        const TErroRegistro erro = AlterarArmazem(local, [&](TArquivoReg& AArquivo) {
-            AArquivo.CriarChave(chave);
+        const TErroRegistro erro = AlterarArmazem(local, [&](TChaveReg& ATopo) {
+            ATopo.Criar(chave);
             return erNenhum;
         });
         if (erro != erNenhum) return erro;
@@ -113,53 +119,46 @@ bool TChaveRegistro::EstahAberta() const noexcept { return FDados != nullptr; }
 
 TErroRegistro TChaveRegistro::Ler(std::u16string_view AValor, TDadoRegistro& ADado) const {
     if (!FDados) return erAlcaInvalida;
-    return FDados->Consultar(CLerValores, [&](const TArquivoReg& AArquivo) {
-        auto dado = AArquivo.Ler(FDados->Chave, AValor);
-        if (!dado) return erNaoExiste;
-        ADado = *std::move(dado);
+    return FDados->Consultar(CLerValores, [&](const TChaveReg& AChave) {
+        const auto valor = AChave.Valores.find(AValor);
+        if (valor == AChave.Valores.end()) return erNaoExiste;
+        ADado = valor->second;
         return erNenhum;
     });
 }
 
 TErroRegistro TChaveRegistro::Gravar(std::u16string_view AValor, const TDadoRegistro& ADado) {
     if (!FDados) return erAlcaInvalida;
-    if (!Interno::EhNomeDeValorValido(AValor)) return erNomeInvalido;
-    return FDados->Alterar(CGravarValores, [&](TArquivoReg& AArquivo) {
-        AArquivo.Gravar(FDados->Chave, AValor, ADado);
+    if (!EhNomeDeValorValido(AValor)) return erNomeInvalido;
+    return FDados->Alterar(CGravarValores, [&](TChaveReg& AChave) {
+        AChave.Valores[std::u16string(AValor)] = ADado;
         return erNenhum;
     });
 }
 
 TErroRegistro TChaveRegistro::ExcluirValor(std::u16string_view AValor) {
     if (!FDados) return erAlcaInvalida;
-    return FDados->Alterar(CGravarValores, [&](TArquivoReg& AArquivo) {
-        return AArquivo.ExcluirValor(FDados->Chave, AValor) ? erNenhum : erNaoExiste;
+    return FDados->Alterar(CGravarValores, [&](TChaveReg& AChave) {
+        return AChave.Valores.erase(std::u16string(AValor)) > 0 ? erNenhum : erNaoExiste;
     });
 }
 
 TErroRegistro TChaveRegistro::ExcluirSubchave(std::u16string_view ASubchave) {
     if (!FDados) return erAlcaInvalida;
-    if (!Interno::EhNomeDeSubchaveValido(ASubchave)) return erNomeInvalido;
-    return FDados->Alterar(CExcluir, [&](TArquivoReg& AArquivo) {
-        const std::u16string chave = FDados->Chave + u"\\" + std::u16string(ASubchave);
-        return AArquivo.ExcluirChave(chave) ? erNenhum : erNaoExiste;
-    });
+    if (!EhNomeDeSubchaveValido(ASubchave)) return erNomeInvalido;
+    return FDados->Alterar(CExcluir,
+                           [&](TChaveReg& AChave) { return AChave.Excluir(ASubchave) ? erNenhum : erNaoExiste; });
 }
 
 TErroRegistro TChaveRegistro::ListarSubchaves(std::vector<std::u16string>& ANomes) const {
     if (!FDados) return erAlcaInvalida;
-    return FDados->Consultar(CListarSubchaves, [&](const TArquivoReg& AArquivo) {
-        ANomes = AArquivo.ListarSubchaves(FDados->Chave);
-        return erNenhum;
-    });
+    return FDados->Consultar(CListarSubchaves,
+                             [&](const TChaveReg& AChave) { return ListarNomes(AChave.Subchaves, ANomes); });
 }
 
 TErroRegistro TChaveRegistro::ListarValores(std::vector<std::u16string>& ANomes) const {
     if (!FDados) return erAlcaInvalida;
-    return FDados->Consultar(CLerValores, [&](const TArquivoReg& AArquivo) {
-        ANomes = AArquivo.ListarValores(FDados->Chave);
-        return erNenhum;
-    });
+    return FDados->Consultar(CLerValores, [&](const TChaveReg& AChave) { return ListarNomes(AChave.Valores, ANomes); });
 }
 
 std::u16string BuscarTextoDoErroRegistro(TErroRegistro AErro) {

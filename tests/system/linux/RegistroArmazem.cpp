@@ -1,6 +1,5 @@
 // The store's files: writers that are killed, writers at once, who may read, where they live, what damage does.
 #include "oryutils/characters/Unidades.hpp"
-#include "oryutils/readers/ArquivoReg.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
 #include "oryutils/system/OryUtilsRegistry.hpp"
 
@@ -71,8 +70,9 @@ TEST_F(TArmazem, MilGravadoresMortosNaoEstragamNada) {
     const unsigned semente = std::random_device()();
     SCOPED_TRACE(semente);
     std::mt19937 sorteio(semente);
-    const std::string nota = Interno::BytesDeUnidades(u"; nota de quem administra\r\n");
-    EscreverArquivo(LerArquivo() + nota);
+    // A value of a kind that nobody knows, besides those that are written.
+    EscreverArquivo(LerArquivo() + Interno::BytesDeUnidades(u"[HKEY_LOCAL_MACHINE\\" + std::u16string(CChave) +
+                                                            u"]\r\n\"outro\"=hex(abcd):01\r\n"));
 
     long escrito = -1;
     std::vector<std::u16string> esperados(CNomes);
@@ -104,7 +104,7 @@ TEST_F(TArmazem, MilGravadoresMortosNaoEstragamNada) {
         }
     }
     EXPECT_GT(mortosNoMeio, 0) << "some must have been writing when they were killed";
-    EXPECT_NE(LerArquivo().find(nota), std::string::npos);
+    EXPECT_EQ(Teste::LerDoSistema(CChave, u"outro"), u"hex(abcd):01");
 }
 
 TEST_F(TArmazem, OitoGravadoresAoMesmoTempoNaoPerdemNada) {
@@ -195,6 +195,13 @@ TEST_F(TArmazem, ArquivoEstragadoFicaComoEsta) {
         EXPECT_EQ(registro.GetValorRegistro(crLocalMachine, CChave, u"x"), u"");
         EXPECT_EQ(LerArquivo(), bytes);
     }
+    const std::string quaseBom =
+        "\xFF\xFE" + Interno::BytesDeUnidades(u"Windows Registry Editor Version 5.00\r\n\r\n[HKEY_LOCAL_MACHINE\\" +
+                                              std::u16string(CChave) + u"]\r\n\"x\"=\"lido\"\r\n\"y\"=\"cortado");
+    EscreverArquivo(quaseBom);
+    EXPECT_EQ(registro.GetValorRegistro(crLocalMachine, CChave, u"x"), u"lido") << "what is understood is read";
+    EXPECT_FALSE(registro.AdicionouValor(crLocalMachine, CChave, 1, u"x").Status) << "writing would lose a line";
+    EXPECT_EQ(LerArquivo(), quaseBom);
     std::filesystem::resize_file(BuscarArquivo(), (64u << 20) + 2);
     EXPECT_FALSE(Acessor.OpenKey(CChave, false));
     EXPECT_EQ(Acessor.GetUltimoErro(), Interno::erArquivoGrande);

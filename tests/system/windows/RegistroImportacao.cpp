@@ -11,7 +11,6 @@
 
 using namespace OryUtils;
 using Interno::BytesDeUnidades;
-using Interno::TArquivoReg;
 using Interno::TDadoRegistro;
 using Teste::TRegistro;
 
@@ -45,12 +44,11 @@ TEST_F(TRegistro, EditorDoSistemaImportaEExporta) {
         {u"binário", {Interno::tdrBinario, std::string(300, '\x5A')}},
         {u"nada", {Interno::tdrNenhum, ""}},
     };
-    TArquivoReg arquivo;
-    arquivo.CriarChave(chave);
-    for (const auto& [nome, dado] : valores) arquivo.Gravar(chave, nome, dado);
+    Interno::TChaveReg topo;
+    for (const auto& [nome, dado] : valores) topo.Criar(chave).Valores[nome] = dado;
     const auto pasta = std::filesystem::temp_directory_path();
     const auto caminho = pasta / "oryutils-teste.reg";
-    std::ofstream(caminho, std::ios::binary) << arquivo.ParaBytes();
+    std::ofstream(caminho, std::ios::binary) << Interno::EscreverArquivoReg(topo);
     ExecutarRegedit(u"/S \"" + caminho.u16string() + u"\"");
 
     Interno::TChaveRegistro aberta;
@@ -68,14 +66,16 @@ TEST_F(TRegistro, EditorDoSistemaImportaEExporta) {
     ExecutarRegedit(u"/E \"" + caminho.u16string() + u"\" \"HKEY_LOCAL_MACHINE\\" + std::u16string(Teste::CChave) +
                     u"\"");
     std::ifstream exportado(caminho, std::ios::binary);
-    const auto lido = TArquivoReg::DeBytes(std::string{std::istreambuf_iterator<char>(exportado), {}});
+    auto lido = Interno::LerArquivoReg(std::string{std::istreambuf_iterator<char>(exportado), {}});
     exportado.close();
     std::filesystem::remove(caminho);
-    ASSERT_TRUE(lido.has_value());
+    const Interno::TChaveReg* lida = lido ? lido->Topo.Buscar(chave) : nullptr;
+    ASSERT_TRUE(lida);
     for (const auto& [nome, esperado] : valores) {
         // Editors differ in how they export a text of several lines, some of them so that nothing can read it.
         if (nome == u"linhas") continue;
-        EXPECT_EQ(lido->Ler(chave, nome), esperado) << std::filesystem::path(nome).string();
+        ASSERT_TRUE(lida->Valores.contains(nome));
+        EXPECT_EQ(lida->Valores.find(nome)->second, esperado) << std::filesystem::path(nome).string();
     }
 }
 

@@ -1,4 +1,4 @@
-#include "oryutils/runtime/ArquivoIni.hpp"
+#include "oryutils/readers/BuscaIni.hpp"
 
 #include "oryutils/characters/Utf.hpp"
 
@@ -60,7 +60,7 @@ const struct {
     {"[VERSAO]\n" + std::string(200'000, 'x') + "\nNumero=1", "=1", "a long line"},
 };
 
-TEST(ArquivoIni, BlocosDeQualquerTamanho) {
+TEST(BuscaIni, BlocosDeQualquerTamanho) {
     for (const auto& caso : CCasos)
         for (const std::size_t bloco : {1, 2, 3, 5, 7, 65536}) {
             EXPECT_EQ(Buscar(caso.Bytes, bloco), caso.Resposta) << caso.Porque << ", blocks of " << bloco;
@@ -68,7 +68,7 @@ TEST(ArquivoIni, BlocosDeQualquerTamanho) {
     EXPECT_EQ(Buscar("[VERSAO]\nNumero=" + std::string(100'000, 'x'), 4096).size(), 1 + 65536 - 7u);
 }
 
-TEST(ArquivoIni, BytesQuaisquer) {
+TEST(BuscaIni, BytesQuaisquer) {
     const unsigned semente = std::random_device{}();
     SCOPED_TRACE(semente);
     std::mt19937 sorteio(semente);

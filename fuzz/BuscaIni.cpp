@@ -1,5 +1,5 @@
 // Any bytes as an INI file: blocks of any size give one answer.
-#include "oryutils/runtime/ArquivoIni.hpp"
+#include "oryutils/readers/BuscaIni.hpp"
 
 #include "Comum.hpp"
 
