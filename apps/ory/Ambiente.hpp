@@ -13,7 +13,6 @@ struct TAmbiente {
     bool ErroEhTerminal = false;
     bool Cores = false;  // of Saida
     int Largura = 80;
-    unsigned Tarefas = 2;
 };
 
 /// Exit statuses.

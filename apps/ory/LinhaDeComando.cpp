@@ -44,18 +44,12 @@ struct TOpcoesDeOperacoes {
     bool Json = false;
 };
 
-TTipoColuna LerTipo(const std::string& ANome) {
-    const auto tipo = BuscarTipo(ANome);
-    if (!tipo) throw EFalha("tipo desconhecido: " + ANome + " (os tipos são " + ListarTipos() + ")");
-    return *tipo;
-}
-
 TPedidoDeConferencia LerPedido(const TOpcoesDeConferir& ALidas) {
     TPedidoDeConferencia pedido = ALidas.Conferencia;
     for (const std::string& coluna : ALidas.Colunas) {
         const std::size_t igual = coluna.rfind('=');
         if (igual == std::string::npos || igual == 0) throw EFalha("--coluna espera nome=tipo, veio " + coluna);
-        pedido.Opcoes.Colunas.emplace_back(coluna.substr(0, igual), LerTipo(coluna.substr(igual + 1)));
+        pedido.Opcoes.Colunas.emplace_back(coluna.substr(0, igual), BuscarPapel(coluna.substr(igual + 1)));
     }
     if (ALidas.Codificacao == "utf-8" || ALidas.Codificacao == "utf8")
         pedido.Opcoes.Codificacao = coUtf8;
@@ -73,10 +67,10 @@ TPedidoDeConferencia LerPedido(const TOpcoesDeConferir& ALidas) {
         throw EFalha("--cores espera nunca ou auto, veio " + ALidas.Cores);
     pedido.SemCores = ALidas.Cores == "nunca";
     if (ALidas.Vereditos.empty()) return pedido;
-    pedido.Vereditos = LerTipo(ALidas.Vereditos);
-    if (*pedido.Vereditos == tcNenhum || *pedido.Vereditos == tcUf)
-        throw EFalha("não há vereditos do tipo " + ALidas.Vereditos);
-    if (*pedido.Vereditos == tcIe && pedido.Opcoes.Uf.empty()) throw EFalha("vereditos de ie pedem --uf");
+    pedido.Vereditos = BuscarPapel(ALidas.Vereditos).Tipo;
+    if (!pedido.Vereditos) throw EFalha("não há vereditos do tipo " + ALidas.Vereditos);
+    if (pedido.Vereditos->PedeUf && pedido.Opcoes.Uf.empty())
+        throw EFalha("vereditos de " + ALidas.Vereditos + " pedem --uf");
     if (pedido.Json || !pedido.Saida.empty() || !pedido.Opcoes.Colunas.empty())
         throw EFalha("--vereditos não combina com --json, --saida nem --coluna");
     return pedido;
@@ -89,7 +83,7 @@ void DescreverConferir(TOpcoes AComando, TOpcoesDeConferir& AOpcoes) {
         .Valor("--coluna", AOpcoes.Colunas,
                "nome=tipo: diz o que há na coluna desse nome ou dessa posição; pode repetir.\n"
                "Tipos: " +
-                   ListarTipos())
+                   ListarPapeis())
         .SemMaisValores();
     AComando.Valor("--uf", pedido.Opcoes.Uf, "UF das inscrições estaduais de todo o arquivo");
     AComando.Valor("--codificacao", AOpcoes.Codificacao, "utf-8 ou windows-1252 (padrão: detecta)");

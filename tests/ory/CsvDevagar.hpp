@@ -6,9 +6,10 @@
 
 using TRegistros = std::vector<std::vector<std::string>>;
 
-/// The language of Csv.hpp, a character at a time over the whole text.
-inline TRegistros LerDevagar(const std::string& ATexto, char ADelimitador) {
+/// The language of Csv.hpp, a character at a time over the whole text. AAbertas: the last quotes never close.
+inline TRegistros LerDevagar(const std::string& ATexto, char ADelimitador, bool& AAbertas) {
     TRegistros registros;
+    AAbertas = false;
     std::size_t i = 0;
     while (i < ATexto.size()) {
         std::vector<std::string> campos;
@@ -24,6 +25,7 @@ inline TRegistros LerDevagar(const std::string& ATexto, char ADelimitador) {
                     else
                         break;
                 }
+                AAbertas = i == ATexto.size();
                 ++i;
             }
             std::string solto;

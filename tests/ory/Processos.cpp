@@ -13,9 +13,9 @@ namespace {
 using nlohmann::json;
 
 TEST(Processos, TabelaEJsonMostramEsteProcesso) {
-    const TRodada em_json = Rodar({"processos", "--json"});
-    ASSERT_EQ(em_json.Status, 0);
-    const json processos = json::parse(em_json.Saida);
+    const TRodada emJson = Rodar({"processos", "--json"});
+    ASSERT_EQ(emJson.Status, 0);
+    const json processos = json::parse(emJson.Saida);
     // The tests of the command are a process of this name, whatever else runs.
     const auto este = std::find_if(processos.begin(), processos.end(), [](const json& AProcesso) {
         return AProcesso["processo"].get<std::string>().starts_with("testes_ory");

@@ -1,5 +1,6 @@
 #include "chamar/Chamadas.hpp"
 
+#include "Leitura.hpp"
 #include "operations/Json.hpp"
 #include "operations/Operacoes.hpp"
 
@@ -21,88 +22,6 @@ void EscreverParaPessoas(std::string& ASaida, const TJson& AValor) {
     else if (!AValor.is_null())
         ASaida += AValor.dump();
 }
-
-/// Answers the requests of the lines that come in any pieces.
-class TAtendente {
-public:
-    TAtendente(TSaida& ASaida, std::size_t AMaiorRequisicao) : FSaida(ASaida), FMaior(AMaiorRequisicao) {}
-
-    void Receber(std::string_view APedaco) {
-        if (FNoInicio) APedaco = TirarMarca(APedaco);
-        while (!APedaco.empty()) {
-            const std::size_t quebra = APedaco.find('\n');
-            const std::string_view parte = APedaco.substr(0, quebra);
-            if (quebra == std::string_view::npos) return Guardar(parte);
-            APedaco.remove_prefix(quebra + 1);
-            if (FParte.empty() && !FLonga && parte.size() <= FMaior) {
-                Responder(parte);
-                continue;
-            }
-            Guardar(parte);
-            ResponderGuardada();
-        }
-    }
-
-    void Terminar() {
-        if (!FParte.empty() || FLonga) ResponderGuardada();
-        Descarregar();
-    }
-
-    void Descarregar() {
-        if (!FRespostas.empty()) FSaida.Escrever(FRespostas);
-        FRespostas.clear();
-    }
-
-private:
-    // The mark may come in pieces; what it is not yet sure of waits.
-    std::string_view TirarMarca(std::string_view APedaco) {
-        constexpr std::string_view CMarca = "\xEF\xBB\xBF";
-        while (!APedaco.empty() && FParte.size() < CMarca.size() && APedaco.front() == CMarca[FParte.size()]) {
-            FParte += APedaco.front();
-            APedaco.remove_prefix(1);
-        }
-        if (APedaco.empty() && FParte.size() < CMarca.size()) return {};
-        FNoInicio = false;
-        if (FParte == CMarca) FParte.clear();
-        return APedaco;
-    }
-
-    void Guardar(std::string_view AParte) {
-        if (FParte.size() + AParte.size() > FMaior) {
-            FLonga = true;
-            FParte.clear();
-        }
-        if (!FLonga) FParte += AParte;
-    }
-
-    void ResponderGuardada() {
-        if (FLonga)
-            Juntar(R"({"erro":"requisição longa demais","classe":"EProtocolo"})");
-        else
-            Responder(FParte);
-        FParte.clear();
-        FLonga = false;
-    }
-
-    void Responder(std::string_view ALinha) {
-        if (ALinha.ends_with('\r')) ALinha.remove_suffix(1);
-        Juntar(Chamar(ALinha));
-    }
-
-    void Juntar(std::string_view AResposta) {
-        constexpr std::size_t CMuito = 64 * 1024;
-        FRespostas += AResposta;
-        FRespostas += '\n';
-        if (FRespostas.size() >= CMuito) Descarregar();
-    }
-
-    TSaida& FSaida;
-    std::size_t FMaior;
-    std::string FParte{};  // of a line that has not ended yet
-    std::string FRespostas{};
-    bool FLonga = false;  // that line is past the limit
-    bool FNoInicio = true;
-};
 
 }  // namespace
 
@@ -129,15 +48,25 @@ TStatus ChamarUma(const std::string& AOperacao, std::span<const std::string> AAr
 }
 
 void ChamarEmLote(TEntrada& AEntrada, TSaida& ASaida, std::size_t AMaiorRequisicao) {
-    std::vector<char> pedaco(64 * 1024);
-    TAtendente atendente(ASaida, AMaiorRequisicao);
+    constexpr std::size_t CMuito = 64 * 1024;
+    std::string respostas;
+    const auto descarregar = [&] {
+        if (!respostas.empty()) ASaida.Escrever(respostas);
+        respostas.clear();
+    };
+    TLeitorDeLinhas linhas(AEntrada, AMaiorRequisicao);
+    linhas.GetBytes().AoEsperar(descarregar);
+    linhas.GetBytes().PularMarcaUtf8();
     while (true) {
-        if (AEntrada.LerEsperaria()) atendente.Descarregar();
-        const std::size_t lidos = AEntrada.Ler(pedaco);
-        if (!lidos) break;
-        atendente.Receber({pedaco.data(), lidos});
+        const TLeitorDeLinhas::TLeitura leitura = linhas.Proxima();
+        if (leitura == TLeitorDeLinhas::leFim) break;
+        respostas += leitura == TLeitorDeLinhas::leLinha
+                         ? Chamar(linhas.GetLinha())
+                         : R"({"erro":"requisição longa demais","classe":"EProtocolo"})";
+        respostas += '\n';
+        if (respostas.size() >= CMuito) descarregar();
     }
-    atendente.Terminar();
+    descarregar();
 }
 
 void ListarOperacoes(TSaida& ASaida, bool AJson) {

@@ -13,14 +13,4 @@ std::u16string Decodificar(std::string_view ABytes);
 /// The same with the encoding told; to UTF-8.
 std::string DecodificarParaUtf8(std::string_view ABytes, TCodificacao ACodificacao);
 
-/// What the bytes of a file tell about its encoding, added up part by part. Parts end where a character ends.
-struct TIndicios {
-    bool PossuiNaoAscii = false;
-    bool PossuiUtf8Invalido = false;
-
-    void Observar(std::string_view ABytes) noexcept;
-    void Juntar(const TIndicios& AOutro) noexcept;
-    TCodificacao GetCodificacao() const noexcept { return PossuiUtf8Invalido ? coWindows1252 : coUtf8; }
-};
-
 }  // namespace Ory

@@ -1,66 +1,201 @@
 #include "conferir/Colunas.hpp"
 
-#include "oryutils/characters/Utf.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 #include "oryutils/registry_numbers/interno/CpfCnpj.hpp"
+#include "oryutils/registry_numbers/interno/MascarasDeCampos.hpp"
+#include "oryutils/characters/Caixa.hpp"
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/runtime/FormatoDataHora.hpp"
+#include "oryutils/fields/Mascara.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
 
+#include "Fluxos.hpp"
 #include "conferir/Codificacao.hpp"
-#include "conferir/ColunasDeCampos.hpp"
 
 #include <algorithm>
-#include <array>
 
 namespace Ory {
 namespace {
 
 namespace Interno = OryUtils::Interno;
+using OryUtils::ParaUtf8;
+using OryUtils::TCaracteres;
 using OryUtils::TOryUtilsStrings;
-using OryUtils::TOryUtilsValidacoes;
+using Regras = OryUtils::TOryUtilsValidacoes;
 
-struct TNomeDeTipo {
-    std::string_view Nome;
-    TTipoColuna Tipo;
+/// The answer for a valid field whose display form is AForma.
+bool Aceitar(std::u16string_view AForma, std::string* AFormatado) {
+    if (AFormatado) *AFormatado += ParaUtf8(AForma);
+    return true;
+}
+
+/// A field whose display form is the field itself.
+template <bool (*AValidou)(std::u16string_view)>
+bool ConferirTexto(const TCampo& ACampo, std::string* AFormatado) {
+    if (!AValidou(ACampo.Decodificar())) return false;
+    if (AFormatado) *AFormatado += ACampo.Bytes;
+    return true;
+}
+
+bool ConferirEmails(const TCampo& ACampo, std::string* AFormatado) {
+    const std::u16string texto = ACampo.Decodificar();
+    std::u16string_view resto = texto;
+    while (true) {
+        const std::size_t fim = resto.find_first_of(u";,");
+        if (!Regras::ValidouEmail(OryUtils::Aparar(resto.substr(0, fim)))) return false;
+        if (fim == resto.npos) break;
+        resto.remove_prefix(fim + 1);
+    }
+    if (AFormatado) *AFormatado += ACampo.Bytes;
+    return true;
+}
+
+bool ConferirCnpj(const TCampo& ACampo, std::string* AFormatado) {
+    const auto cnpj = Interno::LerCnpjAlfanumerico(ACampo.Bytes);
+    if (!Interno::TemFormaDeCnpj(cnpj) || Interno::Conferir(Interno::CFormatoCnpj, cnpj) != OryUtils::mrNenhum)
+        return false;
+    if (AFormatado) Interno::EscreverNaMascara(*AFormatado, Interno::CFormatoCnpj.Mascara, cnpj);
+    return true;
+}
+
+bool ConferirCpf(const TCampo& ACampo, std::string* AFormatado) {
+    const auto cpf = Interno::LerDigitos(ACampo.Bytes);
+    if (Interno::Conferir(Interno::CFormatoCpf, cpf) != OryUtils::mrNenhum) return false;
+    if (AFormatado) Interno::EscreverNaMascara(*AFormatado, Interno::CFormatoCpf.Mascara, cpf);
+    return true;
+}
+
+/// A number of the kind AInscricao, which is shown in the form of its kind.
+template <OryUtils::TTipoInscricao AInscricao, bool (*AValidou)(std::u16string_view)>
+bool ConferirNumero(const TCampo& ACampo, std::string* AFormatado) {
+    const std::u16string texto = ACampo.Decodificar();
+    if (!AValidou(texto)) return false;
+    if (!AFormatado) return true;
+    const std::u16string numeros = TOryUtilsStrings::ExtrairSomenteNumeros(texto);
+    return Aceitar(TOryUtilsStrings::FormatarInscricaoFederal(AInscricao, numeros), AFormatado);
+}
+
+/// The same for a rule that raises for a text which is no number. Such a rule is not asked about characters that no
+/// number has: the exception takes a hundred times as long as the check.
+template <OryUtils::TTipoInscricao AInscricao, bool (*AValidou)(std::u16string_view)>
+bool ConferirInteiro(const TCampo& ACampo, std::string* AFormatado) {
+    if (ACampo.Bytes.find_first_not_of("0123456789.,_/-+eE \t") != ACampo.Bytes.npos) return false;
+    return ConferirNumero<AInscricao, AValidou>(ACampo, AFormatado);
+}
+
+constexpr bool EhAlfanumerico(char16_t ACaractere) {
+    return OryUtils::EhDigito(ACaractere) || OryUtils::EhLetra(ACaractere);
+}
+
+/// CPF or CNPJ, told apart by the length.
+bool ConferirDocumento(const TCampo& ACampo, std::string* AFormatado) {
+    constexpr std::ptrdiff_t CTamanhoCpf = 11;
+    const auto tamanho =
+        std::ranges::count_if(ACampo.Bytes, [](char c) { return EhAlfanumerico(static_cast<unsigned char>(c)); });
+    return tamanho <= CTamanhoCpf ? ConferirCpf(ACampo, AFormatado) : ConferirCnpj(ACampo, AFormatado);
+}
+
+/// The rule takes bare characters; people write them with points, hyphens and slashes.
+bool ConferirIe(const TCampo& ACampo, std::string* AFormatado) {
+    const std::u16string limpa = TOryUtilsStrings::LimparTexto(ACampo.Decodificar(), TCaracteres(u".-/ "));
+    const std::u16string uf = Decodificar(ACampo.UfDoRegistro);
+    if (!Regras::ValidouIE(limpa, OryUtils::Aparar(uf))) return false;
+    return !AFormatado || Aceitar(OryUtils::MaiusculaDe(limpa), AFormatado);
+}
+
+/// People write these numbers with other marks than the mask has, or with none.
+std::u16string RetirarMarcas(const TCampo& ACampo) {
+    return TOryUtilsStrings::LimparTexto(ACampo.Decodificar(), TCaracteres(u" .-/()"));
+}
+
+bool ConferirCrc(const TCampo& ACampo, std::string* AFormatado) {
+    const std::u16string crc = OryUtils::MaiusculaDe(RetirarMarcas(ACampo));
+    return crc.size() == 11 && Regras::ValidouCRC(crc) && Aceitar(crc, AFormatado);
+}
+
+bool ConferirData(const TCampo& ACampo, std::string* AFormatado) {
+    const std::u16string texto = ACampo.Decodificar();
+    if (!Regras::ValidouData(texto)) return false;
+    if (!AFormatado) return true;
+    return Aceitar(OryUtils::FormatarDataHora(u"dd/mm/yyyy", OryUtils::TextoParaData(texto)), AFormatado);
+}
+
+template <const std::u16string_view& AMascara>
+const OryUtils::TMascara& BuscarMascara() {
+    static const OryUtils::TMascara mascara(AMascara, OryUtils::BuscarFormatosBrasileiros());
+    return mascara;
+}
+
+template <const std::u16string_view& AMascara>
+bool AceitarMascarado(std::u16string_view ADigitos, std::size_t AMenosDigitos, std::string* AFormatado) {
+    if (ADigitos.size() < AMenosDigitos || !BuscarMascara<AMascara>().Aceita(ADigitos)) return false;
+    return !AFormatado || Aceitar(BuscarMascara<AMascara>().Exibir(ADigitos), AFormatado);
+}
+
+/// A number described by its mask. A form or a database may hold a part of it; a checked file holds the whole, which
+/// has AMenosDigitos digits or more.
+template <const std::u16string_view& AMascara, std::size_t AMenosDigitos>
+bool ConferirMascarado(const TCampo& ACampo, std::string* AFormatado) {
+    return AceitarMascarado<AMascara>(RetirarMarcas(ACampo), AMenosDigitos, AFormatado);
+}
+
+/// The area code stays apart from the number however many digits both have.
+std::u16string FormatarTelefone(std::u16string_view ADigitos) {
+    std::u16string_view area = ADigitos.substr(0, ADigitos.front() == u'0' ? 3 : 2);
+    if (ADigitos.size() - area.size() < 8) area = ADigitos.substr(0, 2);
+    const std::u16string_view numero = ADigitos.substr(area.size());
+    const std::size_t meio = numero.size() - 4;
+    std::u16string texto = u"(";
+    texto.append(area).append(u")").append(numero.substr(0, meio)).append(u"-").append(numero.substr(meio));
+    return texto;
+}
+
+bool ConferirTelefone(const TCampo& ACampo, std::string* AFormatado) {
+    constexpr std::size_t CMenosDigitos = 10;  // area code and eight digits
+    const std::u16string digitos = RetirarMarcas(ACampo);
+    if (!AceitarMascarado<Interno::CMascaraFone>(digitos, CMenosDigitos, nullptr)) return false;
+    return !AFormatado || Aceitar(FormatarTelefone(digitos), AFormatado);
+}
+
+/// Month and year.
+bool ConferirCompetencia(const TCampo& ACampo, std::string* AFormatado) {
+    constexpr std::size_t CDigitos = 6;
+    const std::u16string digitos = RetirarMarcas(ACampo);
+    const std::u16string mes = digitos.substr(0, 2);
+    return mes >= u"01" && mes <= u"12" && AceitarMascarado<Interno::CMascaraCompetencia>(digitos, CDigitos, AFormatado);
+}
+
+using OryTypes::tiCEI;
+using OryTypes::tiCNO;
+using OryTypes::tiNenhuma;
+using OryTypes::tiPIS;
+
+constexpr TTipoColuna CTipos[] = {
+    {"cnpj", "", ConferirCnpj},
+    {"cpf", "", ConferirCpf},
+    {"documento", "cpfcnpj cnpjcpf", ConferirDocumento},
+    {"ie", "inscricaoestadual", ConferirIe, true},
+    {"pis", "pispasep", ConferirNumero<tiPIS, Regras::ValidouPIS>},
+    {"cei", "", ConferirInteiro<tiCEI, Regras::ValidouCEI>},
+    {"cno", "", ConferirInteiro<tiCNO, Regras::ValidouCNO>},
+    {"cnh", "", ConferirNumero<tiNenhuma, Regras::ValidouCNH>},
+    {"municipio", "codigomunicipio codigoibge", ConferirInteiro<tiNenhuma, Regras::ValidouCodigoMunicipioOficial>},
+    {"email", "", ConferirTexto<Regras::ValidouEmail>},
+    {"emails", "", ConferirEmails},
+    {"crc", "", ConferirCrc},
+    {"data", "datadenascimento", ConferirData},
+    {"hora", "", ConferirTexto<Regras::ValidouHora>},
+    {"ip", "enderecoip", ConferirTexto<Regras::ValidouEnderecoIP>},
+    {"cep", "", ConferirMascarado<Interno::CMascaraCep, 8>},
+    {"telefone", "fone celular", ConferirTelefone},
+    {"competencia", "", ConferirCompetencia},
+    {"ncm", "", ConferirMascarado<Interno::CMascaraNcm, 8>},
 };
 
-constexpr std::array CTipos{
-    TNomeDeTipo{"cnpj", tcCnpj},
-    TNomeDeTipo{"cpf", tcCpf},
-    TNomeDeTipo{"documento", tcDocumento},
-    TNomeDeTipo{"ie", tcIe},
-    TNomeDeTipo{"uf", tcUf},
-    TNomeDeTipo{"pis", tcPis},
-    TNomeDeTipo{"cei", tcCei},
-    TNomeDeTipo{"cno", tcCno},
-    TNomeDeTipo{"cnh", tcCnh},
-    TNomeDeTipo{"municipio", tcMunicipio},
-    TNomeDeTipo{"email", tcEmail},
-    TNomeDeTipo{"emails", tcEmails},
-    TNomeDeTipo{"crc", tcCrc},
-    TNomeDeTipo{"data", tcData},
-    TNomeDeTipo{"hora", tcHora},
-    TNomeDeTipo{"ip", tcIp},
-    TNomeDeTipo{"cep", tcCep},
-    TNomeDeTipo{"telefone", tcTelefone},
-    TNomeDeTipo{"competencia", tcCompetencia},
-    TNomeDeTipo{"ncm", tcNcm},
-    TNomeDeTipo{"nenhum", tcNenhum},
-};
-
-// Headers without their punctuation, besides the names of the types.
-constexpr std::array CCabecalhos{
-    TNomeDeTipo{"cpfcnpj", tcDocumento},
-    TNomeDeTipo{"cnpjcpf", tcDocumento},
-    TNomeDeTipo{"inscricaoestadual", tcIe},
-    TNomeDeTipo{"pispasep", tcPis},
-    TNomeDeTipo{"codigomunicipio", tcMunicipio},
-    TNomeDeTipo{"codigoibge", tcMunicipio},
-    TNomeDeTipo{"fone", tcTelefone},
-    TNomeDeTipo{"celular", tcTelefone},
-    TNomeDeTipo{"enderecoip", tcIp},
-    TNomeDeTipo{"datadenascimento", tcData},
-};
+constexpr std::string_view CUf = "uf";
+constexpr std::string_view CNenhum = "nenhum";
 
 constexpr bool EhBranco(char AByte) { return static_cast<unsigned char>(AByte) <= ' '; }
 
@@ -70,224 +205,54 @@ std::string_view Aparar(std::string_view ATexto) {
     return ATexto;
 }
 
-constexpr bool EhAlfanumerico(char32_t ACaractere) {
-    return (ACaractere >= '0' && ACaractere <= '9') || (ACaractere >= 'A' && ACaractere <= 'Z') ||
-           (ACaractere >= 'a' && ACaractere <= 'z');
-}
-
 std::string Normalizar(std::string_view ACabecalho) {
-    std::string resultado;
-    for (const char16_t c : TOryUtilsStrings::RemoverAcentos(Decodificar(ACabecalho)))
-        if (EhAlfanumerico(c)) resultado += static_cast<char>(c >= 'A' && c <= 'Z' ? c + 32 : c);
-    return resultado;
+    std::u16string nome = TOryUtilsStrings::RemoverAcentos(Decodificar(ACabecalho));
+    std::erase_if(nome, [](char16_t c) { return !EhAlfanumerico(c); });
+    return ParaUtf8(OryUtils::MinusculaDe(nome));
 }
 
-/// The field in UTF-16: in the buffer when it is short and ASCII, as nearly all are.
-class TTextoDeCampo {
-public:
-    explicit TTextoDeCampo(std::string_view ACampo) {
-        unsigned char uniao = 0;
-        if (ACampo.size() <= FCurto.size()) {
-            for (std::size_t i = 0; i < ACampo.size(); ++i) {
-                uniao = static_cast<unsigned char>(uniao | static_cast<unsigned char>(ACampo[i]));
-                FCurto[i] = static_cast<unsigned char>(ACampo[i]);
-            }
-            FTexto = {FCurto.data(), ACampo.size()};
-        }
-        if (uniao < 0x80 && ACampo.size() <= FCurto.size()) return;
-        FLongo = Decodificar(ACampo);
-        FTexto = FLongo;
-    }
-    TTextoDeCampo(const TTextoDeCampo&) = delete;
-    TTextoDeCampo& operator=(const TTextoDeCampo&) = delete;
-
-    std::u16string_view Get() const { return FTexto; }
-
-private:
-    std::array<char16_t, 40> FCurto;
-    std::u16string FLongo{};
-    std::u16string_view FTexto{};
-};
-
-constexpr std::size_t CTamanhoCpf = 11;
-
-OryUtils::TTipoInscricao BuscarInscricaoDoDocumento(std::string_view ACampo) {
-    const auto tamanho = std::count_if(ACampo.begin(), ACampo.end(),
-                                       [](char c) { return EhAlfanumerico(static_cast<unsigned char>(c)); });
-    return static_cast<std::size_t>(tamanho) <= CTamanhoCpf ? OryTypes::tiCPF : OryTypes::tiCNPJ;
-}
-
-bool EhPontuacaoDeIe(char AByte) { return AByte == '.' || AByte == '-' || AByte == '/' || AByte == ' '; }
-
-/// The rule takes bare characters; people write them with points, hyphens and slashes.
-std::string LimparIe(std::string_view ACampo) {
-    std::string resultado(ACampo);
-    std::erase_if(resultado, EhPontuacaoDeIe);
-    return resultado;
-}
-
-bool ValidouIe(std::string_view ACampo, std::string_view AUf) {
-    const TTextoDeCampo uf(Aparar(AUf));
-    if (std::none_of(ACampo.begin(), ACampo.end(), EhPontuacaoDeIe))
-        return TOryUtilsValidacoes::ValidouIE(TTextoDeCampo(ACampo).Get(), uf.Get());
-    return TOryUtilsValidacoes::ValidouIE(TTextoDeCampo(LimparIe(ACampo)).Get(), uf.Get());
-}
-
-// Rules that raise for a text which is no number are not asked about characters that no number has: the answer would be
-// an exception, and one for each line of a bad file costs a hundred times the check.
-bool PodeSerNumero(std::string_view ACampo) {
-    return std::all_of(ACampo.begin(), ACampo.end(), [](char c) {
-        return (c >= '0' && c <= '9') || std::string_view(".,_/-+eE \t").find(c) != std::string_view::npos;
-    });
-}
-
-/// The rule of ValidouCnpjAlfanumerico over bytes.
-bool ValidouCnpj(std::string_view ACampo) { return Interno::ConferirCnpjAlfanumerico(ACampo) == OryUtils::mrNenhum; }
-
-/// The rule of ValidouCnpjCpf over bytes.
-bool ValidouCpf(std::string_view ACampo) { return Interno::ConferirCpf(ACampo) == OryUtils::mrNenhum; }
-
-bool Validou(TTipoColuna ATipo, std::string_view ACampo, std::string_view AUf) {
-    if (EhColunaDeCampo(ATipo)) return ValidouColunaDeCampo(ATipo, ACampo);
-    switch (ATipo) {
-        case tcCnpj:
-            return ValidouCnpj(ACampo);
-        case tcCpf:
-            return ValidouCpf(ACampo);
-        case tcDocumento:
-            return BuscarInscricaoDoDocumento(ACampo) == OryTypes::tiCPF ? ValidouCpf(ACampo) : ValidouCnpj(ACampo);
-        case tcIe:
-            return ValidouIe(ACampo, AUf);
-        case tcCei:
-        case tcCno:
-        case tcMunicipio:
-            if (!PodeSerNumero(ACampo)) return false;
-            break;
-        default:
-            break;
-    }
-    const TTextoDeCampo texto(ACampo);
-    switch (ATipo) {
-        case tcPis:
-            return TOryUtilsValidacoes::ValidouPIS(texto.Get());
-        case tcCei:
-            return TOryUtilsValidacoes::ValidouCEI(texto.Get());
-        case tcCno:
-            return TOryUtilsValidacoes::ValidouCNO(texto.Get());
-        case tcCnh:
-            return TOryUtilsValidacoes::ValidouCNH(texto.Get());
-        case tcMunicipio:
-            return TOryUtilsValidacoes::ValidouCodigoMunicipioOficial(texto.Get());
-        default:
-            return true;
-    }
-}
-
-void Juntar(std::string& ASaida, std::u16string_view ATexto) {
-    for (const char16_t c : ATexto) ASaida += static_cast<char>(c);
-}
-
-void EscreverInscricao(std::string& ASaida, OryUtils::TTipoInscricao ATipo, std::string_view ACampo) {
-    Juntar(ASaida, TOryUtilsStrings::FormatarInscricaoFederal(
-                       ATipo, TOryUtilsStrings::ExtrairSomenteNumeros(TTextoDeCampo(ACampo).Get())));
-}
-
-bool EstahNaForma(std::string_view ACampo, std::string_view AForma) {
-    return std::equal(ACampo.begin(), ACampo.end(), AForma.begin(), AForma.end(),
-                      [](char c, char lugar) { return lugar == '0' ? c >= '0' && c <= '9' : c == lugar; });
-}
-
-// CNPJ and CPF are most of what files hold: written from byte to byte, as the library writes them.
-
-void EscreverCnpj(std::string& ASaida, std::string_view ACampo) {
-    if (EstahNaForma(ACampo, Interno::CFormatoCnpj.Mascara)) {
-        ASaida += ACampo;
-        return;
-    }
-    const auto cnpj = Interno::LerCnpjAlfanumerico(ACampo);
-    if (Interno::TemFormaDeCnpj(cnpj)) return Interno::EscreverNaMascara(ASaida, Interno::CFormatoCnpj.Mascara, cnpj);
-    Juntar(ASaida, TOryUtilsValidacoes::FormatarCnpjAlfanumerico(TTextoDeCampo(ACampo).Get()));
-}
-
-void EscreverCpf(std::string& ASaida, std::string_view ACampo) {
-    if (EstahNaForma(ACampo, Interno::CFormatoCpf.Mascara)) {
-        ASaida += ACampo;
-        return;
-    }
-    const auto cpf = Interno::LerDigitos(ACampo);
-    if (cpf.Tamanho == CTamanhoCpf) return Interno::EscreverNaMascara(ASaida, Interno::CFormatoCpf.Mascara, cpf);
-    EscreverInscricao(ASaida, OryTypes::tiCPF, ACampo);
+bool TemCabecalho(const TTipoColuna& ATipo, std::string_view ANome) {
+    const std::string nome = " " + std::string(ANome) + " ";
+    return ATipo.Nome == ANome || (" " + std::string(ATipo.Cabecalhos) + " ").find(nome) != std::string::npos;
 }
 
 }  // namespace
 
-std::optional<TTipoColuna> BuscarTipo(std::string_view ANome) {
-    for (const TNomeDeTipo& tipo : CTipos)
-        if (tipo.Nome == ANome) return tipo.Tipo;
-    return {};
+std::u16string TCampo::Decodificar() const { return Ory::Decodificar(Bytes); }
+
+std::span<const TTipoColuna> BuscarTipos() noexcept { return CTipos; }
+
+TPapelDaColuna BuscarPapel(std::string_view ANome) {
+    if (ANome == CUf) return {.EhUf = true};
+    if (ANome == CNenhum) return {};
+    const auto* tipo = std::ranges::find(CTipos, ANome, &TTipoColuna::Nome);
+    if (tipo == std::end(CTipos))
+        throw EFalha("tipo desconhecido: " + std::string(ANome) + " (os tipos são " + ListarPapeis() + ")");
+    return {.Tipo = tipo};
 }
 
-std::string_view BuscarNomeDoTipo(TTipoColuna ATipo) {
-    for (const TNomeDeTipo& tipo : CTipos)
-        if (tipo.Tipo == ATipo) return tipo.Nome;
-    return {};
-}
-
-std::string ListarTipos() {
-    std::string lista;
-    for (const TNomeDeTipo& tipo : CTipos) {
-        if (!lista.empty()) lista += ", ";
-        lista += tipo.Nome;
-    }
-    return lista;
-}
-
-TTipoColuna ReconhecerCabecalho(std::string_view ACabecalho) {
+TPapelDaColuna ReconhecerCabecalho(std::string_view ACabecalho) {
     const std::string nome = Normalizar(ACabecalho);
-    if (const auto tipo = BuscarTipo(nome)) return *tipo;
-    for (const TNomeDeTipo& cabecalho : CCabecalhos)
-        if (cabecalho.Nome == nome) return cabecalho.Tipo;
-    return tcNenhum;
+    if (nome == CUf) return {.EhUf = true};
+    const auto* tipo = std::ranges::find_if(CTipos, [&](const auto& t) { return TemCabecalho(t, nome); });
+    return {.Tipo = tipo == std::end(CTipos) ? nullptr : tipo};
+}
+
+std::string ListarPapeis() {
+    std::string lista;
+    for (const TTipoColuna& tipo : CTipos) lista.append(tipo.Nome).append(", ");
+    return lista.append(CUf).append(", ").append(CNenhum);
 }
 
 bool EhMesmoCabecalho(std::string_view AUm, std::string_view AOutro) { return Normalizar(AUm) == Normalizar(AOutro); }
 
-TVeredito Conferir(TTipoColuna ATipo, std::string_view ACampo, std::string_view AUf) {
+TVeredito Conferir(const TTipoColuna& ATipo, std::string_view ACampo, std::string_view AUf, std::string* AFormatado) {
     const std::string_view campo = Aparar(ACampo);
     if (campo.empty()) return veVazio;
     try {
-        return Validou(ATipo, campo, AUf) ? veValido : veInvalido;
+        return ATipo.Regra({campo, AUf}, AFormatado) ? veValido : veInvalido;
     } catch (const OryUtils::EConvertError&) {
         return veInvalido;
-    }
-}
-
-void EscreverFormatado(std::string& ASaida, TTipoColuna ATipo, std::string_view ACampo) {
-    const std::string_view campo = Aparar(ACampo);
-    if (EhColunaDeCampo(ATipo)) return EscreverCampoFormatado(ASaida, ATipo, campo);
-    switch (ATipo) {
-        case tcCnpj:
-            return EscreverCnpj(ASaida, campo);
-        case tcDocumento:
-            if (BuscarInscricaoDoDocumento(campo) != OryTypes::tiCPF) return EscreverCnpj(ASaida, campo);
-            [[fallthrough]];
-        case tcCpf:
-            return EscreverCpf(ASaida, campo);
-        case tcCei:
-            return EscreverInscricao(ASaida, OryTypes::tiCEI, campo);
-        case tcCno:
-            return EscreverInscricao(ASaida, OryTypes::tiCNO, campo);
-        case tcPis:
-            return EscreverInscricao(ASaida, OryTypes::tiPIS, campo);
-        case tcCnh:
-            return EscreverInscricao(ASaida, OryTypes::tiCNH, campo);
-        case tcMunicipio:
-            return EscreverInscricao(ASaida, OryTypes::tiNenhuma, campo);
-        case tcIe:
-            for (const char c : LimparIe(campo)) ASaida += static_cast<char>(c >= 'a' && c <= 'z' ? c - 32 : c);
-            return;
-        default:
-            return;
     }
 }
 

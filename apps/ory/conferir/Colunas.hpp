@@ -1,57 +1,54 @@
 #pragma once
 
-#include <cstddef>
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 
 namespace Ory {
 
-/// What a column holds.
-enum TTipoColuna : int {
-    tcNenhum,
-    tcCnpj,
-    tcCpf,
-    tcDocumento,  // CPF or CNPJ, told apart by the length
-    tcIe,
-    tcUf,  // goes with the state registration; not checked itself
-    tcPis,
-    tcCei,
-    tcCno,
-    tcCnh,
-    tcMunicipio,
-    tcEmail,
-    tcEmails,  // several, parted by ";" or ","
-    tcCrc,
-    tcData,
-    tcHora,
-    tcIp,
-    tcCep,
-    tcTelefone,
-    tcCompetencia,  // month and year
-    tcNcm,
+/// One field of a record, ready for the rule of its column.
+struct TCampo {
+    std::string_view Bytes;  // trimmed, not empty; UTF-8 or Windows-1252
+    std::string_view UfDoRegistro;
+
+    std::u16string Decodificar() const;
 };
 
-enum TVeredito : int { veVazio, veValido, veInvalido };
+/// The rule of a kind of column: whether the field is valid. A valid one is appended to AFormatado, where there is one,
+/// in its display form. EConvertError stands for false.
+using TRegraDeColuna = bool(const TCampo& ACampo, std::string* AFormatado);
 
-/// The type of that name ("cnpj", "ie", "nenhum"); none when there is no such type.
-std::optional<TTipoColuna> BuscarTipo(std::string_view ANome);
-std::string_view BuscarNomeDoTipo(TTipoColuna ATipo);
-/// The names of the types that a column can be told to be, for people: "cnpj, cpf, ...".
-std::string ListarTipos();
+/// A kind of column. All that the command knows of one stands in its row of the table, in Colunas.cpp.
+struct TTipoColuna {
+    std::string_view Nome;
+    std::string_view Cabecalhos;  // other headers that tell it, normalized, with a blank between two
+    TRegraDeColuna& Regra;
+    bool PedeUf = false;  // the rule looks at the UF of the record
+};
 
-/// The type of a column by its header, UTF-8 or Windows-1252: letter case, accents and punctuation play no part.
-/// tcNenhum for any other header.
-TTipoColuna ReconhecerCabecalho(std::string_view ACabecalho);
+/// The kinds that are checked. Each has a rule: a row without one does not compile.
+std::span<const TTipoColuna> BuscarTipos() noexcept;
+
+/// What a column is for: it is checked as Tipo, or it tells the UF of its record, or nothing (none of both).
+struct TPapelDaColuna {
+    const TTipoColuna* Tipo = nullptr;
+    bool EhUf = false;
+};
+
+/// The role by its name: the kind of that name, "uf", or "nenhum". Raises EFalha for any other name.
+TPapelDaColuna BuscarPapel(std::string_view ANome);
+/// The role by the header of the column, UTF-8 or Windows-1252: letter case, accents and punctuation play no part.
+TPapelDaColuna ReconhecerCabecalho(std::string_view ACabecalho);
+/// The names of all roles, for people: "cnpj, cpf, ...".
+std::string ListarPapeis();
 /// Whether two headers are the same column for people: letter case, accents and punctuation play no part.
 bool EhMesmoCabecalho(std::string_view AUm, std::string_view AOutro);
 
-/// The verdict on one field, bytes of UTF-8 or Windows-1252. AUf counts for a state registration only. The operations
-/// of the library decide; an exempt state registration is valid. Never throws for any bytes.
-TVeredito Conferir(TTipoColuna ATipo, std::string_view ACampo, std::string_view AUf);
-/// Appends the valid field in its display form: CNPJ, CPF, CEI, postcode, phone, period and NCM with their marks, a
-/// date as dd/mm/yyyy; addresses as they stand, in the encoding of the file; the others bare.
-void EscreverFormatado(std::string& ASaida, TTipoColuna ATipo, std::string_view ACampo);
+enum TVeredito : int { veVazio, veValido, veInvalido };
+
+/// The verdict on one field, bytes of UTF-8 or Windows-1252. A valid one is appended to AFormatado, where there is one,
+/// in its display form: UTF-8, addresses in the encoding of the file. Never throws for any bytes.
+TVeredito Conferir(const TTipoColuna& ATipo, std::string_view ACampo, std::string_view AUf,
+                   std::string* AFormatado = nullptr);
 
 }  // namespace Ory

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "Fluxos.hpp"
-#include "conferir/Blocos.hpp"
 #include "conferir/Codificacao.hpp"
 #include "conferir/Colunas.hpp"
+#include "conferir/Csv.hpp"
 
 #include <cstdint>
 #include <functional>
@@ -18,11 +18,10 @@ struct TOpcoesDeConferencia {
     char Delimitador = 0;  // 0: detected
     TCodificacao Codificacao = coDetectar;
     bool SemCabecalho = false;  // the first record is data; columns go by their position, from 1
-    /// Columns told by the caller: header or position, and type. tcNenhum leaves a recognised column out.
-    std::vector<std::pair<std::string, TTipoColuna>> Colunas{};
+    /// Columns told by the caller: header or position, and role. The role of none leaves a recognised column out.
+    std::vector<std::pair<std::string, TPapelDaColuna>> Colunas{};
     std::string Uf{};         // for state registrations in a file without a column for it
     std::size_t Mostrar = 5;  // offenders kept for each column
-    unsigned Tarefas = 2;     // threads; 0 works in the caller's
     TLimites Limites{};
     /// Called now and then with the bytes read so far.
     std::function<void(std::uint64_t)> AoProgredir{};
@@ -35,8 +34,8 @@ struct TInfrator {
 inline constexpr std::size_t CMaiorValorMostrado = 256;
 
 struct TResumoDeColuna {
-    std::string Nome{};  // UTF-8
-    TTipoColuna Tipo = tcNenhum;
+    std::string Nome{};                 // UTF-8
+    const TTipoColuna* Tipo = nullptr;  // one of BuscarTipos
     std::uint64_t Validos = 0;
     std::uint64_t Invalidos = 0;
     std::uint64_t Vazios = 0;
@@ -75,7 +74,7 @@ struct TResumoDeVereditos {
 };
 
 /// The bare stream: one number a line in, "1" (valid) or "0" (invalid or empty) a line out.
-TResumoDeVereditos EscreverVereditos(TEntrada& AEntrada, TSaida& ASaida, TTipoColuna ATipo,
+TResumoDeVereditos EscreverVereditos(TEntrada& AEntrada, TSaida& ASaida, const TTipoColuna& ATipo,
                                      const TOpcoesDeConferencia& AOpcoes);
 
 }  // namespace Ory

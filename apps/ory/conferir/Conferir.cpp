@@ -105,7 +105,6 @@ TStatus ConferirComLog(const TPedidoDeConferencia& APedido, TAmbiente& AAmbiente
     TEntrada& entrada = arquivo ? *arquivo : AAmbiente.Entrada;
 
     TOpcoesDeConferencia opcoes = APedido.Opcoes;
-    opcoes.Tarefas = AAmbiente.Tarefas;
     TProgresso progresso(AAmbiente.Erro, tamanho);
     if (AAmbiente.ErroEhTerminal) opcoes.AoProgredir = [&](std::uint64_t ABytes) { progresso.Mostrar(ABytes); };
 

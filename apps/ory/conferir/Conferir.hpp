@@ -3,7 +3,6 @@
 #include "Ambiente.hpp"
 #include "conferir/Conferencia.hpp"
 
-#include <optional>
 #include <string>
 
 namespace Ory {
@@ -15,7 +14,7 @@ struct TPedidoDeConferencia {
     std::string Log{};      // empty: none
     bool Json = false;
     bool SemCores = false;
-    std::optional<TTipoColuna> Vereditos{};  // the bare stream
+    const TTipoColuna* Vereditos = nullptr;  // the bare stream, of this kind
     TOpcoesDeConferencia Opcoes{};
 };
 

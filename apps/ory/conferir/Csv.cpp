@@ -4,6 +4,11 @@
 
 namespace Ory {
 
+void RecusarRegistroLongo(std::uint64_t ALinha, const TLimites& ALimites) {
+    throw EFalha("linha " + std::to_string(ALinha) + ": registro maior que o limite de " +
+                 std::to_string(ALimites.Registro >> 20) + " MiB (faltam aspas de fechamento?)");
+}
+
 char DetectarDelimitador(std::string_view AInicio) noexcept {
     std::size_t virgulas = 0;
     std::size_t pontosEVirgulas = 0;
@@ -18,135 +23,97 @@ char DetectarDelimitador(std::string_view AInicio) noexcept {
     return virgulas > pontosEVirgulas ? ',' : ';';
 }
 
-std::size_t TCortadorDeRegistros::Cortar(std::string_view APedaco) noexcept {
-    const bool semAspas = APedaco.find('"') == std::string_view::npos;
-    if (semAspas && FEstado != eaEntreAspas) {
-        const std::size_t fim = APedaco.rfind('\n') + 1;  // npos + 1 is 0
-        if (fim < APedaco.size()) FEstado = APedaco.back() == FDelimitador ? eaInicioDeCampo : eaForaDeAspas;
-        if (fim && fim == APedaco.size()) FEstado = eaInicioDeCampo;
-        return fim;
-    }
-    std::size_t fim = 0;
-    for (std::size_t i = 0; i < APedaco.size(); ++i) {
-        if (FEstado == eaEntreAspas) {
-            i = APedaco.find('"', i);
-            if (i == std::string_view::npos) break;
-            FEstado = eaAspaVista;
-            continue;
-        }
-        const char c = APedaco[i];
-        if (c == '\n') {
-            fim = i + 1;
-            FEstado = eaInicioDeCampo;
-        } else if (c == FDelimitador) {
-            FEstado = eaInicioDeCampo;
-        } else if (c == '"' && FEstado != eaForaDeAspas) {
-            FEstado = eaEntreAspas;  // opens the field, or is the second of a pair
-        } else {
-            FEstado = eaForaDeAspas;
-        }
-    }
-    return fim;
-}
-
-TLeitorDeRegistros::TLeitorDeRegistros(std::string_view ADados, char ADelimitador, std::size_t AMaximoDeCampos)
-    : FResto(ADados),
-      FDelimitador(ADelimitador),
-      FTemAspas(ADados.find('"') != std::string_view::npos),
-      FMaximoDeCampos(AMaximoDeCampos) {
-    if (FTemAspas) FDesdobrado.reserve(ADados.size());  // never grows: the views into it must hold
+TLeitorDeRegistros::TLeitorDeRegistros(TEntrada& AEntrada, char ADelimitador, std::size_t AMaximoDeCampos,
+                                       TLimites ALimites)
+    : FBytes(AEntrada), FDelimitador(ADelimitador), FMaximoDeCampos(AMaximoDeCampos), FLimites(ALimites) {
+    FPossuiMarcaUtf8 = FBytes.PularMarcaUtf8();
+    LerBloco(FLimites.Bloco);
+    const std::string_view inicio = FBytes.Get();
+    if (inicio.starts_with("\xFF\xFE") || inicio.starts_with("\xFE\xFF"))
+        throw EFalha("a entrada está em UTF-16; grave-a em UTF-8 ou Windows-1252");
+    if (!FDelimitador) FDelimitador = DetectarDelimitador(inicio);
 }
 
 bool TLeitorDeRegistros::Proximo() {
-    if (FResto.empty()) return false;
+    FLinha += FQuebras;
+    while (!Dividir(FBytes.Get())) {
+        if (FBytes.Get().size() > FLimites.Registro) break;
+        LerBloco(std::max(FLimites.Bloco, FBytes.Get().size()));  // twice as much: a long record costs linear time
+    }
+    const std::size_t tamanho = FTexto.size() + FFimDeLinha.size();
+    if (tamanho > FLimites.Registro) RecusarRegistroLongo(FLinha, FLimites);
+    if (FFaltaAspa) throw EFalha("linha " + std::to_string(FLinha) + ": aspas abertas e nunca fechadas");
+    FBytes.Usar(tamanho);
+    return tamanho > 0;
+}
+
+/// Reads AQuantos bytes, fewer only at the end of the input.
+void TLeitorDeRegistros::LerBloco(std::size_t AQuantos) {
+    const std::uint64_t fim = FBytes.GetTotal() + AQuantos;
+    while (FBytes.GetTotal() < fim && FBytes.LerMais(static_cast<std::size_t>(fim - FBytes.GetTotal()))) {
+    }
+}
+
+/// Takes the record at the front of ABytes apart; false when more bytes may belong to it.
+bool TLeitorDeRegistros::Dividir(std::string_view ABytes) {
     FCampos.clear();
-    FDesdobrado.clear();
+    FDesdobrados.clear();
     FTotalDeCampos = 0;
-    if (FTemAspas)
-        LerComAspas();
-    else
-        LerSemAspas();
-    return true;
-}
-
-void TLeitorDeRegistros::LerSemAspas() {
-    const std::size_t quebra = FResto.find('\n');
-    Fechar(quebra == std::string_view::npos ? FResto.size() : quebra + 1);
-    FQuebras = quebra != std::string_view::npos;
-    for (std::string_view resto = FTexto;;) {
-        const std::size_t fim = resto.find(FDelimitador);
-        Juntar(resto.substr(0, fim));
-        if (fim == std::string_view::npos) return;
-        resto.remove_prefix(fim + 1);
-    }
-}
-
-void TLeitorDeRegistros::LerComAspas() {
     FQuebras = 0;
+    FFaltaAspa = false;
     std::size_t i = 0;
-    while (true) {
-        if (i < FResto.size() && FResto[i] == '"') {
-            i = LerCampoEntreAspas(i);
+    for (bool fim = ABytes.empty(); !fim; ++i) {
+        std::string_view campo;
+        const std::size_t inicio = i;
+        if (i < ABytes.size() && ABytes[i] == '"') {
+            i = LerCampoEntreAspas(ABytes, i, campo);
         } else {
-            const std::size_t inicio = i;
-            while (i < FResto.size() && FResto[i] != FDelimitador && FResto[i] != '\n') ++i;
-            const bool crlf = i > inicio && i < FResto.size() && FResto[i] == '\n' && FResto[i - 1] == '\r';
-            Juntar(FResto.substr(inicio, i - inicio - crlf));
+            i = BuscarFimDoCampo(ABytes, i);
+            campo = ABytes.substr(inicio, i - inicio);
         }
-        if (i >= FResto.size()) return Fechar(FResto.size());
-        if (FResto[i++] == '\n') break;
+        fim = i == ABytes.size() || ABytes[i] == '\n';
+        if (fim && i < ABytes.size() && campo.ends_with('\r') && ABytes[i - 1] == '\r') campo.remove_suffix(1);
+        if (FTotalDeCampos++ < FMaximoDeCampos) FCampos.push_back(campo);
     }
-    ++FQuebras;
-    Fechar(i);
+    i = std::min(i, ABytes.size());
+    const std::string_view registro = ABytes.substr(0, i);
+    const std::size_t fimDeLinha = registro.ends_with("\r\n") ? 2 : registro.ends_with('\n') ? 1 : 0;
+    FTexto = registro.substr(0, i - fimDeLinha);
+    FFimDeLinha = registro.substr(i - fimDeLinha);
+    FQuebras += fimDeLinha > 0;
+    return FBytes.EstahNoFim() || (fimDeLinha && !FFaltaAspa);
 }
 
-// Reads the field that opens at AInicio; gives the position of what ends it.
-std::size_t TLeitorDeRegistros::LerCampoEntreAspas(std::size_t AInicio) {
-    const std::size_t desdobrado = FDesdobrado.size();
-    std::size_t inicio = AInicio + 1;  // of the part not yet taken
-    std::size_t i = inicio;
+/// The value of the field that opens with the quote at AInicio goes to ACampo; gives the position of what ends it.
+std::size_t TLeitorDeRegistros::LerCampoEntreAspas(std::string_view ABytes, std::size_t AInicio,
+                                                   std::string_view& ACampo) {
+    std::string valor;
+    std::size_t i = AInicio + 1;
     while (true) {
-        i = std::min(FResto.find('"', i), FResto.size());
-        if (i + 1 >= FResto.size() || FResto[i + 1] != '"') break;
-        FDesdobrado.append(FResto, inicio, i + 1 - inicio);
-        i += 2;
-        inicio = i;
+        const std::size_t aspa = std::min(ABytes.find('"', i), ABytes.size());
+        valor += ABytes.substr(i, aspa - i);
+        i = aspa + 1;
+        FFaltaAspa = aspa == ABytes.size();
+        if (FFaltaAspa || i >= ABytes.size() || ABytes[i] != '"') break;
+        valor += '"';
+        ++i;
     }
-    FQuebras += static_cast<std::uint64_t>(std::count(FResto.begin() + static_cast<std::ptrdiff_t>(AInicio),
-                                                      FResto.begin() + static_cast<std::ptrdiff_t>(i), '\n'));
-    std::size_t fim = std::min(i + 1, FResto.size());  // behind the closing quote
-    std::size_t sobra = fim;
-    while (sobra < FResto.size() && FResto[sobra] != FDelimitador && FResto[sobra] != '\n') ++sobra;
-    const bool crlf = sobra > fim && sobra < FResto.size() && FResto[sobra] == '\n' && FResto[sobra - 1] == '\r';
-    const std::string_view depois = FResto.substr(fim, sobra - fim - crlf);
-    if (FDesdobrado.size() == desdobrado && depois.empty()) {
-        Juntar(FResto.substr(inicio, i - inicio));
-    } else {
-        FDesdobrado.append(FResto, inicio, i - inicio);
-        FDesdobrado.append(depois);
-        Juntar(std::string_view(FDesdobrado).substr(desdobrado));
-    }
-    return sobra;
+    i = std::min(i, ABytes.size());
+    FQuebras += static_cast<std::uint64_t>(std::ranges::count(ABytes.substr(AInicio, i - AInicio), '\n'));
+    const std::size_t fim = BuscarFimDoCampo(ABytes, i);
+    valor += ABytes.substr(i, fim - i);
+    ACampo = FDesdobrados.emplace_back(std::move(valor));
+    return fim;
 }
 
-void TLeitorDeRegistros::Juntar(std::string_view ACampo) {
-    if (FTotalDeCampos++ < FMaximoDeCampos) FCampos.push_back(ACampo);
-}
-
-// The record takes the first ATamanho bytes.
-void TLeitorDeRegistros::Fechar(std::size_t ATamanho) {
-    std::string_view registro = FResto.substr(0, ATamanho);
-    FResto.remove_prefix(ATamanho);
-    std::size_t fim = 0;
-    if (registro.ends_with('\n')) fim = registro.ends_with("\r\n") ? 2 : 1;
-    FTexto = registro.substr(0, registro.size() - fim);
-    FFimDeLinha = registro.substr(registro.size() - fim);
+std::size_t TLeitorDeRegistros::BuscarFimDoCampo(std::string_view ABytes, std::size_t AInicio) const noexcept {
+    while (AInicio < ABytes.size() && ABytes[AInicio] != FDelimitador && ABytes[AInicio] != '\n') ++AInicio;
+    return AInicio;
 }
 
 void EscreverCampo(std::string& ASaida, std::string_view ACampo, char ADelimitador) {
-    const bool simples =
-        ACampo.find_first_of("\"\r\n") == std::string_view::npos && ACampo.find(ADelimitador) == std::string_view::npos;
-    if (simples) {
+    const auto pedeAspas = [&](char c) { return c == '"' || c == '\r' || c == '\n' || c == ADelimitador; };
+    if (std::ranges::none_of(ACampo, pedeAspas)) {
         ASaida += ACampo;
         return;
     }

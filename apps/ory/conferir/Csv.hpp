@@ -1,7 +1,10 @@
 #pragma once
 
+#include "Leitura.hpp"
+
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <span>
 #include <string>
 #include <string_view>
@@ -9,65 +12,68 @@
 
 // The CSV of the command: RFC 4180, read with indulgence.
 //   - A record ends at LF or CR LF outside quotes; a CR alone is data.
-//   - A field is quoted when its first character is a quote; inside, two quotes are one. What stands between the
-//     closing quote and the delimiter is added to the value. A quote elsewhere is data.
+//   - A field is quoted when its first character is a quote. Inside the quotes two quotes stand for one. The text
+//     between the closing quote and the delimiter is added to the value. A quote elsewhere is data.
 
 namespace Ory {
+
+struct TLimites {
+    std::size_t Bloco = std::size_t{256} << 10;    // bytes read at a time
+    std::size_t Registro = std::size_t{16} << 20;  // the longest record accepted
+};
+
+/// Raises EFalha for the record on that line, which is longer than the limit.
+[[noreturn]] void RecusarRegistroLongo(std::uint64_t ALinha, const TLimites& ALimites);
 
 /// "," when there are more of them than ";" in the first record, else ";". Quoted ones do not count.
 char DetectarDelimitador(std::string_view AInicio) noexcept;
 
-/// Finds where records end while the text arrives in parts. It remembers where it is between two parts.
-class TCortadorDeRegistros {
-public:
-    explicit TCortadorDeRegistros(char ADelimitador) noexcept : FDelimitador(ADelimitador) {}
-
-    /// Goes on with APedaco. The size of its front that ends with a record; 0 when no record ends in it.
-    std::size_t Cortar(std::string_view APedaco) noexcept;
-    /// True when the text so far ends inside quotes.
-    bool EstahEntreAspas() const noexcept { return FEstado == eaEntreAspas; }
-
-private:
-    enum TEstado : std::uint8_t { eaInicioDeCampo, eaForaDeAspas, eaEntreAspas, eaAspaVista };
-
-    char FDelimitador;
-    TEstado FEstado = eaInicioDeCampo;
-};
-
-/// Reads the records of a text that holds whole records (the last one may lack its line end).
+/// Reads the records of an input.
 class TLeitorDeRegistros {
 public:
+    /// ADelimitador    0: detected by the first block of the input.
     /// AMaximoDeCampos  how many fields of a record are kept; the others are only counted.
-    TLeitorDeRegistros(std::string_view ADados, char ADelimitador, std::size_t AMaximoDeCampos);
+    /// Skips a mark of UTF-8 at the start. Raises EFalha when the mark is one of UTF-16.
+    TLeitorDeRegistros(TEntrada& AEntrada, char ADelimitador, std::size_t AMaximoDeCampos, TLimites ALimites = {});
 
-    /// Goes to the next record; false at the end. What it gave of the record before is no longer valid.
+    /// Goes to the next record; false at the end. Raises EFalha for a record whose quotes never close, and for one
+    /// longer than the limit.
     bool Proximo();
+    void SetMaximoDeCampos(std::size_t AMaximo) noexcept { FMaximoDeCampos = AMaximo; }
 
+    // Of the record. Valid until the next Proximo.
     std::span<const std::string_view> GetCampos() const noexcept { return FCampos; }
     std::size_t GetTotalDeCampos() const noexcept { return FTotalDeCampos; }
     /// The bytes of the record without its line end, and the line end: "\n", "\r\n" or "".
     std::string_view GetTexto() const noexcept { return FTexto; }
     std::string_view GetFimDeLinha() const noexcept { return FFimDeLinha; }
-    /// LFs in the record, its line end included.
-    std::uint64_t GetQuebras() const noexcept { return FQuebras; }
+    /// The line on which the record starts, from 1.
+    std::uint64_t GetLinha() const noexcept { return FLinha; }
+
+    char GetDelimitador() const noexcept { return FDelimitador; }
+    bool PossuiMarcaUtf8() const noexcept { return FPossuiMarcaUtf8; }
+    std::uint64_t GetBytesLidos() const noexcept { return FBytes.GetTotal(); }
 
 private:
-    void LerSemAspas();
-    void LerComAspas();
-    std::size_t LerCampoEntreAspas(std::size_t AInicio);
-    void Juntar(std::string_view ACampo);
-    void Fechar(std::size_t ATamanho);
+    void LerBloco(std::size_t AQuantos);
+    bool Dividir(std::string_view ABytes);
+    std::size_t LerCampoEntreAspas(std::string_view ABytes, std::size_t AInicio, std::string_view& ACampo);
+    std::size_t BuscarFimDoCampo(std::string_view ABytes, std::size_t AInicio) const noexcept;
 
-    std::string_view FResto;
+    TBytesLidos FBytes;
     char FDelimitador;
-    bool FTemAspas;
     std::size_t FMaximoDeCampos;
+    TLimites FLimites;
+    bool FPossuiMarcaUtf8 = false;
+
     std::vector<std::string_view> FCampos{};
     std::size_t FTotalDeCampos = 0;
     std::string_view FTexto{};
     std::string_view FFimDeLinha{};
-    std::uint64_t FQuebras = 0;
-    std::string FDesdobrado{};  // fields whose value is not a part of the text
+    std::uint64_t FLinha = 1;
+    std::uint64_t FQuebras = 0;              // LFs in the record, its line end included
+    bool FFaltaAspa = false;                 // the last field read never closes its quotes
+    std::deque<std::string> FDesdobrados{};  // values that are not a part of the text
 };
 
 /// Appends ACampo, in quotes where it needs them.

@@ -71,7 +71,7 @@ std::string EscreverRelatorio(const TResumo& AResumo, std::string_view AArquivo,
     constexpr std::size_t CMaiorNome = 40;
     std::vector<TLinhaDaTabela> tabela{{"coluna", "tipo", "válidos", "inválidos", "vazios", "% válidos"}};
     for (const TResumoDeColuna& coluna : AResumo.Colunas)
-        tabela.push_back({Mostrar(coluna.Nome, coUtf8, CMaiorNome), std::string(BuscarNomeDoTipo(coluna.Tipo)),
+        tabela.push_back({Mostrar(coluna.Nome, coUtf8, CMaiorNome), std::string(coluna.Tipo->Nome),
                           EscreverQuantidade(coluna.Validos), EscreverQuantidade(coluna.Invalidos),
                           EscreverQuantidade(coluna.Vazios),
                           EscreverPercentual(coluna.Validos, coluna.Validos + coluna.Invalidos)});
@@ -127,7 +127,7 @@ std::string EscreverRelatorioJson(const TResumo& AResumo, std::string_view AArqu
         saida += i ? R"(,{"nome":)" : R"({"nome":)";
         EscreverTextoJson(saida, coluna.Nome);
         saida += R"(,"tipo":")";
-        saida += BuscarNomeDoTipo(coluna.Tipo);
+        saida += coluna.Tipo->Nome;
         saida += R"(","validos":)" + std::to_string(coluna.Validos);
         saida += R"(,"invalidos":)" + std::to_string(coluna.Invalidos);
         saida += R"(,"vazios":)" + std::to_string(coluna.Vazios);

@@ -7,11 +7,13 @@
 #include "oryutils/platform/Pastas.hpp"
 #include "oryutils/runtime/NomeDeArquivo.hpp"
 
+#include "Leitura.hpp"
 #include "Opcoes.hpp"
 #include "conferir/Codificacao.hpp"
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace Ory {
 namespace {
@@ -46,41 +48,38 @@ TCodificacaoLog LerCodificacao(const std::string& ANome) {
     return static_cast<TCodificacaoLog>(achado - CNomes.begin());
 }
 
-/// Each line of the input becomes one of the log, until the input ends.
-void LerLinhas(const TPedidoDeLog& APedido, TAmbiente& AAmbiente, TLogDoComando& ALog) {
-    std::string linha;
-    bool pendente = true;
-    const auto terminar_linha = [&] {
-        if (!linha.empty() && linha.back() == '\r') linha.pop_back();
-        ALog.Adicionar(Decodificar(linha), clWindowText);
-        pendente = true;
-        linha.clear();
-    };
-    bool eco = APedido.Eco;
-    const auto ecoar = [&](std::string_view ABytes) {
+/// An input whose bytes are repeated on an output.
+class TEntradaComEco final : public TEntrada {
+public:
+    TEntradaComEco(TEntrada& AEntrada, TSaida& ASaida) : FEntrada(AEntrada), FSaida(ASaida) {}
+    bool LerEsperaria() override { return FEntrada.LerEsperaria(); }
+    std::size_t Ler(std::span<char> ADestino) override {
+        const std::size_t lidos = FEntrada.Ler(ADestino);
         try {
-            if (eco) AAmbiente.Saida.Escrever(ABytes);
+            if (!FFechada) FSaida.Escrever({ADestino.data(), lidos});
         } catch (const ESaidaFechada&) {
-            eco = false;  // nobody listens any more; the log goes on
+            FFechada = true;  // nobody listens any more; the log goes on
         }
-    };
-    std::array<char, 65536> bloco;
-    while (true) {
-        if (pendente && AAmbiente.Entrada.LerEsperaria()) {
-            ALog.SalvarArquivoLog();
-            pendente = false;
-        }
-        const std::size_t lidos = AAmbiente.Entrada.Ler(bloco);
-        if (lidos == 0) break;
-        std::string_view resto(bloco.data(), lidos);
-        ecoar(resto);
-        for (std::size_t fim = 0; (fim = resto.find('\n')) != std::string_view::npos; resto.remove_prefix(fim + 1)) {
-            linha += resto.substr(0, fim);
-            terminar_linha();
-        }
-        linha += resto;
+        return lidos;
     }
-    if (!linha.empty()) terminar_linha();
+
+private:
+    TEntrada& FEntrada;
+    TSaida& FSaida;
+    bool FFechada = false;
+};
+
+/// Each line of the input becomes one of the log, until the input ends.
+void LerLinhas(TEntrada& AEntrada, TLogDoComando& ALog) {
+    TLeitorDeLinhas linhas(AEntrada);
+    bool pendente = true;
+    linhas.GetBytes().AoEsperar([&] {
+        if (std::exchange(pendente, false)) ALog.SalvarArquivoLog();
+    });
+    while (linhas.Proxima() == TLeitorDeLinhas::leLinha) {
+        ALog.Adicionar(Decodificar(linhas.GetLinha()), clWindowText);
+        pendente = true;
+    }
 }
 
 }  // namespace
@@ -129,7 +128,8 @@ int EscreverLog(const TPedidoDeLog& APedido, TAmbiente& AAmbiente, TAmbienteDoLo
     log.SetCodificacao(LerCodificacao(APedido.Codificacao));
     log.IniciarLog();
     try {
-        LerLinhas(APedido, AAmbiente, log);
+        TEntradaComEco comEco(AAmbiente.Entrada, AAmbiente.Saida);
+        LerLinhas(APedido.Eco ? comEco : AAmbiente.Entrada, log);
     } catch (const EFalha& erro) {
         log.Adicionar(u"Falha: " + DeUtf8(erro.what()), clWindowText);
         log.FinalizarLog();

@@ -5,6 +5,7 @@
 #include "oryutils/text/OryUtilsFormulas.hpp"
 #include "oryutils/text/UnOryUtilsMatematica.hpp"
 
+#include "Leitura.hpp"
 #include "Opcoes.hpp"
 
 #include <algorithm>
@@ -74,27 +75,13 @@ void DescreverExtenso(TOpcoes AComando, TPedidoDeExtenso& APedido) {
 }
 
 int MostrarExtenso(const TPedidoDeExtenso& APedido, TAmbiente& AAmbiente) {
-    bool tudo_certo = true;
-    for (const std::string& valor : APedido.Valores) tudo_certo &= EscreverExtenso(valor, AAmbiente);
-    if (!APedido.Valores.empty()) return tudo_certo ? stTudoCerto : stInvalido;
-
-    std::string linha;
-    const auto terminar_linha = [&] {
-        if (!linha.empty() && linha.back() == '\r') linha.pop_back();
-        tudo_certo &= EscreverExtenso(linha, AAmbiente);
-        linha.clear();
-    };
-    std::array<char, 65536> bloco;
-    while (const std::size_t lidos = AAmbiente.Entrada.Ler(bloco)) {
-        std::string_view resto(bloco.data(), lidos);
-        for (std::size_t fim = 0; (fim = resto.find('\n')) != std::string_view::npos; resto.remove_prefix(fim + 1)) {
-            linha += resto.substr(0, fim);
-            terminar_linha();
-        }
-        linha += resto;
+    bool tudoCerto = true;
+    for (const std::string& valor : APedido.Valores) tudoCerto &= EscreverExtenso(valor, AAmbiente);
+    if (APedido.Valores.empty()) {
+        TLeitorDeLinhas linhas(AAmbiente.Entrada);
+        while (linhas.Proxima() == TLeitorDeLinhas::leLinha) tudoCerto &= EscreverExtenso(linhas.GetLinha(), AAmbiente);
     }
-    if (!linha.empty()) terminar_linha();
-    return tudo_certo ? stTudoCerto : stInvalido;
+    return tudoCerto ? stTudoCerto : stInvalido;
 }
 
 }  // namespace Ory
