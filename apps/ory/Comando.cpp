@@ -8,9 +8,8 @@
 namespace Ory {
 namespace {
 
-/// `ory chamar` with an operation, or with --lote alone, and `ory --versao` are what other programs run again and
-/// again: they are recognised without building the description of the whole command line, which is asked about the
-/// rest.
+/// Runs `ory chamar OPERACAO ...`, `ory chamar --lote` and `ory --versao`; false for any other command line. Behind the
+/// operation every argument is a value, also one that starts with "-", so these are no options to be parsed.
 bool ChamarDireto(std::span<const std::string> AArgumentos, TAmbiente& AAmbiente, int& AStatus) {
     if (AArgumentos.size() == 1 && AArgumentos[0] == "--versao") {
         EscreverVersao(AAmbiente.Saida);

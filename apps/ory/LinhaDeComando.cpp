@@ -129,16 +129,13 @@ void DescreverOperacoes(TOpcoes AComando, TOpcoesDeOperacoes& AOpcoes) {
 /// The sub-commands, each with what was asked of it and what runs it.
 class TComandos {
 public:
-    TComandos(TAplicativo& AAplicativo, std::span<const std::string> AArgumentos, TAmbiente& AAmbiente)
-        : FAplicativo(AAplicativo), FArgumentos(AArgumentos), FAmbiente(AAmbiente) {}
+    TComandos(TAplicativo& AAplicativo, TAmbiente& AAmbiente) : FAplicativo(AAplicativo), FAmbiente(AAmbiente) {}
 
-    /// ADescrever gives the sub-command its options, which fill a TPedido; AExecutar runs it. The options of one whose
-    /// name is not written would be described for nothing.
+    /// ADescrever gives the sub-command its options, which fill a TPedido; AExecutar runs it.
     template <typename TPedido>
     void Incluir(const std::string& ANome, const std::string& ADescricao, void (*ADescrever)(TOpcoes, TPedido&),
                  int (*AExecutar)(const TPedido&, TAmbiente&)) {
         const TOpcoes comando = FAplicativo.Incluir(ANome, ADescricao);
-        if (std::ranges::find(FArgumentos, ANome) == FArgumentos.end()) return;
         const auto pedido = std::make_shared<TPedido>();
         ADescrever(comando, *pedido);
         FComandos.push_back({comando, [this, pedido, AExecutar] { return AExecutar(*pedido, FAmbiente); }});
@@ -155,7 +152,6 @@ private:
         std::function<int()> Executar;
     };
     TAplicativo& FAplicativo;
-    std::span<const std::string> FArgumentos;
     TAmbiente& FAmbiente;
     std::vector<TComando> FComandos{};
 };
@@ -188,7 +184,7 @@ int ExecutarLinhaDeComando(std::span<const std::string> AArgumentos, TAmbiente& 
                            "Confere e formata números de cadastro brasileiros e chama as operações da OryUtils.");
     bool versao = false;
     aplicativo.Opcoes().Marca("--versao,--version", versao, "mostra a versão");
-    TComandos comandos(aplicativo, AArgumentos, AAmbiente);
+    TComandos comandos(aplicativo, AAmbiente);
     comandos.Incluir("conferir", "confere os números de um arquivo CSV", DescreverConferir, ExecutarConferir);
     comandos.Incluir("chamar", "chama uma operação da biblioteca", DescreverChamar, ExecutarChamar);
     comandos.Incluir("operacoes", "lista o que chamar pode chamar", DescreverOperacoes, ExecutarOperacoes);

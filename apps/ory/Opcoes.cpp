@@ -1,7 +1,8 @@
 #include "Opcoes.hpp"
 
 #include "Ambiente.hpp"
-#include "Cli.hpp"
+
+#include <CLI/CLI.hpp>
 
 #include <string_view>
 #include <utility>

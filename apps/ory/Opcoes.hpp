@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-// What the command uses of CLI11. Each file that includes its headers makes some twenty objects at every start of the
-// process, of any sub-command; so one file alone does.
+// The part of CLI11 that the command uses. Opcoes.cpp alone includes its headers: each source that does so takes
+// seconds to compile and makes some twenty objects at every start of the process.
 namespace CLI {
 class App;
 class Option;

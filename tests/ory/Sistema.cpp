@@ -10,9 +10,11 @@
 
 TEST(Sistema, RetratoEmTabelaEEmJson) {
     const Ory::TRetratoDoSistema retrato{
-        .Maquina = {{"computador", u"PC\x1b[2J"}, {"usuario", u"João"}, {"mac", std::nullopt}},
+        .Maquina = {{"computador", "Computador", u"PC\x1b[2J"},
+                    {"usuario", "Usuário", u"João"},
+                    {"mac", "Endereço MAC"}},
         .Discos = {{u"C:\\", u"Não identificado", 10737418240, 3221225472}, {u"D:\\", u"\"x\"", 0, 0}},
-        .Pastas = {{"documentos", u"C:\\Usuários\\ana"}}};
+        .Pastas = {{"documentos", "Documentos", u"C:\\Usuários\\ana"}}};
     EXPECT_EQ(Ory::EscreverRetrato(retrato),
               "Computador    PC·[2J\nUsuário       João\nEndereço MAC  -\n\n"
               "Unidade  Volume              Total    Livre    Usado\n"

@@ -9,6 +9,7 @@
 #include "resistencia/Dialogos.hpp"
 #include "resistencia/Quantidade.hpp"
 #include "resistencia/Recursos.hpp"
+#include "sistema/Sistema.hpp"
 #include "system/Auxiliar.hpp"
 #include "ui/ToolkitRoteirizado.hpp"
 
@@ -63,20 +64,12 @@ TEST(Resistencia, OperacoesDoSistema) {
         {"BuscarMemoriaUsadaProcesso", [] { S::BuscarMemoriaUsadaProcesso(u"testes_resistencia"); }},
         {"LiberarMemoriaResidualProcesso", [] { S::LiberarMemoriaResidualProcesso(); }},
         {"EstahRodandoComoAdministrador", [] { S::EstahRodandoComoAdministrador(); }},
-        {"BuscarNomeComputador", [] { S::BuscarNomeComputador(); }},
-        {"BuscarNomeUsuarioLogadoNoWindows", [] { S::BuscarNomeUsuarioLogadoNoWindows(); }},
-        {"BuscarIPLocal", [] { S::BuscarIPLocal(); }},
+        {"all questions of ory sistema", [] { Ory::TirarRetrato(); }},
         {"BuscarIPPeloNomeComputador", [] { S::BuscarIPPeloNomeComputador(u"127.0.0.1"); }},
         {"BuscarEnderecoMac2", [] { S::BuscarEnderecoMac2(u"127.0.0.1"); }},
         {"EhIPLocal", [] { S::EhIPLocal(u"127.0.0.1", false); }},
-        {"BuscarVersaoWindows", [] { S::BuscarVersaoWindows(); }},
-        {"BuscarInformacoesDiscoRigido", [] { S::BuscarInformacoesDiscoRigido(u"C", fbBytes); }},
-        {"BuscarListaDrivesComputador", [] { S::BuscarListaDrivesComputador(); }},
         {"BuscarTempoInatividadeSistema", [] { S::BuscarTempoInatividadeSistema(); }},
         {"TeclaEstahPressionada", [] { S::TeclaEstahPressionada(16); }},
-        {"BuscarPastaMeusDocumentos", [] { S::BuscarPastaMeusDocumentos(); }},
-        {"BuscarPastaArquivoDeProgramas", [] { S::BuscarPastaArquivoDeProgramas(); }},
-        {"BuscarPastaTempWindows", [] { S::BuscarPastaTempWindows(); }},
         {"BuscarVersaoArquivo", [&] { TOryUtilsFiles::BuscarVersaoArquivo(eu); }},
         {"ExisteDiretorio", [&] { TOryUtilsFiles::ExisteDiretorio(pasta.Nome(u"")); }},
         {"TRegistry",

@@ -17,50 +17,40 @@ using OryUtils::TFormatoBytes;
 
 constexpr std::size_t CMaiorTexto = 200;
 
+/// One thing that the machine tells of itself. All that the command knows of it stands in this row.
 struct TPergunta {
-    const char* Nome;
+    const char* Nome;    // in JSON
+    const char* Titulo;  // for people
     std::u16string (*Responder)();
 };
 constexpr TPergunta CMaquina[] = {
-    {"computador", S::BuscarNomeComputador},
-    {"usuario", S::BuscarNomeUsuarioLogadoNoWindows},
-    {"windows", [] { return std::u16string(OryUtils::CVetorVersaoWindows[S::BuscarVersaoWindows()]); }},
-    {"ip", S::BuscarIPLocal},
-    {"mac", [] { return S::BuscarEnderecoMac(u"localhost"); }},
+    {"computador", "Computador", S::BuscarNomeComputador},
+    {"usuario", "Usuário", S::BuscarNomeUsuarioLogadoNoWindows},
+    {"windows", "Windows", [] { return std::u16string(OryUtils::CVetorVersaoWindows[S::BuscarVersaoWindows()]); }},
+    {"ip", "Endereço IP", S::BuscarIPLocal},
+    {"mac", "Endereço MAC", [] { return S::BuscarEnderecoMac(u"localhost"); }},
 };
 constexpr TPergunta CPastas[] = {
-    {"aplicacao", S::BuscarPastaAplicacao},    {"documentos", S::BuscarPastaMeusDocumentos},
-    {"temporaria", S::BuscarPastaTempWindows}, {"programas", S::BuscarPastaArquivoDeProgramas},
-    {"sistema", S::BuscarPastaSystemWindows},  {"instalacao", S::BuscarUnidadeInstalacaoWindows},
-    {"oryapps", S::BuscarPastaOryApps},        {"orydados", S::BuscarPastaOryDados},
+    {"aplicacao", "Aplicação", S::BuscarPastaAplicacao},
+    {"documentos", "Documentos", S::BuscarPastaMeusDocumentos},
+    {"temporaria", "Temporária", S::BuscarPastaTempWindows},
+    {"programas", "Programas", S::BuscarPastaArquivoDeProgramas},
+    {"sistema", "Sistema", S::BuscarPastaSystemWindows},
+    {"instalacao", "Instalação", S::BuscarUnidadeInstalacaoWindows},
+    {"oryapps", "OryApps", S::BuscarPastaOryApps},
+    {"orydados", "OryDados", S::BuscarPastaOryDados},
 };
-
-// How the names of the questions are shown to people.
-constexpr std::pair<std::string_view, std::string_view> CTitulos[] = {
-    {"computador", "Computador"}, {"usuario", "Usuário"},       {"windows", "Windows"},
-    {"ip", "Endereço IP"},        {"mac", "Endereço MAC"},      {"aplicacao", "Aplicação"},
-    {"documentos", "Documentos"}, {"temporaria", "Temporária"}, {"programas", "Programas"},
-    {"sistema", "Sistema"},       {"instalacao", "Instalação"}, {"oryapps", "OryApps"},
-    {"orydados", "OryDados"},
-};
-
-std::string BuscarTitulo(std::string_view ANome) {
-    for (const auto& [nome, titulo] : CTitulos)
-        if (nome == ANome) return std::string(titulo);
-    return std::string(ANome);
-}
 
 void Perguntar(std::span<const TPergunta> APerguntas, std::vector<TRetratoDoSistema::TItem>& AItens,
                TRetratoDoSistema& ARetrato) {
     for (const TPergunta& pergunta : APerguntas) {
-        std::optional<std::u16string> resposta;
+        TRetratoDoSistema::TItem& item = AItens.emplace_back(TRetratoDoSistema::TItem{pergunta.Nome, pergunta.Titulo});
         try {
-            resposta = pergunta.Responder();
+            std::u16string resposta = pergunta.Responder();
+            if (!resposta.empty()) item.Valor = std::move(resposta);
         } catch (const OryUtils::Exception& erro) {
             ARetrato.Erros.push_back(erro.GetMensagem());
         }
-        if (resposta && resposta->empty()) resposta.reset();
-        AItens.emplace_back(pergunta.Nome, std::move(resposta));
     }
 }
 
@@ -75,19 +65,19 @@ std::string EscreverEspaco(std::int64_t ABytes) {
 
 std::string EscreverItens(const std::vector<TRetratoDoSistema::TItem>& AItens) {
     std::vector<std::vector<std::string>> linhas;
-    for (const auto& [nome, valor] : AItens)
-        linhas.push_back({BuscarTitulo(nome), valor ? ParaATela(*valor, CMaiorTexto) : "-"});
+    for (const auto& item : AItens)
+        linhas.push_back({item.Titulo, item.Valor ? ParaATela(*item.Valor, CMaiorTexto) : "-"});
     return EscreverTabela(linhas, 2);
 }
 
 void EscreverItensJson(std::string& ASaida, const std::vector<TRetratoDoSistema::TItem>& AItens) {
     ASaida += '{';
-    for (const auto& [nome, valor] : AItens) {
+    for (const auto& item : AItens) {
         if (ASaida.back() != '{') ASaida += ',';
-        EscreverTextoJson(ASaida, std::string_view(nome));
+        EscreverTextoJson(ASaida, std::string_view(item.Nome));
         ASaida += ':';
-        if (valor)
-            EscreverTextoJson(ASaida, *valor);
+        if (item.Valor)
+            EscreverTextoJson(ASaida, *item.Valor);
         else
             ASaida += "null";
     }

@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace Ory {
@@ -26,7 +25,11 @@ struct TRetratoDoSistema {
         std::int64_t Total = 0;  // bytes
         std::int64_t Livre = 0;
     };
-    using TItem = std::pair<const char*, std::optional<std::u16string>>;  // name in UTF-8, value
+    struct TItem {
+        const char* Nome;    // in JSON
+        const char* Titulo;  // for people, in UTF-8
+        std::optional<std::u16string> Valor{};
+    };
 
     std::vector<TItem> Maquina{};
     std::vector<TDisco> Discos{};
