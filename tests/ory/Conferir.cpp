@@ -1,6 +1,6 @@
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/characters/Utf.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
-#include "oryutils/runtime/Caracteres.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/Formatos.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"

@@ -1,14 +1,14 @@
 #include "conferir/Colunas.hpp"
 
+#include "oryutils/characters/Caixa.hpp"
+#include "oryutils/characters/Caracteres.hpp"
+#include "oryutils/characters/Utf.hpp"
+#include "oryutils/fields/Mascara.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 #include "oryutils/registry_numbers/interno/CpfCnpj.hpp"
 #include "oryutils/registry_numbers/interno/MascarasDeCampos.hpp"
-#include "oryutils/characters/Caixa.hpp"
-#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
-#include "oryutils/fields/Mascara.hpp"
-#include "oryutils/characters/Utf.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
 
 #include "Fluxos.hpp"
