@@ -29,7 +29,6 @@ class Medidas:
 
     def __init__(self, pasta):
         self.rodadas = defaultdict(lambda: defaultdict(list))
-        self.bytes = {}
         for arquivo in sorted(pasta.glob("*")):
             rodada = arquivo.stem.rsplit("-", 1)[-1]
             (self.ler_csv if arquivo.suffix == ".csv" else self.ler_linhas)(arquivo, rodada)
@@ -43,8 +42,6 @@ class Medidas:
             nome = linha["name"].removesuffix("/real_time")
             if linha.get("items_per_second"):
                 self.rodadas[nome][rodada].append(1e9 / float(linha["items_per_second"]))
-            if linha.get("bytes"):
-                self.bytes[nome] = float(linha["bytes"])
 
     def ler_linhas(self, arquivo, rodada):
         for linha in arquivo.read_text().splitlines():
@@ -367,9 +364,6 @@ def main():
     print(tabela_de_texto(celulas))
     print()
     print(resumir_metas(linhas))
-    log = medidas.bytes.get("LogLinhas_Biblioteca")
-    bytes_do_log = f"The log by append writes {log:.4f} bytes for each byte of its file (target: at most 1.01)." if log else ""
-    print(bytes_do_log)
     maus = [c for c in casos if not c.linear]
     crescimento = (f"Growth: {len(casos)} cases, {len(casos) - len(maus)} linear (n log n for sorting)"
                    + (f"; more than that: {', '.join(sorted({c.operacao for c in maus}))}" if maus else "") + ".")
@@ -382,7 +376,7 @@ def main():
     if opcoes.documento:
         preencher(opcoes.documento, {
             "machine": descrever_maquina(),
-            "targets": resumir_metas(linhas) + "\n\n" + bytes_do_log,
+            "targets": resumir_metas(linhas),
             "figures": tabela_de_documento(CABECALHO, celulas),
             "growth": crescimento + ("\n\n" + tabela_de_crescimento(casos) if casos else ""),
         })
