@@ -54,8 +54,7 @@ bool ConferirEmails(const TCampo& ACampo, std::string* AFormatado) {
 
 bool ConferirCnpj(const TCampo& ACampo, std::string* AFormatado) {
     const auto cnpj = Interno::LerCnpjAlfanumerico(ACampo.Bytes);
-    if (!Interno::TemFormaDeCnpj(cnpj) || Interno::Conferir(Interno::CFormatoCnpj, cnpj) != OryUtils::mrNenhum)
-        return false;
+    if (Interno::Conferir(Interno::CFormatoCnpj, cnpj) != OryUtils::mrNenhum) return false;
     if (AFormatado) Interno::EscreverNaMascara(*AFormatado, Interno::CFormatoCnpj.Mascara, cnpj);
     return true;
 }
@@ -164,7 +163,8 @@ bool ConferirCompetencia(const TCampo& ACampo, std::string* AFormatado) {
     constexpr std::size_t CDigitos = 6;
     const std::u16string digitos = RetirarMarcas(ACampo);
     const std::u16string mes = digitos.substr(0, 2);
-    return mes >= u"01" && mes <= u"12" && AceitarMascarado<Interno::CMascaraCompetencia>(digitos, CDigitos, AFormatado);
+    return mes >= u"01" && mes <= u"12" &&
+           AceitarMascarado<Interno::CMascaraCompetencia>(digitos, CDigitos, AFormatado);
 }
 
 using OryTypes::tiCEI;
