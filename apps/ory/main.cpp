@@ -1,4 +1,5 @@
 #include "oryutils/platform/Terminal.hpp"
+#include "oryutils/platform/VariavelDeAmbiente.hpp"
 
 #include "Comando.hpp"
 #include "operations/Operacoes.hpp"
@@ -15,7 +16,7 @@ int main(int AQuantidade, char** AArgumentos) {
     ambiente.EntradaEhTerminal = entrada.GetFluxo().EhTerminal();
     ambiente.ErroEhTerminal = erro.GetFluxo().EhTerminal();
     if (saida.GetFluxo().EhTerminal()) {
-        ambiente.Cores = !PossuiVariavelDeAmbiente("NO_COLOR");
+        ambiente.Cores = BuscarVariavelDeAmbiente("NO_COLOR").empty();
         ambiente.Largura = saida.GetFluxo().BuscarLarguraDoTerminal();
     }
     return Ory::Executar(BuscarArgumentos(AQuantidade, AArgumentos), ambiente);

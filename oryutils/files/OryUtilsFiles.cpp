@@ -3,6 +3,7 @@
 #include "oryutils/files/interno/DataDoArquivo.hpp"
 #include "oryutils/platform/DadosDoArquivo.hpp"
 #include "oryutils/platform/Pastas.hpp"
+#include "oryutils/platform/ProgramaPadrao.hpp"
 #include "oryutils/runtime/FormatoNumero.hpp"
 #include "oryutils/runtime/NomeDeArquivo.hpp"
 #include "oryutils/runtime/interno/PrecisaoPlena.hpp"

@@ -158,15 +158,21 @@ public:
 extern ORY_API TInstanciaGlobal<TOryUtilsFiles> GOryUtilsFiles;
 
 /// Free functions with the older names; each forwards to the operation of the class of the same meaning.
-ORY_API std::u16string GetVersaoArquivo(std::u16string_view AArquivo);
-ORY_API TFileStatus CompareVersion(std::u16string_view AVersao1, std::u16string_view AVersao2);
-ORY_API std::u16string FormatarVersaoArquivo(std::u16string_view AVersao, TTipoDivisaoVersaoArquivo ATipoDivisao);
-ORY_API bool IsAExe(std::u16string_view AArquivo);
-ORY_API bool IsABpl(std::u16string_view AArquivo);
-ORY_API bool isADll(std::u16string_view AArquivo);
-ORY_API bool isADAT(std::u16string_view AArquivo);
-ORY_API bool isAINI(std::u16string_view AArquivo);
-ORY_API bool isAHTML(std::u16string_view AArquivo);
+inline std::u16string GetVersaoArquivo(std::u16string_view AArquivo) {
+    return TOryUtilsFiles::BuscarVersaoArquivo(AArquivo);
+}
+inline TFileStatus CompareVersion(std::u16string_view AVersao1, std::u16string_view AVersao2) {
+    return TOryUtilsFiles::CompararVersao(AVersao1, AVersao2);
+}
+inline std::u16string FormatarVersaoArquivo(std::u16string_view AVersao, TTipoDivisaoVersaoArquivo ATipoDivisao) {
+    return TOryUtilsFiles::FormatarVersaoArquivo(AVersao, ATipoDivisao);
+}
+inline bool IsAExe(std::u16string_view AArquivo) { return TOryUtilsFiles::EhArquivoEXE(AArquivo); }
+inline bool IsABpl(std::u16string_view AArquivo) { return TOryUtilsFiles::EhArquivoBPL(AArquivo); }
+inline bool isADll(std::u16string_view AArquivo) { return TOryUtilsFiles::EhArquivoDLL(AArquivo); }
+inline bool isADAT(std::u16string_view AArquivo) { return TOryUtilsFiles::EhArquivoDAT(AArquivo); }
+inline bool isAINI(std::u16string_view AArquivo) { return TOryUtilsFiles::EhArquivoINI(AArquivo); }
+inline bool isAHTML(std::u16string_view AArquivo) { return TOryUtilsFiles::EhArquivoHTML(AArquivo); }
 
 /// Key "Numero" of section "VERSAO" of the INI file AArquivo; empty when absent. Never raises.
 ORY_API std::u16string GetVersionFromINI(std::u16string_view AArquivo);

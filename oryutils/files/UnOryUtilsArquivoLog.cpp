@@ -1,14 +1,13 @@
 #include "oryutils/files/UnOryUtilsArquivoLog.hpp"
 
 #include "oryutils/characters/Caracteres.hpp"
-#include "oryutils/characters/Utf.hpp"
 #include "oryutils/files/OryUtilsFiles.hpp"
 #include "oryutils/files/interno/AmbienteDoLog.hpp"
 #include "oryutils/files/interno/CodificacaoDoLog.hpp"
 #include "oryutils/files/interno/GravadorDoLog.hpp"
 #include "oryutils/files/interno/LinhasDoLog.hpp"
+#include "oryutils/platform/Arquivos.hpp"
 #include "oryutils/platform/DadosDoArquivo.hpp"
-#include "oryutils/platform/Fluxo.hpp"
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
@@ -16,7 +15,6 @@
 #include "oryutils/runtime/NomeDeArquivo.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
 
-#include <optional>
 #include <utility>
 
 namespace OryUtils {
@@ -25,23 +23,6 @@ namespace {
 const std::u16string CSeparador(78, u'*');
 
 bool EhVazio(std::u16string_view ATexto) { return Aparar(ATexto).empty(); }
-
-/// The bytes of a file; none when it is not there or cannot be read.
-std::optional<std::string> LerArquivo(std::u16string_view AArquivo) {
-    Interno::TFluxo fluxo;
-    if (AArquivo.find(u'\0') != AArquivo.npos || fluxo.AbrirParaLer(ParaUtf8(AArquivo)) != Interno::efNenhum) return {};
-    std::string bytes;
-    std::size_t lidos = 0;
-    Interno::TErroFluxo erro = Interno::efNenhum;
-    // One byte more than the file is said to have, so that its end is met without another turn.
-    bytes.resize(static_cast<std::size_t>(fluxo.BuscarTamanho().value_or(0)) + 1);
-    while (const std::size_t parte = fluxo.Ler({bytes.data() + lidos, bytes.size() - lidos}, erro)) {
-        lidos += parte;
-        if (lidos == bytes.size()) bytes.resize(2 * lidos);
-    }
-    bytes.resize(lidos);
-    return erro == Interno::efNenhum ? std::optional(std::move(bytes)) : std::nullopt;
-}
 
 /// True for the time of a scope.
 class TLigado {
@@ -202,7 +183,7 @@ TDateTime TOryUtilsArquivoLog::ConferirData() {
 
 void TOryUtilsArquivoLog::CarregarArquivo() {
     if (EhVazio(FArquivoLog)) return;
-    if (const auto bytes = LerArquivo(FArquivoLog)) FLog->Substituir(SepararLinhas(*bytes, GetCodificacao()));
+    if (const auto bytes = Interno::LerArquivo(FArquivoLog)) FLog->Substituir(SepararLinhas(*bytes, GetCodificacao()));
 }
 
 void TOryUtilsArquivoLog::SalvarArquivoLog() {

@@ -30,8 +30,4 @@ bool ExisteArquivo(std::u16string_view AArquivo);
 /// Sets the last-write time of a file. False when the system refuses or has no such instant.
 bool AlterarUltimaGravacao(std::u16string_view AArquivo, TInstanteUtc AInstante);
 
-/// Hands AArquivo to the program that the system keeps for its kind, with AParametros where it is a program itself.
-/// True when the order was taken; it does not wait for the program.
-bool AbrirComProgramaPadrao(std::u16string_view AArquivo, std::u16string_view AParametros);
-
 }  // namespace OryUtils::Interno

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "oryutils/platform/DadosDoArquivo.hpp"
+#include "oryutils/platform/ErroDoSistema.hpp"
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -8,18 +11,6 @@
 #include <string_view>
 
 namespace OryUtils::Interno {
-
-/// Why a stream or a file could not be used.
-enum TErroFluxo : int {
-    efNenhum,
-    efNaoExiste,
-    efJaExiste,
-    efSemPermissao,
-    efEhPasta,
-    efDiscoCheio,
-    efFechado,  // nobody reads the other end
-    efOutro,
-};
 
 /// Which file it is, and its size. Two equal marks: nobody has put another file in its place, lengthened or cut it.
 struct TMarcaDeArquivo {
@@ -45,6 +36,9 @@ public:
     static TFluxo ErroPadrao() noexcept;
 
     TErroFluxo AbrirParaLer(const std::string& ANome);
+    /// Opens a file of the disk for reading; efOutro for a pipe or a device, which might keep the reader waiting.
+    /// Others may go on writing to it, renaming and deleting it.
+    TErroFluxo AbrirArquivoParaLer(std::u16string_view AArquivo);
     /// Creates a file that must not exist yet, for writing. ASubstituido, when given, is the file whose name it takes
     /// later: on Linux who may read and write that one, where it exists, may do so with the new one from the beginning
     /// and nobody else. On Windows the folder says who may.
@@ -60,11 +54,15 @@ public:
 
     /// Waits for input and reads at most ADestino.size() bytes; 0 at the end of input or on an error, told by AErro.
     std::size_t Ler(std::span<char> ADestino, TErroFluxo& AErro) noexcept;
+    /// Bytes of a file from AInicio on; how many were read: fewer only at the end of the file or on an error.
+    std::size_t LerEm(std::uint64_t AInicio, std::span<char> ADestino) const noexcept;
     /// Writes everything or gives the error.
     TErroFluxo Escrever(std::string_view ABytes) noexcept;
 
     /// Bytes of a file; none when the stream is not a file.
     std::optional<std::uint64_t> BuscarTamanho() const noexcept;
+    /// Last-write time of a file; 0 when the system does not tell.
+    TInstanteUtc BuscarUltimaGravacao() const noexcept;
     /// The mark of a file; none when the system does not tell.
     std::optional<TMarcaDeArquivo> BuscarMarca() const noexcept;
     /// The file descriptor or HANDLE, for other calls of the system; below zero when nothing is open.
@@ -77,6 +75,10 @@ public:
 
 private:
     static constexpr std::intptr_t CNenhum = -1;
+
+    /// Takes over what an opening call gave; CNenhum stands for its failure.
+    TErroFluxo Assumir(std::intptr_t AAlca) noexcept;
+
     std::intptr_t FAlca = CNenhum;  // file descriptor or HANDLE
     bool FDono = false;
 };

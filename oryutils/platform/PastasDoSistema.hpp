@@ -7,9 +7,6 @@
 
 namespace OryUtils::Interno {
 
-/// Full path of the running program.
-ORY_API std::u16string BuscarCaminhoDoExecutavel();
-
 /// Folders as the system gives them, without a final separator unless they are a root; empty when it does not tell.
 /// The user's documents. (Linux) The documents folder of user-dirs.dirs, else "Documents" in the home folder.
 ORY_API std::optional<std::u16string> BuscarPastaDeDocumentos();

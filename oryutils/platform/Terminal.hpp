@@ -23,7 +23,4 @@ private:
     unsigned FSaidaAnterior = 0;
 };
 
-/// True when the environment variable is set and not empty.
-bool PossuiVariavelDeAmbiente(const char* ANome);
-
 }  // namespace OryUtils::Interno

@@ -1,3 +1,4 @@
+#include "oryutils/platform/Executavel.hpp"
 #include "oryutils/platform/Pastas.hpp"
 #include "oryutils/platform/PastasDoSistema.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
@@ -27,7 +28,7 @@ std::u16string LerDaMaquina(std::u16string_view AChave, std::u16string_view AVal
 }  // namespace
 
 std::u16string TOryUtilsSistema::BuscarPastaAplicacao() {
-    return Interno::BuscarPastaDoPrograma(Interno::BuscarCaminhoDoExecutavel(), Interno::BuscarSeparadorDePastas());
+    return Interno::BuscarPastaDoPrograma(Interno::BuscarArquivoExecutavel(), Interno::BuscarSeparadorDePastas());
 }
 
 std::u16string TOryUtilsSistema::BuscarPastaConfiguracaoFormularios() {

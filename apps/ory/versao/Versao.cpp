@@ -5,7 +5,7 @@
 #include "oryutils/characters/Utf.hpp"
 #include "oryutils/files/OryUtilsFiles.hpp"
 #include "oryutils/platform/DadosDoArquivo.hpp"
-#include "oryutils/platform/LeituraDeArquivo.hpp"
+#include "oryutils/platform/Fluxo.hpp"
 #include "oryutils/platform/Pastas.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
@@ -206,7 +206,8 @@ std::string BuscarProblema(const std::u16string& AArquivo) {
     const std::string nome = ParaUtf8(AArquivo);
     if (OryUtils::Interno::ExistePasta(AArquivo)) return "é uma pasta: " + nome;
     if (!OryUtils::Interno::ExisteArquivo(AArquivo)) return "arquivo não encontrado: " + nome;
-    return OryUtils::Interno::TLeituraDeArquivo(AArquivo).EstahAberto() ? "" : "não foi possível ler " + nome;
+    const auto erro = OryUtils::Interno::TFluxo().AbrirArquivoParaLer(AArquivo);
+    return erro == OryUtils::Interno::efNenhum ? "" : "não foi possível ler " + nome;
 }
 
 /// A text of digits, points and commas is a version itself; any other names a file. Blank is most likely the work of a

@@ -4,6 +4,7 @@
 #include "oryutils/forms/console/ToolkitConsole.hpp"
 #include "oryutils/forms/interno/FabricaQt.hpp"
 #include "oryutils/platform/BibliotecaDinamica.hpp"
+#include "oryutils/platform/VariavelDeAmbiente.hpp"
 #include "oryutils/platform/linux/Exibicao.hpp"
 
 #include <vector>

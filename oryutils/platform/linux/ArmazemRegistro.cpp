@@ -3,8 +3,8 @@
 #include "oryutils/characters/Unidades.hpp"
 #include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/PastasDoSistema.hpp"
+#include "oryutils/platform/VariavelDeAmbiente.hpp"
 #include "oryutils/platform/linux/Descritor.hpp"
-#include "oryutils/platform/linux/Exibicao.hpp"
 #include "oryutils/platform/linux/PastaInicial.hpp"
 
 #include <array>
@@ -47,11 +47,8 @@ TErroRegistro DeErrno(int AErro, TErroRegistro ADemais) {
 }
 
 std::string BuscarPastaDoUsuario() {
-    // A relative folder counts as none.
-    if (const std::string pasta = BuscarVariavelDeAmbiente("XDG_CONFIG_HOME"); pasta.starts_with('/'))
-        return pasta + std::string(CPastaDoUsuario);
-    const std::string inicial = BuscarPastaInicial();
-    return inicial.empty() ? inicial : inicial + "/.config" + std::string(CPastaDoUsuario);
+    const std::string pasta = BuscarPastaDeConfiguracoes();
+    return pasta.empty() ? pasta : pasta + std::string(CPastaDoUsuario);
 }
 
 std::string BuscarPastaAcima(const std::string& APasta) {

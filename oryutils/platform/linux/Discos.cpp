@@ -2,6 +2,7 @@
 
 #include "oryutils/characters/Hexadecimal.hpp"
 #include "oryutils/characters/Utf.hpp"
+#include "oryutils/platform/Arquivos.hpp"
 #include "oryutils/platform/linux/Descritor.hpp"
 #include "oryutils/readers/TabelaDeMontagens.hpp"
 
@@ -9,8 +10,6 @@
 #include <array>
 #include <dirent.h>
 #include <fcntl.h>
-#include <fstream>
-#include <iterator>
 #include <linux/fs.h>
 #include <memory>
 #include <sys/ioctl.h>
@@ -30,9 +29,7 @@ bool EhPasta(const std::string& ANome) {
 }
 
 std::vector<TMontagem> ListarMontagens() {
-    std::ifstream arquivo("/proc/self/mountinfo", std::ios::binary);
-    const std::string texto(std::istreambuf_iterator<char>(arquivo), {});
-    std::vector<TMontagem> lista = LerTabelaDeMontagens(texto);
+    std::vector<TMontagem> lista = LerTabelaDeMontagens(LerArquivo(u"/proc/self/mountinfo").value_or(""));
     std::erase_if(lista, [](const TMontagem& AMontagem) { return !EhPasta(AMontagem.Pasta); });
     return lista;
 }

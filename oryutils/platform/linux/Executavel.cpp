@@ -2,16 +2,13 @@
 
 #include "oryutils/characters/Utf.hpp"
 
-#include <climits>
-
-#include <unistd.h>
+#include <filesystem>
 
 namespace OryUtils::Interno {
 
 std::u16string BuscarArquivoExecutavel() {
-    char caminho[PATH_MAX];
-    const ssize_t tamanho = ::readlink("/proc/self/exe", caminho, sizeof caminho);
-    return tamanho > 0 ? DeUtf8({caminho, static_cast<std::size_t>(tamanho)}) : std::u16string();
+    std::error_code erro;
+    return DeUtf8(std::filesystem::read_symlink("/proc/self/exe", erro).native());
 }
 
 }  // namespace OryUtils::Interno

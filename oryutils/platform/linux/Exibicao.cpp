@@ -1,6 +1,7 @@
 #include "oryutils/platform/linux/Exibicao.hpp"
 
 #include "oryutils/platform/BibliotecaDinamica.hpp"
+#include "oryutils/platform/VariavelDeAmbiente.hpp"
 #include "oryutils/platform/linux/Descritor.hpp"
 
 #include <climits>
@@ -43,11 +44,6 @@ bool RespondeWayland() {
 }
 
 }  // namespace
-
-std::string BuscarVariavelDeAmbiente(const char* ANome) {
-    const char* valor = ::secure_getenv(ANome);
-    return valor ? valor : "";
-}
 
 bool PossuiExibicao() { return RespondeX11() || RespondeWayland(); }
 

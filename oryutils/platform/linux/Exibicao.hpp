@@ -12,8 +12,4 @@ bool PossuiExibicao();
 /// Never relative to the current folder.
 std::string BuscarPastaDoModulo();
 
-/// Value of an environment variable; empty when it is not set, and in a program that runs with more rights than its
-/// user.
-std::string BuscarVariavelDeAmbiente(const char* ANome);
-
 }  // namespace OryUtils::Interno

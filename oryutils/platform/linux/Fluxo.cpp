@@ -1,10 +1,11 @@
 #include "oryutils/platform/Fluxo.hpp"
 
-#include "oryutils/platform/Arquivos.hpp"
+#include "oryutils/characters/Utf.hpp"
+#include "oryutils/platform/linux/InstanteUtc.hpp"
 
 #include <cerrno>
-#include <cstdio>
 #include <fcntl.h>
+#include <limits>
 #include <poll.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
@@ -14,31 +15,7 @@
 namespace OryUtils::Interno {
 namespace {
 
-TErroFluxo DeErrno(int AErro) {
-    switch (AErro) {
-        case 0:
-            return efNenhum;
-        case ENOENT:
-        case ENOTDIR:
-            return efNaoExiste;
-        case EEXIST:
-            return efJaExiste;
-        case EACCES:
-        case EPERM:
-        case EROFS:
-            return efSemPermissao;
-        case EISDIR:
-            return efEhPasta;
-        case ENOSPC:
-        case EDQUOT:
-        case EFBIG:
-            return efDiscoCheio;
-        case EPIPE:
-            return efFechado;
-        default:
-            return efOutro;
-    }
-}
+TErroFluxo BuscarErro() noexcept { return ClassificarErroDoSistema(static_cast<std::uint32_t>(errno)); }
 
 int Descritor(std::intptr_t AAlca) { return static_cast<int>(AAlca); }
 
@@ -79,18 +56,30 @@ TFluxo TFluxo::ErroPadrao() noexcept {
     return fluxo;
 }
 
-TErroFluxo TFluxo::AbrirParaLer(const std::string& ANome) {
-    Fechar();
-    const int alca = ::open(ANome.c_str(), O_RDONLY | O_CLOEXEC);
-    if (alca < 0) return DeErrno(errno);
-    struct stat dados {};
-    if (::fstat(alca, &dados) == 0 && S_ISDIR(dados.st_mode)) {
-        ::close(alca);
-        return efEhPasta;
-    }
-    FAlca = alca;
+TErroFluxo TFluxo::Assumir(std::intptr_t AAlca) noexcept {
+    if (AAlca == CNenhum) return BuscarErro();
+    FAlca = AAlca;
     FDono = true;
     return efNenhum;
+}
+
+TErroFluxo TFluxo::AbrirParaLer(const std::string& ANome) {
+    Fechar();
+    if (const TErroFluxo erro = Assumir(::open(ANome.c_str(), O_RDONLY | O_CLOEXEC)); erro != efNenhum) return erro;
+    struct stat dados {};
+    if (::fstat(Descritor(FAlca), &dados) != 0 || !S_ISDIR(dados.st_mode)) return efNenhum;
+    Fechar();
+    return efEhPasta;
+}
+
+TErroFluxo TFluxo::AbrirArquivoParaLer(std::u16string_view AArquivo) {
+    Fechar();
+    if (AArquivo.find(u'\0') != AArquivo.npos) return efNaoExiste;
+    // Without O_NONBLOCK a pipe that has no writer would keep the opener waiting.
+    const TErroFluxo erro = Assumir(::open(ParaUtf8(AArquivo).c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    if (erro != efNenhum || BuscarTamanho()) return erro;
+    Fechar();
+    return efOutro;
 }
 
 TErroFluxo TFluxo::CriarNovo(const std::string& ANome, const std::string& ASubstituido) {
@@ -99,35 +88,25 @@ TErroFluxo TFluxo::CriarNovo(const std::string& ANome, const std::string& ASubst
     const bool substitui = !ASubstituido.empty() && ::stat(ASubstituido.c_str(), &antigo) == 0;
     const mode_t modo = substitui ? antigo.st_mode & 0777 : 0666;
     const int alca = ::open(ANome.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, modo);
-    if (alca < 0) return DeErrno(errno);
-    if (substitui) static_cast<void>(::fchmod(alca, modo));  // what the mask took off; without it fewer may read
-    FAlca = alca;
-    FDono = true;
-    return efNenhum;
+    if (substitui && alca >= 0)
+        static_cast<void>(::fchmod(alca, modo));  // what the mask took off; without it fewer read
+    return Assumir(alca);
 }
 
 TErroFluxo TFluxo::CriarOuEsvaziar(const std::string& ANome) {
     Fechar();
-    const int alca = ::open(ANome.c_str(), CParaEscrever | O_CREAT | O_TRUNC, 0666);
-    if (alca < 0) return DeErrno(errno);
-    FAlca = alca;
-    FDono = true;
-    return efNenhum;
+    return Assumir(::open(ANome.c_str(), CParaEscrever | O_CREAT | O_TRUNC, 0666));
 }
 
 TErroFluxo TFluxo::AbrirParaAcrescentar(const std::string& ANome) {
     Fechar();
-    const int alca = ::open(ANome.c_str(), CParaEscrever | O_APPEND);
-    if (alca < 0) return DeErrno(errno);
-    FAlca = alca;
-    FDono = true;
-    return efNenhum;
+    return Assumir(::open(ANome.c_str(), CParaEscrever | O_APPEND));
 }
 
 TErroFluxo TFluxo::Fechar() noexcept {
     const int alca = Descritor(std::exchange(FAlca, CNenhum));
     if (!std::exchange(FDono, false)) return efNenhum;
-    return ::close(alca) == 0 || errno == EINTR ? efNenhum : DeErrno(errno);
+    return ::close(alca) == 0 || errno == EINTR ? efNenhum : BuscarErro();
 }
 
 std::size_t TFluxo::Ler(std::span<char> ADestino, TErroFluxo& AErro) noexcept {
@@ -136,9 +115,21 @@ std::size_t TFluxo::Ler(std::span<char> ADestino, TErroFluxo& AErro) noexcept {
         const ssize_t lidos = ::read(Descritor(FAlca), ADestino.data(), ADestino.size());
         if (lidos >= 0) return static_cast<std::size_t>(lidos);
         if (ValeRepetir(Descritor(FAlca), POLLIN)) continue;
-        AErro = DeErrno(errno);
+        AErro = BuscarErro();
         return 0;
     }
+}
+
+std::size_t TFluxo::LerEm(std::uint64_t AInicio, std::span<char> ADestino) const noexcept {
+    std::size_t total = 0;
+    while (total < ADestino.size() && AInicio + total <= std::numeric_limits<off_t>::max()) {
+        const ssize_t lidos = ::pread(Descritor(FAlca), ADestino.data() + total, ADestino.size() - total,
+                                      static_cast<off_t>(AInicio + total));
+        if (lidos < 0 && errno == EINTR) continue;
+        if (lidos <= 0) break;
+        total += static_cast<std::size_t>(lidos);
+    }
+    return total;
 }
 
 TErroFluxo TFluxo::Escrever(std::string_view ABytes) noexcept {
@@ -147,7 +138,7 @@ TErroFluxo TFluxo::Escrever(std::string_view ABytes) noexcept {
         if (escritos >= 0)
             ABytes.remove_prefix(static_cast<std::size_t>(escritos));
         else if (!ValeRepetir(Descritor(FAlca), POLLOUT))
-            return DeErrno(errno);
+            return BuscarErro();
     }
     return efNenhum;
 }
@@ -156,6 +147,11 @@ std::optional<std::uint64_t> TFluxo::BuscarTamanho() const noexcept {
     struct stat dados {};
     if (::fstat(Descritor(FAlca), &dados) != 0 || !S_ISREG(dados.st_mode)) return {};
     return static_cast<std::uint64_t>(dados.st_size);
+}
+
+TInstanteUtc TFluxo::BuscarUltimaGravacao() const noexcept {
+    struct stat dados {};
+    return ::fstat(Descritor(FAlca), &dados) == 0 ? DeTimespec(dados.st_mtim) : 0;
 }
 
 std::optional<TMarcaDeArquivo> TFluxo::BuscarMarca() const noexcept {
@@ -181,14 +177,6 @@ int TFluxo::BuscarLarguraDoTerminal() const noexcept {
     winsize tamanho{};
     const bool sabe = ::ioctl(Descritor(FAlca), TIOCGWINSZ, &tamanho) == 0 && tamanho.ws_col > 0;
     return sabe ? tamanho.ws_col : 80;
-}
-
-TErroFluxo SubstituirArquivo(const std::string& ADe, const std::string& APara) {
-    return std::rename(ADe.c_str(), APara.c_str()) == 0 ? efNenhum : DeErrno(errno);
-}
-
-TErroFluxo ExcluirArquivo(const std::string& ANome) {
-    return ::unlink(ANome.c_str()) == 0 || errno == ENOENT ? efNenhum : DeErrno(errno);
 }
 
 }  // namespace OryUtils::Interno

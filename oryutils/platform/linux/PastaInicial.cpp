@@ -1,6 +1,6 @@
 #include "oryutils/platform/linux/PastaInicial.hpp"
 
-#include "oryutils/platform/linux/Exibicao.hpp"
+#include "oryutils/platform/VariavelDeAmbiente.hpp"
 
 #include <cerrno>
 #include <pwd.h>
@@ -16,6 +16,12 @@ std::string BuscarPastaInicial() {
     passwd* achada = nullptr;
     while (::getpwuid_r(::geteuid(), &conta, area.data(), area.size(), &achada) == ERANGE) area.resize(area.size() * 2);
     return achada && achada->pw_dir ? achada->pw_dir : "";
+}
+
+std::string BuscarPastaDeConfiguracoes() {
+    if (std::string pasta = BuscarVariavelDeAmbiente("XDG_CONFIG_HOME"); pasta.starts_with('/')) return pasta;
+    const std::string inicio = BuscarPastaInicial();
+    return inicio.empty() ? inicio : inicio + "/.config";
 }
 
 }  // namespace OryUtils::Interno

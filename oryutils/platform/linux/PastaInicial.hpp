@@ -8,4 +8,8 @@ namespace OryUtils::Interno {
 /// accounts does; empty when neither tells.
 std::string BuscarPastaInicial();
 
+/// The folder of the user's settings: XDG_CONFIG_HOME where it is a full path, else ".config" in the home folder; empty
+/// without a home folder.
+std::string BuscarPastaDeConfiguracoes();
+
 }  // namespace OryUtils::Interno

@@ -2,22 +2,19 @@
 
 #include "oryutils/characters/Utf.hpp"
 
-#include <sys/stat.h>
+#include <filesystem>
 
 namespace OryUtils::Interno {
 
 bool ExistePasta(std::u16string_view APasta) {
-    if (APasta.find(u'\0') != APasta.npos) return false;
-    struct stat dados {};
-    return ::stat(ParaUtf8(APasta).c_str(), &dados) == 0 && S_ISDIR(dados.st_mode);
+    std::error_code erro;
+    return APasta.find(u'\0') == APasta.npos && std::filesystem::is_directory(ParaUtf8(APasta), erro);
 }
 
 bool CriarPasta(std::u16string_view APasta) {
     if (APasta.find(u'\0') != APasta.npos) return false;
-    const std::string pasta = ParaUtf8(APasta);
-    for (std::size_t fim = pasta.find('/', 1); fim != pasta.npos; fim = pasta.find('/', fim + 1))
-        ::mkdir(pasta.substr(0, fim).c_str(), 0777);
-    ::mkdir(pasta.c_str(), 0777);
+    std::error_code erro;
+    std::filesystem::create_directories(ParaUtf8(APasta), erro);
     return ExistePasta(APasta);
 }
 

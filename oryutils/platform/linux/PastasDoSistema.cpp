@@ -1,16 +1,10 @@
 #include "oryutils/platform/PastasDoSistema.hpp"
 
 #include "oryutils/characters/Utf.hpp"
-#include "oryutils/platform/linux/Exibicao.hpp"
+#include "oryutils/platform/Arquivos.hpp"
+#include "oryutils/platform/VariavelDeAmbiente.hpp"
 #include "oryutils/platform/linux/PastaDeDocumentos.hpp"
 #include "oryutils/platform/linux/PastaInicial.hpp"
-
-#include <climits>
-
-#include <fstream>
-#include <iterator>
-#include <unistd.h>
-#include <vector>
 
 namespace OryUtils::Interno {
 namespace {
@@ -22,20 +16,11 @@ std::string SemSeparadorFinal(std::string APasta) {
 
 }  // namespace
 
-std::u16string BuscarCaminhoDoExecutavel() {
-    std::vector<char> caminho(PATH_MAX);
-    const ssize_t tamanho = ::readlink("/proc/self/exe", caminho.data(), caminho.size());
-    return tamanho > 0 ? DeUtf8({caminho.data(), static_cast<std::size_t>(tamanho)}) : std::u16string();
-}
-
 std::optional<std::u16string> BuscarPastaDeDocumentos() {
     const std::string inicio = SemSeparadorFinal(BuscarPastaInicial());
     if (inicio.empty()) return std::nullopt;
-    std::string configuracoes = BuscarVariavelDeAmbiente("XDG_CONFIG_HOME");
-    if (!configuracoes.starts_with('/')) configuracoes = inicio + "/.config";
-    std::ifstream arquivo(configuracoes + "/user-dirs.dirs", std::ios::binary);
-    const std::string texto(std::istreambuf_iterator<char>(arquivo), {});
-    const std::string pasta = LerPastaDeDocumentos(texto, inicio == "/" ? "" : inicio);
+    const std::u16string arquivo = DeUtf8(BuscarPastaDeConfiguracoes() + "/user-dirs.dirs");
+    const std::string pasta = LerPastaDeDocumentos(LerArquivo(arquivo).value_or(""), inicio == "/" ? "" : inicio);
     if (!pasta.empty()) return DeUtf8(SemSeparadorFinal(pasta));
     return DeUtf8((inicio == "/" ? "" : inicio) + "/Documents");
 }

@@ -1,5 +1,6 @@
+#include "oryutils/platform/ProgramaPadrao.hpp"
+
 #include "oryutils/characters/Utf.hpp"
-#include "oryutils/platform/DadosDoArquivo.hpp"
 #include "oryutils/platform/linux/Descritor.hpp"
 #include "oryutils/platform/linux/Filhos.hpp"
 #include "oryutils/readers/LinhaDeComando.hpp"

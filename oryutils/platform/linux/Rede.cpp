@@ -1,6 +1,7 @@
 #include "oryutils/platform/Rede.hpp"
 
 #include "oryutils/characters/Utf.hpp"
+#include "oryutils/platform/Arquivos.hpp"
 #include "oryutils/platform/ErroDoSistema.hpp"
 #include "oryutils/platform/linux/Descritor.hpp"
 #include "oryutils/readers/TabelasDeRede.hpp"
@@ -10,9 +11,7 @@
 #include <cerrno>
 #include <chrono>
 #include <cstring>
-#include <fstream>
 #include <ifaddrs.h>
-#include <iterator>
 #include <memory>
 #include <net/if.h>
 #include <netdb.h>
@@ -30,11 +29,6 @@ constexpr std::uint8_t CRedeDeVolta = 127;
 constexpr std::uint16_t CPortaDescarte = 9;
 constexpr auto CEsperaDoVizinho = 1000ms;
 constexpr auto CPassoDaEspera = 10ms;
-
-std::string LerArquivo(const char* ANome) {
-    std::ifstream arquivo(ANome, std::ios::binary);
-    return {std::istreambuf_iterator<char>(arquivo), {}};
-}
 
 // A name that ends before the end of the text is not the one that was meant.
 bool PossuiZero(std::u16string_view ATexto) { return ATexto.find(u'\0') != ATexto.npos; }
@@ -98,7 +92,7 @@ std::optional<TEnderecoMac> MacDe(const ifaddrs& AInterface) {
 
 std::optional<TEnderecoIP> BuscarEnderecoDeInterface() {
     const TInterfaces interfaces = ListarInterfaces();
-    const std::string padrao = BuscarInterfacePadrao(LerArquivo("/proc/net/route"));
+    const std::string padrao = BuscarInterfacePadrao(LerArquivo(u"/proc/net/route").value_or(""));
     std::optional<TEnderecoIP> primeiro;
     for (const ifaddrs* i = interfaces.get(); i; i = i->ifa_next) {
         const auto endereco = EnderecoDe(*i);
@@ -126,7 +120,7 @@ std::vector<TEnderecoMac> ListarAdaptadores(const std::optional<TEnderecoIP>& AE
 }
 
 std::optional<TEnderecoMac> ProcurarVizinhoAgora(const TEnderecoIP& AEndereco) {
-    return ProcurarVizinho(LerArquivo("/proc/net/arp"), AEndereco);
+    return ProcurarVizinho(LerArquivo(u"/proc/net/arp").value_or(""), AEndereco);
 }
 
 // An empty datagram to a port where nobody listens: before it can go, the kernel must ask who has the address.
@@ -191,7 +185,8 @@ std::u16string BuscarNomeDoEndereco(const TEnderecoIP& AEndereco) {
 std::optional<TEnderecoMac> PerguntarEnderecoMac(const TEnderecoIP& AEndereco) {
     if (const auto proprios = ListarAdaptadores(AEndereco); !proprios.empty()) return proprios.front();
     if (const auto vizinho = ProcurarVizinhoAgora(AEndereco)) return vizinho;
-    if (!EstahNoEnlace(LerArquivo("/proc/net/route"), AEndereco) || !ProvocarVizinho(AEndereco)) return std::nullopt;
+    if (!EstahNoEnlace(LerArquivo(u"/proc/net/route").value_or(""), AEndereco) || !ProvocarVizinho(AEndereco))
+        return std::nullopt;
     for (auto esperado = 0ms; esperado < CEsperaDoVizinho; esperado += CPassoDaEspera) {
         if (const auto vizinho = ProcurarVizinhoAgora(AEndereco)) return vizinho;
         std::this_thread::sleep_for(CPassoDaEspera);

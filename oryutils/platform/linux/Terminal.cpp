@@ -1,7 +1,6 @@
 #include "oryutils/platform/Terminal.hpp"
 
 #include <csignal>
-#include <cstdlib>
 
 namespace OryUtils::Interno {
 
@@ -12,10 +11,5 @@ std::vector<std::string> BuscarArgumentos(int AQuantidade, const char* const* AA
 
 TTerminalUtf8::TTerminalUtf8() { std::signal(SIGPIPE, SIG_IGN); }
 TTerminalUtf8::~TTerminalUtf8() = default;
-
-bool PossuiVariavelDeAmbiente(const char* ANome) {
-    const char* valor = std::getenv(ANome);
-    return valor && *valor;
-}
 
 }  // namespace OryUtils::Interno

@@ -1,6 +1,6 @@
 #include "oryutils/platform/VersaoDeArquivo.hpp"
 
-#include "oryutils/platform/LeituraDeArquivo.hpp"
+#include "oryutils/platform/Fluxo.hpp"
 #include "oryutils/readers/BlocoDeVersao.hpp"
 #include "oryutils/readers/RecursoDeVersaoPe.hpp"
 
@@ -9,20 +9,20 @@ namespace {
 
 class TFonteDeArquivo final : public TFonteDeBytes {
 public:
-    explicit TFonteDeArquivo(const TLeituraDeArquivo& AArquivo) : FArquivo(AArquivo) {}
+    explicit TFonteDeArquivo(const TFluxo& AArquivo) : FArquivo(AArquivo) {}
     std::size_t Ler(std::uint64_t AInicio, std::span<char> ADestino) const override {
-        return FArquivo.Ler(AInicio, ADestino);
+        return FArquivo.LerEm(AInicio, ADestino);
     }
 
 private:
-    const TLeituraDeArquivo& FArquivo;
+    const TFluxo& FArquivo;
 };
 
 }  // namespace
 
 TVersaoDeArquivo::TVersaoDeArquivo(std::u16string_view AArquivo) {
-    const TLeituraDeArquivo arquivo(AArquivo);
-    if (arquivo.EstahAberto()) FBloco = LerRecursoDeVersaoPe(TFonteDeArquivo(arquivo));
+    TFluxo arquivo;
+    if (arquivo.AbrirArquivoParaLer(AArquivo) == efNenhum) FBloco = LerRecursoDeVersaoPe(TFonteDeArquivo(arquivo));
 }
 
 std::optional<TVersaoFixa> TVersaoDeArquivo::ConsultarFixa() const { return TBlocoDeVersao(FBloco).ConsultarFixa(); }

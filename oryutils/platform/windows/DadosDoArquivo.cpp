@@ -2,8 +2,6 @@
 
 #include "oryutils/platform/windows/InstanteUtc.hpp"
 
-#include <shellapi.h>
-
 namespace OryUtils::Interno {
 namespace {
 
@@ -44,21 +42,6 @@ bool AlterarUltimaGravacao(std::u16string_view AArquivo, TInstanteUtc AInstante)
     const bool foi = ::SetFileTime(arquivo, nullptr, nullptr, &tempo) != 0;
     ::CloseHandle(arquivo);
     return foi;
-}
-
-bool AbrirComProgramaPadrao(std::u16string_view AArquivo, std::u16string_view AParametros) {
-    if (BuscarAtributos(AArquivo) == INVALID_FILE_ATTRIBUTES) return false;
-    const std::u16string arquivo(AArquivo);
-    const std::u16string parametros(AParametros);
-    SHELLEXECUTEINFOW pedido{};
-    pedido.cbSize = sizeof pedido;
-    // A failure is answered, not shown.
-    pedido.fMask = SEE_MASK_FLAG_NO_UI | SEE_MASK_NOASYNC;
-    pedido.lpVerb = L"open";
-    pedido.lpFile = ParaWide(arquivo);
-    pedido.lpParameters = parametros.empty() ? nullptr : ParaWide(parametros);
-    pedido.nShow = SW_SHOWNORMAL;
-    return ::ShellExecuteExW(&pedido) != 0;
 }
 
 }  // namespace OryUtils::Interno

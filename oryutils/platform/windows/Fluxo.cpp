@@ -1,7 +1,7 @@
 #include "oryutils/platform/Fluxo.hpp"
 
-#include "oryutils/platform/Arquivos.hpp"
-#include "oryutils/platform/windows/Windows.hpp"
+#include "oryutils/characters/Utf.hpp"
+#include "oryutils/platform/windows/InstanteUtc.hpp"
 
 #include <algorithm>
 #include <utility>
@@ -9,45 +9,11 @@
 namespace OryUtils::Interno {
 namespace {
 
-TErroFluxo DeErroDoSistema(DWORD AErro) {
-    switch (AErro) {
-        case ERROR_SUCCESS:
-            return efNenhum;
-        case ERROR_FILE_NOT_FOUND:
-        case ERROR_PATH_NOT_FOUND:
-        case ERROR_INVALID_NAME:
-        case ERROR_BAD_NETPATH:
-            return efNaoExiste;
-        case ERROR_FILE_EXISTS:
-        case ERROR_ALREADY_EXISTS:
-            return efJaExiste;
-        case ERROR_ACCESS_DENIED:
-        case ERROR_SHARING_VIOLATION:
-        case ERROR_WRITE_PROTECT:
-            return efSemPermissao;
-        case ERROR_DISK_FULL:
-        case ERROR_HANDLE_DISK_FULL:
-            return efDiscoCheio;
-        case ERROR_BROKEN_PIPE:
-        case ERROR_NO_DATA:
-            return efFechado;
-        default:
-            return efOutro;
-    }
-}
-
 HANDLE Alca(std::intptr_t AAlca) { return reinterpret_cast<HANDLE>(AAlca); }
+std::intptr_t Numero(HANDLE AAlca) { return reinterpret_cast<std::intptr_t>(AAlca); }
 
-std::wstring ParaLargo(const std::string& ATexto) {
-    const int bytes = static_cast<int>(ATexto.size());
-    std::wstring resultado(
-        static_cast<std::size_t>(::MultiByteToWideChar(CP_UTF8, 0, ATexto.data(), bytes, nullptr, 0)), L'\0');
-    ::MultiByteToWideChar(CP_UTF8, 0, ATexto.data(), bytes, resultado.data(), static_cast<int>(resultado.size()));
-    return resultado;
-}
-
-bool EhPasta(const std::wstring& ANome) {
-    const DWORD atributos = ::GetFileAttributesW(ANome.c_str());
+bool EhPasta(const std::u16string& ANome) {
+    const DWORD atributos = ::GetFileAttributesW(ParaWide(ANome));
     return atributos != INVALID_FILE_ATTRIBUTES && (atributos & FILE_ATTRIBUTE_DIRECTORY);
 }
 
@@ -61,74 +27,72 @@ constexpr std::size_t CMaiorParteDeArquivo = 1u << 30;
 
 TFluxo TFluxo::EntradaPadrao() noexcept {
     TFluxo fluxo;
-    fluxo.FAlca = reinterpret_cast<std::intptr_t>(::GetStdHandle(STD_INPUT_HANDLE));
+    fluxo.FAlca = Numero(::GetStdHandle(STD_INPUT_HANDLE));
     return fluxo;
 }
 
 TFluxo TFluxo::SaidaPadrao() noexcept {
     TFluxo fluxo;
-    fluxo.FAlca = reinterpret_cast<std::intptr_t>(::GetStdHandle(STD_OUTPUT_HANDLE));
+    fluxo.FAlca = Numero(::GetStdHandle(STD_OUTPUT_HANDLE));
     return fluxo;
 }
 
 TFluxo TFluxo::ErroPadrao() noexcept {
     TFluxo fluxo;
-    fluxo.FAlca = reinterpret_cast<std::intptr_t>(::GetStdHandle(STD_ERROR_HANDLE));
+    fluxo.FAlca = Numero(::GetStdHandle(STD_ERROR_HANDLE));
     return fluxo;
+}
+
+TErroFluxo TFluxo::Assumir(std::intptr_t AAlca) noexcept {
+    if (AAlca == CNenhum) return ClassificarErroDoSistema(::GetLastError());
+    FAlca = AAlca;
+    FDono = true;
+    return efNenhum;
 }
 
 TErroFluxo TFluxo::AbrirParaLer(const std::string& ANome) {
     Fechar();
-    const std::wstring nome = ParaLargo(ANome);
-    const HANDLE alca = ::CreateFileW(nome.c_str(), GENERIC_READ, CPartilhaTudo, nullptr, OPEN_EXISTING,
-                                      FILE_FLAG_SEQUENTIAL_SCAN, nullptr);
-    if (alca == INVALID_HANDLE_VALUE) {
-        const DWORD erro = ::GetLastError();
-        return EhPasta(nome) ? efEhPasta : DeErroDoSistema(erro);
-    }
-    FAlca = reinterpret_cast<std::intptr_t>(alca);
-    FDono = true;
-    return efNenhum;
+    const std::u16string nome = DeUtf8(ANome);
+    const TErroFluxo erro = Assumir(Numero(::CreateFileW(ParaWide(nome), GENERIC_READ, CPartilhaTudo, nullptr,
+                                                         OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr)));
+    return erro != efNenhum && EhPasta(nome) ? efEhPasta : erro;
+}
+
+TErroFluxo TFluxo::AbrirArquivoParaLer(std::u16string_view AArquivo) {
+    Fechar();
+    if (AArquivo.find(u'\0') != AArquivo.npos) return efNaoExiste;
+    const TErroFluxo erro =
+        Assumir(Numero(::CreateFileW(ParaWide(std::u16string(AArquivo)), GENERIC_READ, CPartilhaTudo, nullptr,
+                                     OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr)));
+    if (erro != efNenhum || BuscarTamanho()) return erro;
+    Fechar();
+    return efOutro;
 }
 
 TErroFluxo TFluxo::CriarNovo(const std::string& ANome, const std::string&) {
     Fechar();
-    const HANDLE alca = ::CreateFileW(ParaLargo(ANome).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_NEW,
-                                      FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (alca == INVALID_HANDLE_VALUE) return DeErroDoSistema(::GetLastError());
-    FAlca = reinterpret_cast<std::intptr_t>(alca);
-    FDono = true;
-    return efNenhum;
+    return Assumir(Numero(::CreateFileW(ParaWide(DeUtf8(ANome)), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_NEW,
+                                        FILE_ATTRIBUTE_NORMAL, nullptr)));
 }
 
 TErroFluxo TFluxo::CriarOuEsvaziar(const std::string& ANome) {
     Fechar();
-    const std::wstring nome = ParaLargo(ANome);
-    const HANDLE alca = ::CreateFileW(nome.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_ALWAYS,
-                                      FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (alca == INVALID_HANDLE_VALUE) {
-        const DWORD erro = ::GetLastError();
-        return EhPasta(nome) ? efEhPasta : DeErroDoSistema(erro);
-    }
-    FAlca = reinterpret_cast<std::intptr_t>(alca);
-    FDono = true;
-    return efNenhum;
+    const std::u16string nome = DeUtf8(ANome);
+    const TErroFluxo erro = Assumir(Numero(::CreateFileW(ParaWide(nome), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                                                         CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr)));
+    return erro != efNenhum && EhPasta(nome) ? efEhPasta : erro;
 }
 
 TErroFluxo TFluxo::AbrirParaAcrescentar(const std::string& ANome) {
     Fechar();
-    const HANDLE alca = ::CreateFileW(ParaLargo(ANome).c_str(), FILE_APPEND_DATA | FILE_READ_ATTRIBUTES | SYNCHRONIZE,
-                                      CPartilhaTudo, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (alca == INVALID_HANDLE_VALUE) return DeErroDoSistema(::GetLastError());
-    FAlca = reinterpret_cast<std::intptr_t>(alca);
-    FDono = true;
-    return efNenhum;
+    return Assumir(Numero(::CreateFileW(ParaWide(DeUtf8(ANome)), FILE_APPEND_DATA | FILE_READ_ATTRIBUTES | SYNCHRONIZE,
+                                        CPartilhaTudo, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr)));
 }
 
 TErroFluxo TFluxo::Fechar() noexcept {
     const std::intptr_t alca = std::exchange(FAlca, CNenhum);
     if (!std::exchange(FDono, false)) return efNenhum;
-    return ::CloseHandle(Alca(alca)) ? efNenhum : DeErroDoSistema(::GetLastError());
+    return ::CloseHandle(Alca(alca)) ? efNenhum : ClassificarErroDoSistema(::GetLastError());
 }
 
 std::size_t TFluxo::Ler(std::span<char> ADestino, TErroFluxo& AErro) noexcept {
@@ -138,8 +102,23 @@ std::size_t TFluxo::Ler(std::span<char> ADestino, TErroFluxo& AErro) noexcept {
     if (::ReadFile(Alca(FAlca), ADestino.data(), quantidade, &lidos, nullptr)) return lidos;
     const DWORD erro = ::GetLastError();
     // The writer of a pipe has gone: that is how its end of input looks.
-    if (erro != ERROR_BROKEN_PIPE && erro != ERROR_HANDLE_EOF) AErro = DeErroDoSistema(erro);
+    if (erro != ERROR_BROKEN_PIPE && erro != ERROR_HANDLE_EOF) AErro = ClassificarErroDoSistema(erro);
     return 0;
+}
+
+std::size_t TFluxo::LerEm(std::uint64_t AInicio, std::span<char> ADestino) const noexcept {
+    std::size_t total = 0;
+    while (total < ADestino.size()) {
+        const std::uint64_t inicio = AInicio + total;
+        OVERLAPPED lugar{};
+        lugar.Offset = static_cast<DWORD>(inicio);
+        lugar.OffsetHigh = static_cast<DWORD>(inicio >> 32);
+        DWORD lidos = 0;
+        const auto quantidade = static_cast<DWORD>(std::min(ADestino.size() - total, CMaiorParteDeArquivo));
+        if (!::ReadFile(Alca(FAlca), ADestino.data() + total, quantidade, &lidos, &lugar) || lidos == 0) break;
+        total += lidos;
+    }
+    return total;
 }
 
 TErroFluxo TFluxo::Escrever(std::string_view ABytes) noexcept {
@@ -149,7 +128,7 @@ TErroFluxo TFluxo::Escrever(std::string_view ABytes) noexcept {
         DWORD escritos = 0;
         const auto quantidade = static_cast<DWORD>(std::min(ABytes.size(), parte));
         if (!::WriteFile(Alca(FAlca), ABytes.data(), quantidade, &escritos, nullptr))
-            return DeErroDoSistema(::GetLastError());
+            return ClassificarErroDoSistema(::GetLastError());
         if (escritos == 0) return efOutro;
         ABytes.remove_prefix(escritos);
     }
@@ -160,6 +139,11 @@ std::optional<std::uint64_t> TFluxo::BuscarTamanho() const noexcept {
     LARGE_INTEGER tamanho{};
     if (::GetFileType(Alca(FAlca)) != FILE_TYPE_DISK || !::GetFileSizeEx(Alca(FAlca), &tamanho)) return {};
     return static_cast<std::uint64_t>(tamanho.QuadPart);
+}
+
+TInstanteUtc TFluxo::BuscarUltimaGravacao() const noexcept {
+    FILETIME tempo{};
+    return ::GetFileTime(Alca(FAlca), nullptr, nullptr, &tempo) ? DeFileTime(tempo) : 0;
 }
 
 std::optional<TMarcaDeArquivo> TFluxo::BuscarMarca() const noexcept {
@@ -198,17 +182,6 @@ int TFluxo::BuscarLarguraDoTerminal() const noexcept {
     CONSOLE_SCREEN_BUFFER_INFO dados{};
     const bool sabe = ::GetConsoleScreenBufferInfo(Alca(FAlca), &dados) && dados.dwSize.X > 0;
     return sabe ? dados.dwSize.X : 80;
-}
-
-TErroFluxo SubstituirArquivo(const std::string& ADe, const std::string& APara) {
-    const bool foi = ::MoveFileExW(ParaLargo(ADe).c_str(), ParaLargo(APara).c_str(), MOVEFILE_REPLACE_EXISTING);
-    return foi ? efNenhum : DeErroDoSistema(::GetLastError());
-}
-
-TErroFluxo ExcluirArquivo(const std::string& ANome) {
-    if (::DeleteFileW(ParaLargo(ANome).c_str())) return efNenhum;
-    const TErroFluxo erro = DeErroDoSistema(::GetLastError());
-    return erro == efNaoExiste ? efNenhum : erro;
 }
 
 }  // namespace OryUtils::Interno

@@ -29,15 +29,6 @@ std::u16string Perguntar(TChamar AChamar) {
 
 }  // namespace
 
-std::u16string BuscarCaminhoDoExecutavel() {
-    std::vector<wchar_t> caminho(MAX_PATH);
-    for (;;) {
-        const DWORD tamanho = ::GetModuleFileNameW(nullptr, caminho.data(), static_cast<DWORD>(caminho.size()));
-        if (tamanho < caminho.size()) return DeWide({caminho.data(), tamanho});
-        caminho.resize(caminho.size() * 2);
-    }
-}
-
 std::optional<std::u16string> BuscarPastaDeDocumentos() {
     std::array<wchar_t, MAX_PATH + 1> pasta{};
     if (!::SHGetSpecialFolderPathW(nullptr, pasta.data(), CSIDL_PERSONAL, FALSE)) return std::nullopt;

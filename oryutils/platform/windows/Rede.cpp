@@ -1,6 +1,7 @@
 #include "oryutils/platform/Rede.hpp"
 
 #include "oryutils/platform/ErroDoSistema.hpp"
+#include "oryutils/platform/TextoDoSistema.hpp"
 #include "oryutils/platform/windows/Windows.hpp"
 
 // Each needs the one before it.
@@ -38,22 +39,8 @@ private:
 
 // The old name functions speak the system's code page; a name with a zero in it is none.
 std::string ParaAnsi(std::u16string_view ATexto) {
-    if (ATexto.empty() || ATexto.find(u'\0') != ATexto.npos || ATexto.size() > MAX_PATH) return {};
-    const int tamanho = static_cast<int>(ATexto.size());
-    std::string ansi(ATexto.size() * 4, '\0');
-    const int escritos = ::WideCharToMultiByte(CP_ACP, 0, ParaWide(ATexto.data()), tamanho, ansi.data(),
-                                               static_cast<int>(ansi.size()), nullptr, nullptr);
-    ansi.resize(static_cast<std::size_t>(std::max(escritos, 0)));
-    return ansi;
-}
-
-std::u16string DeAnsi(std::string_view ATexto) {
-    std::wstring texto(ATexto.size(), L'\0');
-    if (ATexto.empty()) return {};
-    const int escritos = ::MultiByteToWideChar(CP_ACP, 0, ATexto.data(), static_cast<int>(ATexto.size()), texto.data(),
-                                               static_cast<int>(texto.size()));
-    texto.resize(static_cast<std::size_t>(std::max(escritos, 0)));
-    return DeWide(texto);
+    const bool possivel = ATexto.size() <= MAX_PATH && ATexto.find(u'\0') == ATexto.npos;
+    return possivel ? ParaTextoDoSistema(ATexto) : std::string();
 }
 
 std::optional<TEnderecoIP> PrimeiroEndereco(const hostent* AResposta) {
@@ -155,7 +142,7 @@ std::u16string BuscarNomeDoEndereco(const TEnderecoIP& AEndereco) {
     if (soquetes.GetErro() != 0) return {};
     const auto* bytes = reinterpret_cast<const char*>(AEndereco.data());
     const hostent* resposta = ::gethostbyaddr(bytes, static_cast<int>(AEndereco.size()), AF_INET);
-    return resposta && resposta->h_name ? DeAnsi(resposta->h_name) : std::u16string();
+    return resposta && resposta->h_name ? DeTextoDoSistema(resposta->h_name) : std::u16string();
 }
 
 std::optional<TEnderecoMac> PerguntarEnderecoMac(const TEnderecoIP& AEndereco) {

@@ -1,5 +1,6 @@
 #include "oryutils/platform/Terminal.hpp"
 
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/windows/Windows.hpp"
 
 #include <memory>
@@ -7,15 +8,6 @@
 
 namespace OryUtils::Interno {
 namespace {
-
-std::string ParaUtf8(const wchar_t* ATexto) {
-    const int total = ::WideCharToMultiByte(CP_UTF8, 0, ATexto, -1, nullptr, 0, nullptr, nullptr);
-    if (total <= 1) return {};
-    std::string resultado(static_cast<std::size_t>(total), '\0');
-    ::WideCharToMultiByte(CP_UTF8, 0, ATexto, -1, resultado.data(), total, nullptr, nullptr);
-    resultado.pop_back();  // the terminator
-    return resultado;
-}
 
 bool PossuiConsole(DWORD APadrao) {
     DWORD modo = 0;
@@ -33,7 +25,7 @@ std::vector<std::string> BuscarArgumentos(int AQuantidade, const char* const* AA
         for (int i = 1; i < AQuantidade; ++i) resultado.emplace_back(AArgumentos[i]);
         return resultado;
     }
-    for (int i = 1; i < total; ++i) resultado.push_back(ParaUtf8(lista.get()[i]));
+    for (int i = 1; i < total; ++i) resultado.push_back(ParaUtf8(DeWide(lista.get()[i])));
     return resultado;
 }
 
@@ -54,12 +46,6 @@ TTerminalUtf8::TTerminalUtf8() {
 TTerminalUtf8::~TTerminalUtf8() {
     if (FEntradaAnterior) ::SetConsoleCP(FEntradaAnterior);
     if (FSaidaAnterior) ::SetConsoleOutputCP(FSaidaAnterior);
-}
-
-bool PossuiVariavelDeAmbiente(const char* ANome) {
-    const std::string nome = ANome;
-    const std::wstring largo(nome.begin(), nome.end());
-    return ::GetEnvironmentVariableW(largo.c_str(), nullptr, 0) > 1;
 }
 
 }  // namespace OryUtils::Interno

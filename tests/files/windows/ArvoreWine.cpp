@@ -1,7 +1,7 @@
 #include "files/ArvoreWine.hpp"
 
 #include "oryutils/characters/Utf.hpp"
-#include "oryutils/platform/LeituraDeArquivo.hpp"
+#include "oryutils/platform/Fluxo.hpp"
 #include "oryutils/platform/VersaoDeArquivo.hpp"
 #include "oryutils/readers/BlocoDeVersao.hpp"
 #include "oryutils/readers/RecursoDeVersaoPe.hpp"
@@ -19,13 +19,15 @@ using namespace OryUtils::Interno;
 
 class TFonteDeArquivo final : public TFonteDeBytes {
 public:
-    explicit TFonteDeArquivo(const std::filesystem::path& AArquivo) : FArquivo(AArquivo.u16string()) {}
+    explicit TFonteDeArquivo(const std::filesystem::path& AArquivo) {
+        FArquivo.AbrirArquivoParaLer(AArquivo.u16string());
+    }
     std::size_t Ler(std::uint64_t AInicio, std::span<char> ADestino) const override {
-        return FArquivo.Ler(AInicio, ADestino);
+        return FArquivo.LerEm(AInicio, ADestino);
     }
 
 private:
-    TLeituraDeArquivo FArquivo;
+    TFluxo FArquivo{};
 };
 
 constexpr std::u16string_view CChaves[] = {

@@ -4,7 +4,7 @@
 #include "oryutils/files/OryUtilsFiles.hpp"
 #include "oryutils/files/interno/DataDoArquivo.hpp"
 #include "oryutils/platform/DadosDoArquivo.hpp"
-#include "oryutils/platform/LeituraDeArquivo.hpp"
+#include "oryutils/platform/Fluxo.hpp"
 #include "oryutils/platform/VersaoDeArquivo.hpp"
 #include "oryutils/runtime/ArquivoIni.hpp"
 #include "oryutils/runtime/Costura.hpp"
@@ -116,8 +116,9 @@ std::u16string TArquivoInfo::GetTamanhoFormatado() const {
 std::u16string TArquivoInfo::GetExtensao() const { return MinusculaDe(ExtrairExtensaoDoArquivo(FArquivo)); }
 
 TDateTime TArquivoInfo::GetData() const {
-    const Interno::TLeituraDeArquivo arquivo(FArquivo);
-    return arquivo.EstahAberto() ? Interno::BuscarDataEmpacotada(arquivo.BuscarUltimaGravacao()) : TDateTime();
+    Interno::TFluxo arquivo;
+    if (arquivo.AbrirArquivoParaLer(FArquivo) != Interno::efNenhum) return {};
+    return Interno::BuscarDataEmpacotada(arquivo.BuscarUltimaGravacao());
 }
 
 TDateTime TArquivoInfo::GetDataModificacao() const {
@@ -129,7 +130,6 @@ std::u16string TOryUtilsFiles::BuscarVersaoArquivo(std::u16string_view AArquivo)
     return Aparar(AArquivo).empty() ? std::u16string() : LerVersao(AArquivo);
 }
 
-std::u16string GetVersaoArquivo(std::u16string_view AArquivo) { return TOryUtilsFiles::BuscarVersaoArquivo(AArquivo); }
 
 std::u16string GetVersionFromINI(std::u16string_view AArquivo) { return LerVersaoIni(AArquivo); }
 

@@ -27,12 +27,6 @@ bool TOryUtilsFiles::EhArquivoVersionado(std::u16string_view AArquivo) {
     return EhArquivoEXE(AArquivo) || EhArquivoBPL(AArquivo) || EhArquivoDLL(AArquivo);
 }
 
-bool IsAExe(std::u16string_view AArquivo) { return TOryUtilsFiles::EhArquivoEXE(AArquivo); }
-bool IsABpl(std::u16string_view AArquivo) { return TOryUtilsFiles::EhArquivoBPL(AArquivo); }
-bool isADll(std::u16string_view AArquivo) { return TOryUtilsFiles::EhArquivoDLL(AArquivo); }
-bool isADAT(std::u16string_view AArquivo) { return TOryUtilsFiles::EhArquivoDAT(AArquivo); }
-bool isAINI(std::u16string_view AArquivo) { return TOryUtilsFiles::EhArquivoINI(AArquivo); }
-bool isAHTML(std::u16string_view AArquivo) { return TOryUtilsFiles::EhArquivoHTML(AArquivo); }
 
 std::u16string GetExtensionFromFile(std::u16string_view AArquivo) {
     return MaiusculaDe(ExtrairExtensaoDoArquivo(AArquivo));

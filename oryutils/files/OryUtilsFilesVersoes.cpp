@@ -36,12 +36,6 @@ void TOryUtilsFiles::OrdenarListaDeVersoes(std::vector<std::u16string>& AListaVe
     Interno::OrdenarVersoes(AListaVersoes);
 }
 
-TFileStatus CompareVersion(std::u16string_view AVersao1, std::u16string_view AVersao2) {
-    return TOryUtilsFiles::CompararVersao(AVersao1, AVersao2);
-}
 
-std::u16string FormatarVersaoArquivo(std::u16string_view AVersao, TTipoDivisaoVersaoArquivo ATipoDivisao) {
-    return TOryUtilsFiles::FormatarVersaoArquivo(AVersao, ATipoDivisao);
-}
 
 }  // namespace OryUtils
