@@ -130,7 +130,6 @@ std::u16string TOryUtilsFiles::BuscarVersaoArquivo(std::u16string_view AArquivo)
     return Aparar(AArquivo).empty() ? std::u16string() : LerVersao(AArquivo);
 }
 
-
 std::u16string GetVersionFromINI(std::u16string_view AArquivo) { return LerVersaoIni(AArquivo); }
 
 }  // namespace OryUtils

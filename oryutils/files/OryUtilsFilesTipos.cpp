@@ -27,7 +27,6 @@ bool TOryUtilsFiles::EhArquivoVersionado(std::u16string_view AArquivo) {
     return EhArquivoEXE(AArquivo) || EhArquivoBPL(AArquivo) || EhArquivoDLL(AArquivo);
 }
 
-
 std::u16string GetExtensionFromFile(std::u16string_view AArquivo) {
     return MaiusculaDe(ExtrairExtensaoDoArquivo(AArquivo));
 }

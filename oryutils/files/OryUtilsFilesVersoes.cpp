@@ -36,6 +36,4 @@ void TOryUtilsFiles::OrdenarListaDeVersoes(std::vector<std::u16string>& AListaVe
     Interno::OrdenarVersoes(AListaVersoes);
 }
 
-
-
 }  // namespace OryUtils
