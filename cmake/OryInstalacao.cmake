@@ -41,8 +41,9 @@ if(TARGET ory)
   install(TARGETS ory RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT ferramentas)
 endif()
 
-# Public headers only: no room's own ones, none of the other system's.
-set(fora interno linux windows)
+# Public headers only: no room's own ones, none of the other system's, and of the rooms that ask the system just those
+# that public headers include.
+set(fora interno linux windows platform readers)
 if(NOT WIN32)
   list(APPEND fora win32)
 endif()
@@ -53,6 +54,12 @@ list(JOIN fora "|" fora)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/oryutils ${PROJECT_BINARY_DIR}/include/oryutils
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT desenvolvimento
         FILES_MATCHING REGEX "\\.h(pp)?$" REGEX "/oryutils/(.*/)?(${fora})(/|$)" EXCLUDE REGEX "/OryCExport\\.hpp$" EXCLUDE)
+foreach(cabecalho platform/Registro.hpp platform/AlcaDeProcesso.hpp platform/Console.hpp readers/DadoRegistro.hpp
+                  readers/BuscaIni.hpp)
+  get_filename_component(pasta ${cabecalho} DIRECTORY)
+  install(FILES ${PROJECT_SOURCE_DIR}/oryutils/${cabecalho} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/oryutils/${pasta}
+          COMPONENT desenvolvimento)
+endforeach()
 if(TARGET OryUtilsQt)
   install(DIRECTORY ${PROJECT_SOURCE_DIR}/toolkits/qt ${PROJECT_BINARY_DIR}/include/toolkits/qt
           DESTINATION ${raizes_OryUtilsQt}/toolkits COMPONENT qt_desenvolvimento

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "oryutils/OryExport.hpp"
-
 #include <string>
 #include <string_view>
 #include <utility>
@@ -9,7 +7,7 @@
 namespace OryUtils::Interno {
 
 /// A shared library loaded at run time. Loads of one file are counted by the system: the library goes with the last.
-class ORY_API TBibliotecaDinamica {
+class TBibliotecaDinamica {
 public:
     TBibliotecaDinamica() = default;
     /// Loads ANome: a full path, or a bare name looked up where the system looks (never in the current folder).
@@ -40,6 +38,6 @@ private:
 };
 
 /// True when a library of that name is in the process now, whoever loaded it.
-ORY_API bool EstahCarregada(std::u16string_view ANome);
+bool EstahCarregada(std::u16string_view ANome);
 
 }  // namespace OryUtils::Interno

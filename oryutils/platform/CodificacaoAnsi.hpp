@@ -1,7 +1,5 @@
 #pragma once
 
-#include "oryutils/OryExport.hpp"
-
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -11,7 +9,7 @@ namespace OryUtils::Interno {
 /// Reads the bytes that the system's console programs write: by the ANSI code page on Windows, by the code set of the
 /// environment's locale (LC_ALL, LC_CTYPE, LANG) on Linux, where the plain "C" locale counts as UTF-8. Malformed bytes
 /// become U+FFFD; never throws for them. The locale is asked once, at the first call.
-class ORY_API TDecodificadorAnsi {
+class TDecodificadorAnsi {
 public:
     TDecodificadorAnsi() = default;
     ~TDecodificadorAnsi();

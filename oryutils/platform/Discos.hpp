@@ -1,7 +1,5 @@
 #pragma once
 
-#include "oryutils/OryExport.hpp"
-
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -19,14 +17,14 @@ struct TEspacoEmDisco {
 };
 
 /// None when there is no such drive or nothing is in it.
-ORY_API std::optional<TEspacoEmDisco> BuscarEspacoEmDisco(std::u16string_view AUnidade);
+std::optional<TEspacoEmDisco> BuscarEspacoEmDisco(std::u16string_view AUnidade);
 
 /// The label of the drive's volume; empty when it has none or the system does not tell.
-ORY_API std::u16string BuscarNomeDoVolume(std::u16string_view AUnidade);
+std::u16string BuscarNomeDoVolume(std::u16string_view AUnidade);
 
 /// The roots of the drives: "C:\", "D:\". (Linux) The folders where file systems of disks and file servers are
 /// mounted, "/" first and the others by name; one that is mounted twice counts once.
-ORY_API std::vector<std::u16string> ListarUnidades();
+std::vector<std::u16string> ListarUnidades();
 
 /// The number of a drive for the disk calls of the host's environment: A = 1, B = 2; 0 for what is no letter.
 constexpr int BuscarNumeroDaUnidade(std::u16string_view AUnidade) noexcept {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "oryutils/OryExport.hpp"
-
 #include <cstdint>
 #include <string>
 
@@ -24,6 +22,6 @@ TErroFluxo ClassificarErroDoSistema(std::uint32_t ACodigo) noexcept;
 
 /// The system's own words for one of its error codes (GetLastError, WSAGetLastError; errno), without the final point
 /// and line end. Never throws for an unknown code.
-ORY_API std::u16string DescreverErroDoSistema(std::uint32_t ACodigo);
+std::u16string DescreverErroDoSistema(std::uint32_t ACodigo);
 
 }  // namespace OryUtils::Interno

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "oryutils/OryExport.hpp"
 #include "oryutils/platform/AlcaDeProcesso.hpp"
 
 #include <chrono>
@@ -29,7 +28,7 @@ struct TProcessoIniciado {
 
 /// Starts a command line in a console of its own, without inheriting handles. (Linux) It gets a session of its own; its
 /// input is /dev/null, and its output goes there too unless AExibir is true.
-ORY_API std::optional<TProcessoIniciado> CriarProcesso(std::u16string_view ALinhaDeComando, bool AExibir);
+std::optional<TProcessoIniciado> CriarProcesso(std::u16string_view ALinhaDeComando, bool AExibir);
 
 struct TPedidoDeExecucao {
     std::u16string Aplicacao{};
@@ -41,17 +40,17 @@ struct TPedidoDeExecucao {
 };
 /// Starts a program through the system's shell. (Linux) Elevar means pkexec or sudo -A in front, except for root.
 /// (Windows) A success without a process of its own, such as a document handed to a running program, has ID 0.
-ORY_API std::optional<TProcessoIniciado> ExecutarPeloSistema(const TPedidoDeExecucao& APedido);
+std::optional<TProcessoIniciado> ExecutarPeloSistema(const TPedidoDeExecucao& APedido);
 
 /// Waits for the end of a process, at most ALimite.
 /// AAcordar  true: the wait also ends when the application has messages, with epMensagens. Linux cannot tell that there
 ///           are some, so the wait ends every few milliseconds there.
-ORY_API TEspera EsperarProcesso(const TProcessoIniciado& AProcesso, std::chrono::milliseconds ALimite, bool AAcordar);
+TEspera EsperarProcesso(const TProcessoIniciado& AProcesso, std::chrono::milliseconds ALimite, bool AAcordar);
 /// Waits for messages of the application, at most ALimite: epMensagens (see above) or epTempo.
-ORY_API TEspera EsperarMensagens(std::chrono::milliseconds ALimite);
+TEspera EsperarMensagens(std::chrono::milliseconds ALimite);
 
 /// A hidden process whose output comes through a pipe.
-class ORY_API TProcessoCapturado {
+class TProcessoCapturado {
 public:
     enum TLeitura : int { lcBytes, lcNada, lcFim };
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "oryutils/OryExport.hpp"
-
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -10,10 +8,10 @@ namespace OryUtils::Interno {
 
 /// The name of this machine: GetComputerName; gethostname on Linux. None when the system refuses, with its error code
 /// in AErro.
-ORY_API std::optional<std::u16string> BuscarNomeDaMaquina(std::uint32_t& AErro);
+std::optional<std::u16string> BuscarNomeDaMaquina(std::uint32_t& AErro);
 
 /// The account under which this program runs: GetUserName; the account database's name of the effective user on Linux.
-ORY_API std::optional<std::u16string> BuscarNomeDoUsuario();
+std::optional<std::u16string> BuscarNomeDoUsuario();
 
 /// What GetVersionEx tells.
 struct TVersaoDoSistema {
@@ -24,6 +22,6 @@ struct TVersaoDoSistema {
 };
 
 /// None when the call fails, and on Linux.
-ORY_API std::optional<TVersaoDoSistema> BuscarVersaoDoSistema();
+std::optional<TVersaoDoSistema> BuscarVersaoDoSistema();
 
 }  // namespace OryUtils::Interno

@@ -1,23 +1,21 @@
 #pragma once
 
-#include "oryutils/OryExport.hpp"
-
 #include <string_view>
 
 namespace OryUtils::Interno {
 
 /// True when APasta names a folder that exists and may be looked at. Never throws; false for a file, an empty name and
 /// a name with the character of code 0.
-ORY_API bool ExistePasta(std::u16string_view APasta);
+bool ExistePasta(std::u16string_view APasta);
 
 /// Creates the folder with those above it; true when it is there at the end. Never throws.
-ORY_API bool CriarPasta(std::u16string_view APasta);
+bool CriarPasta(std::u16string_view APasta);
 
 /// What parts the folders of a path: "\" on Windows, "/" on Linux.
-ORY_API char16_t BuscarSeparadorDePastas() noexcept;
+char16_t BuscarSeparadorDePastas() noexcept;
 
 /// True when the system forbids ACaractere in the name of a file. (Windows) < > : " / \ | ? * and the codes below 32.
 /// (Linux) / and code 0.
-ORY_API bool EhProibidoEmNomeDeArquivo(char16_t ACaractere) noexcept;
+bool EhProibidoEmNomeDeArquivo(char16_t ACaractere) noexcept;
 
 }  // namespace OryUtils::Interno

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "oryutils/OryExport.hpp"
-
 #include <optional>
 #include <string>
 
@@ -9,14 +7,14 @@ namespace OryUtils::Interno {
 
 /// Folders as the system gives them, without a final separator unless they are a root; empty when it does not tell.
 /// The user's documents. (Linux) The documents folder of user-dirs.dirs, else "Documents" in the home folder.
-ORY_API std::optional<std::u16string> BuscarPastaDeDocumentos();
+std::optional<std::u16string> BuscarPastaDeDocumentos();
 /// (Linux) TMPDIR where it names a full path, else "/tmp".
-ORY_API std::u16string BuscarPastaTemporaria();
+std::u16string BuscarPastaTemporaria();
 /// The system's own libraries. (Linux) "/usr/lib".
-ORY_API std::u16string BuscarPastaDoSistema();
+std::u16string BuscarPastaDoSistema();
 /// The drive on which the system is installed: "C:". (Linux) "/", which the disk operations accept as a drive.
-ORY_API std::u16string BuscarUnidadeDoSistema();
+std::u16string BuscarUnidadeDoSistema();
 /// Where programs are installed when no setting says otherwise. Empty: Windows always has the setting. (Linux) "/opt".
-ORY_API std::u16string BuscarPastaDeProgramasPadrao();
+std::u16string BuscarPastaDeProgramasPadrao();
 
 }  // namespace OryUtils::Interno

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "oryutils/OryExport.hpp"
 #include "oryutils/platform/AlcaDeProcesso.hpp"
 
 #include <cstdint>
@@ -22,31 +21,31 @@ struct TProcessoDoSistema {
 };
 
 /// All processes whose user AQuer accepts.
-ORY_API std::vector<TProcessoDoSistema> ListarProcessos(const std::function<bool(std::u16string_view)>& AQuer);
+std::vector<TProcessoDoSistema> ListarProcessos(const std::function<bool(std::u16string_view)>& AQuer);
 
 struct TDonoDeProcesso {
     std::u16string Usuario{};
     std::u16string Dominio{};
 };
-ORY_API TDonoDeProcesso BuscarDonoDoProcesso(std::uint32_t AID);
-ORY_API std::u16string BuscarCaminhoDoProcesso(std::uint32_t AID);
+TDonoDeProcesso BuscarDonoDoProcesso(std::uint32_t AID);
+std::u16string BuscarCaminhoDoProcesso(std::uint32_t AID);
 /// A handle of the first process for whose executable file name AQuer holds, with all rights; none without one.
-ORY_API TAlcaDeProcesso AbrirProcesso(const std::function<bool(std::u16string_view)>& AQuer);
+TAlcaDeProcesso AbrirProcesso(const std::function<bool(std::u16string_view)>& AQuer);
 /// Bytes in memory of the process of that handle; 0 when not told.
-ORY_API std::uint64_t BuscarMemoriaDoProcesso(const TAlcaDeProcesso& AAlca);
+std::uint64_t BuscarMemoriaDoProcesso(const TAlcaDeProcesso& AAlca);
 
 enum TFimDeProcesso : int { fpTerminado, fpNaoAberto, fpErro };
 /// Ends a process at once. AErro: the system's text, for fpErro only. fpNaoAberto: there is none, or no right to end
 /// it.
-ORY_API TFimDeProcesso TerminarProcesso(std::uint32_t AID, std::u16string& AErro);
+TFimDeProcesso TerminarProcesso(std::uint32_t AID, std::u16string& AErro);
 /// Ends every process for whose executable file name AQuer holds, and tells how many those were. (Windows) The handles
 /// stay open, which keeps the numbers of those processes from being given away again.
-ORY_API int TerminarProcessos(const std::function<bool(std::u16string_view)>& AQuer);
+int TerminarProcessos(const std::function<bool(std::u16string_view)>& AQuer);
 
-ORY_API bool EhAdministrador();
+bool EhAdministrador();
 /// True for a 32-bit program on a 64-bit system.
-ORY_API bool EhProcessoDe32BitsEmSistemaDe64();
-ORY_API void LiberarMemoria();
-ORY_API void AbrirConfiguracaoDeDataHora();
+bool EhProcessoDe32BitsEmSistemaDe64();
+void LiberarMemoria();
+void AbrirConfiguracaoDeDataHora();
 
 }  // namespace OryUtils::Interno

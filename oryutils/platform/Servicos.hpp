@@ -1,7 +1,5 @@
 #pragma once
 
-#include "oryutils/OryExport.hpp"
-
 #include <chrono>
 #include <cstdint>
 #include <memory>
@@ -24,7 +22,7 @@ struct TSituacaoServico {
 };
 
 /// A service opened with certain rights; closed with the object.
-class ORY_API TServico {
+class TServico {
 public:
     virtual ~TServico() = default;
     TServico(const TServico&) = delete;
@@ -47,7 +45,7 @@ protected:
 enum TAcessoServico : int { asConsultar, asIniciar, asParar, asTotal };
 
 /// A connection to the service manager; closed with the object.
-class ORY_API TGerenciadorServicos {
+class TGerenciadorServicos {
 public:
     virtual ~TGerenciadorServicos() = default;
     TGerenciadorServicos(const TGerenciadorServicos&) = delete;
@@ -69,7 +67,7 @@ enum TAcessoGerenciador : int { agConectar, agTotal };
 /// The service manager of AMaquina, the empty name meaning this one; null when it does not answer or refuses.
 /// (Windows) The Service Control Manager. (Linux) systemd, through systemctl; null where there is none, and for every
 /// other machine.
-ORY_API std::unique_ptr<TGerenciadorServicos> AbrirGerenciadorServicos(std::u16string_view AMaquina,
-                                                                       TAcessoGerenciador AAcesso);
+std::unique_ptr<TGerenciadorServicos> AbrirGerenciadorServicos(std::u16string_view AMaquina,
+                                                               TAcessoGerenciador AAcesso);
 
 }  // namespace OryUtils::Interno

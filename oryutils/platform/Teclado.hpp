@@ -1,7 +1,5 @@
 #pragma once
 
-#include "oryutils/OryExport.hpp"
-
 #include <cstdint>
 #include <span>
 #include <string>
@@ -25,14 +23,14 @@ struct TEventoDeTecla {
 /// Gives the events to the system as if the keys had been moved. Windows: keybd_event with the scan code of each key.
 /// Linux: the XTEST extension of the X server named by DISPLAY; a key that its layout does not have is left out, and
 /// nothing happens without a display or without the extension.
-ORY_API void EnviarEventosDeTecla(std::span<const TEventoDeTecla> AEventos);
+void EnviarEventosDeTecla(std::span<const TEventoDeTecla> AEventos);
 
 /// Whether the key is down now. The numbers of Shift, Ctrl, Alt and Enter mean the left and the right key; 1, 2 and 4
 /// are the mouse's left, right and middle button. False without a display.
-ORY_API bool TeclaEstahAbaixada(std::uint16_t ATecla);
+bool TeclaEstahAbaixada(std::uint16_t ATecla);
 
 /// Milliseconds since the user last moved a key or the mouse; wraps as the system's tick count does. Linux: as the
 /// screen saver extension of the X server tells; 0 without a display or without the extension.
-ORY_API std::uint32_t BuscarTempoDeInatividade();
+std::uint32_t BuscarTempoDeInatividade();
 
 }  // namespace OryUtils::Interno

@@ -8,6 +8,8 @@ raiz=$ORY_PREFIXO/include
 cd "$raiz"
 proprios=$(find . -path '*/interno/*' -o -path '*/linux/*' -o -path '*/windows/*' -o -name '*.cpp' -o -type d -empty)
 igual "$proprios" "" "what a user must not see is not installed"
+proprios=$(find oryutils/platform oryutils/readers -name '*.hpp' | sort | xargs -n 1 basename | tr '\n' ' ')
+igual "$proprios" "AlcaDeProcesso.hpp Console.hpp Registro.hpp BuscaIni.hpp DadoRegistro.hpp " "what public headers include"
 for esperado in oryutils/OryExport.hpp oryutils/text/OryUtilsStrings.hpp oryutils/types/OryTypesSistema.hpp oryutils/c/oryutils.h; do
     [ -f $esperado ] || falhar "$esperado is not installed"
 done
@@ -22,6 +24,9 @@ lista() {
     find . -name '*.hpp' | sed 's|^\./||; s|^oryutils-qt/||' | if [ "$ORY_SISTEMA" = windows ]; then grep win32/; else cat; fi
 }
 lista | xargs -P 2 -I{} bash -c 'sozinho {}'
+# Another processor is refused in words, before anything else.
+outro=$(echo '#include "oryutils/OryExport.hpp"' | $cxx -U__x86_64__ $opcoes -x c++ - 2>&1 || true)
+[[ $outro == *"x86-64 processors alone"* ]] || falhar "another processor is not refused: $outro"
 # Whoever includes a header alone may catch what its operations raise.
 apanha() {
     printf '#include "%s"\nvoid F();\nvoid F() { try { F(); } catch (const OryUtils::Exception&) {} }\n' "$1" |
