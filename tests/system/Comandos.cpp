@@ -103,14 +103,22 @@ TEST(Comandos, BytesQuebradosSaoLidosParteAParte) {
 TEST(Comandos, AsMensagensFluemEUmaPausaFechaAParte) {
     const TPastaTemporaria pasta;
     int vezes = 0;
-    // Messages are processed for longer than what counts as a pause; only then does the program go on.
-    const auto inicio = std::chrono::steady_clock::now();
+    // The program has printed its first word once the file "a" exists, and goes on once the file "siga" does. The loop
+    // has read the word by the second call that sees "a"; a call 150 ms later is behind the pause, and between that one
+    // and the next the loop has closed the chunk.
+    int depoisDaPalavra = 0;
+    int depoisDaPausa = 0;
+    std::chrono::steady_clock::time_point lida;
     const TAoProcessarMensagens aoProcessar([&] {
-        if (++vezes >= 2 && std::chrono::steady_clock::now() - inicio > std::chrono::milliseconds(1500))
-            std::ofstream(pasta / "siga") << "sim";
+        ++vezes;
+        if (!std::filesystem::exists(pasta / "a")) return;
+        if (++depoisDaPalavra == 2) lida = std::chrono::steady_clock::now();
+        if (depoisDaPalavra < 2 || std::chrono::steady_clock::now() - lida < std::chrono::milliseconds(150)) return;
+        if (++depoisDaPausa == 2) std::ofstream(pasta / "siga") << "sim";
     });
     ::Testes::EnviarMensagemAEstaThread();  // and nobody ever takes it
-    EXPECT_EQ(Executar(Comando(u"parar a " + EntreAspas(pasta / "siga") + u" b")), TLinhas{u"ab"})
+    EXPECT_EQ(Executar(Comando(u"parar " + EntreAspas(pasta / "a") + u" " + EntreAspas(pasta / "siga"))),
+              TLinhas{u"ab"})
         << "the line break was at the end of what was read at once";
     EXPECT_GE(vezes, 2);
     EXPECT_LT(vezes, 500) << "it waits between two looks";

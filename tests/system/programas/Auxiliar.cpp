@@ -6,7 +6,7 @@
 //   herdar              leaves behind a copy that prints when this one is gone
 //   morrer              prints a word and is killed
 //   criar NOME          makes a file
-//   parar A NOME B      prints A, waits until the file exists, prints B
+//   parar A B           prints "a", makes the file A, waits until the file B exists, prints "b"
 //   dormir NOME         makes a file when it is up and lives for a minute
 #include "Sistema.hpp"
 
@@ -64,9 +64,10 @@ int main(int AQuantidade, char** AArgumentos) {
     } else if (acao == "criar") {
         std::ofstream(argumentos[1]) << "feito";
     } else if (acao == "parar") {
-        Escrever(argumentos[1] + '\n');
+        Escrever("a\n");
+        std::ofstream(argumentos[1]) << "feito";
         while (!Existe(argumentos[2])) Sistema::EsperarUmPouco();
-        Escrever(argumentos[3] + '\n');
+        Escrever("b\n");
     } else if (acao == "dormir") {
         std::ofstream(argumentos[1]) << "feito";
         for (const std::time_t fim = std::time(nullptr) + 60; std::time(nullptr) < fim;) Sistema::EsperarUmPouco();
