@@ -6,11 +6,9 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <functional>
 #include <string>
 #include <string_view>
-#include <thread>
 
 namespace OryUtils::Testes {
 
@@ -29,16 +27,16 @@ inline std::u16string Comando(std::u16string_view AArgumentos,
 }
 inline std::u16string EntreAspas(const std::filesystem::path& ACaminho) { return u"\"" + ACaminho.u16string() + u"\""; }
 
+/// Waits until somebody creates the file, which the system tells; false when nobody does in half a minute.
+bool EsperarArquivo(const std::filesystem::path& AArquivo);
+inline constexpr int CMaiorEsperaDeArquivo = 30'000;  // milliseconds
+
 /// The command line of the auxiliary program that sleeps, and the wait until it does. One that is killed before it is
 /// up leaves its console behind under Wine, waiting for it and holding what the tests write to.
 class TDorminhoco {
 public:
     std::u16string Argumentos() const { return u"dormir " + EntreAspas(FPasta / "acordou"); }
-    void Esperar() const {
-        for (int vez = 0; vez < 30000 && !std::filesystem::exists(FPasta / "acordou"); ++vez)
-            std::this_thread::sleep_for(std::chrono::milliseconds(1));
-        EXPECT_TRUE(std::filesystem::exists(FPasta / "acordou")) << "it did not start";
-    }
+    void Esperar() const { EXPECT_TRUE(EsperarArquivo(FPasta / "acordou")) << "it did not start"; }
 
 private:
     TPastaTemporaria FPasta;

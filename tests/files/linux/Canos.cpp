@@ -4,10 +4,12 @@
 #include "files/LogApoio.hpp"
 
 #include <array>
-#include <chrono>
 #include <fcntl.h>
+#include <fstream>
+#include <string>
 #include <sys/stat.h>
 #include <thread>
+#include <unistd.h>
 
 namespace {
 
@@ -24,7 +26,7 @@ TEST(LogEmCano, SemLeitorNaoFazEsperar) {
     EXPECT_EQ(ambiente.Tentativas, 14);
 }
 
-TEST(LogEmCano, LeitorLentoRecebeTudo) {
+TEST(LogEmCano, UmTextoMaiorQueOCanoChegaTodo) {
     const TPastaTemporaria pasta;
     const auto cano = pasta.Caminho() / "c.log";
     ASSERT_EQ(::mkfifo(cano.c_str(), 0600), 0);
@@ -34,15 +36,20 @@ TEST(LogEmCano, LeitorLentoRecebeTudo) {
     std::string lido;
     std::thread leitor([&] {
         std::ifstream leitura(cano, std::ios::binary);
-        for (std::array<char, 50'000> parte{}; leitura.read(parte.data(), parte.size()) || leitura.gcount() > 0;) {
+        for (std::array<char, 50'000> parte{}; leitura.read(parte.data(), parte.size()) || leitura.gcount() > 0;)
             lido.append(parte.data(), static_cast<std::size_t>(leitura.gcount()));
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
-        }
     });
     do log.SalvarArquivoLog();
     while (!log.EstahSalvo());  // until the reader is there
     leitor.join();
     EXPECT_EQ(lido, ParaUtf8(log.GetTexto()) + "\n");
+}
+
+/// Returns when the thread of that number waits for something.
+void EsperarQueEspere(pid_t AThread) {
+    const std::string nome = "/proc/self/task/" + std::to_string(AThread) + "/stat";
+    for (std::string dados; dados.find(") S ") == dados.npos; std::this_thread::yield())
+        std::getline(std::ifstream(nome), dados);
 }
 
 /// A program that shares the standard input may have told the system not to wait.
@@ -52,9 +59,9 @@ TEST(EntradaPadrao, EsperaTambemOndeOSistemaNaoEspera) {
     const Interno::TDescritor antiga(::dup(STDIN_FILENO));
     ASSERT_EQ(::dup2(cano[0], STDIN_FILENO), STDIN_FILENO);
     ::close(cano[0]);
-    std::thread escritor([saida = cano[1]] {
+    std::thread escritor([saida = cano[1], leitor = ::gettid()] {
         for (int i = 0; i < 3; ++i) {
-            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+            EsperarQueEspere(leitor);
             EXPECT_EQ(::write(saida, "abc", 3), 3);
         }
         ::close(saida);
