@@ -69,7 +69,8 @@ TEST_F(TecladoQt, UmaJanelaVeAsTeclasSimuladas) {
 TEST_F(TecladoQt, EstadoEInatividade) {
     using Interno::EnviarEventosDeTecla;
     using Interno::TEventoDeTecla;
-    for (const std::uint16_t tecla : {0x41, 0x10, 0x11, 0x12, 0x0D, 0x70, 0x2E}) {
+    constexpr std::uint16_t CTeclas[] = {0x41, 0x10, 0x11, 0x12, 0x0D, 0x70, 0x2E};
+    for (const std::uint16_t tecla : CTeclas) {
         EXPECT_FALSE(TOryUtilsSistema::TeclaEstahPressionada(tecla)) << tecla;
         EnviarEventosDeTecla(std::array{TEventoDeTecla{.Tecla = tecla}});
         EXPECT_TRUE(TOryUtilsSistema::TeclaEstahPressionada(tecla)) << tecla;
