@@ -1,5 +1,3 @@
-#include "files/ArvoreWine.hpp"
-
 #include "oryutils/characters/Utf.hpp"
 #include "oryutils/platform/Fluxo.hpp"
 #include "oryutils/platform/VersaoDeArquivo.hpp"
@@ -8,7 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <vector>
 
 // The reader that the Linux library uses against the version functions of the system, over files that nobody here made.
 
@@ -29,6 +29,19 @@ public:
 private:
     TFluxo FArquivo{};
 };
+
+/// Every .dll and .exe of the installed Wine, found when the tests were configured; none when there is no Wine.
+std::vector<std::filesystem::path> BuscarArquivosDoWine() {
+    std::vector<std::filesystem::path> arquivos;
+    const std::filesystem::path raiz(ORY_ARVORE_WINE);
+    if (raiz.empty()) return arquivos;
+    for (const auto& entrada : std::filesystem::recursive_directory_iterator(raiz)) {
+        const auto extensao = entrada.path().extension();
+        if ((extensao == ".dll" || extensao == ".exe") && entrada.is_regular_file()) arquivos.push_back(entrada.path());
+    }
+    std::sort(arquivos.begin(), arquivos.end());
+    return arquivos;
+}
 
 constexpr std::u16string_view CChaves[] = {
     u"CompanyName",        u"FileDescription",       u"FileVersion",  u"InternalName",   u"LegalCopyright",
