@@ -3,7 +3,6 @@
 #include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/interno/ConversaoExata.hpp"
-#include "oryutils/runtime/interno/Estimativa.hpp"
 #include "oryutils/runtime/interno/InteiroLongo.hpp"
 #include "oryutils/runtime/interno/PrecisaoPlena.hpp"
 #include "oryutils/runtime/interno/QuinzeDigitos.hpp"
@@ -70,56 +69,15 @@ std::optional<TDecimal> LerDecimal(std::u16string_view ATexto, char16_t ASeparad
     return decimal;
 }
 
-/// ADecimal by its first 38 digits. False when they do not tell how it rounds.
-bool TentarConverter(const TDecimal& ADecimal, std::optional<Extended>& AValor) noexcept {
-    constexpr int CDigitosEm128Bits = 38;
-    TInteiro128 inicio = ADecimal.Inicio;
-    std::int64_t lidos = std::min<std::int64_t>(ADecimal.Significativos, CDigitosEm64Bits);
-    if (ADecimal.Significativos > lidos) {
-        inicio = 0;
-        lidos = 0;
-        for (const char16_t c : ADecimal.Digitos) {
-            if (!EhDigito(c) || (lidos == 0 && c == u'0')) continue;
-            inicio = inicio * 10 + static_cast<unsigned>(c - u'0');
-            if (++lidos == CDigitosEm128Bits) break;
-        }
-    }
-    const std::int64_t outros = ADecimal.Significativos - lidos;
-    const TEstimativa valor =
-        MultiplicarPorPotenciaDe10(Estimar(inicio, outros > 0, 0), static_cast<int>(ADecimal.Expoente + outros));
-    const int descartados = std::max(64, CMenorBit - valor.Expoente);
-    if (descartados > 128) {
-        AValor = 0;  // below the half of the smallest one
-        return true;
-    }
-    const TLadoDaMetade lado = BuscarLadoDaMetade(valor, descartados);
-    if (lado == lmIncerto) return false;
-    const std::uint64_t mantissa = valor.DescartarBits(descartados);
-    AValor =
-        JuntarBinario(mantissa, valor.Expoente + descartados, lado == lmAcima || (lado == lmMetade && (mantissa & 1)));
-    return true;
-}
-
 std::optional<Extended> ConverterDecimal(const TDecimal& ADecimal) noexcept {
     if (ADecimal.Significativos == 0) return Extended{0};
     const std::int64_t ordem = ADecimal.Significativos + ADecimal.Expoente;
     if (ordem > CMaiorOrdem) return std::nullopt;
     if (ordem < CMenorOrdem) return Extended{0};
-    if (ADecimal.Significativos > CDigitosEm64Bits || std::abs(ADecimal.Expoente) > CPotenciaExata) {
-        std::optional<Extended> valor;
-        return TentarConverter(ADecimal, valor) ? valor : ConverterExato(ADecimal);
-    }
+    if (ADecimal.Significativos > CDigitosEm64Bits || std::abs(ADecimal.Expoente) > CPotenciaExata)
+        return ConverterExato(ADecimal);
     // Both numbers are exact, so the one operation rounds once.
     return MultiplicarPorPotenciaDe10(static_cast<Extended>(ADecimal.Inicio), static_cast<int>(ADecimal.Expoente));
-}
-
-/// AValor times 10 to APotencia as an integer, halves up; the result fits 64 bits.
-std::uint64_t Escalar(TBinario AValor, int APotencia) noexcept {
-    const TEstimativa valor = MultiplicarPorPotenciaDe10(Estimar(AValor.Mantissa, 0, AValor.Expoente), APotencia);
-    const int decimais = -valor.Expoente;
-    const TLadoDaMetade lado = BuscarLadoDaMetade(valor, decimais);
-    if (lado == lmIncerto) return EscalarExato(AValor, APotencia);
-    return valor.DescartarBits(decimais) + (lado != lmAbaixo);
 }
 
 /// Writes at ADestino and answers the end of what was written.
@@ -195,8 +153,8 @@ TDigitosDecimais SepararDigitos(Extended AValor, int AQuantidade) noexcept {
     const TBinario binario = SepararBinario(AValor);
     // Digits before the comma less one, or one less than that: log10(2) is 0.30103.
     int ordem = static_cast<int>(std::floor((binario.Expoente + 63) * 0.30102999566398120));
-    std::uint64_t valor = Escalar(binario, AQuantidade - 1 - ordem);
-    if (valor >= primeiroLongo) valor = Escalar(binario, AQuantidade - 1 - ++ordem);
+    std::uint64_t valor = EscalarExato(binario, AQuantidade - 1 - ordem);
+    if (valor >= primeiroLongo) valor = EscalarExato(binario, AQuantidade - 1 - ++ordem);
     return {valor, ordem};
 }
 

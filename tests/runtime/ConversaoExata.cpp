@@ -2,7 +2,6 @@
 
 #include "oryutils/characters/Utf.hpp"
 #include "oryutils/runtime/interno/InteiroLongo.hpp"
-#include "oryutils/runtime/interno/QuinzeDigitos.hpp"
 
 #include <gtest/gtest.h>
 
@@ -12,42 +11,6 @@ namespace OryUtils {
 namespace {
 
 const TFormatSettings CPonto{.DecimalSeparator = u'.'};
-
-// Subnormals included, and whatever order one estimate takes.
-TEST(ConversaoExata, EscritaEmTodaAFaixa) {
-    const auto semente = std::random_device{}();
-    SCOPED_TRACE(testing::Message() << "seed " << semente);
-    std::mt19937_64 gerador(semente);
-    for (int i = 0; i < 3000; ++i) {
-        const Extended valor =
-            std::ldexp(static_cast<Extended>(gerador() | 1), static_cast<int>(gerador() % 32'800) - 16'480);
-        if (valor == 0 || std::isinf(valor)) continue;
-        const int quantos = static_cast<int>(gerador() % 18) + 1;
-        std::uint64_t primeiro = 1;
-        for (int k = 1; k < quantos; ++k) primeiro *= 10;
-        const TDigitosDecimais decimal = SepararDigitos(valor, quantos);
-        ASSERT_EQ(decimal.Digitos, EscalarExato(SepararBinario(valor), quantos - 1 - decimal.Ordem)) << valor;
-        ASSERT_TRUE(decimal.Digitos >= primeiro && decimal.Digitos < primeiro * 10) << valor << " " << quantos;
-    }
-}
-
-// With all the digits as with the first ones, which the C library is asked about elsewhere.
-TEST(ConversaoExata, LeituraEmTodaAFaixa) {
-    const auto semente = std::random_device{}();
-    SCOPED_TRACE(testing::Message() << "seed " << semente);
-    std::mt19937_64 gerador(semente);
-    for (int i = 0; i < 3000; ++i) {
-        std::u16string digitos = u"7";
-        for (auto n = gerador() % 60; n > 0; --n) digitos += static_cast<char16_t>(u'0' + gerador() % 10);
-        const int expoente = static_cast<int>(gerador() % 9850) - 4980;
-        const TDecimal decimal{.Digitos = digitos,
-                               .Expoente = expoente,
-                               .Significativos = static_cast<std::int64_t>(digitos.size()),
-                               .Inicio = std::stoull(ParaUtf8(digitos.substr(0, CDigitosEm64Bits)))};
-        ASSERT_EQ(ConverterExato(decimal), TentarTextoParaExtended(digitos + u"E" + InteiroParaTexto(expoente), CPonto))
-            << ParaUtf8(digitos) << ' ' << expoente;
-    }
-}
 
 /// The first ADigitos digits of the middle between two neighbours, (2m + 1) / 2^APotencia, and the exponent of the
 /// last.
@@ -68,7 +31,7 @@ std::pair<std::u16string, int> BuscarMeio(std::uint64_t AMantissa, int APotencia
     return {digitos, static_cast<int>(cortados) - APotencia};
 }
 
-// Cut off after some digits, the middle lies so near to the text that no estimate tells on which side the text is.
+// Cut off after some digits, the middle lies near to the text, on a known side of it.
 TEST(ConversaoExata, PertoDosMeiosENeles) {
     const auto semente = std::random_device{}();
     SCOPED_TRACE(testing::Message() << "seed " << semente);
