@@ -103,12 +103,12 @@ struct TSecoes {
 };
 
 /// 0.d1d2d3... times 10 to Ordem, without zeros at the end; no digits for zero.
-struct TDecimal {
+struct TDigitosDoNumero {
     std::array<char16_t, CMaisDigitos> Digitos{};
     TPosicao Quantidade = 0;
     TPosicao Ordem = 0;
 
-    explicit TDecimal(Extended AMagnitude) {
+    explicit TDigitosDoNumero(Extended AMagnitude) {
         if (AMagnitude == 0) return;
         TDigitosDecimais decimal = SepararDigitos(AMagnitude, CMaisDigitos);
         for (std::size_t i = Digitos.size(); i-- > 0; decimal.Digitos /= 10)
@@ -145,7 +145,8 @@ private:
 
 class TEscrita {
 public:
-    TEscrita(const TSecao& ASecao, const TDecimal& ANumero, const TFormatSettings& AFormatos, std::u16string& ASaida)
+    TEscrita(const TSecao& ASecao, const TDigitosDoNumero& ANumero, const TFormatSettings& AFormatos,
+             std::u16string& ASaida)
         : FSecao(ASecao),
           FNumero(ANumero),
           FFormatos(AFormatos),
@@ -210,7 +211,7 @@ private:
     }
 
     const TSecao& FSecao;
-    const TDecimal& FNumero;
+    const TDigitosDoNumero& FNumero;
     const TFormatSettings& FFormatos;
     std::u16string& FSaida;
     TPosicao FOrdem;
@@ -226,7 +227,7 @@ std::u16string FormatarNumero(std::u16string_view AFormato, Extended AValor, con
     const TSecao* secao = &secoes.Buscar(sinal);
     if (!std::isfinite(AValor) || secao->Texto.empty()) return ExtendedParaTexto(AValor, AFormatos);
 
-    TDecimal numero(std::abs(AValor));
+    TDigitosDoNumero numero(std::abs(AValor));
     if (!secao->Cientifica && numero.Ordem > CMaisDigitos) return ExtendedParaTexto(AValor, AFormatos);
     numero.Arredondar(secao->Cientifica ? std::clamp<TPosicao>(secao->Lugares, 1, CMaisDigitos)
                                         : numero.Ordem + secao->Lugares - secao->Inteiros);

@@ -35,8 +35,8 @@ bool RetirarSinal(std::u16string_view& ATexto) noexcept {
 constexpr std::int64_t CMaiorOrdem = TLimites::max_exponent10 + 2;
 constexpr std::int64_t CMenorOrdem = TLimites::min_exponent10 - TLimites::digits;
 
-std::optional<TDecimal> LerDecimal(std::u16string_view ATexto, char16_t ASeparador) noexcept {
-    TDecimal decimal;
+std::optional<TDecimalEscrito> LerDecimal(std::u16string_view ATexto, char16_t ASeparador) noexcept {
+    TDecimalEscrito decimal;
     std::size_t i = 0;
     bool temDigito = false;
     bool temSeparador = false;
@@ -69,7 +69,7 @@ std::optional<TDecimal> LerDecimal(std::u16string_view ATexto, char16_t ASeparad
     return decimal;
 }
 
-std::optional<Extended> ConverterDecimal(const TDecimal& ADecimal) noexcept {
+std::optional<Extended> ConverterDecimal(const TDecimalEscrito& ADecimal) noexcept {
     if (ADecimal.Significativos == 0) return Extended{0};
     const std::int64_t ordem = ADecimal.Significativos + ADecimal.Expoente;
     if (ordem > CMaiorOrdem) return std::nullopt;
@@ -171,7 +171,7 @@ Extended ArredondarPara15Digitos(Extended AValor) noexcept {
         return magnitude == 0 ? 0 : AValor;
     const TQuinzeDigitos decimal = SepararQuinzeDigitos(magnitude);
     const int expoente = decimal.Ordem - 14;
-    const TDecimal escrito{
+    const TDecimalEscrito escrito{
         .Expoente = expoente, .Significativos = 15, .Inicio = static_cast<std::uint64_t>(decimal.Digitos)};
     const Extended arredondado = ConverterDecimal(escrito).value_or(TLimites::infinity());
     return AValor < 0 ? -arredondado : arredondado;

@@ -5,12 +5,33 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <random>
 
 namespace OryUtils {
 namespace {
 
 const TFormatSettings CPonto{.DecimalSeparator = u'.'};
+
+// Numbers without a half in the sixteenth digit, which the C library rounds to even.
+TEST(ConversaoExata, EscritaComoADaBibliotecaC) {
+    const auto semente = std::random_device{}();
+    SCOPED_TRACE(testing::Message() << "seed " << semente);
+    std::mt19937_64 gerador(semente);
+    for (int i = 0; i < 2000; ++i) {
+        const Extended valor =
+            std::ldexp(static_cast<Extended>(gerador() | 1), static_cast<int>(gerador() % 32'600) - 16'400);
+        if (std::isinf(valor)) continue;
+        std::array<char, 64> texto{};
+        std::snprintf(texto.data(), texto.size(), "%.14Le", valor);
+        const Extended outro = std::strtold(texto.data(), nullptr);
+        if (std::isinf(outro)) continue;
+        ASSERT_EQ(TentarTextoParaExtended(ExtendedParaTexto(valor, CPonto), CPonto), outro) << texto.data();
+    }
+}
 
 /// The first ADigitos digits of the middle between two neighbours, (2m + 1) / 2^APotencia, and the exponent of the
 /// last.

@@ -45,7 +45,7 @@ bool LerDigitos(std::u16string_view ATexto, TInteiroLongo& ANumero) noexcept {
 
 }  // namespace
 
-std::optional<Extended> ConverterExato(const TDecimal& ADecimal) noexcept {
+std::optional<Extended> ConverterExato(const TDecimalEscrito& ADecimal) noexcept {
     const bool curto = ADecimal.Significativos <= CDigitosEm64Bits;
     TInteiroLongo numero(curto ? ADecimal.Inicio : 0);
     bool sobrou = !curto && LerDigitos(ADecimal.Digitos, numero);

@@ -15,7 +15,7 @@ namespace OryUtils {
 inline constexpr int CDigitosEm64Bits = 19;
 
 /// A decimal number: digits with the exponent of the last one.
-struct TDecimal {
+struct TDecimalEscrito {
     std::u16string_view Digitos{};  // as written, with at most one separator; needed when there are more than 19
     std::int64_t Expoente = 0;
     std::int64_t Significativos = 0;  // digits from the first one that is not 0
@@ -37,7 +37,7 @@ inline std::optional<Extended> JuntarBinario(std::uint64_t AMantissa, int AExpoe
 
 /// The nearest extended float, halves to even; none when it is too large. ADecimal has a digit other than 0, and an
 /// order that is not far outside of the extended floats.
-std::optional<Extended> ConverterExato(const TDecimal& ADecimal) noexcept;
+std::optional<Extended> ConverterExato(const TDecimalEscrito& ADecimal) noexcept;
 
 /// AValor times 10 to APotencia as an integer, halves up; the result fits 64 bits.
 std::uint64_t EscalarExato(TBinario AValor, int APotencia) noexcept;
