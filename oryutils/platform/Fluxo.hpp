@@ -43,7 +43,7 @@ public:
     /// later: on Linux who may read and write that one, where it exists, may do so with the new one from the beginning
     /// and nobody else. On Windows the folder says who may.
     TErroFluxo CriarNovo(const std::string& ANome, const std::string& ASubstituido = {});
-    /// Creates a file, or empties the one that is there, for writing. Others may read it meanwhile.
+    /// Creates a file, or empties the one that is there, for writing. Others may read and write it meanwhile.
     TErroFluxo CriarOuEsvaziar(const std::string& ANome);
     /// Opens an existing file for writing behind its end, also where another program has moved that end. Others may
     /// read, write, rename and delete it meanwhile. (Windows) Who opens it must let others write.

@@ -23,6 +23,7 @@ struct TAmbienteDeTeste final : OryUtils::TAmbienteDoLog {
     int Tentativas = 0;
     std::size_t Bytes = 0;
     std::function<void(int)> AoTentar{};
+    std::function<void()> AoEscreverBytes{};
     std::chrono::steady_clock::time_point Relogio{};
     std::chrono::milliseconds Passo{100};
 
@@ -36,7 +37,10 @@ struct TAmbienteDeTeste final : OryUtils::TAmbienteDoLog {
         ++Tentativas;
         if (AoTentar) AoTentar(ATentativa);
     }
-    void AoEscrever(std::size_t ABytes) override { Bytes += ABytes; }
+    void AoEscrever(std::size_t ABytes) override {
+        Bytes += ABytes;
+        if (AoEscreverBytes) AoEscreverBytes();
+    }
 
     void Marcar(int AAno, int AMes, int ADia, int AHora = 0, int AMinuto = 0, int ASegundo = 0) {
         Agora = OryUtils::CodificarData(AAno, AMes, ADia) + OryUtils::CodificarHora(AHora, AMinuto, ASegundo, 0);

@@ -172,6 +172,30 @@ TEST(LogAcrescimo, OlhaOArquivoACadaDecimoDeSegundoENoFim) {
         }
 }
 
+TEST(LogAcrescimo, OutroEscreveDuranteARegravacao) {
+    TAcrescimo t;
+    t.Ambiente.AoEscreverBytes = [&] { GravarBytes(t.Arquivo, std::string(10'000, 'x')); };
+    t.Log.InserirTexto(u"meio", 0, clBlue);
+    EXPECT_NO_THROW(t.Log.SalvarArquivoLog());
+    t.Ambiente.AoEscreverBytes = {};
+    EXPECT_NO_THROW(t.Adicionar()) << "the file is longer than the text";
+    EXPECT_EQ(LerBytes(t.Arquivo), t.Log.Esperar());
+}
+
+TEST(LogAcrescimo, OutroLogDoMesmoArquivoTambemGrava) {
+    for (const TModoGravacao modo : {mgReescrever, mgAcrescentar}) {
+        TAcrescimo t;
+        t.Adicionar();
+        TAmbienteDeTeste ambiente;
+        TLogDeTeste outro(t.Arquivo.u16string(), ambiente, modo);
+        outro.Adicionar(u"o outro", clBlue);
+        EXPECT_EQ(outro.ContarTentativas(), 1) << "the first one keeps the file open";
+        EXPECT_EQ(LerBytes(t.Arquivo), outro.Esperar());
+        t.Adicionar();
+        EXPECT_EQ(LerBytes(t.Arquivo), t.Log.Esperar()) << "who saves last has its text there";
+    }
+}
+
 TEST(LogAcrescimo, TextoMudadoNoMeioRegravaTudo) {
     struct TCaso {
         std::function<void(TLogDeTeste&)> Mudar;

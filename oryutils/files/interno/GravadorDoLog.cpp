@@ -72,7 +72,8 @@ bool TGravadorDoLog::Reescrever(std::u16string_view AArquivo, const TTextoPronto
     const bool escrito = FFluxo.Escrever(ATexto.Bytes) == efNenhum;
     const auto marca = AMarcar ? FFluxo.BuscarMarca() : std::nullopt;
     if (FFluxo.Fechar() != efNenhum || !escrito) return false;
-    FMarca = marca;
+    // Another size: somebody else has written too, and the next save writes the whole again.
+    if (marca && marca->Tamanho == ATexto.Bytes.size()) FMarca = marca;
     FArquivo = AArquivo;
     FGeracao = ATexto.Geracao;
     return true;

@@ -78,7 +78,9 @@ TErroFluxo TFluxo::CriarNovo(const std::string& ANome, const std::string&) {
 TErroFluxo TFluxo::CriarOuEsvaziar(const std::string& ANome) {
     Fechar();
     const std::u16string nome = DeUtf8(ANome);
-    const TErroFluxo erro = Assumir(Numero(::CreateFileW(ParaWide(nome), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+    // Without FILE_SHARE_WRITE a file that a log keeps open for appending would be refused.
+    constexpr DWORD CPartilha = FILE_SHARE_READ | FILE_SHARE_WRITE;
+    const TErroFluxo erro = Assumir(Numero(::CreateFileW(ParaWide(nome), GENERIC_WRITE, CPartilha, nullptr,
                                                          CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr)));
     return erro != efNenhum && EhPasta(nome) ? efEhPasta : erro;
 }
