@@ -87,7 +87,9 @@ bool C::Validou(std::u16string_view AIE, std::u16string_view AUF) noexcept {
 }
 
 std::u16string_view C::FormatarBase(std::u16string_view AModelo, std::u16string_view ATexto) noexcept {
-    const int zeros = static_cast<int>(std::min(AModelo.size(), FBase.Texto.size()));
+    // Digits keep at least one digit, also under an empty pattern.
+    const std::size_t menor = !ATexto.empty() && std::ranges::all_of(ATexto, EhDigito) ? 1 : 0;
+    const int zeros = static_cast<int>(std::clamp(AModelo.size(), menor, FBase.Texto.size()));
     TTexto<20> base;
     Guardar(base, EscreverZeros(TextoParaExtendedPadrao(ATexto, 0), zeros, FBase.Texto));
     FBase = base;

@@ -153,15 +153,16 @@ TEST(Conferir, CadaTipoDeColuna) {
 
 TEST(Conferir, ReconheceAsColunasPeloCabecalho) {
     const json resumo = Resumir(
-        "CNPJ;Cpf;Documento;Inscrição Estadual;UF;PIS;c.e.i.;CNO;CNH;Código Município;nome\n"
-        "11222333000181;;529.982.247-25;ISENTO;SP;;;;;3550308;Ana\n");
+        "CNPJ;Cpf;Documento;Inscrição Estadual;UF;PIS;c.e.i.;CNO;CNH;Código Município;nome;;\"--\"\n"
+        "11222333000181;;529.982.247-25;ISENTO;SP;;;;;3550308;Ana;nota;lembrete\n");
     std::string tipos;
     for (const json& coluna : resumo["colunas"]) tipos += coluna["tipo"].get<std::string>() + " ";
-    EXPECT_EQ(tipos, "cnpj cpf documento ie pis cei cno cnh municipio ");
+    EXPECT_EQ(tipos, "cnpj cpf documento ie pis cei cno cnh municipio ") << "a header without a name tells no kind";
     EXPECT_TRUE(resumo["valido"]);
     const json latina = Resumir("inscri\xE7\xE3o estadual;uf\nISENTA;RJ\n");
     EXPECT_EQ(latina["colunas"][0]["nome"], "inscrição estadual");
     EXPECT_EQ(latina["codificacao"], "windows-1252");
+    EXPECT_EQ(Resumir("nome;codigo\n", {"--coluna", "02=cnpj"})["colunas"][0]["nome"], "codigo") << "by position";
 }
 
 TEST(Conferir, ContaEMostraOsPrimeiros) {
@@ -201,7 +202,7 @@ TEST(Conferir, FalhasTerminamComUmaFraseEStatus2) {
         {{"conferir"}, "", "o arquivo está vazio"},
         {{"conferir"}, "nome;idade\na;1\n", "nenhuma coluna para conferir entre: nome, idade"},
         {{"conferir", "--coluna", "x=cnpj"}, "nome;idade\n", "não há coluna \"x\""},
-        {{"conferir", "--coluna", "nome=xx"}, "nome\n", "tipo desconhecido: xx"},
+        {{"conferir", "--coluna", "nome=xx"}, "nome\n", "xx (os tipos são cnpj, cpf, documento, ie, uf, pis,"},
         {{"conferir", "--coluna", "nome"}, "nome\n", "espera nome=tipo"},
         {{"conferir"}, "ie\n1\n", "não de UF"},
         {{"conferir"}, "cnpj;nome\n1;a\n2;\"b\n\n", "linha 3: aspas abertas"},
@@ -211,6 +212,7 @@ TEST(Conferir, FalhasTerminamComUmaFraseEStatus2) {
                      "c\0n\0",
                      6),
          "UTF-16"},
+        {{"conferir", "--vereditos", "cnpj"}, "\xFE\xFF", "UTF-16"},
         {{"conferir", "--vereditos", "ie"}, "1\n", "--uf"},
         {{"conferir", "--codificacao", "ebcdic"}, "cnpj\n", "utf-8 ou windows-1252"},
         {{"conferir", "--nada"}, "", "argumento desconhecido: --nada"},
@@ -334,6 +336,9 @@ TEST(Conferir, VereditosSaemUmPorLinha) {
     EXPECT_EQ(rodada.Status, 1);
     EXPECT_EQ(Rodar({"conferir", "--vereditos", "ie", "--uf", "RS"}, "2243658792\n").Status, 0);
     EXPECT_EQ(Rodar({"conferir", "--vereditos", "cpf"}, "").Saida, "");
+    const TRodada longa = Rodar({"conferir", "--vereditos", "cpf"}, "52998224725\n" + std::string(17'000'000, 'x'));
+    EXPECT_EQ(longa.Saida, "1\n") << "the lines before a refused one have their answers";
+    EXPECT_EQ(longa.Status, 2);
 }
 
 TEST(Conferir, SaidaTrocaOArquivoSoNoFim) {

@@ -169,6 +169,8 @@ TEST(IE, BaseESomas) {
     EXPECT_EQ(ie.BuscarSomaModulo11(pesos, u"9"), 45 % 11) << "a missing digit counts 0";
     EXPECT_EQ(ie.FormatarBase(u"0000", u"1P2"), u"0000") << "not a number";
     EXPECT_EQ(ie.FormatarBase(u"0000", u""), u"0000");
+    EXPECT_EQ(ie.FormatarBase(u"", u"000"), u"0") << "digits keep one digit";
+    EXPECT_EQ(ie.FormatarBase(u"", u"1P2"), u"") << "no number and no pattern";
     EXPECT_EQ(ie.FormatarBase(u"0000", u"1234567890123456789"), u"1234567890123456789") << "past exact doubles";
     EXPECT_EQ(ie.FormatarBase(u"00000", u"-7"), u"-00007");
     EXPECT_EQ(TOryUtilsValidacoesIE::BuscarDigitoPadrao(1), 0);

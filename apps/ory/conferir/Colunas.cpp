@@ -234,14 +234,18 @@ TPapelDaColuna BuscarPapel(std::string_view ANome) {
 TPapelDaColuna ReconhecerCabecalho(std::string_view ACabecalho) {
     const std::string nome = Normalizar(ACabecalho);
     if (nome == CUf) return {.EhUf = true};
+    if (nome.empty()) return {};
     const auto* tipo = std::ranges::find_if(CTipos, [&](const auto& t) { return TemCabecalho(t, nome); });
     return {.Tipo = tipo == std::end(CTipos) ? nullptr : tipo};
 }
 
 std::string ListarPapeis() {
     std::string lista;
-    for (const TTipoColuna& tipo : CTipos) lista.append(tipo.Nome).append(", ");
-    return lista.append(CUf).append(", ").append(CNenhum);
+    for (const TTipoColuna& tipo : CTipos) {
+        lista.append(tipo.Nome).append(", ");
+        if (tipo.PedeUf) lista.append(CUf).append(", ");
+    }
+    return lista.append(CNenhum);
 }
 
 bool EhMesmoCabecalho(std::string_view AUm, std::string_view AOutro) { return Normalizar(AUm) == Normalizar(AOutro); }

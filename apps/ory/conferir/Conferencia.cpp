@@ -35,8 +35,10 @@ std::size_t LocalizarColuna(const std::vector<std::string>& ACabecalho, const st
     if (!ASemCabecalho)
         for (std::size_t i = 0; i < ACabecalho.size(); ++i)
             if (EhMesmoCabecalho(ACabecalho[i], ANome)) return i;
+    // A position may have zeros on its left.
+    const std::size_t inicio = std::min(ANome.find_first_not_of('0'), ANome.size());
     for (std::size_t i = 0; i < ACabecalho.size(); ++i)
-        if (std::to_string(i + 1) == ANome) return i;
+        if (ANome.substr(inicio) == std::to_string(i + 1)) return i;
     throw EFalha("não há coluna \"" + ANome + "\" no arquivo");
 }
 
@@ -233,13 +235,15 @@ TResumoDeVereditos EscreverVereditos(TEntrada& AEntrada, TSaida& ASaida, const T
     TLeitorDeLinhas linhas(AEntrada, AOpcoes.Limites.Registro);
     TSaidaEmBlocos saida(ASaida);
     linhas.GetBytes().AoEsperar([&] { saida.Descarregar(); });
-    linhas.GetBytes().PularMarcaUtf8();
+    PularMarcaDeCodificacao(linhas.GetBytes());
     TResumoDeVereditos resumo;
     while (true) {
         const TLeitorDeLinhas::TLeitura leitura = linhas.Proxima();
         if (leitura == TLeitorDeLinhas::leFim) break;
-        if (leitura == TLeitorDeLinhas::leLonga)
+        if (leitura == TLeitorDeLinhas::leLonga) {
+            saida.Descarregar();
             RecusarRegistroLongo(resumo.Validos + resumo.Outros + 1, AOpcoes.Limites);
+        }
         const bool valido = Conferir(ATipo, linhas.GetLinha(), AOpcoes.Uf) == veValido;
         ++(valido ? resumo.Validos : resumo.Outros);
         saida.GetTexto() += valido ? "1\n" : "0\n";

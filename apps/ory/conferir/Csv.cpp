@@ -9,6 +9,17 @@ void RecusarRegistroLongo(std::uint64_t ALinha, const TLimites& ALimites) {
                  std::to_string(ALimites.Registro >> 20) + " MiB (faltam aspas de fechamento?)");
 }
 
+bool PularMarcaDeCodificacao(TBytesLidos& ABytes) {
+    constexpr std::size_t CBloco = 4096;
+    const bool utf8 = ABytes.PularMarcaUtf8();
+    for (const std::string_view marca : {"\xFF\xFE", "\xFE\xFF"}) {
+        while (ABytes.Get().size() < marca.size() && marca.starts_with(ABytes.Get()) && ABytes.LerMais(CBloco)) {
+        }
+        if (ABytes.Get().starts_with(marca)) throw EFalha("a entrada está em UTF-16; grave-a em UTF-8 ou Windows-1252");
+    }
+    return utf8;
+}
+
 char DetectarDelimitador(std::string_view AInicio) noexcept {
     std::size_t virgulas = 0;
     std::size_t pontosEVirgulas = 0;
@@ -26,12 +37,9 @@ char DetectarDelimitador(std::string_view AInicio) noexcept {
 TLeitorDeRegistros::TLeitorDeRegistros(TEntrada& AEntrada, char ADelimitador, std::size_t AMaximoDeCampos,
                                        TLimites ALimites)
     : FBytes(AEntrada), FDelimitador(ADelimitador), FMaximoDeCampos(AMaximoDeCampos), FLimites(ALimites) {
-    FPossuiMarcaUtf8 = FBytes.PularMarcaUtf8();
+    FPossuiMarcaUtf8 = PularMarcaDeCodificacao(FBytes);
     LerBloco(FLimites.Bloco);
-    const std::string_view inicio = FBytes.Get();
-    if (inicio.starts_with("\xFF\xFE") || inicio.starts_with("\xFE\xFF"))
-        throw EFalha("a entrada está em UTF-16; grave-a em UTF-8 ou Windows-1252");
-    if (!FDelimitador) FDelimitador = DetectarDelimitador(inicio);
+    if (!FDelimitador) FDelimitador = DetectarDelimitador(FBytes.Get());
 }
 
 bool TLeitorDeRegistros::Proximo() {

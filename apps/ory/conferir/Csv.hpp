@@ -25,6 +25,10 @@ struct TLimites {
 /// Raises EFalha for the record on that line, which is longer than the limit.
 [[noreturn]] void RecusarRegistroLongo(std::uint64_t ALinha, const TLimites& ALimites);
 
+/// Skips a mark of UTF-8 at the start of an input; true when it was there. Raises EFalha when the mark is one of
+/// UTF-16.
+bool PularMarcaDeCodificacao(TBytesLidos& ABytes);
+
 /// "," when there are more of them than ";" in the first record, else ";". Quoted ones do not count.
 char DetectarDelimitador(std::string_view AInicio) noexcept;
 
