@@ -215,4 +215,33 @@ TEST(LogModelo, CorridasAoAcaso) {
     }
 }
 
+/// A day and a half of a service that logs every four seconds and saves every ten minutes.
+TEST(LogModelo, UmDiaInteiro) {
+    const TFormatosTemporarios formatos(BuscarFormatosBrasileiros());
+    const TPastaTemporaria pasta;
+    TAmbienteDeTeste ambiente;
+    TLogDeTeste log(pasta.Nome("Servico"), ambiente, mgAcrescentar);
+    log.SetTipoPeriodicidade(tplDiario);
+    constexpr int CPasso = 4;
+    constexpr int CPorDia = 24 * 3600 / CPasso;
+    constexpr int CPorGravacao = 150;
+    for (int i = 0; i < CPorDia * 3 / 2; ++i) {
+        const int segundos = i * CPasso;
+        ambiente.Marcar(2026, 11, 15 + segundos / 86400, segundos / 3600 % 24, segundos / 60 % 60, segundos % 60);
+        log.Adicionar(u"Mensagem " + DeUtf8(std::to_string(i)), clBlue);
+        if (i % CPorGravacao == 0) log.SalvarArquivoLog();
+    }
+    log.FinalizarLog();
+    std::size_t bytes = 0;
+    for (const int dia : {15, 16}) {
+        const std::string texto = LerBytes(pasta.Caminho() / ("Servico_" + std::to_string(dia) + "_11_2026.log"));
+        bytes += texto.size();
+        const auto linhas = std::count(texto.begin(), texto.end(), '\n');
+        EXPECT_EQ(linhas, (dia == 15 ? CPorDia : CPorDia / 2) + 9) << dia;
+        EXPECT_NE(texto.find("Mensagem " + std::to_string(dia == 15 ? CPorDia - 1 : CPorDia)), std::string::npos);
+    }
+    EXPECT_EQ(ambiente.Bytes, bytes) << "nothing was written twice";
+    EXPECT_EQ(ambiente.Tentativas, CPorDia * 3 / 2 / CPorGravacao + 2) << "and the end of each day";
+}
+
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
@@ -70,6 +72,37 @@ TEST_P(LogFalhasLinux, NomeDeOutroSistema) {
     EXPECT_TRUE(log.EstahSalvo());
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Pasta.Caminho() / "sub"), {}), 1);
     EXPECT_TRUE(std::filesystem::is_regular_file(Pasta.Caminho() / "sub" / "C:\\Logs\\x.log"));
+}
+
+TEST_P(LogFalhasLinux, MortoNoMeioDaGravacao) {
+    // The system itself kills a child whose write crosses the limit: the file ends where it got to.
+    constexpr rlim_t CLimite = 1500;
+    const pid_t filho = ::fork();
+    if (filho == 0) {
+        const rlimit limite{CLimite, CLimite};
+        ::setrlimit(RLIMIT_FSIZE, &limite);
+        const rlimit semDespejo{0, 0};
+        ::setrlimit(RLIMIT_CORE, &semDespejo);
+        std::signal(SIGXFSZ, SIG_DFL);
+        TLogDeTeste log(Arquivo.u16string(), Ambiente, GetParam());
+        log.SetSalvarAutomaticamente(true);
+        for (int i = 0; i < 100; ++i) log.Adicionar(u"até morrer", clBlue);
+        ::_exit(0);
+    }
+    int estado = 0;
+    ASSERT_EQ(::waitpid(filho, &estado, 0), filho);
+    ASSERT_TRUE(WIFSIGNALED(estado) && WTERMSIG(estado) == SIGXFSZ);
+    const std::string pedaco = LerBytes(Arquivo);
+    ASSERT_EQ(pedaco.size(), CLimite);
+    ASSERT_NE(pedaco.back(), '\n');
+
+    TLogDeTeste log(Arquivo.u16string(), Ambiente, GetParam());
+    log.SetUsarArquivoLogExistente(true);
+    log.Adicionar(u"o processo seguinte", clBlue);
+    log.SalvarArquivoLog();
+    const std::string texto = LerBytes(Arquivo);
+    EXPECT_TRUE(texto.starts_with(pedaco + "\n"));
+    EXPECT_EQ(texto, log.Esperar());
 }
 
 TEST(LogCodificacao, PadraoEhUtf8) {
