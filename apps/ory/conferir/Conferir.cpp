@@ -20,12 +20,17 @@ using namespace OryUtils::Interno;
 
 constexpr int CLarguraDoLog = 100;
 
-/// The file that takes the place of ANome when it is finished, and goes when it is not.
+/// The file that takes the place of ANome when it is finished, and goes when it is not. A device or a pipe of that name
+/// is written to as it stands.
 class TArquivoNovo {
 public:
     explicit TArquivoNovo(const std::string& ANome) : FNome(ANome) {
         constexpr int CTentativas = 100;
         TFluxo fluxo;
+        if (fluxo.AbrirParaAcrescentar(ANome) == efNenhum && !fluxo.BuscarTamanho()) {
+            FSaida = std::make_unique<TSaidaDeFluxo>(std::move(fluxo), ANome);
+            return;
+        }
         TErroFluxo erro = efJaExiste;
         for (int i = 0; i < CTentativas && erro == efJaExiste; ++i) {
             FNomeProvisorio = ANome + ".parte" + (i ? std::to_string(i) : "");
@@ -39,14 +44,14 @@ public:
     ~TArquivoNovo() {
         if (!FSaida) return;
         FSaida.reset();
-        ExcluirArquivo(FNomeProvisorio);
+        if (!FNomeProvisorio.empty()) ExcluirArquivo(FNomeProvisorio);
     }
 
     TSaida& GetSaida() { return *FSaida; }
 
     void Concluir() {
         TErroFluxo erro = FSaida->GetFluxo().Fechar();
-        if (erro == efNenhum) erro = SubstituirArquivo(FNomeProvisorio, FNome);
+        if (erro == efNenhum && !FNomeProvisorio.empty()) erro = SubstituirArquivo(FNomeProvisorio, FNome);
         if (erro != efNenhum)
             throw EFalha("não foi possível gravar " + FNome + ": " + std::string(DescreverErro(erro)));
         FSaida.reset();
@@ -54,7 +59,7 @@ public:
 
 private:
     std::string FNome;
-    std::string FNomeProvisorio{};
+    std::string FNomeProvisorio{};            // empty for what is no file
     std::unique_ptr<TSaidaDeFluxo> FSaida{};  // none when there is nothing to undo
 };
 

@@ -23,4 +23,13 @@ TEST(ConferirSaida, QuemPodiaLerOArquivoEhQuemPodeLerONovo) {
     ::umask(mascara);
 }
 
+TEST(ConferirSaida, UmDispositivoRecebeASaidaEFica) {
+    const TPastaTemporaria pasta;
+    const auto nome = pasta / u"zero.csv";
+    std::filesystem::create_symlink("/dev/zero", nome);
+    EXPECT_EQ(Rodar({"conferir", "-", "--saida", nome.string()}, "cnpj\n11222333000181\n").Status, 0);
+    EXPECT_TRUE(std::filesystem::is_character_file(nome)) << "no file takes its place";
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(pasta.Caminho()), {}), 1) << "nothing beside it";
+}
+
 }  // namespace
