@@ -1,5 +1,6 @@
 #include "oryutils/registry_numbers/UnOryUtilsValidacoesClasseIE.hpp"
 
+#include "oryutils/characters/Ascii.hpp"
 #include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/registry_numbers/interno/RegrasIE.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
@@ -14,21 +15,16 @@ using C = TOryUtilsValidacoesIE;
 
 constexpr std::size_t CMaiorIE = 14;
 
-/// Only the letters A to Z matter to an IE and to a UF.
-constexpr char16_t Maiuscula(char16_t ACaractere) noexcept {
-    return ACaractere >= u'a' && ACaractere <= u'z' ? static_cast<char16_t>(ACaractere - (u'a' - u'A')) : ACaractere;
-}
-
 template <typename TTexto>
 void Guardar(TTexto& ADestino, std::u16string_view ATexto) noexcept {
     ADestino.Tamanho = std::min(ATexto.size(), ADestino.Texto.size());
-    for (std::size_t i = 0; i < ADestino.Tamanho; ++i) ADestino.Texto[i] = Maiuscula(ATexto[i]);
+    for (std::size_t i = 0; i < ADestino.Tamanho; ++i) ADestino.Texto[i] = MaiusculaAscii(ATexto[i]);
 }
 
 bool TemIsent(std::u16string_view ATexto) noexcept {
     constexpr std::u16string_view CIsent = u"ISENT";
     return std::search(ATexto.begin(), ATexto.end(), CIsent.begin(), CIsent.end(),
-                       [](char16_t ADoTexto, char16_t ADaPalavra) { return Maiuscula(ADoTexto) == ADaPalavra; }) !=
+                       [](char16_t ADoTexto, char16_t ADaPalavra) { return MaiusculaAscii(ADoTexto) == ADaPalavra; }) !=
            ATexto.end();
 }
 
@@ -57,7 +53,8 @@ const TUnidade* BuscarUnidade(std::u16string_view AUF) noexcept {
 void C::SetUF(std::u16string_view AUF) noexcept { Guardar(FUF, AUF); }
 
 void C::SetIE(std::u16string_view AIE) noexcept {
-    const bool soDigitosEP = std::ranges::all_of(AIE, [](char16_t c) { return EhDigito(c) || Maiuscula(c) == u'P'; });
+    const bool soDigitosEP =
+        std::ranges::all_of(AIE, [](char16_t c) { return EhDigito(c) || MaiusculaAscii(c) == u'P'; });
     FIsenta = !soDigitosEP && TemIsent(AIE);
     Guardar(FIE, soDigitosEP || FIsenta ? AIE : std::u16string_view());
 }

@@ -1,4 +1,6 @@
 // GUIDs, Base64, keys, buffers and the masks of federal inscription numbers.
+#include "oryutils/characters/Ascii.hpp"
+#include "oryutils/characters/Hexadecimal.hpp"
 #include "oryutils/fields/Mascara.hpp"
 #include "oryutils/platform/Aleatorio.hpp"
 #include "oryutils/platform/Teclado.hpp"
@@ -33,7 +35,6 @@ const TMascarasInscricao* BuscarMascaras(TTipoInscricao ATipo) {
 }  // namespace
 
 std::u16string TOryUtilsStrings::BuscarNovoGuid() {
-    constexpr std::u16string_view CHexadecimais = u"0123456789ABCDEF";
     std::array<std::byte, 16> bytes{};
     Interno::PreencherAleatorio(bytes);
     bytes[6] = (bytes[6] & std::byte{0x0F}) | std::byte{0x40};  // version 4: random
@@ -41,9 +42,9 @@ std::u16string TOryUtilsStrings::BuscarNovoGuid() {
     std::u16string resultado = u"{";
     for (std::size_t i = 0; i < bytes.size(); ++i) {
         if (i == 4 || i == 6 || i == 8 || i == 10) resultado += u'-';
-        resultado += CHexadecimais[std::to_integer<std::size_t>(bytes[i] >> 4)];
-        resultado += CHexadecimais[std::to_integer<std::size_t>(bytes[i] & std::byte{0x0F})];
+        resultado += Interno::TextoHexadecimal(std::to_integer<std::uint32_t>(bytes[i]), 2);
     }
+    std::ranges::transform(resultado, resultado.begin(), Interno::MaiusculaAscii<char16_t>);
     return resultado += u'}';
 }
 

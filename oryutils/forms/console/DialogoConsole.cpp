@@ -3,6 +3,7 @@
 #include "oryutils/characters/Caixa.hpp"
 #include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/runtime/NumeroTexto.hpp"
 
 #include <algorithm>
 #include <utility>
@@ -20,11 +21,7 @@ std::u16string ParaTerminal(std::u16string_view ATexto) {
     return resultado;
 }
 
-std::u16string Numero(std::size_t AValor) {
-    std::u16string texto;
-    for (; AValor > 0; AValor /= 10) texto.insert(texto.begin(), static_cast<char16_t>(u'0' + AValor % 10));
-    return texto.empty() ? u"0" : texto;
-}
+std::u16string Numero(std::size_t AValor) { return InteiroParaTexto(static_cast<std::int64_t>(AValor)); }
 
 void Chamar(const std::function<void()>& AManipulador) {
     try {
