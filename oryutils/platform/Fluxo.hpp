@@ -48,6 +48,8 @@ public:
     /// Opens an existing file for writing behind its end, also where another program has moved that end. Others may
     /// read, write, rename and delete it meanwhile. (Windows) Who opens it must let others write.
     TErroFluxo AbrirParaAcrescentar(const std::string& ANome);
+    /// Takes over what an opening call of the system gave, -1 for its failure. Nothing may be open.
+    TErroFluxo Assumir(std::intptr_t AAlca) noexcept;
     /// Also tells of what the system could only now not write. A closed stream gives efNenhum.
     TErroFluxo Fechar() noexcept;
     bool EstahAberto() const noexcept { return FAlca != CNenhum; }
@@ -75,9 +77,6 @@ public:
 
 private:
     static constexpr std::intptr_t CNenhum = -1;
-
-    /// Takes over what an opening call gave; CNenhum stands for its failure.
-    TErroFluxo Assumir(std::intptr_t AAlca) noexcept;
 
     std::intptr_t FAlca = CNenhum;  // file descriptor or HANDLE
     bool FDono = false;

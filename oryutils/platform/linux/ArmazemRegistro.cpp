@@ -2,6 +2,8 @@
 
 #include "oryutils/characters/Unidades.hpp"
 #include "oryutils/characters/Utf.hpp"
+#include "oryutils/platform/Arquivos.hpp"
+#include "oryutils/platform/Fluxo.hpp"
 #include "oryutils/platform/PastasDoSistema.hpp"
 #include "oryutils/platform/VariavelDeAmbiente.hpp"
 #include "oryutils/platform/linux/Descritor.hpp"
@@ -9,7 +11,6 @@
 
 #include <array>
 #include <cerrno>
-#include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/file.h>
@@ -57,10 +58,10 @@ std::string BuscarPastaAcima(const std::string& APasta) {
 }
 
 // What root makes in a user's folder (sudo with the user's HOME) belongs to that user, or would lock the user out.
-bool HerdarDono(const TDescritor& ANovo, const std::string& APasta) {
+bool HerdarDono(int ANovo, const std::string& APasta) {
     struct stat dados {};
     if (::geteuid() != 0 || ::stat(APasta.c_str(), &dados) != 0 || dados.st_uid == 0) return true;
-    return ::fchown(ANovo.Get(), dados.st_uid, dados.st_gid) == 0;
+    return ::fchown(ANovo, dados.st_uid, dados.st_gid) == 0;
 }
 
 // A file that was not there, whatever the process's mask of modes.
@@ -68,13 +69,13 @@ int CriarArquivoNovo(const std::string& ANome, mode_t AModo) {
     return ::open(ANome.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, AModo);
 }
 
-bool CriarPasta(const std::string& APasta, mode_t AModo) {
+bool CriarPastaComModo(const std::string& APasta, mode_t AModo) {
     int feita = ::mkdir(APasta.c_str(), AModo);
     const std::string acima = BuscarPastaAcima(APasta);
-    if (feita != 0 && errno == ENOENT && CriarPasta(acima, AModo)) feita = ::mkdir(APasta.c_str(), AModo);
+    if (feita != 0 && errno == ENOENT && CriarPastaComModo(acima, AModo)) feita = ::mkdir(APasta.c_str(), AModo);
     if (feita != 0) return errno == EEXIST;
     const TDescritor pasta(::open(APasta.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
-    return !pasta.Falhou() && ::fchmod(pasta.Get(), AModo) == 0 && HerdarDono(pasta, acima);
+    return !pasta.Falhou() && ::fchmod(pasta.Get(), AModo) == 0 && HerdarDono(pasta.Get(), acima);
 }
 
 void CriarArmazemNovo(TChaveReg& ATopo, std::string_view ARaiz) {
@@ -88,32 +89,12 @@ void CriarArmazemNovo(TChaveReg& ATopo, std::string_view ARaiz) {
 }
 
 // The whole file, at most CMaiorArquivo.
-TErroRegistro LerBytes(const TDescritor& AEntrada, std::string& ABytes) {
-    struct stat dados {};
-    if (::fstat(AEntrada.Get(), &dados) != 0) return erFalhaDeLeitura;
-    if (!S_ISREG(dados.st_mode)) return erCorrompido;
-    if (dados.st_size > static_cast<off_t>(CMaiorArquivo)) return erArquivoGrande;
-    ABytes.resize(static_cast<std::size_t>(dados.st_size));
-    std::size_t lidos = 0;
-    while (lidos < ABytes.size()) {
-        const ssize_t parte = ::read(AEntrada.Get(), ABytes.data() + lidos, ABytes.size() - lidos);
-        if (parte < 0 && errno == EINTR) continue;
-        if (parte < 0) return erFalhaDeLeitura;
-        if (parte == 0) break;
-        lidos += static_cast<std::size_t>(parte);
-    }
-    ABytes.resize(lidos);
-    return erNenhum;
-}
-
-bool EscreverTudo(int AAlca, std::string_view ABytes) {
-    while (!ABytes.empty()) {
-        const ssize_t escritos = ::write(AAlca, ABytes.data(), ABytes.size());
-        if (escritos < 0 && errno == EINTR) continue;
-        if (escritos < 0) return false;
-        ABytes.remove_prefix(static_cast<std::size_t>(escritos));
-    }
-    return true;
+TErroRegistro LerBytes(const TFluxo& AEntrada, std::string& ABytes) {
+    const auto tamanho = AEntrada.BuscarTamanho();
+    if (!tamanho) return erCorrompido;
+    if (*tamanho > CMaiorArquivo) return erArquivoGrande;
+    ABytes.resize(static_cast<std::size_t>(*tamanho));
+    return AEntrada.LerEm(0, ABytes) == ABytes.size() ? erNenhum : erFalhaDeLeitura;
 }
 
 // The new text goes to a file beside the old one and takes its name when it is whole and on the disk. Only the holder
@@ -123,17 +104,16 @@ TErroRegistro Substituir(const TLocalDoArmazem& ALocal, std::string_view ABytes)
     const std::string novo = arquivo + ".novo";
     const auto falhou = [&] {
         const TErroRegistro erro = DeErrno(errno, erFalhaDeGravacao);
-        ::unlink(novo.c_str());
+        ExcluirArquivo(novo);
         return erro;
     };
-    ::unlink(novo.c_str());
-    {
-        const TDescritor saida(CriarArquivoNovo(novo, ALocal.ModoDoArquivo));
-        if (saida.Falhou() || ::fchmod(saida.Get(), ALocal.ModoDoArquivo) != 0 || !HerdarDono(saida, ALocal.Pasta) ||
-            !EscreverTudo(saida.Get(), ABytes) || ::fsync(saida.Get()) != 0)
-            return falhou();
-    }
-    if (std::rename(novo.c_str(), arquivo.c_str()) != 0) return falhou();
+    ExcluirArquivo(novo);
+    const int alca = CriarArquivoNovo(novo, ALocal.ModoDoArquivo);
+    TFluxo saida;
+    if (saida.Assumir(alca) != efNenhum || ::fchmod(alca, ALocal.ModoDoArquivo) != 0 ||
+        !HerdarDono(alca, ALocal.Pasta) || saida.Escrever(ABytes) != efNenhum || ::fsync(alca) != 0 ||
+        saida.Fechar() != efNenhum || SubstituirArquivo(novo, arquivo) != efNenhum)
+        return falhou();
     const TDescritor pasta(::open(ALocal.Pasta.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!pasta.Falhou()) ::fsync(pasta.Get());
     return erNenhum;
@@ -143,7 +123,8 @@ int AbrirTrava(const TLocalDoArmazem& ALocal) {
     const std::string nome = ALocal.BuscarArquivo() + ".trava";
     const int alca = ::open(nome.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC);
     if (alca >= 0 || errno != ENOENT) return alca;
-    if (const TDescritor nova(CriarArquivoNovo(nome, CModoDaTrava)); !nova.Falhou()) HerdarDono(nova, ALocal.Pasta);
+    if (const TDescritor nova(CriarArquivoNovo(nome, CModoDaTrava)); !nova.Falhou())
+        HerdarDono(nova.Get(), ALocal.Pasta);
     return ::open(nome.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC);
 }
 
@@ -177,9 +158,10 @@ bool PodeGravarNoArmazem(const TLocalDoArmazem& ALocal) {
 
 TErroRegistro LerArmazem(const TLocalDoArmazem& ALocal, TArquivoReg& AArquivo) {
     if (ALocal.Pasta.empty()) return erAcessoNegado;
-    const TDescritor entrada(::open(ALocal.BuscarArquivo().c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    TFluxo entrada;
     std::string bytes;
-    if (!entrada.Falhou()) {
+    // Without O_NONBLOCK a pipe that has no writer would keep the opener waiting.
+    if (entrada.Assumir(::open(ALocal.BuscarArquivo().c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC)) == efNenhum) {
         if (const TErroRegistro erro = LerBytes(entrada, bytes); erro != erNenhum) return erro;
     } else if (errno != ENOENT) {
         return DeErrno(errno, erFalhaDeLeitura);
@@ -198,7 +180,7 @@ TErroRegistro LerArmazem(const TLocalDoArmazem& ALocal, TArquivoReg& AArquivo) {
 
 TErroRegistro AlterarArmazem(const TLocalDoArmazem& ALocal, const std::function<TErroRegistro(TChaveReg&)>& AEdicao) {
     if (ALocal.Pasta.empty()) return erAcessoNegado;
-    if (!CriarPasta(ALocal.Pasta, ALocal.ModoDaPasta)) return DeErrno(errno, erFalhaDeGravacao);
+    if (!CriarPastaComModo(ALocal.Pasta, ALocal.ModoDaPasta)) return DeErrno(errno, erFalhaDeGravacao);
     // The lock is a file of its own: the store's name leads to another file after each edit.
     const TDescritor trava(AbrirTrava(ALocal));
     if (trava.Falhou() || !Travar(trava)) return DeErrno(errno, erFalhaDeGravacao);

@@ -4,11 +4,9 @@
 #include "oryutils/platform/VariavelDeAmbiente.hpp"
 #include "oryutils/platform/linux/Descritor.hpp"
 
-#include <climits>
-
-#include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
+#include <filesystem>
 #include <link.h>
 #include <sys/socket.h>
 #include <sys/un.h>
@@ -49,17 +47,14 @@ bool PossuiExibicao() { return RespondeX11() || RespondeWayland(); }
 
 std::string BuscarPastaDoModulo() {
     Dl_info dados{};
-    link_map* mapa = nullptr;
     void* extra = nullptr;
     const void* aqui = reinterpret_cast<const void*>(&BuscarPastaDoModulo);
     if (::dladdr1(aqui, &dados, &extra, RTLD_DL_LINKMAP) == 0) return {};
-    mapa = static_cast<link_map*>(extra);
+    const auto* mapa = static_cast<const link_map*>(extra);
     // The program itself has no name there, or the relative one that it was called by.
     const bool biblioteca = mapa && mapa->l_name && mapa->l_name[0] == '/';
-    char caminho[PATH_MAX];
-    if (!::realpath(biblioteca ? mapa->l_name : "/proc/self/exe", caminho)) return {};
-    const std::string completo = caminho;
-    return completo.substr(0, completo.rfind('/'));
+    std::error_code erro;
+    return std::filesystem::canonical(biblioteca ? mapa->l_name : "/proc/self/exe", erro).parent_path();
 }
 
 }  // namespace OryUtils::Interno

@@ -58,8 +58,11 @@ public:
     explicit TAcoes(const TPedidoDeFilho& APedido) {
         ::posix_spawn_file_actions_init(&FAcoes);
         const int descritores[] = {APedido.Entrada, APedido.Saida, APedido.Erro};
-        for (int destino = 0; destino < 3; ++destino)
+        for (int destino = 0; destino < 3; ++destino) {
             if (descritores[destino] >= 0) ::posix_spawn_file_actions_adddup2(&FAcoes, descritores[destino], destino);
+            if (descritores[destino] == CNenhumFluxo)
+                ::posix_spawn_file_actions_addopen(&FAcoes, destino, "/dev/null", O_RDWR, 0);
+        }
         if (APedido.FecharDescritores) ::posix_spawn_file_actions_addclosefrom_np(&FAcoes, 3);
         if (!APedido.Pasta.empty()) ::posix_spawn_file_actions_addchdir_np(&FAcoes, APedido.Pasta.c_str());
     }

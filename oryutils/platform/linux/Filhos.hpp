@@ -7,11 +7,14 @@
 
 namespace OryUtils::Interno {
 
+/// Stands for /dev/null among the streams of a child.
+inline constexpr int CNenhumFluxo = -2;
+
 /// How a child process is started.
 struct TPedidoDeFilho {
     std::vector<std::string> Argumentos{};  // the first one is the program, looked up on the PATH without a "/"
     std::string Pasta{};                    // empty: the caller's
-    int Entrada = -1;                       // descriptors to become 0, 1 and 2; -1 keeps the caller's
+    int Entrada = -1;                       // descriptors to become 0, 1 and 2; -1 keeps the caller's; or CNenhumFluxo
     int Saida = -1;
     int Erro = -1;
     bool SessaoPropria = true;       // without it, the caller's group and terminal

@@ -43,10 +43,9 @@ TProcessoIniciado Iniciado(pid_t APid) {
 }  // namespace
 
 std::optional<TProcessoIniciado> CriarProcesso(std::u16string_view ALinhaDeComando, bool AExibir) {
-    const TDescritor nulo(::open("/dev/null", O_RDWR | O_CLOEXEC));
     TPedidoDeFilho pedido{.Argumentos = SepararComando(ALinhaDeComando), .FecharDescritores = true};
-    pedido.Entrada = nulo.Get();
-    if (!AExibir) pedido.Saida = pedido.Erro = nulo.Get();
+    pedido.Entrada = CNenhumFluxo;
+    if (!AExibir) pedido.Saida = pedido.Erro = CNenhumFluxo;
     const pid_t pid = GerarFilho(pedido);
     if (pid < 0) return std::nullopt;
     return Iniciado(pid);

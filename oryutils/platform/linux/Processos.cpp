@@ -1,8 +1,8 @@
 #include "oryutils/platform/Processos.hpp"
 
 #include "oryutils/characters/Utf.hpp"
-#include "oryutils/platform/ErroDoSistema.hpp"
-#include "oryutils/platform/linux/Descritor.hpp"
+#include "oryutils/platform/Arquivos.hpp"
+#include "oryutils/platform/VariavelDeAmbiente.hpp"
 #include "oryutils/platform/linux/Filhos.hpp"
 
 #include <climits>
@@ -13,13 +13,12 @@
 #include <charconv>
 #include <csignal>
 #include <dirent.h>
-#include <fcntl.h>
+#include <filesystem>
 #include <malloc.h>
 #include <map>
 #include <memory>
 #include <optional>
 #include <pwd.h>
-#include <span>
 #include <sys/resource.h>
 #include <sys/syscall.h>
 #include <sys/utsname.h>
@@ -31,13 +30,6 @@ namespace {
 std::string CaminhoDe(pid_t APid, std::string_view AArquivo) {
     std::string caminho = "/proc/" + std::to_string(APid) + '/';
     return caminho.append(AArquivo);
-}
-
-// A file of /proc that fits in the buffer; empty when it cannot be read.
-std::string_view LerArquivo(const std::string& ACaminho, std::span<char> ADestino) {
-    const TDescritor arquivo(::open(ACaminho.c_str(), O_RDONLY | O_CLOEXEC));
-    const ssize_t lidos = arquivo.Falhou() ? 0 : ::read(arquivo.Get(), ADestino.data(), ADestino.size());
-    return {ADestino.data(), lidos > 0 ? static_cast<std::size_t>(lidos) : 0};
 }
 
 // What stands behind a name at the beginning of a line, up to the line's end.
@@ -65,8 +57,7 @@ struct TSituacao {
 };
 
 std::optional<TSituacao> LerSituacao(pid_t APid) {
-    std::array<char, 8192> destino;
-    const std::string_view texto = LerArquivo(CaminhoDe(APid, "status"), destino);
+    const std::string texto = LerArquivo(DeUtf8(CaminhoDe(APid, "status"))).value_or("");
     if (texto.empty()) return std::nullopt;
     TSituacao situacao;
     situacao.Nome = BuscarCampo(texto, "\nName:");
@@ -79,10 +70,8 @@ std::optional<TSituacao> LerSituacao(pid_t APid) {
 }
 
 std::string LerCaminho(pid_t APid) {
-    std::array<char, PATH_MAX> destino;
-    const ssize_t tamanho = ::readlink(CaminhoDe(APid, "exe").c_str(), destino.data(), destino.size());
-    if (tamanho <= 0) return {};
-    std::string caminho(destino.data(), static_cast<std::size_t>(tamanho));
+    std::error_code erro;
+    std::string caminho = std::filesystem::read_symlink(CaminhoDe(APid, "exe"), erro);
     constexpr std::string_view CExcluido = " (deleted)";  // a program replaced while it runs
     if (caminho.ends_with(CExcluido)) caminho.resize(caminho.size() - CExcluido.size());
     return caminho;
@@ -190,8 +179,7 @@ TAlcaDeProcesso AbrirProcesso(const std::function<bool(std::u16string_view)>& AQ
 
 std::uint64_t BuscarMemoriaDoProcesso(const TAlcaDeProcesso& AAlca) {
     if (!AAlca) return 0;
-    std::array<char, 1024> destino;
-    const std::string_view dados = LerArquivo("/proc/self/fdinfo/" + std::to_string(AAlca.Get()), destino);
+    const std::string dados = LerArquivo(DeUtf8("/proc/self/fdinfo/" + std::to_string(AAlca.Get()))).value_or("");
     const auto pid = LerNumero<pid_t>(BuscarCampo(dados, "\nPid:"));  // -1 once it has ended
     const std::optional<TSituacao> situacao = pid > 0 ? LerSituacao(pid) : std::nullopt;
     return situacao ? situacao->Memoria : 0;
@@ -231,7 +219,7 @@ bool EhProcessoDe32BitsEmSistemaDe64() {
 void LiberarMemoria() { ::malloc_trim(0); }
 
 void AbrirConfiguracaoDeDataHora() {
-    if (!::secure_getenv("DISPLAY") && !::secure_getenv("WAYLAND_DISPLAY")) return;
+    if (BuscarVariavelDeAmbiente("DISPLAY").empty() && BuscarVariavelDeAmbiente("WAYLAND_DISPLAY").empty()) return;
     const std::array<std::vector<std::string>, 4> programas{{{"gnome-control-center", "datetime"},
                                                              {"systemsettings", "kcm_clock"},
                                                              {"cinnamon-settings", "calendar"},

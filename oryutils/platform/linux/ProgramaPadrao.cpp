@@ -1,13 +1,11 @@
 #include "oryutils/platform/ProgramaPadrao.hpp"
 
 #include "oryutils/characters/Utf.hpp"
-#include "oryutils/platform/linux/Descritor.hpp"
 #include "oryutils/platform/linux/Filhos.hpp"
 #include "oryutils/readers/LinhaDeComando.hpp"
 
 #include <cerrno>
 #include <cstdlib>
-#include <fcntl.h>
 #include <memory>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -19,11 +17,10 @@ namespace {
 /// Starts a program that nobody waits for, in a session of its own and away from the streams of this one. The error of
 /// the system; 0 when the program has started.
 int Disparar(std::vector<std::string> AComando) {
-    const TDescritor nada(::open("/dev/null", O_RDWR | O_CLOEXEC));
     const pid_t pid = GerarFilho({.Argumentos = std::move(AComando),
-                                  .Entrada = nada.Get(),
-                                  .Saida = nada.Get(),
-                                  .Erro = nada.Get(),
+                                  .Entrada = CNenhumFluxo,
+                                  .Saida = CNenhumFluxo,
+                                  .Erro = CNenhumFluxo,
                                   .FecharDescritores = true});
     return pid < 0 ? -pid : 0;
 }
