@@ -6,6 +6,7 @@
 #include "oryutils/text/interno/FormulaChamadas.hpp"
 
 #include <cmath>
+#include <utility>
 
 namespace OryUtils {
 namespace {
@@ -66,14 +67,15 @@ std::u16string MontarTexto(std::u16string_view AFormula, const std::vector<TCham
 
 void TOryUtilsFormulas::ResolverFuncoes(std::u16string& AFormula) {
     if (!TemPrecisaoPlena()) return ComPrecisaoPlena([&] { ResolverFuncoes(AFormula); });
-    AFormula = Normalizar(AFormula);
-    std::vector<TChamada> chamadas = Interno::LocalizarChamadas(AFormula);
+    // The caller keeps its text when something here raises.
+    std::u16string formula = Normalizar(AFormula);
+    std::vector<TChamada> chamadas = Interno::LocalizarChamadas(formula);
     for (const auto [indice, ehInicio] : Interno::OrdenarPassos(chamadas)) {
         TChamada& chamada = chamadas[indice];
         const TFuncCalc funcao = chamada.Funcao;
         const bool dois = TemDoisArgumentos(funcao);
         const auto calcular = [&](std::size_t AInicio, std::size_t AFim, std::size_t APrimeira) {
-            std::u16string argumento = MontarTexto(AFormula, chamadas, funcao, AInicio, AFim, APrimeira);
+            std::u16string argumento = MontarTexto(formula, chamadas, funcao, AInicio, AFim, APrimeira);
             ResolverVariaveis(argumento);
             return CalcularSemNomes(argumento);
         };
@@ -86,7 +88,8 @@ void TOryUtilsFormulas::ResolverFuncoes(std::u16string& AFormula) {
             chamada.Valor = ExtendedParaTexto(CalcularFuncao(funcao, dois ? chamada.Primeiro : ultimo, ultimo));
         }
     }
-    if (chamadas.size() > 1) AFormula = MontarTexto(AFormula, chamadas, chamadas[0].Funcao, 0, AFormula.size(), 1);
+    if (chamadas.size() > 1) formula = MontarTexto(formula, chamadas, chamadas[0].Funcao, 0, formula.size(), 1);
+    AFormula = std::move(formula);
 }
 
 std::pair<std::u16string, std::u16string> TOryUtilsFormulas::GetArgumentos(std::u16string_view ATexto) {

@@ -210,6 +210,9 @@ TEST(Formulas, PecasDosPassos) {
     std::u16string texto = u"2 - abs(-5)-(3--1)";
     formula.ResolverFuncoes(texto);
     EXPECT_EQ(texto, u"2-5-(3--1)");
+    std::u16string recusado = u"abs(1) + max(2)";
+    EXPECT_THROW(formula.ResolverFuncoes(recusado), Exception);
+    EXPECT_EQ(recusado, u"abs(1) + max(2)") << "a step that raises leaves the caller's text alone";
     formula.ResolverDuploSinalNegativo(texto);
     EXPECT_EQ(texto, u"2-5-(3+1)");
     formula.ResolverParenteses(texto);
