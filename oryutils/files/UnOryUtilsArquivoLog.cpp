@@ -97,7 +97,7 @@ void TOryUtilsArquivoLog::FinalizarLog() {
     AdicionarMensagem({}, clWindowText);
     FGravador->Soltar();  // the last save looks at the file
     SalvarArquivoLog();
-    FGravador->Soltar();
+    if (!FGravador->Soltar()) FSalvo = false;
     if (FTipoPeriodicidade == tplDiario) AtualizarDataModificacaoLogFechamento(FDataControleLog);
     const std::u16string pasta(ExtrairPastaDoArquivo(FArquivoLog));  // the event may change the name
     FOnAposFinalizarLog(this, pasta);

@@ -40,6 +40,12 @@ bool TGravadorDoLog::Gravar(std::u16string_view AArquivo, const TTextoPronto& AT
     return false;
 }
 
+bool TGravadorDoLog::Soltar() noexcept {
+    const bool escrito = FFluxo.Fechar() == efNenhum;
+    if (!escrito) FMarca.reset();
+    return escrito;
+}
+
 bool TGravadorDoLog::PodeContinuar(std::u16string_view AArquivo, std::uint64_t AGeracao, TAmbienteDoLog& AAmbiente) {
     constexpr std::chrono::milliseconds CEntreOlhares(100);
     if (!FMarca || FGeracao != AGeracao || FArquivo != AArquivo) return false;

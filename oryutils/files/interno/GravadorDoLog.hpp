@@ -25,8 +25,10 @@ public:
     ///        after any fault, the save is as in mgReescrever.
     bool Gravar(std::u16string_view AArquivo, const TTextoPronto& ATexto, TModoGravacao AModo,
                 TAmbienteDoLog& AAmbiente);
-    /// Closes a file that was kept open. The next save may still continue it, and looks at it first.
-    void Soltar() noexcept { FFluxo.Fechar(); }
+    /// Closes a file that was kept open. The next save may still continue it, and looks at it first. False when the
+    /// system tells only now that something was not written, as a full network disk may: the next save then writes the
+    /// whole text.
+    bool Soltar() noexcept;
 
 private:
     bool PodeContinuar(std::u16string_view AArquivo, std::uint64_t AGeracao, TAmbienteDoLog& AAmbiente);
