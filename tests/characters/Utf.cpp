@@ -1,8 +1,9 @@
 #include "oryutils/characters/Utf.hpp"
 
+#include "comum/Acaso.hpp"
+
 #include <gtest/gtest.h>
 
-#include <random>
 
 namespace {
 
@@ -55,9 +56,7 @@ TEST(Utf, MalformadoViraSubstituto) {
 }
 
 TEST(Utf, BytesAoAcasoDaoSempreTextoValido) {
-    const auto semente = std::random_device{}();
-    SCOPED_TRACE(semente);
-    std::mt19937 sorteio(semente);
+    Testes::TAcaso sorteio;
     for (int rodada = 0; rodada < 2000; ++rodada) {
         std::string bytes(sorteio() % 24, '\0');
         for (char& c : bytes) c = static_cast<char>(sorteio());

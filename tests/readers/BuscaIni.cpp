@@ -2,9 +2,10 @@
 
 #include "oryutils/characters/Utf.hpp"
 
+#include "comum/Acaso.hpp"
+
 #include <gtest/gtest.h>
 
-#include <random>
 
 namespace {
 
@@ -69,9 +70,7 @@ TEST(BuscaIni, BlocosDeQualquerTamanho) {
 }
 
 TEST(BuscaIni, BytesQuaisquer) {
-    const unsigned semente = std::random_device{}();
-    SCOPED_TRACE(semente);
-    std::mt19937 sorteio(semente);
+    Testes::TAcaso sorteio;
     constexpr std::string_view CPedacos[] = {"[VERSAO]", "Numero", "=", "\n", "\r",       "\"",           "'",
                                              ";",        " ",      "[", "]",  "\xFF\xFE", "\xEF\xBB\xBF", "\xC3",
                                              "\xE7",     "1"};

@@ -3,11 +3,12 @@
 
 #include "files/ConstrutorPe.hpp"
 
+#include "comum/Acaso.hpp"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstring>
-#include <random>
 
 // The library's own reader against files that mean no good. It is part of the Linux library; its sources know no
 // system, so that these tests run everywhere.
@@ -150,9 +151,7 @@ TEST(LeitorPe, Contraditorio) {
 }
 
 TEST(LeitorPe, AleatorioComMarcasCertas) {
-    const unsigned semente = std::random_device{}();
-    std::mt19937 sorteio(semente);
-    SCOPED_TRACE(semente);
+    Testes::TAcaso sorteio;
     const std::string inteiro = Pe::MontarArquivo(true, {{0, CBloco}});
     for (int rodada = 0; rodada < 3000; ++rodada) {
         std::string arquivo = inteiro;

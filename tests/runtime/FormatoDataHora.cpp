@@ -3,11 +3,12 @@
 #include "oryutils/characters/Utf.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 
+#include "comum/Acaso.hpp"
+#include "comum/MensagemDe.hpp"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <ctime>
-#include <random>
 
 namespace {
 
@@ -22,12 +23,7 @@ TDateTime Momento(int AAno, int AMes, int ADia, int AHora = 0, int AMinuto = 0, 
 TEST(FormatoDataHora, Linguagem) {
     const TDateTime tarde = Momento(2024, 3, 5, 14, 7, 9, 45);  // a Tuesday
     const TDateTime madrugada = Momento(987, 12, 31, 0, 30);
-    const struct {
-        std::u16string_view Padrao;
-        TDateTime Data;
-        std::u16string_view Esperado;
-        const char* Porque;
-    } casos[] = {
+    const std::tuple<std::u16string_view, TDateTime, std::u16string_view, const char*> casos[] = {
         {u"d dd ddd dddd", tarde, u"5 05 Ter Terça", "days"},
         {u"m mm mmm mmmm mmmmmm", tarde, u"3 03 MAR MARCO MARCO", "months; a longer run is the longest element"},
         {u"y yy yyy yyyy", madrugada, u"87 87 0987 0987", "a year of three digits is filled"},
@@ -41,6 +37,8 @@ TEST(FormatoDataHora, Linguagem) {
         {u"hh:mm am/pm", tarde, u"02:07 pm", "twelve hours"},
         {u"AM/PM h", madrugada, u"AM 12", "a mark before the hour; midnight is 12; the pattern's case"},
         {u"h a/P", tarde, u"2 P", "short mark"},
+        {u"h:nn AM/PM", Momento(2024, 3, 5, 12, 59), u"12:59 PM", "noon is 12"},
+        {u"h:nn AM/PM", Momento(2024, 3, 5, 11, 59), u"11:59 AM", "before it"},
         {u"h ampm", tarde, u"2 PM", "the texts of the formats"},
         {u"h 'am/pm'", tarde, u"14 am/pm", "a quoted mark is no mark"},
         {u"amanha", tarde, u"a3a714a", "an a without mark stands for itself"},
@@ -55,7 +53,8 @@ TEST(FormatoDataHora, Linguagem) {
         {u"dd/mm/yyyy dddd mmmm hh", 3e6 + 0.5, u"00/00/0000   12", "after year 9999: zeros and no names"},
         {u"dd/mm/yy c", std::nan(""), u"00/00/00 00/00/0000", "not a number"},
     };
-    for (const auto& c : casos) EXPECT_EQ(FormatarDataHora(c.Padrao, c.Data, Brasil()), c.Esperado) << c.Porque;
+    for (const auto& [padrao, data, esperado, porque] : casos)
+        EXPECT_EQ(FormatarDataHora(padrao, data, Brasil()), esperado) << porque;
 }
 
 TEST(FormatoDataHora, FormatosQueSeRepetemOuFaltam) {
@@ -80,37 +79,14 @@ TEST(FormatoDataHora, PadraoLongo) {
     EXPECT_EQ(FormatarDataHora(std::u16string(1 << 20, u'a'), 0, Brasil()).size(), 1u << 20);
 }
 
-TEST(FormatoDataHora, ComoStrftime) {
-    const auto semente = std::random_device{}();
-    SCOPED_TRACE(semente);
-    std::mt19937 sorteio(semente);
-    std::uniform_int_distribution dia(2, 2958465), segundo(0, 86399);
-    for (int i = 0; i < 20000; ++i) {
-        const int d = dia(sorteio), s = segundo(sorteio);
-        const TPartesData partes = DecodificarData(d);
-        std::tm campos{};
-        campos.tm_year = partes.Ano - 1900, campos.tm_mon = partes.Mes - 1, campos.tm_mday = partes.Dia;
-        campos.tm_hour = s / 3600, campos.tm_min = s / 60 % 60, campos.tm_sec = s % 60;
-        char esperado[64];
-        std::strftime(esperado, sizeof esperado, "%d/%m/%Y %y %H:%M:%S %I %p", &campos);
-        ASSERT_EQ(ParaUtf8(FormatarDataHora(u"dd/mm/yyyy yy hh:nn:ss", JuntarDataHora(d, s / 86400.0), Brasil()) +
-                           FormatarDataHora(u" hh AM/PM", s / 86400.0, Brasil())),
-                  esperado);
-    }
-}
-
 TEST(FormatoDataHora, LeDatas) {
     TFormatSettings americanos = Brasil(), iso = Brasil(), semJanela = Brasil();
     americanos.ShortDateFormat = u"'d' ddd mm/dd/yyyy";
     iso.ShortDateFormat = u"yyyy/mm/dd";
     iso.DateSeparator = u'-';
     semJanela.TwoDigitYearCenturyWindow = 0;
-    const struct {
-        std::u16string_view Texto;
-        const TFormatSettings& Formatos;
-        std::optional<TDateTime> Esperado;  // in the year 2024
-        const char* Porque;
-    } casos[] = {
+    // In the year 2024.
+    const std::tuple<std::u16string_view, const TFormatSettings&, std::optional<TDateTime>, const char*> casos[] = {
         {u"05/03/2024", Brasil(), CodificarData(2024, 3, 5), "complete"},
         {u" \t5/3/2024\r\n", Brasil(), CodificarData(2024, 3, 5), "blanks around, short parts"},
         {u"5/3", Brasil(), CodificarData(2024, 3, 5), "current year"},
@@ -131,7 +107,8 @@ TEST(FormatoDataHora, LeDatas) {
         {u"", Brasil(), std::nullopt, "empty"},
         {u"5/3/99999999999999999999", Brasil(), std::nullopt, "number that fits nowhere"},
     };
-    for (const auto& c : casos) EXPECT_EQ(TentarTextoParaData(c.Texto, c.Formatos, 2024), c.Esperado) << c.Porque;
+    for (const auto& [texto, formatos, esperado, porque] : casos)
+        EXPECT_EQ(TentarTextoParaData(texto, formatos, 2024), esperado) << porque;
     EXPECT_EQ(TextoParaDataPadrao(u"x", 7, Brasil()), 7);
     EXPECT_EQ(TextoParaDataPadrao(u"5/3/2024", 7, Brasil()), CodificarData(2024, 3, 5));
 }
@@ -139,11 +116,7 @@ TEST(FormatoDataHora, LeDatas) {
 TEST(FormatoDataHora, LeHorasEDatasComHora) {
     const auto hora = [](int h, int m, int s = 0, int z = 0) { return std::optional(CodificarHora(h, m, s, z)); };
     const auto data = [](TDateTime AData) { return std::optional(AData); };
-    const struct {
-        std::u16string_view Texto;
-        std::optional<TDateTime> Esperado;
-        const char* Porque;
-    } casos[] = {
+    const std::tuple<std::u16string_view, std::optional<TDateTime>, const char*> casos[] = {
         {u"14:07", hora(14, 7), "hours and minutes"},
         {u" 1:2:3.45 ", hora(1, 2, 3, 45), "a number of milliseconds"},
         {u"1:2:3,450", hora(1, 2, 3, 450), "after the decimal separator"},
@@ -161,28 +134,22 @@ TEST(FormatoDataHora, LeHorasEDatasComHora) {
         {u"14:07 5/3/2024", std::nullopt, "in the other order"},
         {u"", std::nullopt, "empty"},
     };
-    for (const auto& c : casos) EXPECT_EQ(TentarTextoParaDataHora(c.Texto, Brasil(), 2024), c.Esperado) << c.Porque;
+    for (const auto& [texto, esperado, porque] : casos)
+        EXPECT_EQ(TentarTextoParaDataHora(texto, Brasil(), 2024), esperado) << porque;
     EXPECT_EQ(TentarTextoParaHora(u"5/3/2024", Brasil()), std::nullopt);
 }
 
 TEST(FormatoDataHora, ErrosCitamOTexto) {
     const auto mensagem = [](auto AOperacao, const std::u16string& ATexto) {
-        try {
-            AOperacao(ATexto, Brasil());
-        } catch (const EConvertError& erro) {
-            return erro.GetMensagem();
-        }
-        return std::u16string();
+        return Testes::MensagemDe([&] { AOperacao(ATexto, Brasil()); });
     };
-    EXPECT_EQ(mensagem(TextoParaData, u"31/02/2024"), u"'31/02/2024' não é uma data válida");
-    EXPECT_EQ(mensagem(TextoParaHora, u"25:00"), u"'25:00' não é uma hora válida");
+    EXPECT_EQ(mensagem(TextoParaData, u"31/02/2024"), "'31/02/2024' não é uma data válida");
+    EXPECT_EQ(mensagem(TextoParaHora, u"25:00"), "'25:00' não é uma hora válida");
     EXPECT_LT(mensagem(TextoParaData, std::u16string(1 << 20, u'9')).size(), 200u) << "a megabyte is cut short";
 }
 
 TEST(FormatoDataHora, OQueEscreveLe) {
-    const auto semente = std::random_device{}();
-    SCOPED_TRACE(semente);
-    std::mt19937 sorteio(semente);
+    Testes::TAcaso sorteio;
     std::uniform_int_distribution dia(-693593, 2958465), mili(0, 86399999);
     for (int i = 0; i < 20000; ++i) {
         const TDateTime valor = JuntarDataHora(dia(sorteio), mili(sorteio) / 86400000.0);

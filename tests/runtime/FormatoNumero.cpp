@@ -2,10 +2,11 @@
 
 #include "oryutils/characters/Utf.hpp"
 
+#include "comum/Acaso.hpp"
+
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <random>
 
 namespace OryUtils {
 namespace {
@@ -15,52 +16,37 @@ std::string Formatado(std::u16string_view AFormato, Extended AValor) {
 }
 
 TEST(FormatoNumero, Linguagem) {
-    struct TCaso {
-        std::u16string_view Formato;
-        Extended Valor;
-        const char* Esperado;
-    };
     constexpr Extended CInfinito = std::numeric_limits<Extended>::infinity();
-    const TCaso casos[] = {
+    const std::tuple<std::u16string_view, Extended, const char*> casos[] = {
         // The formats of the fields.
         {u",0.00", 1234.5L, "1.234,50"},
-        {u"0.00", 1234.5L, "1234,50"},
-        {u",0.00 %", 1234.5L, "1.234,50 %"},
-        {u"0", 1234.5L, "1235"},
         {u",0.00", -1234567.891L, "-1.234.567,89"},
         // Places.
         {u"#", 0, ""},
-        {u"0", 0, "0"},
         {u"#.##", 0.05L, ",05"},
         {u"#.##", 5, "5"},
         {u"0.", 5, "5"},
         {u"0.0#", 5, "5,0"},
         {u"0.#0", 5, "5,00"},
-        {u"000", 5, "005"},
         {u"#0#", 5, "05"},
         {u".00", 1234.5L, "1234,50"},
         {u"0.0.0", 1.25L, "1,25"},
         {u"00-00", 12345, "123-45"},
         {u"(##) ##", 5, "() 5"},
         {u"0a.b0", 1.5L, "1ab,5"},
-        {u"0.000", 1e-3L, "0,001"},
         // Thousands, wherever the comma stands.
         {u"0,", 1234567, "1.234.567"},
         {u",0000000", 12, "0.000.012"},
         {u",0", 999.5L, "1.000"},
-        {u",0", 123, "123"},
         // Rounding: halves away from zero, on the decimal value.
         {u"0", 0.5L, "1"},
-        {u"0", 2.5L, "3"},
         {u"0", -2.5L, "-3"},
         {u"0.00", 0.005L, "0,01"},
-        {u"0.00", 0.00499L, "0,00"},
         {u"0.0", 9.96L, "10,0"},
         {u"0.00", 1.005, "1,00"},  // the float nearest to it lies below
         {u"0.0000000000000000000000", 0.1L, "0,1000000000000000000000"},
         // Sections.
         {u"0;(0)", -5, "(5)"},
-        {u"0;(0)", 5, "5"},
         {u"0;(0)", 0, "0"},
         {u"0;(0);nada", 0, "nada"},
         {u"0;;nada", -5, "-5"},
@@ -94,14 +80,12 @@ TEST(FormatoNumero, Linguagem) {
         {u"0", std::numeric_limits<Extended>::quiet_NaN(), "NAN"},
         {u"0", std::numeric_limits<Extended>::denorm_min(), "0"},
     };
-    for (const TCaso& caso : casos)
-        EXPECT_EQ(Formatado(caso.Formato, caso.Valor), caso.Esperado) << ParaUtf8(caso.Formato) << " " << caso.Valor;
+    for (const auto& [formato, valor, esperado] : casos)
+        EXPECT_EQ(Formatado(formato, valor), esperado) << ParaUtf8(formato) << " " << valor;
 }
 
 TEST(FormatoNumero, ContraOsCentavos) {
-    const auto semente = std::random_device{}();
-    SCOPED_TRACE(semente);
-    std::mt19937_64 sorteio(semente);
+    Testes::TAcaso sorteio;
     for (int i = 0; i < 20000; ++i) {
         const auto centavos = static_cast<std::int64_t>(sorteio() % 1'000'000'000'000'000) >> sorteio() % 50;
         std::string esperado = std::to_string(centavos);

@@ -13,12 +13,8 @@ namespace {
 using TLista = std::vector<Variant>;
 
 TEST(Variante, Texto) {
-    struct TCaso {
-        Variant Valor;
-        const char* Esperado;
-    };
     const TDateTime data = CodificarData(2024, 3, 5);
-    const TCaso CCasos[] = {
+    const std::pair<Variant, const char*> casos[] = {
         {{}, ""},
         {TNulo{}, ""},
         {true, "True"},
@@ -34,7 +30,7 @@ TEST(Variante, Texto) {
         {u"São 'x'", "São 'x'"},
     };
     const TFormatosTemporarios formatos(BuscarFormatosBrasileiros());
-    for (const TCaso& c : CCasos) EXPECT_EQ(ParaUtf8(VarianteParaTexto(c.Valor)), c.Esperado);
+    for (const auto& [valor, esperado] : casos) EXPECT_EQ(ParaUtf8(VarianteParaTexto(valor)), esperado);
     std::u16string texto = u"a";
     AnexarVariante(texto, -1);
     EXPECT_EQ(texto, u"a-1");

@@ -15,12 +15,7 @@ using namespace OryUtils;
 namespace {
 
 TEST(Maquina, VersaoDoWindows) {
-    struct TCaso {
-        Interno::TVersaoDoSistema Versao;
-        TVersaoWindows Esperada;
-        const char* Porque;
-    };
-    const TCaso casos[] = {
+    const std::tuple<Interno::TVersaoDoSistema, TVersaoWindows, const char*> casos[] = {
         {{1, 4, 0, u""}, vwWin95, ""},
         {{1, 4, 10, u""}, vwWin98, "no second character"},
         {{1, 4, 10, u" A "}, vwWin98SE, "second edition"},
@@ -35,24 +30,20 @@ TEST(Maquina, VersaoDoWindows) {
         {{2, 10, 0, u""}, vwUnknown, "version 10"},
         {{0, 6, 1, u""}, vwUnknown, "another platform"},
     };
-    for (const TCaso& caso : casos)
-        EXPECT_EQ(Interno::ClassificarVersao(caso.Versao), caso.Esperada)
-            << caso.Versao.Plataforma << ' ' << caso.Versao.Maior << '.' << caso.Versao.Menor << ' ' << caso.Porque;
+    for (const auto& [versao, esperada, porque] : casos)
+        EXPECT_EQ(Interno::ClassificarVersao(versao), esperada)
+            << versao.Plataforma << ' ' << versao.Maior << '.' << versao.Menor << ' ' << porque;
     EXPECT_EQ(CVetorVersaoWindows[vwWinVista], u"Windows Vista/7 ou superior");
 }
 
 TEST(Maquina, FormatarBytes) {
     constexpr std::int64_t CMaior = std::numeric_limits<std::int64_t>::max();
-    Testes::TSorteio sorteio;
-    std::vector<std::int64_t> valores{0, 1, 1023, 1024, 1025, -1, -1023, -1024, -1025, CMaior, -CMaior - 1};
-    for (int i = 0; i < 1000; ++i)
-        valores.push_back((std::int64_t{sorteio.Numero(-1 << 30, 1 << 30)} << 32) + sorteio.Numero(0, 1 << 30));
-    for (const std::int64_t valor : valores) {
+    for (const std::int64_t valor :
+         {std::int64_t{0}, std::int64_t{1023}, std::int64_t{1024}, std::int64_t{-1023}, std::int64_t{-1024},
+          std::int64_t{123456789012345678}, std::int64_t{-1} << 50, CMaior, -CMaior - 1}) {
         std::int64_t divisor = 1;
-        for (const TFormatoBytes formato : {fbBytes, fbKilobytes, fbMegabytes, fbGigabytes, fbTerabytes}) {
-            EXPECT_EQ(TOryUtilsSistema::FormatarBytes(valor, formato), valor / divisor) << sorteio.Semente();
-            divisor *= 1024;
-        }
+        for (int formato = fbBytes; formato <= fbTerabytes; ++formato, divisor *= 1024)
+            EXPECT_EQ(TOryUtilsSistema::FormatarBytes(valor, static_cast<TFormatoBytes>(formato)), valor / divisor);
     }
     for (const int desconhecido : {-1, 5, std::numeric_limits<int>::max()})
         EXPECT_EQ(TOryUtilsSistema::FormatarBytes(CMaior, static_cast<TFormatoBytes>(desconhecido)), CMaior);
@@ -66,11 +57,9 @@ TEST(Maquina, EspacoLivre) {
     EXPECT_EQ(disco.GetInformacoesDetalhadas(), detalhes);
     EXPECT_EQ(Interno::ConferirEspacoLivre(disco, 30), TResultStatus{}) << "equal is enough";
     EXPECT_EQ(Interno::ConferirEspacoLivre(disco, -1), TResultStatus{});
-    EXPECT_EQ(Interno::ConferirEspacoLivre(disco, 31),
-              (TResultStatus{false,
-                             u"A unidade << D >> não possui espaço suficiente.\r\nEspaço requisitado: 31 "
-                             u"GB.\r\n\r\n" +
-                                 detalhes}));
+    const std::u16string falta =
+        u"A unidade << D >> não possui espaço suficiente.\r\nEspaço requisitado: 31 GB.\r\n\r\n" + detalhes;
+    EXPECT_EQ(Interno::ConferirEspacoLivre(disco, 31), (TResultStatus{false, falta}));
     const std::int64_t muito = std::int64_t{1} << 40;  // its low 32 bits are zero
     EXPECT_FALSE(Interno::ConferirEspacoLivre(disco, muito).Status);
 }
@@ -104,28 +93,19 @@ TEST(Maquina, IndiceDaUnidade) {
 
 TEST(Maquina, VarToIntDef) {
     const TFormatosTemporarios formatos(BuscarFormatosBrasileiros());
-    const auto converter = [](const Variant& AValor) { return VarToIntDef(AValor, -7); };
-    EXPECT_EQ(converter(12), 12);
-    EXPECT_EQ(converter(std::int64_t{2147483648}), -7) << "too large";
-    EXPECT_EQ(converter(u" -3"), -3);
-    EXPECT_EQ(converter(u""), -7);
-    EXPECT_EQ(converter(u"3x"), -7);
-    EXPECT_EQ(converter(TNulo{}), -7);
-    EXPECT_EQ(converter(Variant()), -7);
-    EXPECT_EQ(converter(true), -7) << "its text is a word";
-    EXPECT_EQ(converter(2.0), 2);
-    EXPECT_EQ(converter(2.5), -7);
-    EXPECT_EQ(converter(TMoeda::De(8)), 8);
-    EXPECT_EQ(converter(std::vector<Variant>(1, 1)), -7) << "an array has no text";
+    // A text that is no number, one too large, none at all, a word ("True"), a fraction, an array.
+    for (const Variant& valor : {Variant(u""), Variant(u"3x"), Variant(2147483648), Variant(), Variant(TNulo{}),
+                                 Variant(true), Variant(2.5), Variant(std::vector<Variant>(1, 1))})
+        EXPECT_EQ(VarToIntDef(valor, -7), -7);
+    EXPECT_EQ(VarToIntDef(12, -7), 12);
+    EXPECT_EQ(VarToIntDef(u" -3", -7), -3);
+    EXPECT_EQ(VarToIntDef(2.0, -7), 2);
+    EXPECT_EQ(VarToIntDef(TMoeda::De(8), -7), 8);
 }
 
 TEST(Maquina, PastasVizinhas) {
-    struct TCaso {
-        std::u16string_view Executavel, Aplicacao, Vizinha;
-        char16_t Separador;
-        const char* Porque;
-    };
-    const TCaso casos[] = {
+    // The program, its folder, the folder beside that, the separator of the system.
+    const std::tuple<std::u16string_view, std::u16string_view, std::u16string_view, char16_t, const char*> casos[] = {
         {u"C:\\ory\\bin\\p.exe", u"C:\\ory\\bin\\", u"C:\\ory\\OryApps", u'\\', "beside the application"},
         {u"C:\\bin\\p.exe", u"C:\\bin\\", u"C:\\OryApps", u'\\', "below the drive"},
         {u"C:\\p.exe", u"C:\\", u"OryApps", u'\\', "nothing above: relative, as the rule of the folder above has it"},
@@ -134,9 +114,9 @@ TEST(Maquina, PastasVizinhas) {
         {u"/app/p", u"/app/", u"/OryApps", u'/', "the root has no name"},
         {u"/p", u"/", u"/OryApps", u'/', "nothing is above the root"},
     };
-    for (const TCaso& caso : casos) {
-        EXPECT_EQ(Interno::BuscarPastaDoPrograma(caso.Executavel, caso.Separador), caso.Aplicacao) << caso.Porque;
-        EXPECT_EQ(Interno::MontarPastaVizinha(caso.Aplicacao, u"OryApps", caso.Separador), caso.Vizinha) << caso.Porque;
+    for (const auto& [executavel, aplicacao, vizinha, separador, porque] : casos) {
+        EXPECT_EQ(Interno::BuscarPastaDoPrograma(executavel, separador), aplicacao) << porque;
+        EXPECT_EQ(Interno::MontarPastaVizinha(aplicacao, u"OryApps", separador), vizinha) << porque;
     }
     EXPECT_EQ(Interno::MontarNomeConfiguracaoForms(u"PC1", u"ana"), u"FP_PC1_ana.ini");
     EXPECT_EQ(Interno::MontarNomeConfiguracaoForms(u"%s", u"a%d"), u"FP_%s_a%d.ini");

@@ -1,13 +1,10 @@
 // The settings of the registry: what is written is read back without the library (LerDoSistema).
-#include "oryutils/characters/Caixa.hpp"
 #include "oryutils/runtime/Formatos.hpp"
 #include "oryutils/system/OryUtilsRegistry.hpp"
 #include "oryutils/system/interno/CotaObjetosGDI.hpp"
 
+#include "comum/MensagemDe.hpp"
 #include "system/RegistroDeTeste.hpp"
-
-#include <bit>
-#include <random>
 
 using namespace OryUtils;
 using Teste::CChave;
@@ -26,28 +23,16 @@ constexpr std::u16string_view CGDI = u"Software\\Microsoft\\Windows NT\\CurrentV
 constexpr std::u16string_view CControle = u"SYSTEM\\CurrentControlSet\\Control";
 constexpr std::u16string_view CVariavel = u"ORYUTILS_TESTE_LISTA";
 
-void Falhou(const TResultStatus& AResultado, std::u16string_view AMensagem, const char* APorque) {
-    EXPECT_FALSE(AResultado.Status) << APorque;
-    EXPECT_EQ(AResultado.Mensagem, AMensagem) << APorque;
+void Falhou(const TResultStatus& AResultado, const std::u16string& AMensagem, const char* APorque) {
+    EXPECT_EQ(AResultado, (TResultStatus{false, AMensagem})) << APorque;
 }
 
-std::u16string MensagemDe(const auto& AAcao) {
-    try {
-        AAcao();
-    } catch (const ERegistryException& falha) {
-        return falha.GetMensagem();
-    }
-    return u"";
-}
+std::string MensagemDe(const auto& AAcao) { return Testes::MensagemDe<ERegistryException>(AAcao); }
 
 TEST_F(TRegistro, EscreveCadaTipoComoOSistemaOLe) {
     enum TCor { cVerde, cAzul };
     enum class TForma { Redonda };
-    const struct {
-        TValorRegistro Valor;
-        std::u16string_view Esperado;
-        const char* Porque;
-    } casos[] = {
+    const std::tuple<TValorRegistro, std::u16string_view, const char*> casos[] = {
         {8080, u"dword:00001f90", "integer"},
         {-1, u"dword:ffffffff", "negative integer"},
         {std::int64_t{0x1'0000'0002}, u"dword:00000002", "64 bits taken as 32"},
@@ -69,13 +54,12 @@ TEST_F(TRegistro, EscreveCadaTipoComoOSistemaOLe) {
         {std::vector<Variant>{1, 2}, u"", "an array"},
     };
     TOryUtilsRegistro registro;
-    for (const auto& caso : casos) {
-        EXPECT_EQ(registro.AdicionouValor(crLocalMachine, CChave, caso.Valor, u"Valor"), TResultStatus())
-            << caso.Porque;
-        EXPECT_EQ(LerDoSistema(CChave, u"Valor"), caso.Esperado) << caso.Porque;
-        EXPECT_EQ(registro.ExisteValor(crLocalMachine, CChave, u"vALOR"), !caso.Esperado.empty()) << caso.Porque;
-        EXPECT_EQ(registro.ExcluiuValor(crLocalMachine, CChave, u"VALOR").Status, !caso.Esperado.empty())
-            << caso.Porque;
+    for (const auto& [valor, esperado, porque] : casos) {
+        SCOPED_TRACE(porque);
+        EXPECT_EQ(registro.AdicionouValor(crLocalMachine, CChave, valor, u"Valor"), TResultStatus());
+        EXPECT_EQ(LerDoSistema(CChave, u"Valor"), esperado);
+        EXPECT_EQ(registro.ExisteValor(crLocalMachine, CChave, u"vALOR"), !esperado.empty());
+        EXPECT_EQ(registro.ExcluiuValor(crLocalMachine, CChave, u"VALOR").Status, !esperado.empty());
     }
 }
 
@@ -97,30 +81,27 @@ TEST_F(TRegistro, LeDeVoltaORecusaOutroTipo) {
     EXPECT_EQ(registro.GetValorRegistro(crLocalMachine, u"Nao\\Existe", u"s"), u"");
 
     TRegistry& acessor = registro.GetChave(crLocalMachine, CChave);
-    EXPECT_EQ(MensagemDe([&] { acessor.ReadString(u"i"); }), u"Tipo de dado inválido para 'i'");
-    EXPECT_EQ(MensagemDe([&] { acessor.ReadInteger(u"s"); }), u"Tipo de dado inválido para 's'");
-    EXPECT_EQ(MensagemDe([&] { acessor.ReadFloat(u"i"); }), u"Tipo de dado inválido para 'i'");
-    EXPECT_EQ(MensagemDe([&] { acessor.ReadInteger(u"falta"); }), u"Falha ao obter dados de 'falta'");
+    EXPECT_EQ(MensagemDe([&] { acessor.ReadString(u"i"); }), "Tipo de dado inválido para 'i'");
+    EXPECT_EQ(MensagemDe([&] { acessor.ReadInteger(u"s"); }), "Tipo de dado inválido para 's'");
+    EXPECT_EQ(MensagemDe([&] { acessor.ReadFloat(u"i"); }), "Tipo de dado inválido para 'i'");
+    EXPECT_EQ(MensagemDe([&] { acessor.ReadInteger(u"falta"); }), "Falha ao obter dados de 'falta'");
     EXPECT_EQ(MensagemDe([&] { registro.GetValorRegistro(crLocalMachine, CChave, u"i"); }),
-              u"Tipo de dado inválido para 'i'");
+              "Tipo de dado inválido para 'i'");
     EXPECT_FALSE(registro.GetChave(crLocalMachine, u"").GetCurrentPath().size()) << "the root itself opens";
 }
 
 TEST_F(TRegistro, FalhasDizemChaveEValor) {
     const TFormatosTemporarios formatos(BuscarFormatosBrasileiros());
     TOryUtilsRegistro registro;
-    const struct {
-        TValorRegistro Valor;
-        std::u16string_view Texto;
-    } casos[] = {{u"um texto", u"um texto"},
-                 {std::int64_t{1} << 40, u"1099511627776"},
-                 {1.5, u"1,5"},
-                 {TDateTime(45000.0), u"15/03/2023"},
-                 {u'x', u"x"}};
-    for (const auto& caso : casos)
-        Falhou(registro.AdicionouValor(crLocalMachine, u"Software\\Nao\\Existe", caso.Valor, u"Nome"),
+    const std::pair<TValorRegistro, const char16_t*> casos[] = {{u"um texto", u"um texto"},
+                                                                {std::int64_t{1} << 40, u"1099511627776"},
+                                                                {1.5, u"1,5"},
+                                                                {TDateTime(45000.0), u"15/03/2023"},
+                                                                {u'x', u"x"}};
+    for (const auto& [valor, texto] : casos)
+        Falhou(registro.AdicionouValor(crLocalMachine, u"Software\\Nao\\Existe", valor, u"Nome"),
                u"Erro ao adicionar valor no registro do Windows.\r\nChave: Software\\Nao\\Existe\r\nValor: " +
-                   std::u16string(caso.Texto) + u"\r\n\r\nErro ocorrido: \r\n\r\nFalha ao definir dados para 'Nome'",
+                   std::u16string(texto) + u"\r\n\r\nErro ocorrido: \r\n\r\nFalha ao definir dados para 'Nome'",
                "a missing key is not created, and Valor is the content");
     EXPECT_EQ(registro.AdicionouValor(crLocalMachine, u"Software\\Nao\\Existe", true, u"Nome"), TResultStatus());
     EXPECT_FALSE(registro.ExisteChave(crLocalMachine, u"Software", u"Nao"));
@@ -193,11 +174,8 @@ TEST_F(TRegistro, AcessorAbreCaminhosRelativos) {
 }
 
 TEST_F(TRegistro, VariaveisDeAmbienteComListas) {
-    const struct {
-        const char16_t* Antes;  // null: no such variable
-        TLista Itens;
-        std::u16string_view Somada, Subtraida;
-    } casos[] = {
+    // Before (null: no such variable), the items, after they are added, after they are taken away.
+    const std::tuple<const char16_t*, TLista, std::u16string_view, std::u16string_view> casos[] = {
         {u"A", {u"C:\\x", u"  ", u"C:\\y"}, u"A;C:\\x;C:\\y", u"A"},
         {u"", {u"C:\\x", u"  ", u"C:\\y"}, u";C:\\x;C:\\y", u""},
         {nullptr, {u" C:\\x "}, u"; C:\\x ", u""},
@@ -215,13 +193,13 @@ TEST_F(TRegistro, VariaveisDeAmbienteComListas) {
         else
             variavel.Excluir();
     };
-    for (const auto& caso : casos) {
-        repor(caso.Antes);
-        EXPECT_EQ(registro.AdicionouValorVariavelAmbiente(CVariavel, caso.Itens), TResultStatus());
-        EXPECT_EQ(registro.BuscarValorVariavelAmbiente(CVariavel), caso.Somada);
-        repor(caso.Antes);
-        EXPECT_EQ(registro.ExcluiuValorVariavelAmbiente(CVariavel, caso.Itens), TResultStatus());
-        EXPECT_EQ(registro.BuscarValorVariavelAmbiente(CVariavel), caso.Subtraida);
+    for (const auto& [antes, itens, somada, subtraida] : casos) {
+        repor(antes);
+        EXPECT_EQ(registro.AdicionouValorVariavelAmbiente(CVariavel, itens), TResultStatus());
+        EXPECT_EQ(registro.BuscarValorVariavelAmbiente(CVariavel), somada);
+        repor(antes);
+        EXPECT_EQ(registro.ExcluiuValorVariavelAmbiente(CVariavel, itens), TResultStatus());
+        EXPECT_EQ(registro.BuscarValorVariavelAmbiente(CVariavel), subtraida);
     }
 
     variavel.Gravar({Interno::tdrTextoExpansivel, std::string("%\0A\0%\0\0\0", 8)});
@@ -246,33 +224,26 @@ TEST_F(TRegistro, InicioAutomatico) {
     EXPECT_EQ(LerDoSistema(CRun, u"OryUtilsTeste"), u"\"\\\"C:\\\\App\\\\a.exe\\\" -s\"");
     EXPECT_EQ(registro.ExcluiuProgramaInicializacaoWindows(u"OryUtilsTeste"), TResultStatus());
     EXPECT_EQ(LerDoSistema(CRun, u"OryUtilsTeste"), u"");
-    EXPECT_FALSE(registro.ExcluiuProgramaInicializacaoWindows(u"OryUtilsTeste").Status);
 }
 
 TEST_F(TRegistro, CotaDeObjetosGDI) {
     const auto mensagem = [](std::u16string_view AMaior) {
         return u"Valor cota objetos GDI inválido.\r\nValores permitidos entre 256 e " + std::u16string(AMaior) + u".";
     };
-    for (int versao = vwUnknown; versao <= vwWinVista; ++versao) {
-        const bool windows2000 = versao == vwWin2000;
-        const int maior = windows2000 ? 16384 : 65536;
-        for (const int valor : {INT32_MIN, -256, 0, 255, 256, maior, maior + 1, INT32_MAX}) {
-            const auto resultado = Interno::ValidarCotaObjetosGDI(valor, static_cast<TVersaoWindows>(versao));
-            if (valor >= 256 && valor <= maior)
-                EXPECT_EQ(resultado, TResultStatus()) << valor;
-            else
-                Falhou(resultado, mensagem(windows2000 ? u"16384" : u"65536"), "out of bounds");
-        }
-    }
+    for (const auto& [versao, maior, texto] :
+         {std::tuple{vwWin2000, 16384, u"16384"}, {vwWinXP, 65536, u"65536"}, {vwUnknown, 65536, u"65536"}})
+        for (const int valor : {INT32_MIN, 255, 256, maior, maior + 1, INT32_MAX})
+            EXPECT_EQ(Interno::ValidarCotaObjetosGDI(valor, versao).Mensagem,
+                      valor >= 256 && valor <= maior ? u"" : mensagem(texto));
     TOryUtilsRegistro registro;
-    registro.CriarChave(crLocalMachine, u"Software\\Microsoft\\Windows NT\\CurrentVersion",
-                        u"Windows");  // Wine lacks it
+    // Wine lacks it.
+    registro.CriarChave(crLocalMachine, u"Software\\Microsoft\\Windows NT\\CurrentVersion", u"Windows");
     TValorPreservado cota(CGDI, u"GDIProcessHandleQuota");
     cota.Excluir();
     Falhou(registro.AlterouCotaLimiteObjetosGDI(255), mensagem(u"65536"), "nothing is written");
     EXPECT_EQ(LerDoSistema(CGDI, u"GDIProcessHandleQuota"), u"");
     EXPECT_EQ(MensagemDe([&] { registro.BuscarValorCotaLimiteObjetosGDI(); }),
-              u"Falha ao obter dados de 'GDIProcessHandleQuota'");
+              "Falha ao obter dados de 'GDIProcessHandleQuota'");
     EXPECT_EQ(registro.AlterouCotaLimiteObjetosGDI(65536), TResultStatus());
     EXPECT_EQ(LerDoSistema(CGDI, u"GDIProcessHandleQuota"), u"dword:00010000");
     EXPECT_EQ(registro.BuscarValorCotaLimiteObjetosGDI(), u"65536");

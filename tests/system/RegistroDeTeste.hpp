@@ -1,5 +1,6 @@
 #pragma once
 
+#include "oryutils/readers/DadoReg.hpp"
 #include "oryutils/runtime/Registro.hpp"
 
 #include <gtest/gtest.h>
@@ -29,9 +30,16 @@ public:
     std::string Pasta{};  // Linux
 };
 
-/// A value below HKEY_LOCAL_MACHINE as an exported file shows it ("dword:00000001"), read without the library: by the
-/// system's own calls in the 64-bit view, or on Linux from the store's file. "" when it is missing.
-std::u16string LerDoSistema(std::u16string_view AChave, std::u16string_view AValor);
+/// A value below HKEY_LOCAL_MACHINE as it was kept, read without an accessor: by the system's own calls in the 64-bit
+/// view, or on Linux from the store's file. None when it is missing.
+std::optional<OryUtils::Interno::TDadoRegistro> LerDadoDoSistema(std::u16string_view AChave,
+                                                                 std::u16string_view AValor);
+/// The same as an exported file shows it ("dword:00000001"); "" when it is missing.
+inline std::u16string LerDoSistema(std::u16string_view AChave, std::u16string_view AValor) {
+    std::u16string texto;
+    if (const auto dado = LerDadoDoSistema(AChave, AValor)) OryUtils::Interno::AnexarDadoReg(texto, *dado, 0);
+    return texto;
+}
 
 /// Puts a value of the machine back as it was, missing included.
 class TValorPreservado {

@@ -1,8 +1,8 @@
-// The decisions of the service and firewall operations, with a service manager and a command runner that do as told.
+// The decisions of the service and firewall operations, with commands and a service manager that do as told.
 #include "oryutils/system/interno/Servicos.hpp"
 
-#include "oryutils/system/interno/ComandosServico.hpp"
-#include "oryutils/system/interno/Firewall.hpp"
+#include "oryutils/characters/Utf.hpp"
+#include "oryutils/system/interno/ComandosFirewall.hpp"
 
 #include "system/ProgramasFalsos.hpp"
 
@@ -12,115 +12,79 @@
 
 using namespace OryUtils;
 using namespace Interno;
+using S = TOryUtilsSistema;
 
 namespace {
 
-std::u16string Estrelas() { return std::u16string(79, u'*'); }
-constexpr std::u16string_view CConselho = u"\r\n\r\nReinicie a aplicação em modo administrador e tente novamente.";
+std::u16string Estrelas() { return u"\r\n" + std::u16string(79, u'*'); }
+constexpr const char16_t* CConselho = u"\r\n\r\nReinicie a aplicação em modo administrador e tente novamente.";
 
-/// Records the command and prints AResposta.
-TExecutorDeComando Responder(std::u16string& AComando, std::u16string AResposta) {
-    return [&AComando, AResposta](std::u16string_view ALinha, std::vector<std::u16string>& ASaida) {
-        AComando = ALinha;
-        if (!AResposta.empty()) ASaida.push_back(AResposta);
+TEST(ComandosDoSistema, ConfiguracaoDeServicos) {
+    Testes::TProgramasFalsos programas;
+    const std::tuple<TResultStatus (*)(), std::string, std::u16string> casos[] = {
+        {[] { return S::ConfigurouAcaoPadraoRecuperacaoServico(u"Ory Eventos"); },
+         "sc|failure|Ory Eventos|actions=|restart/0/restart/0//|reset=|240\n",
+         u"Não foi possível configurar a ação padrão de recuperação do serviço << Ory Eventos >>.\r\n\r\n"},
+        {[] { return S::ConfigurouDependenciaServico(u"a b", u"c\"d"); }, "sc|config|a b|depend=|c\"d\n",
+         u"Não foi possível configurar o serviço: << c\"d >>\r\n\r\ncomo dependência do serviço: << a b "
+         u">>\r\n\r\n\r\n"},
+        {[] { return S::ConfigurouUsuarioLogonServico(u"Ory\\", u".\\ana", u"a\\\" b & c;$(d)"); },
+         "sc|config|Ory\\|obj=|.\\ana|password=|a\\\" b & c;$(d)\n",
+         u"Não foi possível configurar o usuário de logon para o serviço: << Ory\\ >>.\r\n\r\n\r\n"},
+        {[] {
+             return S::ConfigurouDadosAdicionaisServico(u"%s", {u"start= delayed-auto", u"error= normal"});
+         },
+         "sc|config|%s|start=|delayed-auto|error=|normal\n",
+         u"Não foi possível configurar os dados adicionais do serviço << %s >>.\r\n\r\n"},
     };
-}
-
-TEST(ConfiguracaoDeServico, ComandosEMensagens) {
-    std::u16string comando;
-    struct TCaso {
-        std::u16string Comando, Inicio;
-        TResultStatus (*Configurar)(const TExecutorDeComando&);
-    };
-    const TCaso casos[] = {
-        {u"sc failure \"Ory\" actions= restart/0/restart/0// reset= 240",
-         u"Não foi possível configurar a ação padrão de recuperação do serviço << Ory >>.\r\n\r\n",
-         [](const TExecutorDeComando& e) { return Interno::ConfigurouAcaoPadraoRecuperacaoServico(e, u"Ory"); }},
-        {u"sc config Ory depend= Firebird",
-         u"Não foi possível configurar o serviço: << Firebird >>\r\n\r\ncomo dependência do serviço: << Ory "
-         u">>\r\n\r\n\r\n",
-         [](const TExecutorDeComando& e) { return Interno::ConfigurouDependenciaServico(e, u"Ory", u"Firebird"); }},
-        {u"sc config \"Ory\" obj= \".\\ana\" password= \"a b\"",
-         u"Não foi possível configurar o usuário de logon para o serviço: << Ory >>.\r\n\r\n\r\n",
-         [](const TExecutorDeComando& e) {
-             return Interno::ConfigurouUsuarioLogonServico(e, u"Ory", u".\\ana", u"a b");
-         }},
-        {u"sc config \"Ory\" start= delayed-auto error= normal",
-         u"Não foi possível configurar os dados adicionais do serviço << Ory >>.\r\n\r\n",
-         [](const TExecutorDeComando& e) {
-             return Interno::ConfigurouDadosAdicionaisServico(e, u"Ory", {u"start= delayed-auto", u"error= normal"});
-         }},
-    };
-    for (const TCaso& caso : casos) {
-        EXPECT_EQ(caso.Configurar(Responder(comando, u"[SC] ChangeServiceConfig SUCCESS")), TResultStatus{});
-        EXPECT_EQ(comando, caso.Comando);
+    for (const auto& [configurar, chamada, inicio] : casos) {
+        programas.Por("sc", {"[SC] ChangeServiceConfig SUCCESS"});
+        EXPECT_EQ(configurar(), TResultStatus{});
+        EXPECT_EQ(programas.LerChamadas(), chamada);
         // A word of failure counts in any case and inside another word.
         for (const char16_t* resposta : {u"[SC] OpenService FAILED 5", u"Acesso NEGADO.", u"aterroriza"}) {
-            const std::u16string mensagem = caso.Inicio + u"Erro ocorrido: \r\n\r\n" + Estrelas() + u"\r\n" + resposta +
-                                            u"\r\n" + Estrelas() + std::u16string(CConselho);
-            EXPECT_EQ(caso.Configurar(Responder(comando, resposta)), (TResultStatus{false, mensagem}));
+            programas.Por("sc", {ParaUtf8(resposta)});
+            const std::u16string erro =
+                u"Erro ocorrido: \r\n" + Estrelas() + u"\r\n" + resposta + Estrelas() + CConselho;
+            EXPECT_EQ(configurar(), (TResultStatus{false, inicio + erro}));
+            EXPECT_EQ(programas.LerChamadas(), chamada);
         }
     }
-    EXPECT_EQ(Interno::MontarComandoDependencia(u"a b", u"c\"d"), u"sc config \"a b\" depend= \"c\\\"d\"");
 }
 
-TEST(Firewall, ComandosDosDoisDialetos) {
-    using Interno::dfAntigo, Interno::dfAvancado;
-    const auto conferir = [](const auto& AMontar, std::u16string_view AAvancado, std::u16string_view AAntigo) {
-        EXPECT_EQ(AMontar(dfAvancado), u"netsh advfirewall firewall " + std::u16string(AAvancado));
-        EXPECT_EQ(AMontar(dfAntigo), u"netsh firewall " + std::u16string(AAntigo));
-    };
-    conferir([](auto d) { return Interno::MontarLiberacaoDePorta(d, tpTCP, 3050, u"FB"); },
-             u"add rule name=\"FB\" dir=in action=allow protocol=TCP localport=3050",
-             u"set portopening TCP 3050 \"FB\"");
-    conferir([](auto d) { return Interno::MontarExclusaoDePorta(d, tpUDP, 80); },
-             u"delete rule name=all protocol=UDP localport=80", u"delete portopening protocol=UDP port=80");
-    conferir([](auto d) { return Interno::MontarLiberacaoDePrograma(d, u"C:\\a b.exe", u"Ory"); },
-             u"add rule name=\"Ory\" dir=in action=allow program=\"C:\\a b.exe\" enable=yes",
-             u"set allowedprogram \"C:\\a b.exe\" \"Ory\" ENABLE");
-    conferir([](auto d) { return Interno::MontarExclusaoDePrograma(d, u"C:\\a b.exe", u"Ory"); },
-             u"delete rule name=\"Ory\" program=\"C:\\a b.exe\"", u"delete allowedprogram \"C:\\a b.exe\"");
-    for (int versao = vwUnknown; versao <= vwWinVista; ++versao)
-        EXPECT_EQ(Interno::DialetoDe(static_cast<TVersaoWindows>(versao)),
-                  versao == vwUnknown || versao == vwWinVista ? dfAvancado : dfAntigo);
-}
-
-TEST(Firewall, RespostasEMensagens) {
-    std::u16string comando;
-    using Interno::dfAvancado;
-    for (const char16_t* resposta : {u"Ok.", u"tudo oK", u"Token"})
-        EXPECT_TRUE(Interno::LiberouPorta(Responder(comando, resposta), dfAvancado, tpTCP, 1, u"x").Status);
-    const auto negar = Responder(comando, u"Acesso negado");
-    const std::pair<TResultStatus, std::u16string> falhas[] = {
-        {Interno::LiberouPorta(negar, dfAvancado, tpTCP, 3050, u"x"), u"liberar a porta << 3050 >> no"},
-        {Interno::ExcluiuPorta(negar, dfAvancado, tpTCP, 3050), u"excluir a porta << 3050 >> do"},
-        {Interno::LiberouPrograma(negar, dfAvancado, u"%s.exe", u"x"), u"liberar o programa << %s.exe >> no"},
-        {Interno::ExcluiuPrograma(negar, dfAvancado, u"a.exe", u"x"), u"excluir o programa << a.exe >> do"},
-    };
-    for (const auto& [falha, oque] : falhas)
-        EXPECT_EQ(falha.Mensagem,
-                  u"Não foi possível " + oque + u" firewall do Windows.\r\n\r\nErro ocorrido: \r\n\r\nAcesso negado");
-    // A command that cannot be started prints nothing, and so opens nothing.
-    EXPECT_FALSE(Interno::ExcluiuPrograma(Responder(comando, u""), dfAvancado, u"a.exe", u"x").Status);
-}
-
-TEST(Firewall, ProgramasDeVerdadeRecebemOsArgumentos) {
+TEST(ComandosDoSistema, Firewall) {
     Testes::TProgramasFalsos programas;
-    programas.Por("sc", {"[SC] ChangeServiceConfig SUCCESS", "[SC] OpenService FAILED 5:\r\n\r\nAccess is denied."});
-    programas.Por("netsh", {"Ok.\r\n", "No rules match the specified criteria."});
-    EXPECT_TRUE(TOryUtilsSistema::ConfigurouUsuarioLogonServico(u"Ory\\", u".\\ana", u"a\\\" b & c;$(d)").Status);
-    EXPECT_FALSE(TOryUtilsSistema::ConfigurouAcaoPadraoRecuperacaoServico(u"Ory Eventos").Status);
-    EXPECT_TRUE(TOryUtilsSistema::LiberouPortaFirewallWindows(tpTCP, 3050, u"Banco | x").Status);
-    EXPECT_FALSE(TOryUtilsSistema::ExcluiuProgramaFirewallWindows(u"/a b/c", u"Ory").Status);
-    EXPECT_EQ(programas.LerChamadas(),
-              "sc|config|Ory\\|obj=|.\\ana|password=|a\\\" b & c;$(d)\n"
-              "sc|failure|Ory Eventos|actions=|restart/0/restart/0//|reset=|240\n"
-              "netsh|advfirewall|firewall|add|rule|name=Banco | x|dir=in|action=allow|protocol=TCP|localport=3050\n"
-              "netsh|advfirewall|firewall|delete|rule|name=Ory|program=/a b/c\n");
+    const std::tuple<TResultStatus (*)(), std::string, std::u16string> casos[] = {
+        {[] { return S::LiberouPortaFirewallWindows(tpTCP, 3050, u"Banco | x"); },
+         "add|rule|name=Banco | x|dir=in|action=allow|protocol=TCP|localport=3050", u"liberar a porta << 3050 >> no"},
+        {[] { return S::ExcluiuPortaFirewallWindows(tpUDP, 80); }, "delete|rule|name=all|protocol=UDP|localport=80",
+         u"excluir a porta << 80 >> do"},
+        {[] { return S::LiberouProgramaFirewallWindows(u"/a b/%s", u"Ory"); },
+         "add|rule|name=Ory|dir=in|action=allow|program=/a b/%s|enable=yes", u"liberar o programa << /a b/%s >> no"},
+        {[] { return S::ExcluiuProgramaFirewallWindows(u"a.exe", u"x y"); }, "delete|rule|name=x y|program=a.exe",
+         u"excluir o programa << a.exe >> do"},
+    };
+    // "ok" in any case and inside another word confirms; a command that prints nothing opens nothing.
+    const std::pair<std::u16string, bool> respostas[] = {
+        {u"Ok.", true}, {u"tudo oK", true}, {u"Token", true}, {u"Acesso negado", false}, {u"", false}};
+    for (const auto& [executar, chamada, oque] : casos)
+        for (const auto& [resposta, confirma] : respostas) {
+            programas.Por("netsh", {ParaUtf8(resposta)});
+            const std::u16string erro = u" firewall do Windows.\r\n\r\nErro ocorrido: \r\n\r\n" + resposta;
+            const TResultStatus falha{false, u"Não foi possível " + oque + erro};
+            EXPECT_EQ(executar(), confirma ? TResultStatus{} : falha);
+            EXPECT_EQ(programas.LerChamadas(), "netsh|advfirewall|firewall|" + chamada + "\n");
+        }
 }
 
-TSituacaoServico Estado(std::uint32_t AEstado, std::uint32_t APonto, int AEspera) {
-    return {AEstado, APonto, std::chrono::milliseconds(AEspera)};
+TEST(ComandosDoSistema, FirewallDosWindowsAntigos) {
+    EXPECT_EQ(MontarLiberacaoDePorta(dfAntigo, tpTCP, 3050, u"FB"), u"netsh firewall set portopening TCP 3050 \"FB\"");
+    EXPECT_EQ(MontarExclusaoDePorta(dfAntigo, tpUDP, 80), u"netsh firewall delete portopening protocol=UDP port=80");
+    EXPECT_EQ(MontarLiberacaoDePrograma(dfAntigo, u"a b.exe", u"Ory"),
+              u"netsh firewall set allowedprogram \"a b.exe\" \"Ory\" ENABLE");
+    EXPECT_EQ(MontarExclusaoDePrograma(dfAntigo, u"a b.exe", u""), u"netsh firewall delete allowedprogram \"a b.exe\"");
+    for (const auto versao : {vwWin95, vwWinNT, vwWinXP}) EXPECT_EQ(DialetoDe(versao), dfAntigo);
+    for (const auto versao : {vwUnknown, vwWinVista}) EXPECT_EQ(DialetoDe(versao), dfAvancado);
 }
 
 /// What a scripted service answers, one situation a question; the last one stays.
@@ -142,10 +106,7 @@ public:
         if (FRoteiro.Situacoes.size() > 1) FRoteiro.Situacoes.pop_front();
         return situacao;
     }
-    std::uint32_t BuscarIDProcesso() override {
-        Registrar("id ");
-        return 0;
-    }
+    std::uint32_t BuscarIDProcesso() override { return Registrar("id "), 0; }
 
 private:
     bool Registrar(const char* AFeito) {
@@ -169,20 +130,19 @@ private:
     TRoteiro& FRoteiro;
 };
 
-Interno::TAbrirGerenciador Abrir(TRoteiro& ARoteiro) {
-    return [&ARoteiro](std::u16string_view AMaquina, TAcessoGerenciador) -> std::unique_ptr<TGerenciadorServicos> {
-        if (AMaquina == u"longe") return nullptr;
-        return std::make_unique<TGerenciadorRoteirizado>(ARoteiro);
+TAbrirGerenciador Abrir(TRoteiro& ARoteiro) {
+    return [&](std::u16string_view AMaquina, TAcessoGerenciador) {
+        return AMaquina == u"longe" ? nullptr : std::make_unique<TGerenciadorRoteirizado>(ARoteiro);
     };
 }
 
-const Interno::TAbrirGerenciador CSemGerenciador = [](auto...) { return nullptr; };
+const TAbrirGerenciador CSemGerenciador = [](auto...) { return nullptr; };
 
 TEST(Servicos, InstalacaoComparaOValorDaCriacao) {
     TRoteiro roteiro;
     const auto instalar = [&](std::uintptr_t AValor) {
         roteiro.Criacao = AValor;
-        return Interno::InstalouServico(Abrir(roteiro), u"Ory", u"Ory", u"/ory");
+        return InstalouServico(Abrir(roteiro), u"Ory", u"Ory", u"/ory");
     };
     EXPECT_TRUE(instalar(0).Status) << "a failed creation answers 0 and so reports success";
     EXPECT_TRUE(instalar(0x10000).Status);
@@ -190,83 +150,67 @@ TEST(Servicos, InstalacaoComparaOValorDaCriacao) {
     EXPECT_EQ(instalar(6).Mensagem, u"Ponteiro de identifidação do serviço é inválido.");
     for (const std::uintptr_t valor : {87, 123, 1057, 1059, 1073, 1078}) EXPECT_FALSE(instalar(valor).Status);
 
-    const std::u16string semGerenciador =
+    const TResultStatus semGerenciador{
+        false,
         u"Não foi possível abrir o SC Manager (Gerenciador de serviços do Windows).\r\n\r\nTente executar o processo "
-        u"como administrador, se o problema persistir entre em contatocom o suporte técnico.";
-    EXPECT_EQ(Interno::InstalouServico(CSemGerenciador, u"a", u"b", u"c").Mensagem, semGerenciador);
-    EXPECT_EQ(Interno::DesinstalouServico(CSemGerenciador, u"a"), (TResultStatus{false, semGerenciador}));
-}
+        u"como administrador, se o problema persistir entre em contatocom o suporte técnico."};
+    EXPECT_EQ(InstalouServico(CSemGerenciador, u"a", u"b", u"c"), semGerenciador);
+    EXPECT_EQ(DesinstalouServico(CSemGerenciador, u"a"), semGerenciador);
 
-TEST(Servicos, RemocaoNaoContaAsFalhasDoServico) {
-    TRoteiro roteiro;
     roteiro.Aceita = false;
-    EXPECT_TRUE(Interno::DesinstalouServico(Abrir(roteiro), u"Ory").Status);
+    EXPECT_TRUE(DesinstalouServico(Abrir(roteiro), u"Ory").Status) << "what the service refuses does not count";
     EXPECT_EQ(roteiro.Registro, "parar excluir ");
-    EXPECT_TRUE(Interno::DesinstalouServico(Abrir(roteiro), u"ausente").Status);
+    EXPECT_TRUE(DesinstalouServico(Abrir(roteiro), u"ausente").Status);
 }
 
 TEST(Servicos, Estados) {
     for (std::uint32_t estado = 0; estado <= 9; ++estado) {
         TRoteiro roteiro{{TSituacaoServico{estado}}};
-        EXPECT_EQ(Interno::BuscarStatusServico(Abrir(roteiro), u"", u"Ory"),
-                  estado <= 7 ? static_cast<int>(estado) : 0);
+        EXPECT_EQ(BuscarStatusServico(Abrir(roteiro), u"", u"Ory"), estado <= 7 ? static_cast<int>(estado) : 0);
     }
     TRoteiro mudo{{std::nullopt}};
-    EXPECT_EQ(Interno::BuscarStatusServico(Abrir(mudo), u"", u"Ory"), sswErro);
-    EXPECT_EQ(Interno::BuscarStatusServico(Abrir(mudo), u"", u"ausente"), sswErro);
-    EXPECT_EQ(Interno::BuscarStatusServico(Abrir(mudo), u"longe", u"Ory"), sswErro);
+    for (const auto& [maquina, servico] : {std::pair{u"", u"Ory"}, {u"", u"ausente"}, {u"longe", u"Ory"}}) {
+        EXPECT_EQ(BuscarStatusServico(Abrir(mudo), maquina, servico), sswErro);
+        EXPECT_FALSE(IniciarServico(Abrir(mudo), maquina, servico));
+        EXPECT_FALSE(PararServico(Abrir(mudo), maquina, servico, 1));
+    }
     EXPECT_EQ(CVetorStatusServicoWindows[sswErro],
               u"Erro leitura serviço (pode indicar que não está instalado ou que está travado)");
 }
 
-TEST(Servicos, InicioEsperaOCaminhoDoServico) {
-    struct TCaso {
-        const char* Por;
-        std::deque<std::optional<TSituacaoServico>> Situacoes;
-        bool Aceita, Roda;
+TEST(Servicos, OCaminhoDoServicoEhEsperado) {
+    using TSituacoes = std::deque<std::optional<TSituacaoServico>>;
+    const auto em = [](std::uint32_t AEstado, std::uint32_t APonto, int AEspera) {
+        return TSituacaoServico{AEstado, APonto, std::chrono::milliseconds(AEspera)};
     };
-    for (const TCaso& caso : {
-             TCaso{"through its check points",
-                   {Estado(2, 1, 1), Estado(2, 2, 1), Estado(2, 2, 1), Estado(4, 0, 0)},
-                   true,
-                   true},
-             TCaso{"check point backwards", {Estado(2, 5, 1), Estado(2, 1, 1), Estado(4, 0, 0)}, true, false},
-             TCaso{"no answer any more", {Estado(2, 1, 1), std::nullopt}, true, false},
-             TCaso{"ended on its way", {Estado(2, 0, 1), Estado(1, 0, 0)}, true, false},
-             TCaso{"runs already", {Estado(4, 0, 0)}, false, true},
-             TCaso{"refused", {Estado(1, 0, 0)}, false, false},
-         }) {
-        TRoteiro roteiro{caso.Situacoes, caso.Aceita};
-        EXPECT_EQ(Interno::IniciarServico(Abrir(roteiro), u"", u"Ory"), caso.Roda) << caso.Por;
-    }
-    TRoteiro nenhum;
-    EXPECT_FALSE(Interno::IniciarServico(Abrir(nenhum), u"", u"ausente"));
-}
-
-TEST(Servicos, ParadaEsgotaOLimite) {
-    struct TCaso {
-        const char* Por;
-        std::deque<std::optional<TSituacaoServico>> Situacoes;
-        bool Aceita;
-        int Limite;
-        bool Parou;
-        const char* Registro;
+    // The limit of a stop in seconds, or a start; the situations; whether the service takes the order; whether it
+    // comes to where it shall; what it was asked.
+    constexpr int CInicio = -1;
+    const std::tuple<int, TSituacoes, bool, bool, const char*, const char*> casos[] = {
+        {CInicio, {em(2, 1, 1), em(2, 2, 1), em(2, 2, 1), em(4, 0, 0)}, true, true, "iniciar ", "check by check"},
+        {CInicio, {em(2, 5, 1), em(2, 1, 1), em(4, 0, 0)}, true, false, "iniciar ", "check point backwards"},
+        {CInicio, {em(2, 1, 1), std::nullopt}, true, false, "iniciar ", "no answer any more"},
+        {CInicio, {em(2, 0, 1), em(1, 0, 0)}, true, false, "iniciar ", "ended on its way"},
+        {CInicio, {em(4, 0, 0)}, false, true, "iniciar ", "runs already"},
+        {CInicio, {em(1, 0, 0)}, false, false, "iniciar ", "refused"},
+        {60, {em(3, 1, 1), em(3, 2, 1), em(1, 0, 0)}, true, true, "parar ", "in time"},
+        {0, {em(3, 1, 1), em(3, 1, 1), em(1, 1, 0)}, true, true, "parar id ", "no time at all"},
+        {1,
+         {em(3, 1, 1000), em(3, 1, 1), em(3, 1, 1), em(1, 1, 0)},
+         true,
+         true,
+         "parar id ",
+         "a second of hint uses the limit up; the next round ends the process"},
+        {60, {em(1, 0, 0)}, false, true, "parar ", "stopped already"},
+        {60, {em(4, 0, 0)}, false, false, "parar ", "refused"},
     };
-    for (const TCaso& caso : {
-             TCaso{"in time", {Estado(3, 1, 1), Estado(3, 2, 1), Estado(1, 0, 0)}, true, 60, true, "parar "},
-             TCaso{"no time at all", {Estado(3, 1, 1), Estado(3, 1, 1), Estado(1, 1, 0)}, true, 0, true, "parar id "},
-             TCaso{"a second of hint uses the limit up; the next round ends the process",
-                   {Estado(3, 1, 1000), Estado(3, 1, 1), Estado(3, 1, 1), Estado(1, 1, 0)},
-                   true,
-                   1,
-                   true,
-                   "parar id "},
-             TCaso{"stopped already", {Estado(1, 0, 0)}, false, 60, true, "parar "},
-             TCaso{"refused", {Estado(4, 0, 0)}, false, 60, false, "parar "},
-         }) {
-        TRoteiro roteiro{caso.Situacoes, caso.Aceita};
-        EXPECT_EQ(Interno::PararServico(Abrir(roteiro), u"", u"Ory", caso.Limite), caso.Parou) << caso.Por;
-        EXPECT_EQ(roteiro.Registro, caso.Registro) << caso.Por;
+    for (const auto& [limite, situacoes, aceita, chegou, registro, porque] : casos) {
+        TRoteiro roteiro{situacoes, aceita};
+        const auto abrir = Abrir(roteiro);
+        EXPECT_EQ(limite == CInicio ? IniciarServico(abrir, u"", u"Ory") : PararServico(abrir, u"", u"Ory", limite),
+                  chegou)
+            << porque;
+        EXPECT_EQ(roteiro.Registro, registro) << porque;
     }
 }
 

@@ -113,19 +113,15 @@ TEST(MaquinaLinux, Pastas) {
     EXPECT_EQ(GetWindowsDrive(), u"/");
     EXPECT_TRUE(ExistePasta(GetWindowsSystemDir()));
 
-    const std::pair<const char*, const char*> casos[] = {
-        {"/var/tmp//", "/var/tmp"}, {"", "/tmp"}, {"tmp", "/tmp"}, {"/", "/"}};
-    for (const auto& [valor, pasta] : casos) {
+    for (const auto& [valor, pasta] :
+         {std::pair{"/var/tmp//", "/var/tmp"}, {"", "/tmp"}, {"tmp", "/tmp"}, {"/", "/"}}) {
         const TVariavel temporaria("TMPDIR", valor);
         EXPECT_EQ(ParaUtf8(GetPastaTempWindows()), pasta);
     }
 }
 
 TEST(MaquinaLinux, PastaDeDocumentos) {
-    struct TCaso {
-        const char *Texto, *Pasta, *Porque;
-    };
-    constexpr TCaso CCasos[] = {
+    const std::tuple<const char*, const char*, const char*> casos[] = {
         {"", "", "no file"},
         {"XDG_DESKTOP_DIR=\"$HOME/Mesa\"\n# XDG_DOCUMENTS_DIR=\"/x\"\n", "", "another folder, a remark"},
         {"  XDG_DOCUMENTS_DIR=\"$HOME/Meus Documentos\"\n", "/home/ana/Meus Documentos", "below the home folder"},
@@ -135,8 +131,8 @@ TEST(MaquinaLinux, PastaDeDocumentos) {
         {"XDG_DOCUMENTS_DIR=\"/a\"\nXDG_DOCUMENTS_DIR=\"/b\"\n", "/b", "the last one holds"},
         {"XDG_DOCUMENTS_DIR=\"/a\\", "/a\\", "cut off"},
     };
-    for (const TCaso& caso : CCasos)
-        EXPECT_EQ(LerPastaDeDocumentos(caso.Texto, "/home/ana"), caso.Pasta) << caso.Porque;
+    for (const auto& [texto, pasta, porque] : casos)
+        EXPECT_EQ(LerPastaDeDocumentos(texto, "/home/ana"), pasta) << porque;
 
     const TVariavel configuracoes("XDG_CONFIG_HOME", "/nao/existe");
     const TVariavel inicio("HOME", "/home/ana/");

@@ -3,13 +3,11 @@
 #include "oryutils/runtime/NumeroTexto.hpp"
 #include "oryutils/system/OryUtilsRegistry.hpp"
 
+#include "comum/Acaso.hpp"
+#include "files/ApoioArquivos.hpp"
 #include "system/Ambiente.hpp"
 #include "system/RegistroDeTeste.hpp"
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <random>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -55,21 +53,14 @@ std::u16string TextoDe(long ANumero, std::size_t ATamanho) {
 class TArmazem : public Teste::TRegistro {
 protected:
     std::string BuscarArquivo() const { return Isolado.Pasta + "/HKEY_LOCAL_MACHINE.reg"; }
-    std::string LerArquivo() const {
-        std::ifstream arquivo(BuscarArquivo(), std::ios::binary);
-        return {std::istreambuf_iterator<char>(arquivo), {}};
-    }
-    void EscreverArquivo(const std::string& ABytes) const {
-        std::ofstream(BuscarArquivo(), std::ios::binary) << ABytes;
-    }
+    std::string LerArquivo() const { return LerBytes(BuscarArquivo()); }
+    void EscreverArquivo(const std::string& ABytes) const { GravarBytes(BuscarArquivo(), ABytes); }
 };
 
 TEST_F(TArmazem, MilGravadoresMortosNaoEstragamNada) {
     constexpr long CNomes = 8;
     constexpr std::size_t CTamanho = 3000;
-    const unsigned semente = std::random_device()();
-    SCOPED_TRACE(semente);
-    std::mt19937 sorteio(semente);
+    Testes::TAcaso sorteio;
     // A value of a kind that nobody knows, besides those that are written.
     EscreverArquivo(LerArquivo() + Interno::BytesDeUnidades(u"[HKEY_LOCAL_MACHINE\\" + std::u16string(CChave) +
                                                             u"]\r\n\"outro\"=hex(abcd):01\r\n"));
@@ -100,13 +91,12 @@ TEST_F(TArmazem, MilGravadoresMortosNaoEstragamNada) {
         TRegistry leitor(arLeitura);
         leitor.SetRootKey(crLocalMachine);
         ASSERT_TRUE(leitor.OpenKey(CChave, false));
-        for (long nome = 0; nome < CNomes; ++nome) {
-            auto& esperado = esperados[static_cast<std::size_t>(nome)];
-            const std::u16string texto = leitor.ReadString(u"v" + InteiroParaTexto(nome));
-            // Killed between the write and its confirmation: all of the new text, or all of the old.
-            if (nome == (escrito + 1) % CNomes && texto == TextoDe(escrito + 1, CTamanho)) esperado = texto;
-            ASSERT_EQ(texto, esperado) << "round " << rodada;
-        }
+        std::vector<std::u16string> textos;
+        for (long nome = 0; nome < CNomes; ++nome) textos.push_back(leitor.ReadString(u"v" + InteiroParaTexto(nome)));
+        // Killed between the write and its confirmation: all of the new text, or all of the old.
+        const auto proximo = static_cast<std::size_t>((escrito + 1) % CNomes);
+        if (textos[proximo] == TextoDe(escrito + 1, CTamanho)) esperados[proximo] = textos[proximo];
+        ASSERT_EQ(textos, esperados) << "round " << rodada;
     }
     EXPECT_GT(mortosNoMeio, 0) << "some must have been writing when they were killed";
     EXPECT_EQ(Teste::LerDoSistema(CChave, u"outro"), u"hex(abcd):01");
@@ -218,10 +208,9 @@ TEST_F(TArmazem, ArmazemNasceComAsChavesDeTodoWindows) {
     std::filesystem::remove(BuscarArquivo());
     TRegistry leitor(arLeitura);
     leitor.SetRootKey(crLocalMachine);
-    for (const std::u16string_view chave :
-         {u"Software\\Microsoft\\Windows\\CurrentVersion\\Run", u"SYSTEM\\CurrentControlSet\\Control",
-          u"SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Environment",
-          u"Software\\Microsoft\\Windows NT\\CurrentVersion\\Windows"})
+    for (const char16_t* chave : {u"Software\\Microsoft\\Windows\\CurrentVersion\\Run",
+                                  u"SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Environment",
+                                  u"Software\\Microsoft\\Windows NT\\CurrentVersion\\Windows"})
         EXPECT_TRUE(leitor.KeyExists(chave));
     ASSERT_TRUE(leitor.OpenKey(u"\\Software\\Microsoft\\Windows\\CurrentVersion", false));
     EXPECT_EQ(leitor.ReadString(u"ProgramFilesDir"), u"/opt");

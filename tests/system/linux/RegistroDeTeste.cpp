@@ -1,12 +1,10 @@
 #include "system/RegistroDeTeste.hpp"
 
-#include "oryutils/characters/Caixa.hpp"
+#include "oryutils/readers/ArquivoReg.hpp"
 
-#include <array>
+#include "files/ApoioArquivos.hpp"
+
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <unistd.h>
 
 namespace Teste {
@@ -25,24 +23,13 @@ TRegistroIsolado::~TRegistroIsolado() {
     std::filesystem::remove_all(Pasta);
 }
 
-// Good enough for values of one line.
-std::u16string LerDoSistema(std::u16string_view AChave, std::u16string_view AValor) {
-    std::ifstream arquivo(std::string(std::getenv("ORYUTILS_REGISTRO")) + "/HKEY_LOCAL_MACHINE.reg", std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(arquivo), {}};
-    std::u16string texto;
-    for (std::size_t i = 2; i + 1 < bytes.size(); i += 2)
-        texto +=
-            static_cast<char16_t>(static_cast<unsigned char>(bytes[i]) | static_cast<unsigned char>(bytes[i + 1]) << 8);
-    const auto minusculas = OryUtils::MinusculaDe(texto);
-    const auto secao = OryUtils::MinusculaDe(u"\r\n[HKEY_LOCAL_MACHINE\\" + std::u16string(AChave) + u"]\r\n");
-    std::size_t inicio = minusculas.find(secao);
-    if (inicio == texto.npos) return {};
-    const std::size_t proxima = texto.find(u"\r\n[", inicio + secao.size() - 2);
-    const std::u16string linha = u"\r\n\"" + std::u16string(AValor) + u"\"=";
-    inicio = texto.find(linha, inicio);
-    if (inicio >= proxima) return {};
-    inicio += linha.size();
-    return texto.substr(inicio, texto.find(u"\r\n", inicio) - inicio);
+std::optional<OryUtils::Interno::TDadoRegistro> LerDadoDoSistema(std::u16string_view AChave,
+                                                                 std::u16string_view AValor) {
+    const auto nome = std::filesystem::path(std::getenv("ORYUTILS_REGISTRO")) / "HKEY_LOCAL_MACHINE.reg";
+    auto arquivo = OryUtils::Interno::LerArquivoReg(LerBytes(nome));
+    const auto* chave = arquivo ? arquivo->Topo.Buscar(u"HKEY_LOCAL_MACHINE\\" + std::u16string(AChave)) : nullptr;
+    if (!chave || !chave->Valores.contains(AValor)) return {};
+    return chave->Valores.find(AValor)->second;
 }
 
 }  // namespace Teste

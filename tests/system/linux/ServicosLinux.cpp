@@ -8,8 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <iterator>
-
 using namespace OryUtils;
 using namespace Interno;
 namespace fs = std::filesystem;
@@ -45,12 +43,8 @@ protected:
         Escrever("id", "MainPID=0\n");
         Escrever("trabalho", "");
     }
-    void Escrever(const char* ANome, std::string_view ATexto) { std::ofstream(FPasta / ANome) << ATexto; }
-    std::string Ler(const fs::path& ANome) {
-        std::ifstream arquivo(FPasta / ANome);
-        return {std::istreambuf_iterator<char>(arquivo), {}};
-    }
-    Interno::TAbrirGerenciador Abrir() {
+    void Escrever(const char* ANome, std::string_view ATexto) { GravarBytes(FPasta / ANome, ATexto); }
+    TAbrirGerenciador Abrir() {
         return [this](std::u16string_view AMaquina, TAcessoGerenciador AAcesso) {
             return AMaquina.empty() ? AbrirSystemd((FPasta / "unidades").string(), AAcesso) : nullptr;
         };
@@ -62,19 +56,21 @@ protected:
 
 TEST_F(ServicosLinux, DaInstalacaoARemocao) {
     const auto abrir = Abrir();
-    EXPECT_EQ(Interno::BuscarStatusServico(abrir, u"", u"Ory"), sswErro);
-    ASSERT_TRUE(Interno::InstalouServico(abrir, u"Ory", u"Eventos 100%", u"\"/opt/a b/ory\" --porta 1 $x").Status);
-    EXPECT_EQ(Ler("unidades/Ory.service"),
+    InstalouServico(abrir, u"--now", u"", u"/bin/true");
+    EXPECT_TRUE(fs::is_empty(FPasta / "unidades")) << "a name that would be an option makes nothing";
+    EXPECT_EQ(BuscarStatusServico(abrir, u"", u"Ory"), sswErro);
+    ASSERT_TRUE(InstalouServico(abrir, u"Ory", u"Eventos 100%", u"\"/opt/a b/ory\" --porta 1 $x").Status);
+    EXPECT_EQ(LerBytes(FPasta / "unidades/Ory.service"),
               "[Unit]\nDescription=Eventos 100%%\n\n[Service]\nExecStart=\"/opt/a b/ory\" \"--porta\" \"1\" \"$$x\"\n\n"
               "[Install]\nWantedBy=multi-user.target\n");
-    EXPECT_EQ(Interno::BuscarStatusServico(abrir, u"", u"Ory.service"), sswServicoParado);
-    EXPECT_TRUE(Interno::IniciarServico(abrir, u"", u"Ory"));
+    EXPECT_EQ(BuscarStatusServico(abrir, u"", u"Ory.service"), sswServicoParado);
+    EXPECT_TRUE(IniciarServico(abrir, u"", u"Ory"));
     Escrever("id", "MainPID=4242\n");
-    EXPECT_EQ(Interno::BuscarIDProcessoServico(abrir, u"", u"Ory"), 4242U);
-    EXPECT_TRUE(Interno::PararServico(abrir, u"", u"Ory", 10));
-    EXPECT_TRUE(Interno::DesinstalouServico(abrir, u"Ory").Status);
-    EXPECT_EQ(Interno::BuscarStatusServico(abrir, u"", u"Ory"), sswErro);
-    const std::string chamadas = Ler("chamadas");
+    EXPECT_EQ(BuscarIDProcessoServico(abrir, u"", u"Ory"), 4242U);
+    EXPECT_TRUE(PararServico(abrir, u"", u"Ory", 10));
+    EXPECT_TRUE(DesinstalouServico(abrir, u"Ory").Status);
+    EXPECT_EQ(BuscarStatusServico(abrir, u"", u"Ory"), sswErro);
+    const std::string chamadas = LerBytes(FPasta / "chamadas");
     for (const char* chamada : {"daemon-reload\n", "enable Ory.service\n", "start --no-block Ory.service\n",
                                 "stop --no-block Ory.service\n", "disable Ory.service\n"})
         EXPECT_NE(chamadas.find(chamada), std::string::npos) << chamada;
@@ -82,40 +78,37 @@ TEST_F(ServicosLinux, DaInstalacaoARemocao) {
 
 TEST_F(ServicosLinux, EstadosDoSystemd) {
     Escrever("unidades/Ory.service", "");
-    const auto estado = [&](const char* AAtivo, const char* ACongelado = "running") {
-        Escrever("estado", std::string("ActiveState=") + AAtivo + "\n");
-        Escrever("congelado", std::string("FreezerState=") + ACongelado + "\n");
-        return Interno::BuscarStatusServico(Abrir(), u"", u"Ory");
+    const std::tuple<std::string, std::string, TStatusServicoWindows> casos[] = {
+        {"inactive", "running", sswServicoParado},
+        {"failed", "running", sswServicoParado},
+        {"activating", "running", sswServicoInicializacaoPendente},
+        {"deactivating", "running", sswServicoParadaPendente},
+        {"active", "running", sswServicoRodando},
+        {"active", "thawing", sswServicoContinuaPendente},
+        {"active", "freezing", sswServicoPausaPendente},
+        {"active", "frozen", sswServicoPausado},
+        {"unheard-of", "running", sswErro},
     };
-    EXPECT_EQ(estado("inactive"), sswServicoParado);
-    EXPECT_EQ(estado("failed"), sswServicoParado);
-    EXPECT_EQ(estado("activating"), sswServicoInicializacaoPendente);
-    EXPECT_EQ(estado("deactivating"), sswServicoParadaPendente);
-    EXPECT_EQ(estado("active"), sswServicoRodando);
-    EXPECT_EQ(estado("active", "thawing"), sswServicoContinuaPendente);
-    EXPECT_EQ(estado("active", "freezing"), sswServicoPausaPendente);
-    EXPECT_EQ(estado("active", "frozen"), sswServicoPausado);
-    EXPECT_EQ(estado("unheard-of"), sswErro);
+    for (const auto& [ativo, congelado, esperado] : casos) {
+        Escrever("estado", "ActiveState=" + ativo + "\n");
+        Escrever("congelado", "FreezerState=" + congelado + "\n");
+        EXPECT_EQ(BuscarStatusServico(Abrir(), u"", u"Ory"), esperado) << ativo << ' ' << congelado;
+    }
 }
 
 TEST_F(ServicosLinux, SemSystemdRespondeErro) {
     for (const char* situacao : {"offline\n", "unknown\n", ""}) {
         Escrever("situacao", situacao);
-        EXPECT_EQ(Interno::BuscarStatusServico(Abrir(), u"", u"Ory"), sswErro);
-        EXPECT_FALSE(Interno::InstalouServico(Abrir(), u"Ory", u"", u"/bin/true").Status);
+        EXPECT_EQ(BuscarStatusServico(Abrir(), u"", u"Ory"), sswErro);
+        EXPECT_FALSE(InstalouServico(Abrir(), u"Ory", u"", u"/bin/true").Status);
     }
     const Testes::TVariavel caminho("PATH", "/nao/existe");
-    EXPECT_FALSE(Interno::DesinstalouServico(Abrir(), u"Ory").Status);
+    EXPECT_FALSE(DesinstalouServico(Abrir(), u"Ory").Status);
     const TResultStatus semSc = TOryUtilsSistema::ConfigurouDependenciaServico(u"Ory", u"Firebird");
     EXPECT_FALSE(semSc.Status);
     EXPECT_NE(semSc.Mensagem.find(u"o comando sc não foi encontrado"), std::u16string::npos);
     EXPECT_FALSE(TOryUtilsSistema::LiberouPortaFirewallWindows(tpTCP, 1, u"x").Status);
     EXPECT_EQ(TOryUtilsSistema::BuscarStatusServico(u"outra-maquina", u"Ory"), sswErro);
-}
-
-TEST_F(ServicosLinux, UmNomeQueSeriaUmaOpcaoNaoCriaNada) {
-    Interno::InstalouServico(Abrir(), u"--now", u"", u"/bin/true");
-    EXPECT_TRUE(fs::is_empty(FPasta / "unidades"));
 }
 
 }  // namespace

@@ -8,14 +8,16 @@
 //   criar NOME          makes a file
 //   parar A B           prints "a", makes the file A, waits until the file B exists, prints "b"
 //   dormir NOME         makes a file when it is up and lives for a minute
+// While the variable ORY_PROGRAMAS_FALSOS names a folder it stands for a command of the system, under whatever name it
+// was copied to: it writes how it was called, a line each time and "|" between the arguments, to "chamadas" in that
+// folder, and prints the file "<name>.<how often called>".
 #include "Sistema.hpp"
 
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <ctime>
+#include <filesystem>
 #include <fstream>
-#include <iostream>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -36,20 +38,42 @@ void EscreverLinhas(std::size_t AQuantidade) {
 
 bool Existe(const std::string& ANome) { return std::ifstream(ANome).good(); }
 
+void EscreverArquivo(const std::filesystem::path& ANome) {
+    std::ifstream arquivo(ANome, std::ios::binary);
+    Escrever({std::istreambuf_iterator<char>(arquivo), {}});
+}
+
+void FazerDeConta(const std::filesystem::path& APasta, const char* APrograma,
+                  const std::vector<std::string>& AArgumentos) {
+    const std::string nome = std::filesystem::path(APrograma).stem().string();
+    int vez = 1;
+    std::ifstream anteriores(APasta / "chamadas");
+    for (std::string linha; std::getline(anteriores, linha);) vez += linha.substr(0, linha.find('|')) == nome;
+    anteriores.close();
+    std::ofstream chamadas(APasta / "chamadas", std::ios::app);
+    chamadas << nome;
+    for (const std::string& argumento : AArgumentos) chamadas << '|' << argumento;
+    chamadas << '\n';
+    EscreverArquivo(APasta / (nome + "." + std::to_string(vez)));
+}
+
 }  // namespace
 
 int main(int AQuantidade, char** AArgumentos) {
     const std::vector<std::string> argumentos(AArgumentos + 1, AArgumentos + AQuantidade);
-    if (argumentos.empty()) return 2;
     Sistema::PrepararSaida();
+    if (const char* pasta = std::getenv("ORY_PROGRAMAS_FALSOS")) {
+        FazerDeConta(pasta, AArgumentos[0], argumentos);
+        return 0;
+    }
+    if (argumentos.empty()) return 2;
     const std::string& acao = argumentos[0];
     if (acao == "argumentos") {
         for (std::size_t i = 1; i < argumentos.size(); ++i) Escrever('[' + argumentos[i] + "]\n");
     } else if (acao == "linhas") {
         EscreverLinhas(std::stoul(argumentos[1]));
     } else if (acao == "arquivo") {
-        std::ifstream arquivo(argumentos[1], std::ios::binary);
-        Escrever({std::istreambuf_iterator<char>(arquivo), {}});
+        EscreverArquivo(argumentos[1]);
     } else if (acao == "erro") {
         std::fputs(argumentos[1].c_str(), stderr);
     } else if (acao == "herdar") {

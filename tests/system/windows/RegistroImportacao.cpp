@@ -3,11 +3,8 @@
 #include "oryutils/platform/windows/Windows.hpp"
 #include "oryutils/readers/ArquivoReg.hpp"
 
+#include "files/ApoioArquivos.hpp"
 #include "system/RegistroDeTeste.hpp"
-
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 
 using namespace OryUtils;
 using Interno::BytesDeUnidades;
@@ -46,10 +43,9 @@ TEST_F(TRegistro, EditorDoSistemaImportaEExporta) {
     };
     Interno::TChaveReg topo;
     for (const auto& [nome, dado] : valores) topo.Criar(chave).Valores[nome] = dado;
-    const auto pasta = std::filesystem::temp_directory_path();
-    const auto caminho = pasta / "oryutils-teste.reg";
-    std::ofstream(caminho, std::ios::binary) << Interno::EscreverArquivoReg(topo);
-    ExecutarRegedit(u"/S \"" + caminho.u16string() + u"\"");
+    const TPastaTemporaria pasta(u"oryregistro");
+    const std::u16string caminho = pasta.Gravar(u"teste.reg", Interno::EscreverArquivoReg(topo));
+    ExecutarRegedit(u"/S \"" + caminho + u"\"");
 
     Interno::TChaveRegistro aberta;
     ASSERT_EQ(aberta.Abrir(crLocalMachine, abaixo, arLeitura, false), Interno::erNenhum);
@@ -62,13 +58,9 @@ TEST_F(TRegistro, EditorDoSistemaImportaEExporta) {
     aberta.ListarValores(nomes);
     EXPECT_EQ(nomes.size(), std::size(valores));
 
-    std::filesystem::remove(caminho);
-    ExecutarRegedit(u"/E \"" + caminho.u16string() + u"\" \"HKEY_LOCAL_MACHINE\\" + std::u16string(Teste::CChave) +
-                    u"\"");
-    std::ifstream exportado(caminho, std::ios::binary);
-    auto lido = Interno::LerArquivoReg(std::string{std::istreambuf_iterator<char>(exportado), {}});
-    exportado.close();
-    std::filesystem::remove(caminho);
+    const std::u16string exportado = pasta.Nome("exportado.reg");
+    ExecutarRegedit(u"/E \"" + exportado + u"\" \"HKEY_LOCAL_MACHINE\\" + std::u16string(Teste::CChave) + u"\"");
+    auto lido = Interno::LerArquivoReg(LerBytes(exportado));
     const Interno::TChaveReg* lida = lido ? lido->Topo.Buscar(chave) : nullptr;
     ASSERT_TRUE(lida);
     for (const auto& [nome, esperado] : valores) {
