@@ -26,29 +26,25 @@ TLinhas Executar(std::u16string_view ALinha) {
     return linhas;
 }
 
-TEST(Comandos, OsArgumentosChegamComoEscritos) {
-    EXPECT_EQ(Executar(Comando(uR"(argumentos um "dois tres" "" a\b "c\\" d\"e)")),
-              (TLinhas{u"[um]", u"[dois tres]", u"[]", u"[a\\b]", u"[c\\]", u"[d\"e]"}));
-}
-
 TEST(Comandos, CadaSaidaComoOComandoATermina) {
-    struct TCaso {
-        std::u16string_view Argumentos;
-        TLinhas Esperado;
-        const char* Porque;
-    };
-    const TCaso casos[] = {
+    const std::tuple<std::u16string_view, TLinhas, const char*> casos[] = {
         {u"nada", {u"ja havia"}, "nothing printed leaves the list"},
         {u"argumentos a b", {u"ja havia[a]", u"[b]"}, "the output goes on with the text of the list"},
+        {uR"(argumentos "dois tres" "" a\b "c\\" d\"e)",
+         {u"ja havia[dois tres]", u"[]", u"[a\\b]", u"[c\\]", u"[d\"e]"},
+         "arguments come as written"},
         {u"erro falhou", {u"ja haviafalhou"}, "standard error is captured too"},
         {u"morrer", {u"ja haviaantes"}, "a command that is killed gives what it printed before"},
     };
-    for (const TCaso& caso : casos) {
+    for (const auto& [argumentos, esperado, porque] : casos) {
         TLinhas linhas{u"ja havia"};
-        TOryUtilsSistema::ExecutarComandoComRetorno(Comando(caso.Argumentos), linhas);
-        EXPECT_EQ(linhas, caso.Esperado) << caso.Porque;
+        TOryUtilsSistema::ExecutarComandoComRetorno(Comando(argumentos), linhas);
+        EXPECT_EQ(linhas, esperado) << porque;
     }
     EXPECT_EQ(ExecutarComandoComRetorno(Comando(u"argumentos a b")), u"[a]\r\n[b]") << "the form with one text";
+    const std::u16string herdado = ExecutarComandoComRetorno(Comando(u"herdar"));
+    EXPECT_TRUE(herdado.starts_with(u"pai")) << "of the command itself";
+    EXPECT_TRUE(herdado.ends_with(u"filho")) << "printed after the command had ended, by what inherited the output";
 }
 
 TEST(Comandos, OQueNaoIniciaDeixaALista) {
@@ -63,41 +59,20 @@ TEST(Comandos, OQueNaoIniciaDeixaALista) {
     }
 }
 
-TEST(Comandos, QuemHerdaASaidaAindaEscreve) {
-    const std::u16string texto = TOryUtilsSistema::ExecutarComandoComRetorno(Comando(u"herdar"));
-    EXPECT_TRUE(texto.starts_with(u"pai")) << "of the command itself";
-    EXPECT_TRUE(texto.ends_with(u"filho")) << "printed after the command had ended";
-}
-
-// The program prints at once, so the chunks are those of the bytes.
+// The program prints at once, so the chunks are those of the bytes; broken letters are decoded chunk by chunk.
 TEST(Comandos, CemMegabytes) {
-    constexpr std::size_t CBytes = 100'000'000;
-    std::u16string bloco;
-    while (bloco.size() < 64000)
-        bloco += std::u16string(999, static_cast<char16_t>(u'a' + bloco.size() / 1000 % 26)) + u'\n';
-    std::u16string saida;
-    while (saida.size() < CBytes) saida += bloco;
-    saida.resize(CBytes);
-    std::u16string esperado;
-    for (std::size_t i = 0; i < CBytes; i += 255)
-        for (const char16_t letra : Aparar(std::u16string_view(saida).substr(i, 255)))
-            letra == u'\n' ? esperado += u"\r\n" : esperado += letra;
-    const std::u16string comando = Comando(u"linhas 100000000");
-    EXPECT_TRUE(TOryUtilsSistema::ExecutarComandoComRetorno(comando) == esperado);
-    EXPECT_TRUE(Interno::JuntarLinhas(Executar(comando)) == esperado);
-}
-
-TEST(Comandos, BytesQuebradosSaoLidosParteAParte) {
-    const TPastaTemporaria pasta;
     std::string bytes;
-    for (int i = 0; i < 60; ++i) bytes += "ação\xFF\x80\xC3 \xE2\x82 😀\r\n";
-    std::ofstream(pasta / "saida", std::ios::binary) << bytes;
+    while (bytes.size() < 100'000'000)
+        bytes += std::string(bytes.size() % 999, static_cast<char>('a' + bytes.size() % 26)) +
+                 "\r\nação\xFF\x80\xC3 \xE2\x82 😀\r\n";
     std::u16string esperado;
     Interno::TDecodificadorAnsi decodificador;
     for (std::size_t i = 0; i < bytes.size(); i += 255)
-        esperado += Aparar(decodificador.Decodificar(bytes.substr(i, 255)));
-    EXPECT_EQ(TOryUtilsSistema::ExecutarComandoComRetorno(Comando(u"arquivo " + EntreAspas(pasta / "saida"))),
-              esperado);
+        esperado += Aparar(decodificador.Decodificar(std::string_view(bytes).substr(i, 255)));
+    const TPastaTemporaria pasta;
+    const std::u16string comando = Comando(u"arquivo " + EntreAspas(pasta.Gravar(u"saida", bytes)));
+    EXPECT_TRUE(TOryUtilsSistema::ExecutarComandoComRetorno(comando) == esperado);
+    EXPECT_TRUE(Interno::JuntarLinhas(Executar(comando)) == esperado);
 }
 
 TEST(Comandos, AsMensagensFluemEUmaPausaFechaAParte) {

@@ -1,6 +1,5 @@
 // The settings of the registry: what is written is read back without the library (LerDoSistema).
 #include "oryutils/runtime/Formatos.hpp"
-#include "oryutils/system/OryUtilsRegistry.hpp"
 #include "oryutils/system/interno/CotaObjetosGDI.hpp"
 
 #include "comum/MensagemDe.hpp"
@@ -53,73 +52,70 @@ TEST_F(TRegistro, EscreveCadaTipoComoOSistemaOLe) {
         {TNulo(), u"", "null"},
         {std::vector<Variant>{1, 2}, u"", "an array"},
     };
-    TOryUtilsRegistro registro;
     for (const auto& [valor, esperado, porque] : casos) {
         SCOPED_TRACE(porque);
-        EXPECT_EQ(registro.AdicionouValor(crLocalMachine, CChave, valor, u"Valor"), TResultStatus());
+        EXPECT_EQ(Registro.AdicionouValor(crLocalMachine, CChave, valor, u"Valor"), TResultStatus());
         EXPECT_EQ(LerDoSistema(CChave, u"Valor"), esperado);
-        EXPECT_EQ(registro.ExisteValor(crLocalMachine, CChave, u"vALOR"), !esperado.empty());
-        EXPECT_EQ(registro.ExcluiuValor(crLocalMachine, CChave, u"VALOR").Status, !esperado.empty());
+        EXPECT_EQ(Registro.ExisteValor(crLocalMachine, CChave, u"vALOR"), !esperado.empty());
+        EXPECT_EQ(Registro.ExcluiuValor(crLocalMachine, CChave, u"VALOR").Status, !esperado.empty());
     }
 }
 
 TEST_F(TRegistro, LeDeVoltaORecusaOutroTipo) {
-    TOryUtilsRegistro registro;
     for (const int inteiro : {0, 1, -1, INT32_MAX, INT32_MIN}) {
-        registro.AdicionarValor(crLocalMachine, CChave, inteiro, u"i");
-        EXPECT_EQ(registro.GetChave(crLocalMachine, CChave).ReadInteger(u"i"), inteiro);
+        Registro.AdicionarValor(crLocalMachine, CChave, inteiro, u"i");
+        EXPECT_EQ(Registro.GetChave(crLocalMachine, CChave).ReadInteger(u"i"), inteiro);
     }
     for (const double numero : {0.0, -0.1, 1e300}) {
-        registro.AdicionarValor(crLocalMachine, CChave, numero, u"f");
-        EXPECT_EQ(registro.GetChave(crLocalMachine, CChave).ReadFloat(u"f"), numero);
+        Registro.AdicionarValor(crLocalMachine, CChave, numero, u"f");
+        EXPECT_EQ(Registro.GetChave(crLocalMachine, CChave).ReadFloat(u"f"), numero);
     }
     for (const std::u16string texto : {u"", u"linha 1\r\nlinha 2", u"\t;=[]@\"\\", u"\xD800 só"}) {
-        registro.AdicionarValor(crLocalMachine, CChave, texto, u"s");
-        EXPECT_EQ(registro.GetValorRegistro(crLocalMachine, CChave, u"s"), texto);
+        Registro.AdicionarValor(crLocalMachine, CChave, texto, u"s");
+        EXPECT_EQ(Registro.GetValorRegistro(crLocalMachine, CChave, u"s"), texto);
     }
-    EXPECT_EQ(registro.GetValorRegistro(crLocalMachine, CChave, u"falta"), u"");
-    EXPECT_EQ(registro.GetValorRegistro(crLocalMachine, u"Nao\\Existe", u"s"), u"");
+    EXPECT_EQ(Registro.GetValorRegistro(crLocalMachine, CChave, u"falta"), u"");
+    EXPECT_EQ(Registro.GetValorRegistro(crLocalMachine, u"Nao\\Existe", u"s"), u"");
 
-    TRegistry& acessor = registro.GetChave(crLocalMachine, CChave);
+    TRegistry& acessor = Registro.GetChave(crLocalMachine, CChave);
     EXPECT_EQ(MensagemDe([&] { acessor.ReadString(u"i"); }), "Tipo de dado inválido para 'i'");
     EXPECT_EQ(MensagemDe([&] { acessor.ReadInteger(u"s"); }), "Tipo de dado inválido para 's'");
     EXPECT_EQ(MensagemDe([&] { acessor.ReadFloat(u"i"); }), "Tipo de dado inválido para 'i'");
     EXPECT_EQ(MensagemDe([&] { acessor.ReadInteger(u"falta"); }), "Falha ao obter dados de 'falta'");
-    EXPECT_EQ(MensagemDe([&] { registro.GetValorRegistro(crLocalMachine, CChave, u"i"); }),
+    EXPECT_EQ(MensagemDe([&] { Registro.GetValorRegistro(crLocalMachine, CChave, u"i"); }),
               "Tipo de dado inválido para 'i'");
-    EXPECT_FALSE(registro.GetChave(crLocalMachine, u"").GetCurrentPath().size()) << "the root itself opens";
+    EXPECT_FALSE(Registro.GetChave(crLocalMachine, u"").GetCurrentPath().size()) << "the root itself opens";
 }
 
 TEST_F(TRegistro, FalhasDizemChaveEValor) {
     const TFormatosTemporarios formatos(BuscarFormatosBrasileiros());
-    TOryUtilsRegistro registro;
     const std::pair<TValorRegistro, const char16_t*> casos[] = {{u"um texto", u"um texto"},
                                                                 {std::int64_t{1} << 40, u"1099511627776"},
                                                                 {1.5, u"1,5"},
                                                                 {TDateTime(45000.0), u"15/03/2023"},
                                                                 {u'x', u"x"}};
     for (const auto& [valor, texto] : casos)
-        Falhou(registro.AdicionouValor(crLocalMachine, u"Software\\Nao\\Existe", valor, u"Nome"),
+        Falhou(Registro.AdicionouValor(crLocalMachine, u"Software\\Nao\\Existe", valor, u"Nome"),
                u"Erro ao adicionar valor no registro do Windows.\r\nChave: Software\\Nao\\Existe\r\nValor: " +
                    std::u16string(texto) + u"\r\n\r\nErro ocorrido: \r\n\r\nFalha ao definir dados para 'Nome'",
                "a missing key is not created, and Valor is the content");
-    EXPECT_EQ(registro.AdicionouValor(crLocalMachine, u"Software\\Nao\\Existe", true, u"Nome"), TResultStatus());
-    EXPECT_FALSE(registro.ExisteChave(crLocalMachine, u"Software", u"Nao"));
+    EXPECT_EQ(Registro.AdicionouValor(crLocalMachine, u"Software\\Nao\\Existe", true, u"Nome"), TResultStatus());
+    EXPECT_FALSE(Registro.ExisteChave(crLocalMachine, u"Software", u"Nao"));
 
-    Falhou(registro.ExcluiuValor(crLocalMachine, CChave, u"Nome"),
+    Falhou(Registro.ExcluiuValor(crLocalMachine, CChave, u"Nome"),
            u"Erro ao excluir valor do registro do Windows.\r\nChave: Software\\OryUtilsTeste\r\nValor: Nome",
            "a missing value");
     const std::u16string motivo = Interno::BuscarTextoDoErroRegistro(Interno::erNaoExiste);
     EXPECT_FALSE(motivo.empty());
-    Falhou(registro.ExcluiuChave(crLocalMachine, CChave, u"Sub"),
+    Falhou(Registro.ExcluiuChave(crLocalMachine, CChave, u"Sub"),
            u"Não foi possível excluir a chave/valor << Sub >>.\r\nErro ocorrido: \r\n\r\n" + motivo, "a missing key");
-    Falhou(registro.ExcluiuProgramaInicializacaoWindows(u"OryUtils %s Teste"),
+    Falhou(Registro.ExcluiuProgramaInicializacaoWindows(u"OryUtils %s Teste"),
            u"Não foi possível excluir a configuração de auto início da aplicação com o Windows.\r\n\r\nErro ocorrido: "
            u"\r\n\r\nErro ao excluir valor do registro do Windows.\r\nChave: " +
                std::u16string(CRun) + u"\r\nValor: OryUtils %s Teste" + std::u16string(CConselho),
            "a missing entry");
     const std::u16string longo(16384, u'n');
-    Falhou(registro.AdicionouProgramaInicializacaoWindows(longo, u"x.exe"),
+    Falhou(Registro.AdicionouProgramaInicializacaoWindows(longo, u"x.exe"),
            u"Não foi possível configurar aplicação para iniciar automaticamente com o Windows.\r\n\r\nAplicação: " +
                longo + u" \r\n\r\nErro ocorrido: \r\n\r\nFalha ao definir dados para '" + longo + u"'" +
                std::u16string(CConselho),
@@ -127,30 +123,29 @@ TEST_F(TRegistro, FalhasDizemChaveEValor) {
 }
 
 TEST_F(TRegistro, ChavesNuncaCaemNaRaiz) {
-    TOryUtilsRegistro registro;
-    registro.CriarChave(crLocalMachine, CChave, u"A\\B");
-    EXPECT_TRUE(registro.ExisteChave(crLocalMachine, CChave, u"a\\b"));
-    registro.AdicionarValor(crLocalMachine, u"\\Software\\OryUtilsTeste\\A\\B\\", 1, u"v");
+    Registro.CriarChave(crLocalMachine, CChave, u"A\\B");
+    EXPECT_TRUE(Registro.ExisteChave(crLocalMachine, CChave, u"a\\b"));
+    Registro.AdicionarValor(crLocalMachine, u"\\Software\\OryUtilsTeste\\A\\B\\", 1, u"v");
     EXPECT_EQ(LerDoSistema(u"Software\\OryUtilsTeste\\A\\B", u"v"), u"dword:00000001");
 
-    EXPECT_FALSE(registro.ExisteChave(crLocalMachine, u"Nao\\Existe", u"Software"));
-    registro.CriarChave(crLocalMachine, u"Nao\\Existe", u"OryUtilsTeste");
-    EXPECT_FALSE(registro.ExisteChave(crLocalMachine, u"", u"OryUtilsTeste"));
-    EXPECT_FALSE(registro.ExcluiuChave(crLocalMachine, u"Nao\\Existe", u"Software").Status);
-    EXPECT_TRUE(registro.ExisteChave(crLocalMachine, u"", u"Software"));
-    EXPECT_FALSE(registro.ExcluiuChave(crLocalMachine, CChave, u"").Status);
+    EXPECT_FALSE(Registro.ExisteChave(crLocalMachine, u"Nao\\Existe", u"Software"));
+    Registro.CriarChave(crLocalMachine, u"Nao\\Existe", u"OryUtilsTeste");
+    EXPECT_FALSE(Registro.ExisteChave(crLocalMachine, u"", u"OryUtilsTeste"));
+    EXPECT_FALSE(Registro.ExcluiuChave(crLocalMachine, u"Nao\\Existe", u"Software").Status);
+    EXPECT_TRUE(Registro.ExisteChave(crLocalMachine, u"", u"Software"));
+    EXPECT_FALSE(Registro.ExcluiuChave(crLocalMachine, CChave, u"").Status);
 
-    TRegistry& acessor = registro.GetChave(crLocalMachine, CChave);
+    TRegistry& acessor = Registro.GetChave(crLocalMachine, CChave);
     EXPECT_TRUE(acessor.EstahAberta());
     EXPECT_EQ(acessor.GetKeyNames(), TLista{u"A"});
     EXPECT_EQ(acessor.GetAccess(), 0xF013Fu);
-    EXPECT_TRUE(registro.ExisteValor(crLocalMachine, u"Software\\OryUtilsTeste\\A\\B", u"v"))
+    EXPECT_TRUE(Registro.ExisteValor(crLocalMachine, u"Software\\OryUtilsTeste\\A\\B", u"v"))
         << "a key left open is not where the next path starts";
     EXPECT_FALSE(acessor.EstahAberta());
 
-    EXPECT_EQ(registro.ExcluiuChave(crLocalMachine, CChave, u"A"), TResultStatus()) << "with all below it";
-    EXPECT_FALSE(registro.ExisteChave(crLocalMachine, CChave, u"A"));
-    EXPECT_TRUE(registro.ExisteChave(crLocalMachine, u"Software", u"OryUtilsTeste"));
+    EXPECT_EQ(Registro.ExcluiuChave(crLocalMachine, CChave, u"A"), TResultStatus()) << "with all below it";
+    EXPECT_FALSE(Registro.ExisteChave(crLocalMachine, CChave, u"A"));
+    EXPECT_TRUE(Registro.ExisteChave(crLocalMachine, u"Software", u"OryUtilsTeste"));
 }
 
 TEST_F(TRegistro, AcessorAbreCaminhosRelativos) {
@@ -185,30 +180,29 @@ TEST_F(TRegistro, VariaveisDeAmbienteComListas) {
         {u"ÇÃO;b", {u"ção"}, u"ÇÃO;b;ção", u"b"},
         {u"x", {}, u"x", u"x"},
     };
-    TOryUtilsRegistro registro;
     TValorPreservado variavel(CAmbiente, CVariavel);
     const auto repor = [&](const char16_t* ATexto) {
         if (ATexto)
-            registro.AdicionarValor(crLocalMachine, CAmbiente, ATexto, CVariavel);
+            Registro.AdicionarValor(crLocalMachine, CAmbiente, ATexto, CVariavel);
         else
             variavel.Excluir();
     };
     for (const auto& [antes, itens, somada, subtraida] : casos) {
         repor(antes);
-        EXPECT_EQ(registro.AdicionouValorVariavelAmbiente(CVariavel, itens), TResultStatus());
-        EXPECT_EQ(registro.BuscarValorVariavelAmbiente(CVariavel), somada);
+        EXPECT_EQ(Registro.AdicionouValorVariavelAmbiente(CVariavel, itens), TResultStatus());
+        EXPECT_EQ(Registro.BuscarValorVariavelAmbiente(CVariavel), somada);
         repor(antes);
-        EXPECT_EQ(registro.ExcluiuValorVariavelAmbiente(CVariavel, itens), TResultStatus());
-        EXPECT_EQ(registro.BuscarValorVariavelAmbiente(CVariavel), subtraida);
+        EXPECT_EQ(Registro.ExcluiuValorVariavelAmbiente(CVariavel, itens), TResultStatus());
+        EXPECT_EQ(Registro.BuscarValorVariavelAmbiente(CVariavel), subtraida);
     }
 
     variavel.Gravar({Interno::tdrTextoExpansivel, std::string("%\0A\0%\0\0\0", 8)});
-    EXPECT_EQ(registro.AdicionouValorVariavelAmbiente(CVariavel, {u"b"}), TResultStatus());
+    EXPECT_EQ(Registro.AdicionouValorVariavelAmbiente(CVariavel, {u"b"}), TResultStatus());
     EXPECT_EQ(LerDoSistema(CAmbiente, CVariavel), u"\"%A%;b\"") << "what was expandable is so no more";
 
     variavel.Gravar({Interno::tdrInteiro, std::string("\1\0\0\0", 4)});
-    for (const TResultStatus& resultado : {registro.AdicionouValorVariavelAmbiente(CVariavel, {u"a", u"b"}),
-                                           registro.ExcluiuValorVariavelAmbiente(CVariavel, {u"a", u"b"})})
+    for (const TResultStatus& resultado : {Registro.AdicionouValorVariavelAmbiente(CVariavel, {u"a", u"b"}),
+                                           Registro.ExcluiuValorVariavelAmbiente(CVariavel, {u"a", u"b"})})
         Falhou(resultado,
                u"Erro ao adicionar valor no registro do Windows.\r\nChave: " + std::u16string(CAmbiente) +
                    u"\r\nValor: a;b\r\n\r\nErro ocorrido: \r\n\r\nTipo de dado inválido para 'ORYUTILS_TESTE_LISTA'",
@@ -217,12 +211,11 @@ TEST_F(TRegistro, VariaveisDeAmbienteComListas) {
 }
 
 TEST_F(TRegistro, InicioAutomatico) {
-    TOryUtilsRegistro registro;
     const TValorPreservado entrada(CRun, u"OryUtilsTeste");
-    EXPECT_EQ(registro.AdicionouProgramaInicializacaoWindows(u"OryUtilsTeste", u"\"C:\\App\\a.exe\" -s"),
+    EXPECT_EQ(Registro.AdicionouProgramaInicializacaoWindows(u"OryUtilsTeste", u"\"C:\\App\\a.exe\" -s"),
               TResultStatus());
     EXPECT_EQ(LerDoSistema(CRun, u"OryUtilsTeste"), u"\"\\\"C:\\\\App\\\\a.exe\\\" -s\"");
-    EXPECT_EQ(registro.ExcluiuProgramaInicializacaoWindows(u"OryUtilsTeste"), TResultStatus());
+    EXPECT_EQ(Registro.ExcluiuProgramaInicializacaoWindows(u"OryUtilsTeste"), TResultStatus());
     EXPECT_EQ(LerDoSistema(CRun, u"OryUtilsTeste"), u"");
 }
 
@@ -235,24 +228,22 @@ TEST_F(TRegistro, CotaDeObjetosGDI) {
         for (const int valor : {INT32_MIN, 255, 256, maior, maior + 1, INT32_MAX})
             EXPECT_EQ(Interno::ValidarCotaObjetosGDI(valor, versao).Mensagem,
                       valor >= 256 && valor <= maior ? u"" : mensagem(texto));
-    TOryUtilsRegistro registro;
     // Wine lacks it.
-    registro.CriarChave(crLocalMachine, u"Software\\Microsoft\\Windows NT\\CurrentVersion", u"Windows");
+    Registro.CriarChave(crLocalMachine, u"Software\\Microsoft\\Windows NT\\CurrentVersion", u"Windows");
     TValorPreservado cota(CGDI, u"GDIProcessHandleQuota");
     cota.Excluir();
-    Falhou(registro.AlterouCotaLimiteObjetosGDI(255), mensagem(u"65536"), "nothing is written");
+    Falhou(Registro.AlterouCotaLimiteObjetosGDI(255), mensagem(u"65536"), "nothing is written");
     EXPECT_EQ(LerDoSistema(CGDI, u"GDIProcessHandleQuota"), u"");
-    EXPECT_EQ(MensagemDe([&] { registro.BuscarValorCotaLimiteObjetosGDI(); }),
+    EXPECT_EQ(MensagemDe([&] { Registro.BuscarValorCotaLimiteObjetosGDI(); }),
               "Falha ao obter dados de 'GDIProcessHandleQuota'");
-    EXPECT_EQ(registro.AlterouCotaLimiteObjetosGDI(65536), TResultStatus());
+    EXPECT_EQ(Registro.AlterouCotaLimiteObjetosGDI(65536), TResultStatus());
     EXPECT_EQ(LerDoSistema(CGDI, u"GDIProcessHandleQuota"), u"dword:00010000");
-    EXPECT_EQ(registro.BuscarValorCotaLimiteObjetosGDI(), u"65536");
+    EXPECT_EQ(Registro.BuscarValorCotaLimiteObjetosGDI(), u"65536");
 }
 
 TEST_F(TRegistro, TempoDeInicioDosServicos) {
-    TOryUtilsRegistro registro;
     const TValorPreservado tempo(CControle, u"ServicesPipeTimeout");
-    EXPECT_EQ(registro.AtualizouTimeoutInicializacaoServico(180'000), TResultStatus());
+    EXPECT_EQ(Registro.AtualizouTimeoutInicializacaoServico(180'000), TResultStatus());
     EXPECT_EQ(LerDoSistema(CControle, u"ServicesPipeTimeout"), u"dword:0002bf20");
 }
 

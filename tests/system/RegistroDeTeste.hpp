@@ -1,7 +1,7 @@
 #pragma once
 
 #include "oryutils/readers/DadoReg.hpp"
-#include "oryutils/runtime/Registro.hpp"
+#include "oryutils/system/OryUtilsRegistry.hpp"
 
 #include <gtest/gtest.h>
 
@@ -82,6 +82,7 @@ protected:
 
     TRegistroIsolado Isolado{};
     OryUtils::TRegistry Acessor{};
+    OryUtils::TOryUtilsRegistro Registro{};
 };
 
 }  // namespace Teste

@@ -5,12 +5,10 @@
 #include "oryutils/platform/linux/PastaDeDocumentos.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 
-#include "system/Ambiente.hpp"
+#include "system/ProgramasFalsos.hpp"
 #include "text/Apoio.hpp"
 
 #include <arpa/inet.h>
-#include <filesystem>
-#include <fstream>
 #include <ifaddrs.h>
 #include <map>
 #include <net/if.h>
@@ -28,6 +26,13 @@ using Testes::TVariavel;
 namespace {
 
 using S = TOryUtilsSistema;
+
+TEST(MaquinaLinux, UmComandoEhProcuradoNoPathESemShell) {
+    Testes::TProgramasFalsos programas;
+    programas.Por("arp", {"1"});
+    EXPECT_EQ(S::ExecutarComandoComRetorno(u"  arp $HOME *;ls"), u"1");
+    EXPECT_EQ(programas.LerChamadas(), "arp|$HOME|*;ls\n");
+}
 
 TEST(MaquinaLinux, Nomes) {
     char nome[256] = {};

@@ -8,7 +8,11 @@
 #include "system/Ambiente.hpp"
 #include "system/RegistroDeTeste.hpp"
 
+#include <array>
+#include <csignal>
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace OryUtils;
@@ -17,38 +21,52 @@ using Testes::TVariavel;
 
 namespace {
 
-// The program of programas/Gravador.cpp.
-class TGravador {
-public:
-    TGravador(char APrefixo, long APrimeiro, long AQuantos, long ANomes, long ATamanho) {
-        std::string comando = std::string("exec '" ORY_GRAVADOR "' ") + APrefixo;
-        for (const long numero : {APrimeiro, AQuantos, ANomes, ATamanho}) comando += ' ' + std::to_string(numero);
-        FSaida = ::popen(comando.c_str(), "r");
-        FProcesso = LerNumero().value_or(0);
-    }
-    ~TGravador() { ::pclose(FSaida); }
-    TGravador(const TGravador&) = delete;
-    TGravador& operator=(const TGravador&) = delete;
-
-    bool Iniciou() const { return FProcesso > 0; }
-    /// The next number that it says to have written; none at the end.
-    std::optional<long> LerNumero() {
-        long numero = 0;
-        if (std::fscanf(FSaida, "%ld", &numero) == 1) return numero;
-        return {};
-    }
-    void Matar() { ::kill(static_cast<pid_t>(FProcesso), SIGKILL); }
-
-private:
-    std::FILE* FSaida = nullptr;
-    long FProcesso = 0;
-};
-
+/// The digits of ANumero repeated up to ATamanho.
 std::u16string TextoDe(long ANumero, std::size_t ATamanho) {
     std::u16string texto;
     while (texto.size() < ATamanho) texto += InteiroParaTexto(ANumero) + u' ';
     return texto;
 }
+
+/// A process that writes settings until it has written AQuantos from APrimeiro on or is killed. Setting i is APrefixo +
+/// (i modulo ANomes), its text TextoDe(i).
+class TGravador {
+public:
+    TGravador(char16_t APrefixo, long APrimeiro, long AQuantos, long ANomes, std::size_t ATamanho) {
+        std::array<int, 2> cano{};
+        EXPECT_EQ(::pipe2(cano.data(), O_CLOEXEC), 0);
+        FProcesso = ::fork();
+        if (FProcesso == 0) {
+            TOryUtilsRegistro registro;
+            for (long i = APrimeiro; i < APrimeiro + AQuantos; ++i) {
+                const std::u16string nome = APrefixo + InteiroParaTexto(i % ANomes);
+                if (!registro.AdicionouValor(crLocalMachine, CChave, TextoDe(i, ATamanho), nome).Status) break;
+                if (::write(cano[1], &i, sizeof i) != sizeof i) break;
+            }
+            ::_exit(0);
+        }
+        ::close(cano[1]);
+        FConfirmados = cano[0];
+    }
+    ~TGravador() {
+        ::close(FConfirmados);
+        ::waitpid(FProcesso, nullptr, 0);
+    }
+    TGravador(const TGravador&) = delete;
+    TGravador& operator=(const TGravador&) = delete;
+
+    /// The next number that it says to have written; none at the end.
+    std::optional<long> LerNumero() {
+        long numero = 0;
+        if (::read(FConfirmados, &numero, sizeof numero) == sizeof numero) return numero;
+        return {};
+    }
+    void Matar() { ::kill(FProcesso, SIGKILL); }
+
+private:
+    int FConfirmados = -1;
+    pid_t FProcesso = 0;
+};
 
 class TArmazem : public Teste::TRegistro {
 protected:
@@ -69,8 +87,7 @@ TEST_F(TArmazem, MilGravadoresMortosNaoEstragamNada) {
     std::vector<std::u16string> esperados(CNomes);
     int mortosNoMeio = 0;
     for (int rodada = 0; rodada < 1000; ++rodada) {
-        TGravador gravador('v', escrito + 1, 1'000'000, CNomes, CTamanho);
-        ASSERT_TRUE(gravador.Iniciou());
+        TGravador gravador(u'v', escrito + 1, 1'000'000, CNomes, CTamanho);
         const auto confirmar = [&](std::optional<long> ANumero) {
             if (ANumero) escrito = *ANumero;
             if (ANumero) esperados[static_cast<std::size_t>(escrito % CNomes)] = TextoDe(escrito, CTamanho);
@@ -106,7 +123,7 @@ TEST_F(TArmazem, OitoGravadoresAoMesmoTempoNaoPerdemNada) {
     constexpr long CQuantos = 50;
     {
         std::vector<std::unique_ptr<TGravador>> gravadores;
-        for (char c = 'a'; c < 'i'; ++c)
+        for (char16_t c = u'a'; c < u'i'; ++c)
             gravadores.push_back(std::make_unique<TGravador>(c, 0, CQuantos, CQuantos, 40));
         for (const auto& gravador : gravadores)
             while (gravador->LerNumero()) {
@@ -131,9 +148,8 @@ TEST_F(TArmazem, CadaRaizTemSeuArquivoESuasPermissoes) {
         fs::remove_all(Isolado.Pasta + "/a");
         const TVariavel armazem("ORYUTILS_REGISTRO", pasta);
         const mode_t anterior = ::umask(mascara);
-        TOryUtilsRegistro registro;
-        registro.AdicionarValor(crLocalMachine, u"Software", 1, u"x");
-        registro.AdicionarValor(crCurrentUser, u"Software", 1, u"x");
+        Registro.AdicionarValor(crLocalMachine, u"Software", 1, u"x");
+        Registro.AdicionarValor(crCurrentUser, u"Software", 1, u"x");
         ::umask(anterior);
         EXPECT_EQ(BuscarModo(pasta), 0755u);
         EXPECT_EQ(BuscarModo(pasta + "/HKEY_LOCAL_MACHINE.reg"), 0644u);
@@ -147,7 +163,7 @@ TEST_F(TArmazem, CadaRaizTemSeuArquivoESuasPermissoes) {
     for (const auto& [variavel, esperada] : {std::pair{casa + "/xdg", casa + "/xdg/oryutils"},
                                              std::pair{std::string("rel"), casa + "/.config/oryutils"}}) {
         const TVariavel configuracoes("XDG_CONFIG_HOME", variavel);
-        TOryUtilsRegistro().AdicionarValor(crCurrentUser, u"Software", 1, u"x");
+        Registro.AdicionarValor(crCurrentUser, u"Software", 1, u"x");
         EXPECT_EQ(BuscarModo(esperada), 0700u);
         EXPECT_EQ(BuscarModo(esperada + "/HKEY_CURRENT_USER.reg"), 0600u);
     }
@@ -157,7 +173,6 @@ TEST_F(TArmazem, QuemNaoPodeGravarSoLe) {
     if (::geteuid() != 0) GTEST_SKIP() << "needs another user to act as";
     ASSERT_EQ(::chmod(Isolado.Pasta.c_str(), 0755), 0);
     ASSERT_EQ(::seteuid(65534), 0);
-    TOryUtilsRegistro registro;
     TRegistry leitor(arLeitura);
     leitor.SetRootKey(crLocalMachine);
     const bool le = leitor.OpenKey(CChave, false);
@@ -165,8 +180,8 @@ TEST_F(TArmazem, QuemNaoPodeGravarSoLe) {
     completo.SetRootKey(crLocalMachine);
     const bool abre = completo.OpenKey(CChave, false);
     const auto motivo = completo.GetUltimoErro();
-    const auto resultado = registro.AdicionouValor(crLocalMachine, CChave, 1, u"x");
-    const auto tempo = registro.AtualizouTimeoutInicializacaoServico(1);
+    const auto resultado = Registro.AdicionouValor(crLocalMachine, CChave, 1, u"x");
+    const auto tempo = Registro.AtualizouTimeoutInicializacaoServico(1);
     ASSERT_EQ(::seteuid(0), 0);
     EXPECT_TRUE(le);
     EXPECT_FALSE(abre) << "all rights are not to be had, as on Windows";
@@ -178,24 +193,23 @@ TEST_F(TArmazem, QuemNaoPodeGravarSoLe) {
 }
 
 TEST_F(TArmazem, ArquivoEstragadoFicaComoEsta) {
-    TOryUtilsRegistro registro;
     for (const std::string& bytes : {std::string("lixo"), LerArquivo() + "x", std::string(1000, '\0')}) {
         EscreverArquivo(bytes);
         TRegistry acessor;
         acessor.SetRootKey(crLocalMachine);
         EXPECT_FALSE(acessor.OpenKey(CChave, true));
         EXPECT_EQ(acessor.GetUltimoErro(), Interno::erCorrompido);
-        EXPECT_FALSE(registro.AdicionouValor(crLocalMachine, CChave, 1, u"x").Status);
-        EXPECT_FALSE(registro.ExcluiuChave(crLocalMachine, u"Software", u"OryUtilsTeste").Status);
-        EXPECT_EQ(registro.GetValorRegistro(crLocalMachine, CChave, u"x"), u"");
+        EXPECT_FALSE(Registro.AdicionouValor(crLocalMachine, CChave, 1, u"x").Status);
+        EXPECT_FALSE(Registro.ExcluiuChave(crLocalMachine, u"Software", u"OryUtilsTeste").Status);
+        EXPECT_EQ(Registro.GetValorRegistro(crLocalMachine, CChave, u"x"), u"");
         EXPECT_EQ(LerArquivo(), bytes);
     }
     const std::string quaseBom =
         "\xFF\xFE" + Interno::BytesDeUnidades(u"Windows Registry Editor Version 5.00\r\n\r\n[HKEY_LOCAL_MACHINE\\" +
                                               std::u16string(CChave) + u"]\r\n\"x\"=\"lido\"\r\n\"y\"=\"cortado");
     EscreverArquivo(quaseBom);
-    EXPECT_EQ(registro.GetValorRegistro(crLocalMachine, CChave, u"x"), u"lido") << "what is understood is read";
-    EXPECT_FALSE(registro.AdicionouValor(crLocalMachine, CChave, 1, u"x").Status) << "writing would lose a line";
+    EXPECT_EQ(Registro.GetValorRegistro(crLocalMachine, CChave, u"x"), u"lido") << "what is understood is read";
+    EXPECT_FALSE(Registro.AdicionouValor(crLocalMachine, CChave, 1, u"x").Status) << "writing would lose a line";
     EXPECT_EQ(LerArquivo(), quaseBom);
     std::filesystem::resize_file(BuscarArquivo(), (64u << 20) + 2);
     EXPECT_FALSE(Acessor.OpenKey(CChave, false));
@@ -228,7 +242,7 @@ TEST_F(TArmazem, ArmazemNasceComAsChavesDeTodoWindows) {
 
 TEST_F(TArmazem, ChaveExcluidaPorOutroNaoVolta) {
     ASSERT_TRUE(Acessor.OpenKey(CChave, false));
-    TOryUtilsRegistro().ExcluiuChave(crLocalMachine, u"Software", u"OryUtilsTeste");
+    Registro.ExcluiuChave(crLocalMachine, u"Software", u"OryUtilsTeste");
     EXPECT_THROW(Acessor.WriteInteger(u"x", 1), ERegistryException);
     EXPECT_EQ(Acessor.GetUltimoErro(), Interno::erChaveExcluida);
     EXPECT_FALSE(Acessor.ValueExists(u"x"));

@@ -1,6 +1,5 @@
 // The program that the tests of commands and processes start. It does what its first argument says:
 //   argumentos ...      prints each of the others on a line
-//   linhas N            prints N bytes in long lines
 //   arquivo NOME        prints the bytes of a file
 //   erro TEXTO          prints to standard error
 //   herdar              leaves behind a copy that prints when this one is gone
@@ -27,13 +26,6 @@ namespace {
 void Escrever(const std::string& ATexto) {
     std::fwrite(ATexto.data(), 1, ATexto.size(), stdout);
     std::fflush(stdout);
-}
-
-void EscreverLinhas(std::size_t AQuantidade) {
-    std::string bloco;
-    while (bloco.size() < 64000) bloco += std::string(999, static_cast<char>('a' + bloco.size() / 1000 % 26)) + '\n';
-    for (; AQuantidade >= bloco.size(); AQuantidade -= bloco.size()) std::fwrite(bloco.data(), 1, bloco.size(), stdout);
-    std::fwrite(bloco.data(), 1, AQuantidade, stdout);
 }
 
 bool Existe(const std::string& ANome) { return std::ifstream(ANome).good(); }
@@ -70,8 +62,6 @@ int main(int AQuantidade, char** AArgumentos) {
     const std::string& acao = argumentos[0];
     if (acao == "argumentos") {
         for (std::size_t i = 1; i < argumentos.size(); ++i) Escrever('[' + argumentos[i] + "]\n");
-    } else if (acao == "linhas") {
-        EscreverLinhas(std::stoul(argumentos[1]));
     } else if (acao == "arquivo") {
         EscreverArquivo(argumentos[1]);
     } else if (acao == "erro") {
