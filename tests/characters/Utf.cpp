@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-
 namespace {
 
 using OryUtils::DeUtf8;
@@ -29,12 +28,7 @@ TEST(Utf, CadaCodigoVaiEVolta) {
 }
 
 TEST(Utf, MalformadoViraSubstituto) {
-    struct TCaso {
-        std::string_view Bytes;
-        std::u16string_view Texto;
-        const char* Porque;
-    };
-    const TCaso casos[] = {
+    const std::tuple<std::string_view, std::u16string_view, const char*> casos[] = {
         {"a\x80z", u"a\uFFFDz", "continuation without a lead"},
         {"\xC0\xAF", u"\uFFFD\uFFFD", "overlong slash"},
         {"\xE0\x9F\xBF", u"\uFFFD\uFFFD\uFFFD", "overlong in three bytes"},
@@ -45,9 +39,9 @@ TEST(Utf, MalformadoViraSubstituto) {
         {"\xF0\x9F\x98", u"\uFFFD", "four bytes cut at three"},
         {"\xFF", u"\uFFFD", "never a byte of UTF-8"},
     };
-    for (const TCaso& c : casos) {
-        EXPECT_EQ(DeUtf8(c.Bytes), c.Texto) << c.Porque;
-        EXPECT_FALSE(EhUtf8Valido(c.Bytes)) << c.Porque;
+    for (const auto& [bytes, texto, porque] : casos) {
+        EXPECT_EQ(DeUtf8(bytes), texto) << porque;
+        EXPECT_FALSE(EhUtf8Valido(bytes)) << porque;
     }
     const char16_t soltos[] = {u'a', 0xD83D, u'b', 0xDE00, 0xD800};
     EXPECT_EQ(ParaUtf8({soltos, std::size(soltos)}),

@@ -16,11 +16,7 @@ std::int32_t FusoComVerao(std::int64_t AInstante) {
 std::int32_t FusoComSegundos(std::int64_t) { return -11188; }
 
 TEST(DataHoraFuso, MudancasDoRelogio) {
-    const struct {
-        TInstanteLocal Local;
-        int Minutos;
-        const char* Porque;
-    } casos[] = {
+    const std::tuple<TInstanteLocal, int, const char*> casos[] = {
         {{2018, 2, 17, 22, 59, 59, 0}, -120, "before the clocks go back"},
         {{2018, 2, 17, 23, 0, 0, 0}, -120, "happens twice: the first time counts"},
         {{2018, 2, 17, 23, 59, 59, 0}, -120, "last second that happens twice"},
@@ -33,7 +29,8 @@ TEST(DataHoraFuso, MudancasDoRelogio) {
         {{1, 1, 1, 0, 0, 0, 0}, -120, "first day"},
         {{9999, 12, 31, 23, 59, 59, 0}, -120, "last day"},
     };
-    for (const auto& c : casos) EXPECT_EQ(BuscarDeslocamentoLocal(c.Local, FusoComVerao), c.Minutos) << c.Porque;
+    for (const auto& [local, minutos, porque] : casos)
+        EXPECT_EQ(BuscarDeslocamentoLocal(local, FusoComVerao), minutos) << porque;
     EXPECT_EQ(BuscarDeslocamentoLocal({1900, 1, 1, 0, 0, 0, 0}, FusoComSegundos), -186) << "-3:06:28 to the minute";
 }
 

@@ -29,11 +29,7 @@ TDadoRegistro Bytes(std::uint32_t ATipo, std::string_view ABytes) { return {ATip
 
 TEST(ArquivoReg, LeCadaFormaDeValor) {
     using namespace std::string_view_literals;
-    const struct {
-        std::u16string_view Linha;
-        std::optional<TDadoRegistro> Esperado;
-        const char* Porque;
-    } casos[] = {
+    const std::tuple<std::u16string_view, std::optional<TDadoRegistro>, const char*> casos[] = {
         {u"\"v\"=\"C:\\\\a \\\"b\\\"\"", Texto(u"C:\\a \"b\""), "text with both escapes"},
         {u"\"V\"=\"\"", Texto(u""), "names ignore case"},
         {u"  \"v\" = \"x\" ; nota", Texto(u"x"), "blanks and a comment"},
@@ -55,13 +51,13 @@ TEST(ArquivoReg, LeCadaFormaDeValor) {
         {u"; \"v\"=\"a\"", {}, "a comment"},
         {u"", {}, "nothing"},
     };
-    for (const auto& caso : casos) {
-        TArquivoReg arquivo = Abrir(u"\r\n[HKEY_LOCAL_MACHINE\\K]\r\n" + std::u16string(caso.Linha));
-        EXPECT_FALSE(arquivo.PerdeuLinhas) << caso.Porque;
-        EXPECT_EQ(Ler(arquivo, u"K", u"v"), caso.Esperado) << caso.Porque;
+    for (const auto& [linha, esperado, porque] : casos) {
+        SCOPED_TRACE(porque);
+        TArquivoReg arquivo = Abrir(u"\r\n[HKEY_LOCAL_MACHINE\\K]\r\n" + std::u16string(linha));
+        EXPECT_FALSE(arquivo.PerdeuLinhas);
+        EXPECT_EQ(Ler(arquivo, u"K", u"v"), esperado);
         const TChaveReg* chave = arquivo.Topo.Buscar(u"hkey_local_machine\\k");
-        EXPECT_EQ(chave ? chave->Valores.size() : 0u, caso.Esperado || caso.Linha.starts_with(u"@") ? 1u : 0u)
-            << caso.Porque;
+        EXPECT_EQ(chave ? chave->Valores.size() : 0u, esperado || linha.starts_with(u"@") ? 1u : 0u);
     }
 }
 
@@ -123,11 +119,7 @@ TEST(ArquivoReg, EscreveComoUmaExportacao) {
     constexpr std::u16string_view CComC = u"\r\n[HKEY_LOCAL_MACHINE\\b\\C]\r\n\"Y\"=\"1\"\r\n";
     static constexpr std::u16string_view CChave = u"HKEY_LOCAL_MACHINE\\b";
     const auto juntar = [](auto... AParte) { return (std::u16string() + ... + std::u16string(AParte)); };
-    const struct {
-        void (*Editar)(TChaveReg&);
-        std::u16string Esperado;
-        const char* Porque;
-    } casos[] = {
+    const std::tuple<void (*)(TChaveReg&), std::u16string, const char*> casos[] = {
         {[](TChaveReg&) {}, juntar(CComAB, CComC), "first spellings, in order, without comments"},
         {[](TChaveReg& ATopo) { ATopo.Criar(u"HKEY_LOCAL_MACHINE\\B").Valores[u"X"] = Texto(u"\\\""); },
          juntar(u"\r\n[HKEY_LOCAL_MACHINE\\b]\r\n@=dword:0000000a\r\n\"x\"=\"\\\\\\\"\"\r\n", CComC), "escapes"},
@@ -140,12 +132,12 @@ TEST(ArquivoReg, EscreveComoUmaExportacao) {
         {[](TChaveReg& ATopo) { ATopo.Excluir(CChave); }, u"\r\n[HKEY_LOCAL_MACHINE]\r\n", "with all below it"},
         {[](TChaveReg& ATopo) { ATopo.Excluir(u"HKEY_LOCAL_MACHINE\\x\\y"); }, juntar(CComAB, CComC), "no such key"},
     };
-    for (const auto& caso : casos) {
+    for (const auto& [editar, esperado, porque] : casos) {
         TArquivoReg arquivo = Abrir(CAntes);
-        caso.Editar(arquivo.Topo);
+        editar(arquivo.Topo);
         const std::string bytes = EscreverArquivoReg(arquivo.Topo);
-        EXPECT_EQ(bytes, BytesDe(caso.Esperado)) << caso.Porque;
-        EXPECT_EQ(EscreverArquivoReg(LerArquivoReg(bytes)->Topo), bytes) << caso.Porque;
+        EXPECT_EQ(bytes, BytesDe(esperado)) << porque;
+        EXPECT_EQ(EscreverArquivoReg(LerArquivoReg(bytes)->Topo), bytes) << porque;
     }
 }
 
@@ -158,11 +150,10 @@ TEST(ArquivoReg, LinhasLongasQuebramAntesDaColuna80) {
     EXPECT_EQ(LerArquivoReg(bytes)->Topo.Buscar(u"HKEY_LOCAL_MACHINE\\K")->Valores,
               topo.Buscar(u"HKEY_LOCAL_MACHINE\\K")->Valores);
     const std::u16string texto = UnidadesDeBytes(bytes);
-    for (std::size_t inicio = 0; inicio < texto.size();) {
-        const std::size_t fim = texto.find(u"\r\n", inicio);
+    for (std::size_t inicio = 0, fim; inicio < texto.size(); inicio = fim + 2) {
+        fim = texto.find(u"\r\n", inicio);
         // A name is never broken.
         EXPECT_LE(fim - inicio, texto[inicio] == u'"' && texto.find(u'=', inicio) - inicio > 65 ? 300u : 80u);
-        inicio = fim + 2;
     }
 }
 

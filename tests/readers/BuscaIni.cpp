@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-
 namespace {
 
 using namespace OryUtils;
@@ -31,11 +30,7 @@ std::string EmUtf16(std::string_view ATexto, bool AAlto) {
 }
 
 using namespace std::string_literals;
-const struct {
-    std::string Bytes;
-    const char* Resposta;
-    const char* Porque;
-} CCasos[] = {
+const std::tuple<std::string, const char*, const char*> CCasos[] = {
     {"[VERSAO]\r\nNumero=1.2.3.4\r\n", "=1.2.3.4", "plain"},
     {"[VERSAO]\nNumero=1", "=1", "no line end at the end of the file"},
     {"[VERSAO]\rNumero=1\r", "=1", "line ends of old"},
@@ -62,10 +57,9 @@ const struct {
 };
 
 TEST(BuscaIni, BlocosDeQualquerTamanho) {
-    for (const auto& caso : CCasos)
-        for (const std::size_t bloco : {1, 2, 3, 5, 7, 65536}) {
-            EXPECT_EQ(Buscar(caso.Bytes, bloco), caso.Resposta) << caso.Porque << ", blocks of " << bloco;
-        }
+    for (const auto& [bytes, resposta, porque] : CCasos)
+        for (const std::size_t bloco : {1, 2, 3, 5, 7, 65536})
+            EXPECT_EQ(Buscar(bytes, bloco), resposta) << porque << ", blocks of " << bloco;
     EXPECT_EQ(Buscar("[VERSAO]\nNumero=" + std::string(100'000, 'x'), 4096).size(), 1 + 65536 - 7u);
 }
 

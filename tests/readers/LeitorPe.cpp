@@ -1,9 +1,8 @@
 #include "oryutils/readers/BlocoDeVersao.hpp"
 #include "oryutils/readers/RecursoDeVersaoPe.hpp"
 
-#include "files/ConstrutorPe.hpp"
-
 #include "comum/Acaso.hpp"
+#include "files/ConstrutorPe.hpp"
 
 #include <gtest/gtest.h>
 
@@ -17,18 +16,18 @@ namespace {
 
 using namespace OryUtils::Interno;
 
-/// Bytes in memory, at AInicio of a file of ATamanho bytes that is otherwise zeros. Counts what is read.
+/// A file of ATamanho bytes: each part at its place, zeros elsewhere. Counts what is read.
 class TFonteDeTeste final : public TFonteDeBytes {
 public:
-    explicit TFonteDeTeste(std::string_view ABytes, std::uint64_t AInicio = 0, std::uint64_t ATamanho = 0)
-        : FBytes(ABytes), FInicio(AInicio), FTamanho(std::max<std::uint64_t>(ATamanho, AInicio + ABytes.size())) {}
+    using TPartes = std::vector<std::pair<std::uint64_t, std::string_view>>;
+    TFonteDeTeste(TPartes APartes, std::uint64_t ATamanho) : FPartes(std::move(APartes)), FTamanho(ATamanho) {}
 
     std::size_t Ler(std::uint64_t AInicio, std::span<char> ADestino) const override {
-        std::size_t lidos = 0;
-        for (; lidos < ADestino.size() && AInicio + lidos < FTamanho; ++lidos) {
-            const std::uint64_t lugar = AInicio + lidos;
-            ADestino[lidos] = lugar >= FInicio && lugar - FInicio < FBytes.size() ? FBytes[lugar - FInicio] : '\0';
-        }
+        const std::size_t lidos = std::min<std::uint64_t>(ADestino.size(), FTamanho - std::min(AInicio, FTamanho));
+        std::fill_n(ADestino.begin(), lidos, '\0');
+        for (const auto& [inicio, bytes] : FPartes)
+            for (std::uint64_t lugar = inicio; lugar < inicio + bytes.size(); ++lugar)
+                if (lugar >= AInicio && lugar - AInicio < lidos) ADestino[lugar - AInicio] = bytes[lugar - inicio];
         Lidos += lidos;
         return lidos;
     }
@@ -36,8 +35,8 @@ public:
     mutable std::size_t Lidos = 0;
 
 private:
-    std::string_view FBytes;
-    std::uint64_t FInicio, FTamanho;
+    TPartes FPartes;
+    std::uint64_t FTamanho;
 };
 
 /// Asks everything that is ever asked; the version and one text, or "-".
@@ -63,7 +62,7 @@ constexpr const char* CResposta = "1.2 t abc";
 constexpr std::size_t CMaisQueSePrecisaLer = 6u << 20;
 
 std::string LerArquivo(std::string_view ABytes) {
-    const TFonteDeTeste fonte(ABytes);
+    const TFonteDeTeste fonte({{0, ABytes}}, ABytes.size());
     const auto bloco = LerRecursoDeVersaoPe(fonte);
     EXPECT_LE(fonte.Lidos, CMaisQueSePrecisaLer);
     return bloco.empty() ? "" : Perguntar(bloco);
@@ -101,7 +100,7 @@ TEST(LeitorPe, BlocoTruncadoOuTrocado) {
 }
 
 TEST(LeitorPe, CadaByteTrocado) {
-    std::mt19937 sorteio(20261121);
+    Testes::TAcaso sorteio;
     for (const bool de64 : {false, true}) {
         const std::string inteiro = Pe::MontarArquivo(de64, {{0x416, CBloco}, {0x409, CBloco}});
         for (std::size_t i = 0; i < inteiro.size(); ++i)
@@ -116,10 +115,7 @@ TEST(LeitorPe, CadaByteTrocado) {
 TEST(LeitorPe, Contraditorio) {
     constexpr std::size_t CRaiz = Pe::CInicioDaSecao;
     constexpr std::size_t CSecao32 = 0x40 + 24 + 224;
-    const struct {
-        const char* Porque;
-        std::vector<std::pair<std::size_t, std::uint32_t>> Trocas;
-    } casos[] = {
+    const std::pair<const char*, std::vector<std::pair<std::size_t, std::uint32_t>>> casos[] = {
         {"a folder that is its own type", {{CRaiz + 0x14, 0x8000'0000}}},
         {"a name that leads back to the types", {{CRaiz + 0x2C, 0x8000'0000}}},
         {"all three levels are the root",
@@ -142,11 +138,11 @@ TEST(LeitorPe, Contraditorio) {
     };
     const std::string inteiro = Pe::MontarArquivo(false, {{0, CBloco}});
     ASSERT_EQ(LerArquivo(inteiro), CResposta);
-    for (const auto& caso : casos) {
+    for (const auto& [porque, trocas] : casos) {
         std::string trocado = inteiro;
-        for (const auto& [lugar, valor] : caso.Trocas) Trocar32(trocado, lugar, valor);
+        for (const auto& [lugar, valor] : trocas) Trocar32(trocado, lugar, valor);
         const std::string resposta = LerArquivo(trocado);
-        EXPECT_TRUE(resposta.empty() || resposta == "-") << caso.Porque << ": " << resposta;
+        EXPECT_TRUE(resposta.empty() || resposta == "-") << porque << ": " << resposta;
     }
 }
 
@@ -174,21 +170,9 @@ TEST(LeitorPe, QuatroGigabytesNaoSaoLidos) {
     cabecalhos.resize(Pe::CInicioDaSecao);
     Trocar32(cabecalhos, 0x40 + 24 + 224 + 20, CLonge);
 
-    class TFonteDupla final : public TFonteDeBytes {
-    public:
-        TFonteDupla(std::string_view AInicio, std::string_view AFim)
-            : FInicio(AInicio), FFim(AFim, CLonge, 1ull << 33) {}
-        std::size_t Ler(std::uint64_t ALugar, std::span<char> ADestino) const override {
-            return (ALugar < CLonge ? FInicio : FFim).Ler(ALugar, ADestino);
-        }
-        std::size_t BuscarLidos() const { return FInicio.Lidos + FFim.Lidos; }
-
-    private:
-        TFonteDeTeste FInicio, FFim;
-    };
-    const TFonteDupla fonte(cabecalhos, secao);
+    const TFonteDeTeste fonte({{0, cabecalhos}, {CLonge, secao}}, 1ull << 33);
     EXPECT_EQ(Perguntar(LerRecursoDeVersaoPe(fonte)), CResposta);
-    EXPECT_LE(fonte.BuscarLidos(), 4096u);
+    EXPECT_LE(fonte.Lidos, 4096u);
 }
 
 }  // namespace

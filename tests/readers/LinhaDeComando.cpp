@@ -6,12 +6,7 @@ namespace OryUtils::Interno {
 namespace {
 
 TEST(LinhaDeComando, SeparaComoOWindows) {
-    struct TCaso {
-        std::u16string_view Linha;
-        std::vector<std::u16string> Esperado;
-        const char* Porque;
-    };
-    const TCaso casos[] = {
+    const std::tuple<std::u16string_view, std::vector<std::u16string>, const char*> casos[] = {
         {u"", {}, "nothing"},
         {u"arp", {u"arp"}, "a program alone"},
         {u"arp -a\t10.0.0.1  ", {u"arp", u"-a", u"10.0.0.1"}, "blanks and tabs separate, those at the end do nothing"},
@@ -29,7 +24,7 @@ TEST(LinhaDeComando, SeparaComoOWindows) {
         {u"p \"a\"\"b c", {u"p", u"a\"b", u"c"}, "two quotes inside: a quote of the text, and the part ends"},
         {u"p \"a\"\"\" b", {u"p", u"a\" b"}, "three quotes inside: the third one opens again"},
     };
-    for (const TCaso& caso : casos) EXPECT_EQ(SepararLinhaDeComando(caso.Linha), caso.Esperado) << caso.Porque;
+    for (const auto& [linha, esperado, porque] : casos) EXPECT_EQ(SepararLinhaDeComando(linha), esperado) << porque;
 }
 
 }  // namespace

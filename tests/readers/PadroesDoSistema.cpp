@@ -6,13 +6,8 @@ namespace OryUtils::Interno {
 namespace {
 
 TEST(PadroesDoSistema, NaLinguagemDosFormatos) {
-    const struct {
-        TPadraoLido (*Ler)(std::u16string_view, char16_t);
-        std::u16string_view Origem;
-        char16_t Marca;
-        TPadraoLido Esperado;
-        const char* Porque;
-    } casos[] = {
+    using TLeitor = TPadraoLido (*)(std::u16string_view, char16_t);
+    const std::tuple<TLeitor, std::u16string_view, char16_t, TPadraoLido, const char*> casos[] = {
         {DePadraoStrftime, u"%d/%m/%Y", u'/', {u"dd/mm/yyyy", u'/'}, "Brazil"},
         {DePadraoStrftime, u"%d.%m.%Y", u'/', {u"dd/mm/yyyy", u'.'}, "the mark becomes the separator"},
         {DePadraoStrftime, u"%D", u'/', {u"mm/dd/yy", u'/'}, "a composite"},
@@ -27,10 +22,9 @@ TEST(PadroesDoSistema, NaLinguagemDosFormatos) {
         {DePadraoWindows, u"HH:mm 'o''clock'", u':', {u"hh:nn 'o'\"'clock\"", u':'}, "a quote inside quotes"},
         {DePadraoWindows, u"gg y-M-d", u'/', {u"yy/m/d", u'-'}, "an era is dropped with its blank"},
     };
-    for (const auto& c : casos) {
-        const TPadraoLido lido = c.Ler(c.Origem, c.Marca);
-        EXPECT_EQ(lido.Padrao, c.Esperado.Padrao) << c.Porque;
-        EXPECT_EQ(lido.Separador, c.Esperado.Separador) << c.Porque;
+    for (const auto& [ler, origem, marca, esperado, porque] : casos) {
+        const TPadraoLido lido = ler(origem, marca);
+        EXPECT_EQ(std::pair(lido.Padrao, lido.Separador), std::pair(esperado.Padrao, esperado.Separador)) << porque;
     }
     EXPECT_EQ(RetirarSegundos(u"h:nn:ss ampm"), u"h:nn ampm");
     EXPECT_EQ(RetirarSegundos(u"hh.nn"), u"hh.nn");

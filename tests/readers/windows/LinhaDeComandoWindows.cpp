@@ -23,8 +23,7 @@ TEST(LinhaDeComandoWindows, IgualAoSistema) {
         std::vector<std::u16string> esperado;
         for (int i = 0; i < quantidade; ++i) esperado.push_back(DeWide(partes[i]));
         ::LocalFree(partes);
-        ASSERT_EQ(SepararLinhaDeComando(linha), esperado)
-            << ": " << std::string(linha.begin(), linha.end());
+        ASSERT_EQ(SepararLinhaDeComando(linha), esperado) << ": " << std::string(linha.begin(), linha.end());
     }
 }
 
