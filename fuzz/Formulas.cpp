@@ -1,25 +1,8 @@
 // Any text as a formula: the evaluation and the slow rewriting agree.
-#include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/text/OryUtilsFormulas.hpp"
-
 #include "../tests/text/FormulasReferencia.hpp"
 #include "Comum.hpp"
 
 using namespace OryUtils;
-
-namespace {
-
-template <typename TAvaliacao>
-std::string Descrever(TAvaliacao AAvaliacao) {
-    try {
-        const std::u16string valor = ExtendedParaTexto(AAvaliacao());
-        return {valor.begin(), valor.end()};
-    } catch (const Exception& erro) {
-        return std::string(erro.GetNomeDaClasse()) + ": " + erro.what();
-    }
-}
-
-}  // namespace
 
 void Fuzz::Provar(TEntrada AEntrada) {
     static const TFormatosTemporarios formatos(BuscarFormatosBrasileiros());

@@ -1,10 +1,11 @@
 #include "oryutils/dates/OryUtilsDatas.hpp"
 
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/dates/interno/DatasInterno.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
 
-#include <gtest/gtest.h>
+#include "comum/Casos.hpp"
 
 #include <cmath>
 #include <limits>
@@ -25,30 +26,32 @@ struct OryUtilsDatas : testing::Test {
 };
 
 TEST_F(OryUtilsDatas, PeriodosDeTodosOsMeses) {
-    for (const int ano : {1, 1899, 1900, 2023, 2024, 9999}) {
-        const auto fim = [&](int AMes) { return CodificarData(ano, AMes, BuscarDiasNoMes(ano, AMes)); };
+    const struct {
+        int Meses;
+        int (*Numero)(TDateTime);
+        int (*PrimeiroMes)(TDateTime);
+        TDateTime (*DataFinal)(TDateTime);
+    } periodos[] = {
+        {2, D::BuscarBimestre, D::BuscarPrimeiroMesDoBimestre, D::BuscarDataFinalDoBimestre},
+        {3, D::BuscarTrimestre, D::BuscarPrimeiroMesDoTrimestre, D::BuscarDataFinalDoTrimestre},
+        {4, nullptr, D::BuscarPrimeiroMesDoQuadrimestre, D::BuscarDataFinalDoQuadrimestre},
+        {6, D::BuscarSemestre, D::BuscarPrimeiroMesDoSemestre, D::BuscarDataFinalDoSemestre},
+    };
+    for (const int ano : {1, 1899, 1900, 2023, 2024, 9999})
         for (int mes = 1; mes <= 12; ++mes) {
-            const auto periodo = [=](int AMeses) { return (mes - 1) / AMeses + 1; };
-            const auto primeiro = [=](int AMeses) { return (mes - 1) / AMeses * AMeses + 1; };
-            const auto ultimo = [=](int AMeses) { return fim(primeiro(AMeses) + AMeses - 1); };
+            const auto fim = [&](int AMes) { return CodificarData(ano, AMes, BuscarDiasNoMes(ano, AMes)); };
             for (const TDateTime data : {Momento(ano, mes, 1), Momento(ano, mes, BuscarDiasNoMes(ano, mes), 23, 59)}) {
                 SCOPED_TRACE(data.Valor);
-                EXPECT_EQ(D::BuscarBimestre(data), periodo(2));
-                EXPECT_EQ(D::BuscarTrimestre(data), periodo(3));
-                EXPECT_EQ(D::BuscarSemestre(data), periodo(6));
-                EXPECT_EQ(D::BuscarPrimeiroMesDoBimestre(data), primeiro(2));
-                EXPECT_EQ(D::BuscarPrimeiroMesDoTrimestre(data), primeiro(3));
-                EXPECT_EQ(D::BuscarPrimeiroMesDoQuadrimestre(data), primeiro(4));
-                EXPECT_EQ(D::BuscarPrimeiroMesDoSemestre(data), primeiro(6));
-                EXPECT_EQ(D::BuscarDataFinalDoBimestre(data), ultimo(2));
-                EXPECT_EQ(D::BuscarDataFinalDoTrimestre(data), ultimo(3));
-                EXPECT_EQ(D::BuscarDataFinalDoQuadrimestre(data), ultimo(4));
-                EXPECT_EQ(D::BuscarDataFinalDoSemestre(data), ultimo(6));
+                for (const auto& p : periodos) {
+                    const int antes = (mes - 1) / p.Meses;
+                    EXPECT_TRUE(!p.Numero || p.Numero(data) == antes + 1);
+                    EXPECT_EQ(p.PrimeiroMes(data), antes * p.Meses + 1);
+                    EXPECT_EQ(p.DataFinal(data), fim((antes + 1) * p.Meses));
+                }
                 EXPECT_EQ(D::BuscarPrimeiroDiaMes(data), CodificarData(ano, mes, 1));
                 EXPECT_EQ(D::BuscarUltimoDiaMes(data), fim(mes));
             }
         }
-    }
     for (const double semData : {std::nan(""), 1e300, 2958466.0}) {
         EXPECT_EQ(D::BuscarBimestre(semData), 0);
         EXPECT_EQ(D::BuscarPrimeiroMesDoQuadrimestre(semData), 0);
@@ -70,28 +73,25 @@ TEST_F(OryUtilsDatas, DiasEntreDatas) {
 
 TEST_F(OryUtilsDatas, DataFormatada) {
     const TDateTime data = Momento(2024, 3, 5, 14, 7, 9);
-    EXPECT_EQ(D::BuscarDataFormatada(data), u"03/05/2024") << "month first";
-    EXPECT_EQ(D::BuscarDataFormatada(data, true), u"'03/05/2024'");
-    EXPECT_EQ(D::BuscarDataFormatada(data, fdDataHora, u" \t", false), u"05/03/2024 14:07:09") << "day first";
-    EXPECT_EQ(D::BuscarDataFormatada(data, fdHora, u"", false), u"14:07");
-    EXPECT_EQ(D::BuscarDataFormatada(data, fdHora, u" yyyy ", false), u" 2024 ")
-        << "a mask serves every type, untrimmed";
-    EXPECT_EQ(D::BuscarDataFormatada(data, fdData, u"d'''m'\"'\"", true), u"'5m'''") << "inner quotes doubled";
-    EXPECT_EQ(D::BuscarDataFormatada(data, static_cast<TTipoFormatoData>(9), u"", true), u"''");
     TOryUtilsDatasFormatacaoDataIOP copia;
     copia.Assign({.AdicionarAspas = true, .Mascara = u"h", .Tipo = fdDataHora, .Data = -1.25});
-    EXPECT_EQ(D::BuscarDataFormatada(copia), u"'6'");
-    EXPECT_EQ(D::BuscarDataFormatada({.Tipo = fdDataHora, .Data = -1.25}), u"29/12/1899 06:00:00");
-    EXPECT_EQ(GetDataFormatada(data, true), u"'03/05/2024'");
-    EXPECT_EQ(GetDataFormatada(data, tfdData, u"", false), u"03/05/2024");
-    EXPECT_EQ(GetDataFormatada(data, tfdDataHora, u"", false), u"05/03/2024 14:07:09");
-    EXPECT_EQ(GetDataFormatada(data, tfdHora, u"", true), u"'14:07'");
-    const TFormatosTemporarios outros([] {
-        TFormatSettings formatos = FormatSettings();
-        formatos.DateSeparator = u'.';
-        formatos.TimeSeparator = u'h';
-        return formatos;
-    }());
+    Testes::Conferir<std::u16string>({
+        {D::BuscarDataFormatada(data), u"03/05/2024", "month first"},
+        {D::BuscarDataFormatada(data, fdDataHora, u" \t", false), u"05/03/2024 14:07:09", "day first"},
+        {D::BuscarDataFormatada(data, fdHora, u" yyyy ", false), u" 2024 ", "a mask serves every type, untrimmed"},
+        {D::BuscarDataFormatada(data, fdData, u"d'''m'\"'\"", true), u"'5m'''", "inner quotes doubled"},
+        {D::BuscarDataFormatada(data, static_cast<TTipoFormatoData>(9), u"", true), u"''"},
+        {D::BuscarDataFormatada(copia), u"'6'"},
+        {D::BuscarDataFormatada({.Tipo = fdDataHora, .Data = -1.25}), u"29/12/1899 06:00:00"},
+        {GetDataFormatada(data, true), u"'03/05/2024'"},
+        {GetDataFormatada(data, tfdData, u"", false), u"03/05/2024"},
+        {GetDataFormatada(data, tfdDataHora, u"", false), u"05/03/2024 14:07:09"},
+        {GetDataFormatada(data, tfdHora, u"", true), u"'14:07'"},
+    });
+    TFormatSettings formatos = FormatSettings();
+    formatos.DateSeparator = u'.';
+    formatos.TimeSeparator = u'h';
+    const TFormatosTemporarios outros(formatos);
     EXPECT_EQ(D::BuscarDataFormatada(data), u"03.05.2024") << "the separators are those of the formats";
     EXPECT_EQ(D::BuscarHoraSemSegundos(data), u"14h07");
 }
@@ -113,25 +113,24 @@ TEST_F(OryUtilsDatas, TextosDaData) {
 }
 
 TEST_F(OryUtilsDatas, DataValida) {
-    const std::pair<std::u16string_view, bool> casos[] = {
-        {u"29/02/2024", true},        {u"31/02/2024", false}, {u" ./-_, ", false},
-        {u"31/12/1899", true},        {u"30/12/1899", false},  // day 0 cannot be told from a failure
-        {u"05/03/2024 10:00", false},
-    };
-    for (const auto& [texto, valida] : casos)
-        EXPECT_TRUE(D::EhDataValida(texto) == valida && EhDataValida(texto) == valida) << valida;
+    for (const std::u16string_view valida : {u"29/02/2024", u"31/12/1899"})
+        EXPECT_TRUE(D::EhDataValida(valida) && EhDataValida(valida)) << ParaUtf8(valida);
+    // Day 0 cannot be told from a failure.
+    for (const std::u16string_view invalida : {u"31/02/2024", u" ./-_, ", u"30/12/1899", u"05/03/2024 10:00"})
+        EXPECT_FALSE(D::EhDataValida(invalida) || EhDataValida(invalida)) << ParaUtf8(invalida);
 }
 
 TEST_F(OryUtilsDatas, OrientacaoDaData) {
-    EXPECT_EQ(D::ConverterOrientacaoData(u"03/05/2024", odDiaMes), CodificarData(2024, 3, 5));
-    EXPECT_EQ(D::ConverterOrientacaoData(u"03/05/2024", odMesDia), CodificarData(2024, 5, 3));
-    EXPECT_EQ(D::ConverterOrientacaoData(u"03x05y2024 14:07", odMesDia), CodificarData(2024, 5, 3)) << "separators";
-    EXPECT_EQ(D::ConverterOrientacaoData(u"03/05/24", odDiaMes), CodificarData(24, 3, 5)) << "the year as it stands";
-    EXPECT_EQ(D::ConverterOrientacaoData(u" -/. ", odDiaMes), 0);
-    // The older function checks with todMesDia and answers 0 all the same.
-    EXPECT_EQ(ConverterOrientacaoData(u"03/05/2024", todDiaMes), CodificarData(2024, 3, 5));
-    EXPECT_EQ(ConverterOrientacaoData(u"03/05/2024", todMesDia), 0);
-    EXPECT_EQ(ConverterOrientacaoData(u"", todMesDia), 0);
+    Testes::Conferir<TDateTime>({
+        {D::ConverterOrientacaoData(u"03/05/2024", odDiaMes), CodificarData(2024, 3, 5)},
+        {D::ConverterOrientacaoData(u"03x05y2024 14:07", odMesDia), CodificarData(2024, 5, 3), "separators"},
+        {D::ConverterOrientacaoData(u"03/05/24", odDiaMes), CodificarData(24, 3, 5), "the year as it stands"},
+        {D::ConverterOrientacaoData(u" -/. ", odDiaMes), 0},
+        {D::ConverterOrientacaoData(u"03/05/2024", static_cast<TTipoOrientacaoData>(9)), 0, "no such order"},
+        {ConverterOrientacaoData(u"03/05/2024", todDiaMes), CodificarData(2024, 3, 5)},
+        {ConverterOrientacaoData(u"03/05/2024", todMesDia), 0, "the older one checks with todMesDia and answers 0"},
+        {ConverterOrientacaoData(u"", todMesDia), 0},
+    });
     for (const std::u16string_view texto : {u"31/31/2024", u"ab/05/2024", u"3/5/2024", u"03/05", u"03/05/20x4", u"1"}) {
         EXPECT_THROW(D::ConverterOrientacaoData(texto, odDiaMes), EConvertError);
         EXPECT_THROW(D::ConverterOrientacaoData(texto, odMesDia), EConvertError);
@@ -151,22 +150,15 @@ TEST_F(OryUtilsDatas, Milissegundos) {
     EXPECT_EQ(D::ConverterMinutosParaMilisegundos(2), 120000);
     EXPECT_EQ(D::ConverterMinutosParaMilisegundos(-1), -60000);
     EXPECT_EQ(D::ConverterMinutosParaMilisegundos(35792), 2147520000 - (std::int64_t{1} << 32)) << "wraps around";
-    const struct {
-        int Milissegundos;
-        std::u16string_view SemUnidade, Unidade;
-    } casos[] = {
-        {999, u"00:00:00", u""},
-        {1000, u"00:00:01", u" segundo(s)"},
-        {150000, u"00:02:30", u" minuto(s)"},
-        {90061000, u"01:01:01", u" hora(s)"},
-        {86400000, u"00:00:00", u""},
-        {-150000, u"00:02:30", u" minuto(s)"},
-    };
-    for (const auto& c : casos) {
-        EXPECT_EQ(D::ConverterMilisegundosParaTempo(c.Milissegundos, false), c.SemUnidade);
-        EXPECT_EQ(D::ConverterMilisegundosParaTempo(c.Milissegundos, true),
-                  std::u16string(c.SemUnidade).append(c.Unidade));
-    }
+    Testes::Conferir<std::u16string>({
+        {D::ConverterMilisegundosParaTempo(999, true), u"00:00:00"},
+        {D::ConverterMilisegundosParaTempo(1000, true), u"00:00:01 segundo(s)"},
+        {D::ConverterMilisegundosParaTempo(150000, true), u"00:02:30 minuto(s)"},
+        {D::ConverterMilisegundosParaTempo(90061000, true), u"01:01:01 hora(s)"},
+        {D::ConverterMilisegundosParaTempo(90061000, false), u"01:01:01"},
+        {D::ConverterMilisegundosParaTempo(86400000, true), u"00:00:00"},
+        {D::ConverterMilisegundosParaTempo(-150000, true), u"00:02:30 minuto(s)"},
+    });
     TFormatSettings formatos = BuscarFormatosBrasileiros();
     formatos.LongTimeFormat = u"";
     const TFormatosTemporarios temporarios(formatos);
@@ -176,59 +168,51 @@ TEST_F(OryUtilsDatas, Milissegundos) {
 TEST_F(OryUtilsDatas, Deslocamentos) {
     using namespace OryTypes;
     const TDateTime base = Momento(2024, 1, 31, 23, 59, 59);
-    const struct {
-        int Medida, Quantidade;
-        TDateTime Esperado;
-        const char* Porque;
-    } casos[] = {
-        {tmtSegundo, 1, Momento(2024, 2, 1), "into the next month"},
-        {tmtMinuto, -60, Momento(2024, 1, 31, 22, 59, 59), "back"},
-        {tmtDia, 30, Momento(2024, 3, 1, 23, 59, 59), "days"},
-        {tmtMes, 1, Momento(2024, 2, 29, 23, 59, 59), "clamped to the month's end"},
-        {tmtAno, -1, Momento(2023, 1, 31, 23, 59, 59), "a year"},
-        {tmtHora, 0, base, "nothing"},
-        {tmtNenhuma, 5, 77, "no unit: now"},
-        {9, 5, 77, "unknown: now"},
-        {tmtMilissegundo, 5, 77, "milliseconds too: now"},
+    const auto deslocar = [&](int AMedida, int AQuantidade) {
+        return Interno::Deslocar(base, static_cast<TTipoMedidaTempo>(AMedida), AQuantidade,
+                                 [] { return TDateTime(77); });
     };
-    for (const auto& c : casos)
-        EXPECT_EQ(Interno::Deslocar(base, static_cast<TTipoMedidaTempo>(c.Medida), c.Quantidade,
-                                    [] { return TDateTime(77); }),
-                  c.Esperado)
-            << c.Porque;
+    Testes::Conferir<TDateTime>({
+        {deslocar(tmtSegundo, 1), Momento(2024, 2, 1), "into the next month"},
+        {deslocar(tmtMinuto, -60), Momento(2024, 1, 31, 22, 59, 59), "back"},
+        {deslocar(tmtDia, 30), Momento(2024, 3, 1, 23, 59, 59), "days"},
+        {deslocar(tmtMes, 1), Momento(2024, 2, 29, 23, 59, 59), "clamped to the month's end"},
+        {deslocar(tmtAno, -1), Momento(2023, 1, 31, 23, 59, 59), "a year"},
+        {deslocar(tmtHora, 0), base, "nothing"},
+        {deslocar(tmtNenhuma, 5), 77, "no unit: now"},
+        {deslocar(9, 5), 77, "unknown: now"},
+        {deslocar(tmtMilissegundo, 5), 77, "milliseconds too: now"},
+    });
     EXPECT_EQ(D::BuscarDataHoraMedidaTempo(-1.25, tmtHora, 24), 0.25) << "across day 0";
     EXPECT_THROW(D::BuscarDataHoraMedidaTempo(base, tmtAno, std::numeric_limits<int>::max()), EConvertError);
 }
 
 TEST_F(OryUtilsDatas, CompletaOQueFoiDigitado) {
-    const struct {
-        std::u16string_view Texto, Esperado;
-        const char* Porque;
-    } casos[] = {
-        {u"5/3", u"05/03/2024", "current year"},
-        {u" 5/3/24 ", u"05/03/2024", "two digits of a year"},
-        {u"5-3.74", u"05/03/1974", "other separators; the window"},
-        {u"0503", u"05/03/2024", "four digits"},
-        {u"05032024", u"05/03/2024", "eight digits"},
-        {u"2024-3-5", u"05/03/2024", "year first"},
-        {u"5/3/2024 7:5", u"05/03/2024 07:05:00", "date and time"},
-        {u"5/3   7", u"05/03/2024 07:00:00", "hours after a date"},
-        {u"5/3 7:5:3.25", u"05/03/2024 07:05:03.025", "milliseconds"},
-        {u"7:5", u"07:05:00", "time alone"},
-        {u"7:5:3,5 PM", u"19:05:03.005", "time with everything"},
-        {u" \t", u"", "blank"},
-        {u" 31/02 ", u" 31/02 ", "no such day: unchanged, blanks too"},
-        {u"5/3 25:00", u"5/3 25:00", "no such hour"},
-        {u"7", u"7", "one number alone"},
-        {u"5/3/2024 7:5 x", u"5/3/2024 7:5 x", "rest"},
-        {u"\xD800/3", u"\xD800/3", "lone surrogate"},
-    };
     const TFormatSettings& brasil = BuscarFormatosBrasileiros();
-    for (const auto& c : casos) {
-        const std::u16string completa = Interno::Completar(c.Texto, brasil, 2024);
-        EXPECT_EQ(completa, c.Esperado) << c.Porque;
-        EXPECT_EQ(Interno::Completar(completa, brasil, 2024), c.Esperado) << "once is enough: " << c.Porque;
-    }
+    const auto completar = [&](std::u16string_view ATexto) {
+        const std::u16string completa = Interno::Completar(ATexto, brasil, 2024);
+        EXPECT_EQ(Interno::Completar(completa, brasil, 2024), completa) << "once is enough";
+        return completa;
+    };
+    Testes::Conferir<std::u16string>({
+        {completar(u"5/3"), u"05/03/2024", "current year"},
+        {completar(u" 5/3/24 "), u"05/03/2024", "two digits of a year"},
+        {completar(u"5-3.74"), u"05/03/1974", "other separators; the window"},
+        {completar(u"0503"), u"05/03/2024", "four digits"},
+        {completar(u"05032024"), u"05/03/2024", "eight digits"},
+        {completar(u"2024-3-5"), u"05/03/2024", "year first"},
+        {completar(u"5/3/2024 7:5"), u"05/03/2024 07:05:00", "date and time"},
+        {completar(u"5/3   7"), u"05/03/2024 07:00:00", "hours after a date"},
+        {completar(u"5/3 7:5:3.25"), u"05/03/2024 07:05:03.025", "milliseconds"},
+        {completar(u"7:5"), u"07:05:00", "time alone"},
+        {completar(u"7:5:3,5 PM"), u"19:05:03.005", "time with everything"},
+        {completar(u" \t"), u"", "blank"},
+        {completar(u" 31/02 "), u" 31/02 ", "no such day: unchanged, blanks too"},
+        {completar(u"5/3 25:00"), u"5/3 25:00", "no such hour"},
+        {completar(u"7"), u"7", "one number alone"},
+        {completar(u"5/3/2024 7:5 x"), u"5/3/2024 7:5 x", "rest"},
+        {completar(u"\xD800/3"), u"\xD800/3", "lone surrogate"},
+    });
     TFormatSettings iso = brasil;
     iso.ShortDateFormat = u"yyyy/mm/dd";
     iso.DateSeparator = u'-';

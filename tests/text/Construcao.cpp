@@ -1,51 +1,46 @@
 #include "oryutils/text/OryUtilsStrings.hpp"
 
-#include "text/Apoio.hpp"
+#include "comum/Casos.hpp"
 
 #include <climits>
-#include <gtest/gtest.h>
 
 namespace {
 
 using S = OryUtils::TOryUtilsStrings;
-
-struct TCasoTexto {
-    std::u16string Obtido;
-    std::u16string_view Esperado;
-    const char* Porque;
-};
+using Testes::Conferir;
 
 TEST(Strings, Contagens) {
-    EXPECT_EQ(OryUtils::BuscarQuantidadeCaractereNoTexto(u"aAa", u'a'), 2);
-    EXPECT_EQ(S::BuscarQuantidadeCaractereEmSequencia(u"aaab", u'a'), 2);
-    EXPECT_EQ(S::BuscarQuantidadeCaractereEmSequencia(u"  a", u' '), 1) << "the blanks of a text count";
-    EXPECT_EQ(S::BuscarQuantidadeCaractereEmSequencia(u"   ", u' '), 0) << "those of a blank text do not";
+    Conferir<int>({
+        {OryUtils::BuscarQuantidadeCaractereNoTexto(u"aAa", u'a'), 2},
+        {S::BuscarQuantidadeCaractereEmSequencia(u"aaab", u'a'), 2},
+        {S::BuscarQuantidadeCaractereEmSequencia(u"  a", u' '), 1, "the blanks of a text count"},
+        {S::BuscarQuantidadeCaractereEmSequencia(u"   ", u' '), 0, "those of a blank text do not"},
+    });
 }
 
 TEST(Strings, ConstrucaoEExtracao) {
-    const TCasoTexto casos[] = {
+    Conferir<std::u16string>({
         {OryUtils::GetStringFormatada(u"abc", 6, u"xy"), u"abcxyx", "the last copy is cut"},
         {OryUtils::GetStringFormatada(u"abc", 6, u""), u"abc", "nothing to fill with"},
         {OryUtils::GetStringFormatada(u"abc", INT_MIN, u"x"), u"", "cut to nothing"},
-        {OryUtils::FormatarEspacoEmBranco(u"ab", 4), u"ab  ", ""},
+        {OryUtils::FormatarEspacoEmBranco(u"ab", 4), u"ab  "},
         {OryUtils::FormatarEspacoEmBranco(u"abc", -1), u"abc", "longer stays"},
-        {OryUtils::RepetirCaracter(u'x', 3), u"xxx", ""},
-        {OryUtils::RepetirCaracter(u'x', INT_MIN), u"", ""},
-        {S::BuscarUltimoCaractereTexto(u"ab \t"), u"b", ""},
-        {OryUtils::StrCompleteLastChar(u'\\', u"C:\\a"), u"C:\\a\\", ""},
-        {OryUtils::StrCompleteLastChar(u'\\', u"C:\\a\\"), u"C:\\a\\", ""},
+        {OryUtils::RepetirCaracter(u'x', 3), u"xxx"},
+        {S::BuscarUltimoCaractereTexto(u"ab \t"), u"b"},
+        {S::BuscarUltimoCaractereTexto(u" "), u""},
+        {OryUtils::StrCompleteLastChar(u'\\', u"C:\\a"), u"C:\\a\\"},
+        {OryUtils::StrCompleteLastChar(u'\\', u"C:\\a\\"), u"C:\\a\\"},
         {OryUtils::StrCompleteLastChar(u'\\', u"a\\ "), u"a\\ \\", "the untrimmed text ends in a space"},
-        {OryUtils::StrCompleteLastChar(u'\\', u"  "), u"", ""},
-        {S::ExcluirUltimoCaractereTexto(u"C:\\dir\\ ", u'\\'), u"C:\\dir", ""},
+        {OryUtils::StrCompleteLastChar(u'\\', u"  "), u""},
+        {S::ExcluirUltimoCaractereTexto(u"C:\\dir\\ ", u'\\'), u"C:\\dir"},
         {S::ExcluirUltimoCaractereTexto(u"C:\\dir\\ ", u'/'), u"C:\\dir\\ ", "another character: untouched"},
         {S::ExcluirUltimoCaractereTexto(u" ab c ", u'\0'), u"ab", "code 0 is any; trimmed again"},
-        {S::ExcluirUltimoCaractereTexto(u"  ", u'\0'), u"  ", ""},
-        {S::BuscarUltimoCaractereTexto(u" "), u"", ""},
-        {OryUtils::GetDefaultValue(u" \r\n", u"b"), u"b", ""},
+        {S::ExcluirUltimoCaractereTexto(u"  ", u'\0'), u"  "},
+        {OryUtils::GetDefaultValue(u" \r\n", u"b"), u"b"},
         {OryUtils::GetDefaultValue(u" a ", u"b"), u" a ", "not trimmed"},
-        {OryUtils::BuscarPastaDoNivelAnterior(u"C:\\a\\b\\arq.txt"), u"C:\\a", ""},
+        {OryUtils::BuscarPastaDoNivelAnterior(u"C:\\a\\b\\arq.txt"), u"C:\\a"},
         {OryUtils::BuscarPastaDoNivelAnterior(u"C:\\a\\b\\"), u"C:\\a", "the folder itself is named"},
-        {OryUtils::BuscarPastaDoNivelAnterior(u"arq.txt"), u"", ""},
+        {OryUtils::BuscarPastaDoNivelAnterior(u"arq.txt"), u""},
         {OryUtils::ExtractLastDirFromUrl(u"http://www.x.com.br/ws/nfe-xml_v2.0"), u"nfexmlv20", "cleaned"},
         {OryUtils::ExtractLastDirFromUrl(u"http://www.x.com.br/ws/"), u"", "ends with a slash"},
         {OryUtils::ExtractLastDirFromUrl(u"http://www.x.com.br:80"), u":80", "no slash behind"},
@@ -60,43 +55,35 @@ TEST(Strings, ConstrucaoEExtracao) {
         {S::LimparTagsHtml(u"a<b c>d</b>>e<"), u"ade", "a lone > goes too, and all behind an open <"},
         {S::FormatarQuebrasDeTextoHtml(u"a\r\nb\rc\nd"), u"<P>a</P><P>b</P><P>c</P><P>d</P>", "three kinds"},
         {S::FormatarQuebrasDeTextoHtml(u"\n\r\n"), u"<P></P><P></P>", "empty lines; nothing after the last break"},
-    };
-    for (const TCasoTexto& c : casos) EXPECT_EQ(c.Obtido, c.Esperado) << c.Porque;
+    });
 }
 
 TEST(Strings, GravacaoDaMascara) {
-    struct TCaso {
-        std::u16string_view Mascara;
-        bool Grava;
-        const char* Porque;
-    };
-    constexpr TCaso CCasos[] = {
-        {u"!(999)99999-9999;1; ", true, "stored"},
-        {u"99999-999;0; ", false, "not stored"},
-        {u"9;1", false, "fewer than four characters"},
-        {u"99;1", true, "only the flag"},
-        {u"999;", false, "a separator at the end"},
-        {u"99;1;", true, "no blank character"},
-        {u"9;;;0", true, "the second from the end"},
-        {u";;;;", true, "the second from the end is followed by a separator"},
-        {u";999999", false, "too far from the end"},
-    };
-    for (const TCaso& c : CCasos) EXPECT_EQ(S::PossuiGravacaoMascara(c.Mascara), c.Grava) << c.Porque;
+    Conferir<bool>({
+        {S::PossuiGravacaoMascara(u"!(999)99999-9999;1; "), true, "stored"},
+        {S::PossuiGravacaoMascara(u"99999-999;0; "), false, "not stored"},
+        {S::PossuiGravacaoMascara(u"9;1"), false, "fewer than four characters"},
+        {S::PossuiGravacaoMascara(u"99;1"), true, "only the flag"},
+        {S::PossuiGravacaoMascara(u"999;"), false, "a separator at the end"},
+        {S::PossuiGravacaoMascara(u"99;1;"), true, "no blank character"},
+        {S::PossuiGravacaoMascara(u"9;;;0"), true, "the second from the end"},
+        {S::PossuiGravacaoMascara(u";;;;"), true, "the second from the end is followed by a separator"},
+        {S::PossuiGravacaoMascara(u";999999"), false, "too far from the end"},
+    });
 }
 
 TEST(Strings, InscricaoFederal) {
     using namespace OryUtils;
-    const TCasoTexto casos[] = {
-        {FormatarInscricaoFederal(tiCNPJ, u"12345678000195"), u"12.345.678/0001-95", ""},
-        {FormatarInscricaoFederal(tiCPF, u"12345678909"), u"123.456.789-09", ""},
-        {FormatarInscricaoFederal(tiCEI, u"123456789012"), u"12.345.67890/12", ""},
+    Conferir<std::u16string>({
+        {FormatarInscricaoFederal(tiCNPJ, u"12345678000195"), u"12.345.678/0001-95"},
+        {FormatarInscricaoFederal(tiCPF, u"12345678909"), u"123.456.789-09"},
+        {FormatarInscricaoFederal(tiCEI, u"123456789012"), u"12.345.67890/12"},
         {FormatarInscricaoFederal(tiCPF, u"1234"), u"123.4  .   -  ", "places without a digit"},
         {FormatarInscricaoFederal(tiCPF, u"1234567890912"), u"123.456.789-0912", "digits without a place"},
-        {GetMask(tiCNPJ), u"99.999.999/9999-99;0; ", ""},
-        {GetMask(tiCPF), u"999.999.999-99;0; ", ""},
-        {GetMask(tiCEI), u"99.999.99999/99;0; ", ""},
-    };
-    for (const TCasoTexto& c : casos) EXPECT_EQ(c.Obtido, c.Esperado) << c.Porque;
+        {GetMask(tiCNPJ), u"99.999.999/9999-99;0; "},
+        {GetMask(tiCPF), u"999.999.999-99;0; "},
+        {GetMask(tiCEI), u"99.999.99999/99;0; "},
+    });
     for (const int outro : {-1, 0, 4, 5, 6, 10, 99}) {
         EXPECT_EQ(FormatarInscricaoFederal(static_cast<TTipoInscricao>(outro), u"12a"), u"12a") << outro;
         EXPECT_EQ(GetMask(static_cast<TTipoInscricao>(outro)), u"") << outro;

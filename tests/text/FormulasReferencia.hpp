@@ -1,135 +1,131 @@
 #pragma once
 
 #include "oryutils/characters/Caixa.hpp"
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/text/OryUtilsFormulas.hpp"
 
+#include <algorithm>
 #include <cmath>
 #include <map>
 #include <string>
 
-/// The evaluation of formulas as it is defined: one text, rewritten piece by piece. Slow, and that is its merit.
+namespace OryUtils {
+
+/// The value as text, or the class and the message of the error.
+template <typename TAvaliacao>
+std::string Descrever(TAvaliacao AAvaliacao) {
+    try {
+        return ParaUtf8(ExtendedParaTexto(AAvaliacao()));
+    } catch (const Exception& e) {
+        return std::string(e.GetNomeDaClasse()) + ": " + e.what();
+    }
+}
+
+/// The evaluation of formulas as it is defined: one text, rewritten piece by piece. Slow, and that is its merit. The
+/// pieces that find operators and their arguments are the public ones, which the evaluation of the library does not
+/// use.
 class TFormulaReescrita {
 public:
     std::map<std::u16string, std::u16string> Variaveis;  // by name in upper case
-    OryUtils::TMetodoArredondamento Ajuste = OryUtils::maNenhum;
+    TMetodoArredondamento Ajuste = maNenhum;
     std::uint8_t Casas = 2;
     std::u16string Resolvida;
 
-    OryUtils::Extended Calcular(std::u16string f) {
-        f = OryUtils::MaiusculaDe(f);
+    Extended Calcular(std::u16string f) {
+        f = MaiusculaDe(f);
         std::erase(f, u' ');
         std::erase(f, u'.');
         ResolverFuncoes(f);
         ResolverVariaveis(f);
         Resolvida = f;
         for (std::size_t p; (p = f.find(u"--")) != f.npos;) f.replace(p, 2, u"+");
-        ResolverParenteses(f);
+        for (std::size_t p; (p = f.find(u'(')) != f.npos;) {
+            const std::size_t fim = std::min(f.find(u')', p), f.size());
+            p = f.rfind(u'(', fim);
+            Repor(f, p, fim + 1, CalcularExpressao(f.substr(p + 1, fim - p - 1)));
+        }
         return CalcularExpressao(f);
     }
 
 private:
-    static OryUtils::Extended Ler(const std::u16string& t) {
-        return t.empty() || t == u"-" ? 0 : OryUtils::TextoParaExtended(t);
-    }
+    using F = TOryUtilsFormulas;
+    struct TFuncao {
+        std::u16string_view Nome;
+        bool Dois;
+        Extended (*Valor)(Extended, Extended);
+    };
+    static constexpr TFuncao CFuncoes[] = {
+        {u"SQR(", false, [](Extended x, Extended) { return std::sqrt(x); }},
+        {u"LOG(", false, [](Extended x, Extended) { return std::log(x) / std::log(10.0L); }},
+        {u"LN(", false, [](Extended x, Extended) { return std::log(x); }},
+        {u"INT(", false, [](Extended x, Extended) { return x - std::fmod(x, 1.0L); }},
+        {u"ABS(", false, [](Extended x, Extended) { return std::abs(x); }},
+        {u"MAX(", true, [](Extended a, Extended b) { return a >= b ? a : b; }},
+        {u"MIN(", true, [](Extended a, Extended b) { return a > b ? b : a; }},
+        {u"EXP(", true, [](Extended a, Extended b) { return F::GetExponencial(a, b); }},
+    };
 
-    OryUtils::Extended Ajustar(OryUtils::Extended v) const {
-        using M = OryUtils::TOryUtilsMatematica;
-        if (Ajuste == OryUtils::maMatematico) return M::Arredondar(v, Ajuste, Casas, std::uint8_t(Casas + 1));
-        if (Ajuste == OryUtils::maTruncamento) return M::Arredondar(v, Ajuste, Casas, 10);
-        return v;
-    }
-
-    OryUtils::Extended Funcao(std::size_t n, const std::u16string& arg) {
-        if (n < 5) {
-            const auto x = Calcular(arg);
-            switch (n) {
-                case 0:
-                    return std::sqrt(x);
-                case 1:
-                    return std::log(x) / std::log(10.0L);
-                case 2:
-                    return std::log(x);
-                case 3:
-                    return x - std::fmod(x, 1.0L);
-                default:
-                    return std::abs(x);
-            }
-        }
-        const auto s = arg.find(u';');
-        if (s == arg.npos) throw OryUtils::Exception(u"São necessários dois argumentos para calcular a função.");
-        const auto a = Calcular(arg.substr(0, s));
-        const auto b = Calcular(arg.substr(s + 1));
-        if (n == 5) return a >= b ? a : b;
-        if (n == 6) return a > b ? b : a;
-        return OryUtils::TOryUtilsFormulas::GetExponencial(a, b);
+    /// Puts the text of AValor in the place of what stands from AInicio to before AFim.
+    static void Repor(std::u16string& f, std::size_t AInicio, std::size_t AFim, Extended AValor) {
+        f.replace(AInicio, AFim - AInicio, ExtendedParaTexto(AValor));
     }
 
     void ResolverFuncoes(std::u16string& f) {
-        const std::u16string nomes[] = {u"SQR(", u"LOG(", u"LN(", u"INT(", u"ABS(", u"MAX(", u"MIN(", u"EXP("};
-        for (std::size_t n = 0; n < 8; ++n) {
-            for (std::size_t p; (p = f.find(nomes[n])) != f.npos;) {
-                const std::size_t ini = p + nomes[n].size();
-                std::size_t fim = ini;
+        for (const TFuncao& funcao : CFuncoes) {
+            for (std::size_t p; (p = f.find(funcao.Nome)) != f.npos;) {
+                const std::size_t inicio = p + funcao.Nome.size();
+                std::size_t fim = inicio;
                 for (int nivel = 1; fim < f.size(); ++fim) {
                     nivel += (f[fim] == u'(') - (f[fim] == u')');
                     if (nivel == 0) break;
                 }
-                const auto valor = Funcao(n, f.substr(ini, fim - ini));
-                f = f.substr(0, p) + OryUtils::ExtendedParaTexto(valor) + (fim < f.size() ? f.substr(fim + 1) : u"");
+                const std::u16string todo = f.substr(inicio, fim - inicio);
+                const auto [um, outro] = funcao.Dois ? F::GetArgumentos(todo) : std::pair(todo, std::u16string());
+                const Extended primeiro = Calcular(um);
+                Repor(f, p, fim + 1, funcao.Valor(primeiro, Calcular(outro)));
             }
         }
     }
 
     void ResolverVariaveis(std::u16string& f) {
         const std::size_t limite = 64 * f.size() + 64 * 1024;
+        const auto ehDoNome = [](char16_t c) {
+            return F::EhVariavel(c) || (c >= u'0' && c <= u'9') || c == FormatSettings().DecimalSeparator;
+        };
         for (std::size_t p = 0; p < f.size(); ++p) {
-            while (p < f.size() && OryUtils::TOryUtilsFormulas::EhVariavel(f[p])) {
+            while (p < f.size() && F::EhVariavel(f[p])) {
                 std::size_t fim = p;
-                while (fim < f.size() &&
-                       (OryUtils::TOryUtilsFormulas::EhVariavel(f[fim]) || (f[fim] >= u'0' && f[fim] <= u'9') ||
-                        f[fim] == OryUtils::FormatSettings().DecimalSeparator))
-                    ++fim;
+                while (fim < f.size() && ehDoNome(f[fim])) ++fim;
                 const auto nome = f.substr(p, fim - p);
                 const auto v = Variaveis.find(nome);
-                if (v == Variaveis.end()) throw OryUtils::Exception(u"Variável '" + nome + u"' não existe.");
-                if (f.size() > limite) throw OryUtils::Exception(u"Variáveis da fórmula sem fim.");
-                f.replace(p, fim - p, OryUtils::ExtendedParaTexto(Ajustar(OryUtils::TextoParaExtended(v->second))));
+                if (v == Variaveis.end()) throw Exception(u"Variável '" + nome + u"' não existe.");
+                if (f.size() > limite) throw Exception(u"Variáveis da fórmula sem fim.");
+                Repor(f, p, fim, Ajustar(TextoParaExtended(v->second)));
             }
         }
     }
 
-    void ResolverParenteses(std::u16string& f) {
-        for (std::size_t p; (p = f.find(u'(')) != f.npos;) {
-            std::size_t fim = p + 1;
-            for (; fim < f.size() && f[fim] != u')'; ++fim)
-                if (f[fim] == u'(') p = fim;
-            const auto valor = CalcularExpressao(f.substr(p + 1, fim - p - 1));
-            f = f.substr(0, p) + OryUtils::ExtendedParaTexto(valor) + (fim < f.size() ? f.substr(fim + 1) : u"");
-        }
-    }
-
-    static bool EhOperador(const std::u16string& f, std::size_t i) {
-        if (f[i] == u'-') return i > 0 && f[i - 1] != u'*' && f[i - 1] != u'/' && f[i - 1] != u'+';
-        return f[i] == u'*' || f[i] == u'/' || f[i] == u'+';
-    }
-
-    OryUtils::Extended CalcularExpressao(std::u16string f) const {
-        for (const char16_t op : {u'*', u'/', u'+', u'-'}) {
-            while (true) {
-                std::size_t p = 0;
-                while (p < f.size() && !(f[p] == op && EhOperador(f, p))) ++p;
-                if (p == f.size()) break;
-                std::size_t ini = p;
-                while (ini > 0 && !EhOperador(f, ini - 1)) --ini;
-                std::size_t fim = p + 1;
-                while (fim < f.size() && !EhOperador(f, fim)) ++fim;
-                const auto a = Ler(f.substr(ini, p - ini));
-                const auto b = Ler(f.substr(p + 1, fim - p - 1));
-                const auto r = op == u'*' ? a * b : op == u'/' ? (b == 0 ? 0 : a / b) : op == u'+' ? a + b : a - b;
-                f.replace(ini, fim - ini, OryUtils::ExtendedParaTexto(Ajustar(r)));
+    Extended CalcularExpressao(std::u16string f) const {
+        for (const TOperCalc op : {ocMultiplicacao, ocDivisao, ocSoma, ocSubtracao}) {
+            for (std::size_t p; (p = F::GetPosOperador(op, f)) != 0;) {
+                const std::u16string um = F::GetPrimeiroArgumento(f, p), outro = F::GetSegundoArgumento(f, p);
+                const Extended a = Ler(um), b = Ler(outro);
+                const Extended quociente = b == 0 ? 0 : a / b;
+                const Extended resultados[] = {a * b, quociente, a + b, a - b};
+                Repor(f, p - 1 - um.size(), p + outro.size(), Ajustar(resultados[op]));
             }
         }
         return Ler(f);
     }
+
+    Extended Ajustar(Extended v) const {
+        using M = TOryUtilsMatematica;
+        if (Ajuste == maMatematico) return M::Arredondar(v, Ajuste, Casas, std::uint8_t(Casas + 1));
+        return Ajuste == maTruncamento ? M::Arredondar(v, Ajuste, Casas, 10) : v;
+    }
+
+    static Extended Ler(const std::u16string& t) { return t.empty() || t == u"-" ? 0 : TextoParaExtended(t); }
 };
+
+}  // namespace OryUtils

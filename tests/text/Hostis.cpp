@@ -3,24 +3,18 @@
 
 #include "text/Apoio.hpp"
 
-#include <gtest/gtest.h>
-
 namespace {
 
 using S = OryUtils::TOryUtilsStrings;
 using OryUtils::Aparar;
-using OryUtils::TCaracteres;
 using Testes::CHostis;
 using Testes::TLista;
 using Testes::TSorteio;
 
 // Facts that hold for every text; the sanitizers watch the rest.
 void VerificarTudo(const std::u16string& t, const std::u16string& u) {
-    const TLista lista{u, t.substr(0, 3), u""};
     EXPECT_EQ(S::RemoverAcentos(t).size(), t.size());
     EXPECT_EQ(S::TextoEhSomenteCaracteres(t), S::TextoEhSomenteCaracteres(S::RemoverAcentos(t)));
-    EXPECT_EQ(S::TextoPossuiSomenteCaracteresEspeciais(t), !S::TextoPossuiCaracteres(t) && !S::TextoPossuiNumeros(t));
-    EXPECT_EQ(S::LimparTexto(t), S::LimparTexto(t, TCaracteres(u".,_/-")));
     EXPECT_EQ(S::RemoverCaractere(t, t), u"");
     EXPECT_EQ(S::RemoverCaracteres(std::u16string_view(t), t), u"");
     EXPECT_TRUE(S::TextoEhSomenteNumerico(S::ExtrairSomenteNumeros(t)));
@@ -29,24 +23,20 @@ void VerificarTudo(const std::u16string& t, const std::u16string& u) {
     EXPECT_EQ(S::SubstituirMultiplosTextos(t, {t}, {u}, true), t.empty() ? t : u);
     EXPECT_EQ(S::TextoContemItemVetor(t + u, {t}, false), !t.empty());
     EXPECT_EQ(S::BuscarTextoFormatado(t, 5, u"ab").size(), 5u);
-    EXPECT_GE(S::FormatarEspacoEmBranco(t, 5).size(), 5u);
     EXPECT_LE(S::ExcluirUltimoCaractereTexto(t, u'\0').size(), t.size());
     EXPECT_LE(S::BuscarPastaDoNivelAnterior(t).size(), t.size());
     EXPECT_LE(S::ExtrairUltimaPastaDaURL(t).size(), t.size());
     EXPECT_LE(S::ExtrairTextoEntreTags(t, u).size(), t.size());
-    EXPECT_EQ(S::LimparTagsHtml(t).find(u'>'), std::u16string::npos);
-    EXPECT_EQ(S::LimparTagsHtml(S::FormatarQuebrasDeTextoHtml(t)).find_first_of(u"\r\n"), std::u16string::npos);
+    EXPECT_EQ(S::LimparTagsHtml(S::FormatarQuebrasDeTextoHtml(t)).find_first_of(u">\r\n"), std::u16string::npos);
     EXPECT_EQ(S::ConverterBase64ParaTexto(S::ConverterTextoParaBase64(t)), t);
     EXPECT_EQ(S::FormatarInscricaoFederal(OryUtils::tiCPF, t).size(), std::max<std::size_t>(14, t.size() + 3));
     EXPECT_EQ(S::PossuiGravacaoMascara(t), S::PossuiGravacaoMascara(u"xxxx" + t) && t.size() >= 4);
     EXPECT_EQ(S::SubstituirCaracteres(t, u"a", u"\x02\x03").find(u'a'), std::u16string::npos);
-    const auto itens = S::ConverterTextoComDelimitadorParaStringList(t, u";");
-    ASSERT_TRUE(itens);
-    EXPECT_LE(itens->size(), static_cast<std::size_t>(S::BuscarQuantidadeCaractereNoTexto(t, u';')) + 1);
-    const auto parametros = S::ConverterTextoParaListaDeParametros(t);
-    ASSERT_TRUE(parametros);
-    for (const std::u16string& p : *parametros) EXPECT_EQ(p, Aparar(p));
-    EXPECT_GE(S::ConverterListaDeParametrosParaTexto(lista).size(), t.size() ? 4u : 3u);
+    const TLista itens = S::ConverterTextoComDelimitadorParaStringList(t, u";").value();
+    EXPECT_LE(itens.size(), static_cast<std::size_t>(S::BuscarQuantidadeCaractereNoTexto(t, u';')) + 1);
+    const TLista parametros = S::ConverterTextoParaListaDeParametros(t).value();
+    for (const std::u16string& p : parametros) EXPECT_EQ(p, Aparar(p));
+    EXPECT_GE(S::ConverterListaDeParametrosParaTexto(parametros).size(), parametros.size());
 }
 
 TEST(StringsHostis, TextosCurtosAoAcaso) {
