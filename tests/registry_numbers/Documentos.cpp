@@ -8,7 +8,7 @@
 #include "oryutils/runtime/Formatos.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
 
-#include <gtest/gtest.h>
+#include "comum/Casos.hpp"
 
 #include <algorithm>
 #include <random>
@@ -91,55 +91,48 @@ TEST(Documentos, PeloMotivoCerto) {
     const std::u16string megabyte(1 << 20, u'1');
     const std::u16string letras(1 << 20, u'A');
     const std::u16string pontos = std::u16string(1 << 20, u'.') + u"11222333000181";
-    struct TCaso {
-        TMotivoRecusa (*Conferir)(std::u16string_view);
-        std::u16string_view Numero;
-        TMotivoRecusa Esperado;
-        const char* Porque;
-    };
     const auto cpf = ConferirCpf<char16_t>;
     const auto cnpj = ConferirCnpj<char16_t>;
     const auto alfanumerico = ConferirCnpjAlfanumerico<char16_t>;
-    const TCaso casos[] = {
-        {cpf, u"529.982.247-25", mrNenhum, "formatted"},
-        {cpf, u"529.982.247-24", mrDigito, "second digit"},
-        {cpf, u"529.982.247-2x", mrTamanho, "letters are dropped, then a digit is missing"},
-        {cpf, u"11.222.333/0001-81", mrTamanho, "a CNPJ"},
-        {cpf, u"", mrTamanho, "empty"},
-        {cpf, u"11111111111", mrNenhum, "repeated digits pass"},
-        {cnpj, u"00000000000000", mrNenhum, "zeros too"},
-        {cnpj, megabyte, mrTamanho, "a megabyte of digits"},
-        {cnpj, pontos, mrNenhum, "a megabyte of punctuation"},
-        {alfanumerico, u"12.ABC.345/01DE-35", mrNenhum, "formatted"},
-        {alfanumerico, u" 12abc 345 01de 35\t", mrNenhum, "blanks, lower case"},
-        {alfanumerico, u"12.ABC.345/01DE-25", mrDigito, "first digit"},
-        {alfanumerico, u"12.ABC.345/01DE-3A", mrCaractere, "check digits are digits"},
-        {alfanumerico, u"12.ABC.345/01DÉ-35", mrCaractere, "an accented letter"},
-        {alfanumerico, u"12_ABC34501DE", mrCaractere, "another separator, before the length"},
-        {alfanumerico, u"12ABC34501DE3", mrTamanho, "short"},
-        {alfanumerico, u"12ABC34501DE355_", mrTamanho, "long"},
-        {alfanumerico, letras, mrCaractere, "a megabyte of letters"},
-        {ConferirPis, u"1234 5678 919", mrNenhum, "spaces"},
-        {ConferirPis, u"12345678918", mrDigito, "digit"},
-        {ConferirPis, u"123.45678.91-9", mrTamanho, "punctuation counts"},
-        {ConferirPis, u"1234567891a", mrCaractere, "a letter"},
-        {ConferirPis, u"-0000000001", mrCaractere, "the number that also stands for no number"},
-        {ConferirPis, u"\t2345678919", mrCaractere, "only spaces are dropped"},
-        {ConferirPis, megabyte, mrTamanho, "a megabyte"},
-        {ConferirCei, u"00.000.00000/00", mrNenhum, "zeros"},
-        {ConferirCei, u"\t11.583.00249/85 ", mrNenhum, "blanks at the ends"},
-        {ConferirCei, u"11.583.00249/84", mrDigito, "digit"},
-        {ConferirCei, u"11583002498", mrTamanho, "short"},
-        {ConferirCei, u"não é um CEI com doze", mrTamanho, "no exception by another length"},
-        {ConferirCei, u"0E0000000000", mrNenhum, "a number of value zero"},
-        {ConferirCei, u"+15830024985", mrDigito, "a sign counts 0"},
-        {ConferirCodigoMunicipio, u" 355.030.8. ", mrNenhum, "points, blanks at the ends"},
-        {ConferirCodigoMunicipio, u"355030x", mrDigito, "the last character is compared as text"},
-        {ConferirCodigoMunicipio, u"355030", mrTamanho, "short"},
-        {ConferirCodigoMunicipio, u"35503088", mrTamanho, "long"},
-        {ConferirCodigoMunicipioOficial, u"2.201.919", mrNenhum, "given out against the rule"},
-    };
-    for (const TCaso& caso : casos) EXPECT_EQ(caso.Conferir(caso.Numero), caso.Esperado) << caso.Porque;
+    Testes::Conferir<TMotivoRecusa>({
+        {cpf(u"529.982.247-25"), mrNenhum, "formatted"},
+        {cpf(u"529.982.247-24"), mrDigito, "second digit"},
+        {cpf(u"529.982.247-2x"), mrTamanho, "letters are dropped, then a digit is missing"},
+        {cpf(u"11.222.333/0001-81"), mrTamanho, "a CNPJ"},
+        {cpf(u""), mrTamanho, "empty"},
+        {cpf(u"11111111111"), mrNenhum, "repeated digits pass"},
+        {cnpj(u"00000000000000"), mrNenhum, "zeros too"},
+        {cnpj(megabyte), mrTamanho, "a megabyte of digits"},
+        {cnpj(pontos), mrNenhum, "a megabyte of punctuation"},
+        {alfanumerico(u"12.ABC.345/01DE-35"), mrNenhum, "formatted"},
+        {alfanumerico(u" 12abc 345 01de 35\t"), mrNenhum, "blanks, lower case"},
+        {alfanumerico(u"12.ABC.345/01DE-25"), mrDigito, "first digit"},
+        {alfanumerico(u"12.ABC.345/01DE-3A"), mrCaractere, "check digits are digits"},
+        {alfanumerico(u"12.ABC.345/01DÉ-35"), mrCaractere, "an accented letter"},
+        {alfanumerico(u"12_ABC34501DE"), mrCaractere, "another separator, before the length"},
+        {alfanumerico(u"12ABC34501DE3"), mrTamanho, "short"},
+        {alfanumerico(u"12ABC34501DE355_"), mrTamanho, "long"},
+        {alfanumerico(letras), mrCaractere, "a megabyte of letters"},
+        {ConferirPis(u"1234 5678 919"), mrNenhum, "spaces"},
+        {ConferirPis(u"12345678918"), mrDigito, "digit"},
+        {ConferirPis(u"123.45678.91-9"), mrTamanho, "punctuation counts"},
+        {ConferirPis(u"1234567891a"), mrCaractere, "a letter"},
+        {ConferirPis(u"-0000000001"), mrCaractere, "the number that also stands for no number"},
+        {ConferirPis(u"\t2345678919"), mrCaractere, "only spaces are dropped"},
+        {ConferirPis(megabyte), mrTamanho, "a megabyte"},
+        {ConferirCei(u"00.000.00000/00"), mrNenhum, "zeros"},
+        {ConferirCei(u"\t11.583.00249/85 "), mrNenhum, "blanks at the ends"},
+        {ConferirCei(u"11.583.00249/84"), mrDigito, "digit"},
+        {ConferirCei(u"11583002498"), mrTamanho, "short"},
+        {ConferirCei(u"não é um CEI com doze"), mrTamanho, "no exception by another length"},
+        {ConferirCei(u"0E0000000000"), mrNenhum, "a number of value zero"},
+        {ConferirCei(u"+15830024985"), mrDigito, "a sign counts 0"},
+        {ConferirCodigoMunicipio(u" 355.030.8. "), mrNenhum, "points, blanks at the ends"},
+        {ConferirCodigoMunicipio(u"355030x"), mrDigito, "the last character is compared as text"},
+        {ConferirCodigoMunicipio(u"355030"), mrTamanho, "short"},
+        {ConferirCodigoMunicipio(u"35503088"), mrTamanho, "long"},
+        {ConferirCodigoMunicipioOficial(u"2.201.919"), mrNenhum, "given out against the rule"},
+    });
     for (const std::u16string_view cei : {u"11583a024985", u"abcdefghijkl", u"115830 24985"})
         EXPECT_THROW(TOryUtilsValidacoes::ValidouCNO(cei), EConvertError) << ParaUtf8(cei);
     try {
@@ -214,11 +207,11 @@ TEST(Cnh, RecusaPeloMotivoCerto) {
         {u"12a", mrRepetido, mrRepetido, mrRepetido, "not a number"},
         {megabyte, mrRepetido, mrRepetido, mrRepetido, "too large for a number"},
     };
-    for (const TCaso& caso : casos) {
-        EXPECT_EQ(ConferirNovoFormatoCnh(caso.Numero), caso.Novo) << caso.Porque;
-        EXPECT_EQ(ConferirFormatoAntigoCnh(caso.Numero), caso.Antigo) << caso.Porque;
-        EXPECT_EQ(ConferirCnh(caso.Numero), caso.Final) << caso.Porque;
-    }
+    for (const TCaso& caso : casos)
+        EXPECT_EQ(std::tuple(ConferirNovoFormatoCnh(caso.Numero), ConferirFormatoAntigoCnh(caso.Numero),
+                             ConferirCnh(caso.Numero)),
+                  std::tuple(caso.Novo, caso.Antigo, caso.Final))
+            << caso.Porque;
 }
 
 TEST(Cnh, IgualALeituraLenta) {

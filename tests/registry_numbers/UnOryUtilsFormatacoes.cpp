@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
 
 namespace OryUtils {
 namespace {
@@ -88,28 +87,20 @@ TEST_F(Formatacoes, NumerosDosCampos) {
 }
 
 struct TControladorGravador : TControladorFormatos {
-    std::vector<std::string> Chamadas;
-    void BeginUpdate() override { Chamadas.emplace_back("BeginUpdate"), TControladorFormatos::BeginUpdate(); }
-    void EndUpdate() override { Chamadas.emplace_back("EndUpdate"), TControladorFormatos::EndUpdate(); }
+    std::string Chamadas;
+    void BeginUpdate() override { Chamadas += "BeginUpdate ", TControladorFormatos::BeginUpdate(); }
+    void EndUpdate() override { Chamadas += "EndUpdate ", TControladorFormatos::EndUpdate(); }
     void SetUsarFormatosDoProcesso(bool AUsar) override {
-        Chamadas.emplace_back(AUsar ? "sim" : "não");
+        Chamadas += AUsar ? "sim " : "não ";
         TControladorFormatos::SetUsarFormatosDoProcesso(AUsar);
     }
-    void GetFormats() override { Chamadas.emplace_back("GetFormats"), TControladorFormatos::GetFormats(); }
-    void NotifyListeners() override {
-        Chamadas.emplace_back("NotifyListeners"), TControladorFormatos::NotifyListeners();
-    }
+    void GetFormats() override { Chamadas += "GetFormats ", TControladorFormatos::GetFormats(); }
+    void NotifyListeners() override { Chamadas += "NotifyListeners ", TControladorFormatos::NotifyListeners(); }
+    void Avisar() { (Chamadas += "aviso com ") += static_cast<char>(GetFormatos().DecimalSeparator); }
 };
 
-struct TOuvinteDeFormatos {
-    TControladorFormatos& Controlador;
-    int Avisos = 0;
-    char16_t Separador = 0;
-    void Avisar() {
-        ++Avisos;
-        Separador = Controlador.GetFormatos().DecimalSeparator;
-    }
-    TEvento<> Evento() { return TEvento<>::De<&TOuvinteDeFormatos::Avisar>(*this); }
+struct TOuvinteRemovido {
+    void Avisar() { ADD_FAILURE() << "a removed listener is told"; }
 };
 
 TEST_F(Formatacoes, ControladorDeFormatosNaOrdem) {
@@ -117,27 +108,22 @@ TEST_F(Formatacoes, ControladorDeFormatosNaOrdem) {
     InstalarControladorFormatos(&controlador);
     auto& padrao = GOryUtilsFormatacoes->GetFormatoPadraoDatasEValores();
     EXPECT_TRUE(padrao.GetUsarNosControlesDevExpress());
-    EXPECT_TRUE(controlador.Chamadas.empty()) << "true at first, without telling anybody";
-
-    TOuvinteDeFormatos um{controlador}, outro{controlador};
-    controlador.AdicionarOuvinte(um.Evento());
-    controlador.AdicionarOuvinte(outro.Evento());
-    controlador.RemoverOuvinte(outro.Evento());
+    TOuvinteRemovido removido;
+    controlador.AdicionarOuvinte(TEvento<>::De<&TControladorGravador::Avisar>(controlador));
+    controlador.AdicionarOuvinte(TEvento<>::De<&TOuvinteRemovido::Avisar>(removido));
+    controlador.RemoverOuvinte(TEvento<>::De<&TOuvinteRemovido::Avisar>(removido));
     padrao.Configurar();
-    EXPECT_EQ(um.Avisos, 0) << "Configurar tells nobody";
+    EXPECT_EQ(controlador.Chamadas, "") << "true at first; neither that nor Configurar tells anybody";
     padrao.SetUsarNosControlesDevExpress(true);
-    EXPECT_EQ(controlador.Chamadas,
-              (std::vector<std::string>{"BeginUpdate", "sim", "EndUpdate", "GetFormats", "NotifyListeners"}));
-    EXPECT_EQ(um.Avisos, 1);
-    EXPECT_EQ(um.Separador, u',');
-    EXPECT_EQ(outro.Avisos, 0);
+    EXPECT_EQ(controlador.Chamadas, "BeginUpdate sim EndUpdate GetFormats NotifyListeners aviso com ,");
     padrao.SetUsarNosControlesDevExpress(false);
     EXPECT_FALSE(padrao.GetUsarNosControlesDevExpress());
-    EXPECT_EQ(controlador.Chamadas[6], "não");
+    EXPECT_NE(controlador.Chamadas.find("não"), std::string::npos);
 
     controlador.BeginUpdate();
+    controlador.Chamadas.clear();
     controlador.NotifyListeners();
-    EXPECT_EQ(um.Avisos, 2) << "nobody is notified during an update";
+    EXPECT_EQ(controlador.Chamadas, "NotifyListeners ") << "nobody is notified during an update";
     controlador.EndUpdate();
 }
 
