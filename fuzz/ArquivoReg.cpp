@@ -36,32 +36,16 @@ const std::u16string CRaiz = u"HKEY_LOCAL_MACHINE";
 
 // Pieces that such files are made of, and any character.
 std::u16string MontarTexto(Fuzz::TEntrada& AEntrada) {
-    static constexpr std::u16string_view CPedacos[] = {u"\r\n",
-                                                       u"\n",
-                                                       u"[HKEY_LOCAL_MACHINE\\a]\r\n",
-                                                       u"[-HKEY_LOCAL_MACHINE\\a",
-                                                       u"\\b]\r\n",
-                                                       u"\"n\"=",
-                                                       u"@=",
-                                                       u"dword:",
-                                                       u"hex:",
-                                                       u"hex(7):",
-                                                       u"00,1",
-                                                       u",",
-                                                       u"\\\n",
-                                                       u"\\",
-                                                       u"\"",
-                                                       u"-\r\n",
-                                                       u"; x",
-                                                       u"[HKEY_LOCAL_MACHINE\\a\\b"};
+    static constexpr std::u16string_view CPedacos[] = {u"\r\n",   u"\n",   u"]\r\n",  u"[-",   u"\\a",     u"\\b",
+                                                       u"\"n\"=", u"@=",   u"dword:", u"hex:", u"hex(7):", u"00,1",
+                                                       u",",      u"\\\n", u"\\",     u"\"",   u"-\r\n",   u"; x"};
     std::u16string texto = u"Windows Registry Editor Version 5.00\r\n";
     // Everything is compared after each edit: few pieces, and many inputs.
     for (int n = AEntrada.Byte() % 64; n > 0 && !AEntrada.Acabou(); --n) {
         const std::uint8_t qual = AEntrada.Byte();
-        if (qual < 200)
-            texto += CPedacos[qual % std::size(CPedacos)];
-        else
-            texto += AEntrada.Texto(6);
+        texto += qual < 100   ? u"[" + CRaiz + u"\\a]\r\n"
+                 : qual < 200 ? std::u16string(CPedacos[qual % std::size(CPedacos)])
+                              : AEntrada.Texto(6);
     }
     return texto;
 }

@@ -4,32 +4,13 @@
 #include "operations/Json.hpp"
 
 #include <algorithm>
+#include <sstream>
 
 using namespace Ory;
 
-namespace {
-
-struct TPreparo {
-    TPreparo() { PrepararProcesso(); }
-};
-
-void Conferir(const std::string& ARespostas, std::size_t ALinhas) {
-    Fuzz::Exigir(static_cast<std::size_t>(std::ranges::count(ARespostas, '\n')) == ALinhas);
-    std::string_view resto = ARespostas;
-    while (!resto.empty()) {
-        const std::size_t fim = resto.find('\n');
-        const TJson resposta = TJson::parse(resto.substr(0, fim), nullptr, false);
-        Fuzz::Exigir(resposta.is_object());
-        Fuzz::Exigir(resposta.contains("resultado") ||
-                     (resposta.contains("erro") && resposta.contains("classe") && resposta.at("classe") != ""));
-        resto.remove_prefix(fim + 1);
-    }
-}
-
-}  // namespace
-
 void Fuzz::Provar(TEntrada AEntrada) {
-    static const TPreparo preparo;
+    static const bool preparado = (PrepararProcesso(), true);
+    Exigir(preparado);
     const std::size_t pedaco = 1 + AEntrada.Byte();
     const std::size_t maior = AEntrada.Byte() % 2 ? CMaiorRequisicao : 64;
     const std::string bytes = AEntrada.Bytes();
@@ -40,5 +21,14 @@ void Fuzz::Provar(TEntrada AEntrada) {
     TEntradaDeTexto fluxo(bytes, pedaco);
     TSaidaDeTexto saida;
     ChamarEmLote(fluxo, saida, maior);
-    Conferir(saida.Texto, quebras + (!linhas.empty() && !linhas.ends_with('\n')));
+    std::istringstream respostas(saida.Texto);
+    std::size_t quantas = 0;
+    for (std::string linha; std::getline(respostas, linha); ++quantas) {
+        const TJson resposta = TJson::parse(linha, nullptr, false);
+        Exigir(resposta.is_object());
+        Exigir(resposta.contains("resultado") ||
+               (resposta.contains("erro") && resposta.contains("classe") && resposta.at("classe") != ""));
+    }
+    Exigir(quantas == quebras + (!linhas.empty() && !linhas.ends_with('\n')));
+    Exigir(saida.Texto.empty() || saida.Texto.ends_with('\n'));
 }

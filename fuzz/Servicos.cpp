@@ -11,19 +11,22 @@
 
 using namespace OryUtils;
 using namespace OryUtils::Interno;
-using namespace OryUtils::Interno;
 
 namespace {
 
-std::size_t ContarPartes(std::u16string_view ALinha) { return SepararLinhaDeComando(ALinha).size(); }
+/// The arguments of a command with values as they come in: as many as with harmless ones.
+std::vector<std::u16string> Partes(std::u16string_view ALinha, std::u16string_view AInofensiva) {
+    auto partes = SepararLinhaDeComando(ALinha);
+    Fuzz::Exigir(partes.size() == SepararLinhaDeComando(AInofensiva).size());
+    return partes;
+}
 
 void Montar(const std::u16string& AServico, const std::u16string& AOutro, const std::u16string& ASenha) {
     Fuzz::Exigir(SepararArgumentos(u"\"" + EscaparEntreAspas(AServico) + u"\"") == std::vector{AServico});
-    Fuzz::Exigir(ContarPartes(MontarComandoRecuperacao(AServico)) == ContarPartes(MontarComandoRecuperacao(u"a")));
-    Fuzz::Exigir(ContarPartes(MontarComandoDependencia(AServico, AOutro)) ==
-                 ContarPartes(MontarComandoDependencia(u"a", u"b")));
-    const auto logon = SepararLinhaDeComando(MontarComandoLogon(AServico, AOutro, ASenha));
-    Fuzz::Exigir(logon.size() == ContarPartes(MontarComandoLogon(u"a", u"b", u"c")) && logon.back() == ASenha);
+    Partes(MontarComandoRecuperacao(AServico), MontarComandoRecuperacao(u"a"));
+    Partes(MontarComandoDependencia(AServico, AOutro), MontarComandoDependencia(u"a", u"b"));
+    Fuzz::Exigir(Partes(MontarComandoLogon(AServico, AOutro, ASenha), MontarComandoLogon(u"a", u"b", u"c")).back() ==
+                 ASenha);
 }
 
 void MontarUnidadeDe(const std::string& ANome, const std::string& AExecutavel) {
