@@ -19,29 +19,25 @@ TDateTime Instante(int AAno, int AMes, int ADia, int AHora, int AMinuto, int ASe
     return JuntarDataHora(CodificarData(AAno, AMes, ADia), CodificarHora(AHora, AMinuto, ASegundo, AMili));
 }
 
+/// What a file says of itself.
+std::string Ver(const std::u16string& AArquivo) {
+    TArquivoInfo info;
+    info.SetArquivo(AArquivo);
+    const bool semData = info.GetData() == 0.0 && info.GetDataModificacao() == 0.0;
+    return ParaUtf8(info.GetNome() + u"|" + info.GetTamanho() + u"|" + info.GetTamanhoFormatado() + u"|" +
+                    info.GetExtensao() + (semData ? u"|" : u"|dated"));
+}
+
 TEST(Arquivos, NomeTamanhoEExtensao) {
     const TPastaTemporaria pasta;
     const TFormatosTemporarios formatos(BuscarFormatosBrasileiros());
-    TArquivoInfo info;
-    info.SetArquivo(pasta.Gravar(u"Relatório.TXT", std::string(1536, 'x')));
-    EXPECT_EQ(info.GetNome(), u"Relatório.TXT");
-    EXPECT_EQ(info.GetTamanho(), u"1536");
-    EXPECT_EQ(info.GetTamanhoFormatado(), u"1,5 KB");
-    EXPECT_EQ(info.GetExtensao(), u".txt");
-
-    info.SetArquivo(pasta.Caminho().u16string());
-    EXPECT_EQ(info.GetNome(), pasta.Caminho().filename().u16string()) << "a search finds folders too";
-    EXPECT_EQ(info.GetTamanho(), u"0");
-
-    for (const auto& nome : {pasta.Nome(u"falta.txt"), pasta.Nome(u"Relatório.TXT/x"), pasta.Nome(u"Relatório.TXT/"),
-                             pasta.Nome(std::u16string_view(u"Relatório.TXT\0", 14)), std::u16string(1 << 20, u'x'),
+    EXPECT_EQ(Ver(pasta.Gravar(u"Relatório.TXT", std::string(1536, 'x'))), "Relatório.TXT|1536|1,5 KB|.txt|dated");
+    EXPECT_EQ(Ver(pasta.Caminho().u16string()), ParaUtf8(pasta.Caminho().filename().u16string()) + "|0|0 bytes||")
+        << "a search finds folders too";
+    for (const auto& nome : {pasta.Nome(u"falta"), pasta.Nome(u"Relatório.TXT/x"), pasta.Nome(u"Relatório.TXT/"),
+                             pasta.Nome(std::u16string_view(u"Relatório\0", 10)), std::u16string(1 << 20, u'x'),
                              std::u16string(u"\xD800")}) {
-        info.SetArquivo(nome);
-        EXPECT_EQ(info.GetNome(), u"");
-        EXPECT_EQ(info.GetTamanho(), u"0");
-        EXPECT_EQ(info.GetTamanhoFormatado(), u"0 bytes");
-        EXPECT_EQ(info.GetData(), 0.0);
-        EXPECT_EQ(info.GetDataModificacao(), 0.0);
+        EXPECT_EQ(Ver(nome), "|0|0 bytes||");
         EXPECT_FALSE(C::AlterouDataHoraArquivo(nome, Instante(2026, 1, 1, 0, 0, 0)));
     }
 }
@@ -68,9 +64,6 @@ TEST(Arquivos, DataVaiEVolta) {
     for (const double absurda : {1e9, -1e9, std::numeric_limits<double>::quiet_NaN()})
         EXPECT_FALSE(C::AlterouDataHoraArquivo(info.GetArquivo(), absurda));
     EXPECT_FALSE(C::AlterouDataHoraArquivo(pasta.Caminho().u16string(), Instante(2026, 1, 1, 0, 0, 0))) << "a folder";
-    info.SetArquivo(pasta.Caminho().u16string());
-    EXPECT_EQ(info.GetDataModificacao(), 0.0);
-    EXPECT_EQ(info.GetData(), 0.0);
 }
 
 // Two hours behind UTC in the summer that ends on 2018-02-18 at 02:00 UTC, three hours from then on.
@@ -114,14 +107,10 @@ TEST(Arquivos, DataEmpacotadaEHoraLocalDoSeuTempo) {
 TEST(Arquivos, Pastas) {
     const TPastaTemporaria pasta;
     const std::u16string arquivo = pasta.Gravar(u"a", "x");
-    EXPECT_TRUE(C::ExisteDiretorio(pasta.Caminho().u16string()));
-    EXPECT_TRUE(C::ExisteDiretorio(pasta.Nome(u"")));
-    EXPECT_FALSE(C::ExisteDiretorio(arquivo));
-    EXPECT_FALSE(C::ExisteDiretorio(pasta.Nome(u"falta")));
-    EXPECT_FALSE(C::ExisteDiretorio(u""));
-    EXPECT_FALSE(C::AbrirArquivo(pasta.Nome(u"falta.txt")));
-    EXPECT_FALSE(C::AbrirArquivo(u""));
-    EXPECT_FALSE(C::AbrirArquivo(std::u16string_view(u"a\0b", 3)));
+    for (const auto& nome : {pasta.Caminho().u16string(), pasta.Nome(u"")}) EXPECT_TRUE(C::ExisteDiretorio(nome));
+    for (const auto& nome : {arquivo, pasta.Nome(u"falta"), std::u16string()}) EXPECT_FALSE(C::ExisteDiretorio(nome));
+    for (const auto& nome : {pasta.Nome(u"falta.txt"), std::u16string(), std::u16string(u"a\0b", 3)})
+        EXPECT_FALSE(C::AbrirArquivo(nome));
 }
 
 TEST(Arquivos, NomeSemExtensao) {

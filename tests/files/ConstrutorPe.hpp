@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,6 +17,9 @@ inline void Por(std::string& ABytes, std::uint64_t AValor, int ATamanho) {
 }
 inline void Por16(std::string& ABytes, std::uint64_t AValor) { Por(ABytes, AValor, 2); }
 inline void Por32(std::string& ABytes, std::uint64_t AValor) { Por(ABytes, AValor, 4); }
+inline void Por32(std::string& ABytes, std::initializer_list<std::uint64_t> AValores) {
+    for (const std::uint64_t valor : AValores) Por32(ABytes, valor);
+}
 inline void Alinhar(std::string& ABytes, std::size_t AMultiplo) {
     ABytes.resize((ABytes.size() + AMultiplo - 1) / AMultiplo * AMultiplo);
 }
@@ -51,8 +55,9 @@ inline std::string Montar(const TNo& ANo) {
     return bytes.replace(0, cabecalho.size(), cabecalho);
 }
 
-inline TNo Texto(std::u16string_view AChave, std::u16string_view AValor) {
-    return {.Chave = std::u16string(AChave), .Valor = DeTexto(std::u16string(AValor) + u'\0')};
+inline TNo Texto(std::u16string_view AChave, std::u16string_view AValor, std::optional<std::size_t> ATamanho = {}) {
+    return {
+        .Chave = std::u16string(AChave), .Valor = DeTexto(std::u16string(AValor) + u'\0'), .TamanhoDoValor = ATamanho};
 }
 inline TNo Tabela(std::u16string_view ANome, std::vector<TNo> ATextos) {
     return {.Chave = std::u16string(ANome), .Filhos = std::move(ATextos)};
@@ -78,79 +83,55 @@ inline TNo Raiz(std::optional<std::array<unsigned, 4>> AVersao, std::vector<TNo>
     }
     return {.Chave = u"VS_VERSION_INFO", .Texto = false, .Valor = valor, .Filhos = std::move(AFilhos)};
 }
+/// A resource in Portuguese with those texts.
+inline TNo EmPortugues(std::array<unsigned, 4> AVersao, std::vector<TNo> ATextos) {
+    return Raiz(AVersao, {Textos({Tabela(u"041604b0", std::move(ATextos))}), Traducoes({{0x416, 1200}})});
+}
 
 constexpr std::size_t CInicioDaSecao = 0x200;
 constexpr std::size_t CEnderecoDaSecao = 0x1000;
 
+using TBlocos = std::vector<std::pair<unsigned, std::string>>;
+
+inline std::string MontarRecursos(const TBlocos& ABlocos) {
+    const std::size_t inicioDosLugares = 0x40 + ABlocos.size() * 8;
+    const std::size_t inicioDosBlocos = inicioDosLugares + ABlocos.size() * 16;
+    std::string pastas, lugares, blocos;
+    // Folder of types, of names, of languages: how many entries; then each one's number and where it leads.
+    Por32(pastas, {0, 0, 0, 1 << 16, 16, 0x8000'0018});
+    Por32(pastas, {0, 0, 0, 1 << 16, 1, 0x8000'0030});
+    Por32(pastas, {0, 0, 0, ABlocos.size() << 16});
+    for (const auto& [idioma, bloco] : ABlocos) {
+        Por32(pastas, {idioma, inicioDosLugares + lugares.size()});
+        Por32(lugares, {CEnderecoDaSecao + inicioDosBlocos + blocos.size(), bloco.size(), 0, 0});
+        Alinhar(blocos += bloco, 4);
+    }
+    return pastas + lugares + blocos;
+}
+
 /// A PE file with nothing but version resources: a language number and the bytes of the block for each.
-inline std::string MontarArquivo(bool A64Bits, const std::vector<std::pair<unsigned, std::string>>& ABlocos) {
-    // Folder of types, of names, of languages; then the places of the data; then the data.
-    std::string recursos;
-    const auto pasta = [&](std::size_t AEntradas) {
-        recursos.append(14, '\0');
-        Por16(recursos, AEntradas);
-    };
-    pasta(1);
-    Por32(recursos, 16);
-    Por32(recursos, 0x8000'0018);
-    pasta(1);
-    Por32(recursos, 1);
-    Por32(recursos, 0x8000'0030);
-    pasta(ABlocos.size());
-    const std::size_t dados = 0x40 + ABlocos.size() * 8;
-    for (std::size_t i = 0; i < ABlocos.size(); ++i) {
-        Por32(recursos, ABlocos[i].first);
-        Por32(recursos, dados + i * 16);
-    }
-    std::size_t lugar = dados + ABlocos.size() * 16;
-    for (const auto& [idioma, bloco] : ABlocos) {
-        Por32(recursos, CEnderecoDaSecao + lugar);
-        Por32(recursos, bloco.size());
-        recursos.append(8, '\0');
-        lugar = (lugar + bloco.size() + 3) / 4 * 4;
-    }
-    for (const auto& [idioma, bloco] : ABlocos) {
-        recursos += bloco;
-        Alinhar(recursos, 4);
-    }
+inline std::string MontarArquivo(bool A64Bits, const TBlocos& ABlocos) {
+    std::string recursos = MontarRecursos(ABlocos);
     const std::size_t tamanho = recursos.size();
     Alinhar(recursos, 0x200);
+    const std::size_t fim = CEnderecoDaSecao + (recursos.size() + 0xFFF) / 0x1000 * 0x1000;
 
     std::string arquivo = "MZ";
     arquivo.resize(0x3C);
     Por32(arquivo, 0x40);
     arquivo += std::string_view("PE\0\0", 4);
-    Por16(arquivo, A64Bits ? 0x8664 : 0x014C);
-    Por16(arquivo, 1);  // sections
-    arquivo.append(12, '\0');
-    Por16(arquivo, A64Bits ? 240 : 224);
-    Por16(arquivo, A64Bits ? 0x2022 : 0x2102);  // a library
+    Por32(arquivo, {A64Bits ? 0x1'8664u : 0x1'014Cu, 0, 0, 0});  // one section
+    Por32(arquivo, A64Bits ? 0x2022'00F0u : 0x2102'00E0u);       // a library
     Por16(arquivo, A64Bits ? 0x20B : 0x10B);
     arquivo.append(A64Bits ? 22 : 26, '\0');
     Por(arquivo, 0x1000'0000, A64Bits ? 8 : 4);  // base
-    Por32(arquivo, CEnderecoDaSecao);
-    Por32(arquivo, 0x200);
-    for (const unsigned versao : {4u, 0u, 0u, 0u, 4u, 0u}) Por16(arquivo, versao);
-    Por32(arquivo, 0);
-    Por32(arquivo, CEnderecoDaSecao + (recursos.size() + 0xFFF) / 0x1000 * 0x1000);
-    Por32(arquivo, CInicioDaSecao);
-    Por32(arquivo, 0);
-    Por16(arquivo, 3);  // console
-    Por16(arquivo, 0);
+    // Alignments, versions, sizes; 3 is a program of the console.
+    Por32(arquivo, {CEnderecoDaSecao, 0x200, 4, 0, 4, 0, fim, CInicioDaSecao, 0, 3});
     for (int i = 0; i < 4; ++i) Por(arquivo, 0x100000, A64Bits ? 8 : 4);
-    Por32(arquivo, 0);
-    Por32(arquivo, 16);
-    arquivo.append(16, '\0');
-    Por32(arquivo, CEnderecoDaSecao);
-    Por32(arquivo, tamanho);
+    Por32(arquivo, {0, 16, 0, 0, 0, 0, CEnderecoDaSecao, tamanho});
     arquivo.append(13 * 8, '\0');
     arquivo += std::string_view(".rsrc\0\0\0", 8);
-    Por32(arquivo, tamanho);
-    Por32(arquivo, CEnderecoDaSecao);
-    Por32(arquivo, recursos.size());
-    Por32(arquivo, CInicioDaSecao);
-    arquivo.append(12, '\0');
-    Por32(arquivo, 0x4000'0040);
+    Por32(arquivo, {tamanho, CEnderecoDaSecao, recursos.size(), CInicioDaSecao, 0, 0, 0, 0x4000'0040});
     arquivo.resize(CInicioDaSecao);
     return arquivo + recursos;
 }

@@ -75,10 +75,28 @@ private:
     TAmbienteDeTeste& FAmbiente;
 };
 
+using TLinhas = std::vector<std::u16string>;
+
+/// What a log in tfmSomenteTexto writes by itself in that world.
+inline const TLinhas CCabecalho{u"Início do processo",        u"Aplicação executora: Importador.exe",
+                                u"Versão: 7.2.0.15",          u"IP: 192.168.0.10",
+                                u"Nome da máquina: SERVIDOR", std::u16string(78, u'*')};
+
 /// The lines with the system's break behind each, in UTF-8: the file of a log in clUtf8.
-inline std::string JuntarLinhas(const std::vector<std::u16string>& ALinhas) {
-    const std::string quebra = OryUtils::ParaUtf8(OryUtils::Interno::BuscarQuebraDeLinha());
+inline std::string JuntarLinhas(const TLinhas& ALinhas) {
     std::string texto;
-    for (const auto& linha : ALinhas) texto += OryUtils::ParaUtf8(linha) + quebra;
+    for (const auto& linha : ALinhas)
+        texto += OryUtils::ParaUtf8(linha) + OryUtils::ParaUtf8(OryUtils::Interno::BuscarQuebraDeLinha());
     return texto;
+}
+
+/// GetTexto of those lines: no break behind the last one.
+inline std::u16string JuntarTexto(const TLinhas& ALinhas) {
+    std::u16string texto = OryUtils::DeUtf8(JuntarLinhas(ALinhas));
+    return texto.substr(0, texto.size() - (texto.empty() ? 0 : OryUtils::Interno::BuscarQuebraDeLinha().size()));
+}
+
+inline TLinhas Somar(TLinhas ALinhas, const TLinhas& AMais) {
+    ALinhas.insert(ALinhas.end(), AMais.begin(), AMais.end());
+    return ALinhas;
 }

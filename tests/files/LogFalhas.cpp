@@ -18,39 +18,38 @@ protected:
 };
 
 TEST_P(LogFalhas, FalhaConsertoERegravacao) {
-    struct TCaso {
-        std::function<void()> Estragar, Consertar;
+    const fs::path pasta = Arquivo.parent_path();
+    const auto consertar = [&] { fs::remove_all(pasta), fs::create_directories(pasta); };
+    const struct {
         const char* Porque;
-    };
-    const TCaso casos[] = {
-        {[&] { fs::remove_all(Pasta.Caminho() / "p"), GravarBytes(Pasta.Caminho() / "p", "um arquivo"); },
-         [&] { fs::remove(Pasta.Caminho() / "p"); }, "a file where the folder should be"},
-        {[&] { fs::remove(Arquivo), fs::create_directories(Arquivo); }, [&] { fs::remove(Arquivo); },
-         "a folder in the place of the file"},
-        {[&] { fs::remove(Arquivo), fs::create_directories(Arquivo / "cheia"); }, [&] { fs::remove_all(Arquivo); },
-         "a folder with something in it"},
+        std::function<void()> Estragar;
+    } casos[] = {
+        {"a file where the folder should be", [&] { fs::remove_all(pasta), GravarBytes(pasta, "um arquivo"); }},
+        {"a folder in the place of the file", [&] { fs::remove(Arquivo), fs::create_directories(Arquivo); }},
+        {"a folder with something in it", [&] { fs::remove(Arquivo), fs::create_directories(Arquivo / "cheia"); }},
     };
     Log.Adicionar(u"começo", clBlue);
     EXPECT_EQ(Log.ContarTentativas(), 1) << "a missing folder is no fault: it is created";
-    for (const TCaso& c : casos) {
+    for (const auto& c : casos) {
+        SCOPED_TRACE(c.Porque);
         c.Estragar();
         Log.Adicionar(u"durante a falha", clBlue);
-        EXPECT_EQ(Log.ContarTentativas(), 14) << c.Porque;
-        EXPECT_FALSE(Log.EstahSalvo()) << c.Porque;
-        EXPECT_NO_THROW(Log.FinalizarLog()) << c.Porque;
+        EXPECT_EQ(Log.ContarTentativas(), 14);
+        EXPECT_FALSE(Log.EstahSalvo());
+        EXPECT_NO_THROW(Log.FinalizarLog());
         Log.Adicionar(u"de novo", clBlue);
-        EXPECT_EQ(Log.ContarTentativas(), 14) << c.Porque;
-        c.Consertar();
-        EXPECT_EQ(Log.ContarTentativas(), 1) << c.Porque;
-        EXPECT_TRUE(Log.EstahSalvo()) << c.Porque;
+        EXPECT_EQ(Log.ContarTentativas(), 14);
+        consertar();
+        EXPECT_EQ(Log.ContarTentativas(), 1);
+        EXPECT_TRUE(Log.EstahSalvo());
         EXPECT_EQ(LerBytes(Arquivo), Log.Esperar());
         // Mended between two attempts: the attempt behind it is the last.
         c.Estragar();
         Ambiente.AoTentar = [&](int ATentativa) {
-            if (ATentativa == 5) c.Consertar(), fs::create_directories(Arquivo.parent_path());
+            if (ATentativa == 5) consertar();
         };
         Log.Adicionar(u"mais uma", clBlue);
-        EXPECT_EQ(Log.ContarTentativas(), 5) << c.Porque;
+        EXPECT_EQ(Log.ContarTentativas(), 5);
         Ambiente.AoTentar = nullptr;
         EXPECT_EQ(LerBytes(Arquivo), Log.Esperar());
     }
@@ -71,48 +70,9 @@ TEST_P(LogFalhas, NomeSemArquivo) {
     EXPECT_FALSE(fs::exists(Arquivo.parent_path() / "a"));
 }
 
-TEST_P(LogFalhas, ExistenteQueNaoSeLeDeixaALista) {
-    fs::create_directories(Arquivo);
-    Log.SetUsarArquivoLogExistente(true);
-    Log.AdicionarEspacoEmBranco(3);
-    EXPECT_NO_THROW(Log.IniciarLog());
-    EXPECT_TRUE(Log.GetTexto().starts_with(Interno::BuscarQuebraDeLinha()));
-}
-
 INSTANTIATE_TEST_SUITE_P(Modos, LogFalhas, testing::Values(mgReescrever, mgAcrescentar));
 
 fs::path Com(fs::path ANome, const char* AFim) { return ANome += AFim; }
-
-/// What happens to the file between two saves.
-struct TMexida {
-    std::function<void(const fs::path&)> Mexer;
-    bool Continua;
-    const char* Porque;
-};
-
-std::vector<TMexida> BuscarMexidas() {
-    std::vector<TMexida> mexidas{
-        {[](const fs::path&) {}, true, "nothing"},
-        {[](const fs::path& a) { LerBytes(a); }, true, "read"},
-        {[](const fs::path& a) { fs::last_write_time(a, fs::last_write_time(a) + std::chrono::seconds(3)); }, true,
-         "another time"},
-        {[](const fs::path& a) { GravarBytes(a, "mais", std::ios::app); }, false, "longer"},
-        {[](const fs::path& a) { fs::resize_file(a, fs::file_size(a) - 1); }, false, "shorter"},
-        {[](const fs::path& a) { fs::resize_file(a, 0); }, false, "emptied"},
-        {[](const fs::path& a) { fs::rename(a, Com(a, ".1")); }, false, "moved away"},
-        {[](const fs::path& a) {
-             fs::copy_file(a, Com(a, ".2")), fs::rename(a, Com(a, ".3")), fs::rename(Com(a, ".2"), a);
-         },
-         false, "another file of the same text"},
-    };
-    // Windows keeps the folder of an open file where it is; Wine deletes an open file only when it is closed.
-    if (Interno::BuscarSeparadorDePastas() == u'/') {
-        mexidas.push_back({[](const fs::path& a) { fs::remove(a); }, false, "gone"});
-        mexidas.push_back({[](const fs::path& a) { fs::rename(a.parent_path(), Com(a.parent_path(), "_1")); }, false,
-                           "folder moved"});
-    }
-    return mexidas;
-}
 
 /// A log by append, saved after each line, with one line.
 struct TAcrescimo {
@@ -123,6 +83,8 @@ struct TAcrescimo {
 
     TAcrescimo() {
         Log.SetFormatoMensagem(tfmSomenteTexto);
+        Log.IniciarLog();
+        Log.Limpar();
         Log.SetSalvarAutomaticamente(true);
         Log.Adicionar(u"a primeira", clBlue);
     }
@@ -136,40 +98,86 @@ struct TAcrescimo {
     }
 };
 
-const std::size_t CUmaLinha = JuntarLinhas({u"mais uma"}).size();
+/// When the log notices that it must write the whole again.
+enum TQuando { quNunca, quNoOlhar, quNaHora };
 
-TEST(LogAcrescimo, SoContinuaOQueEleMesmoDeixou) {
-    for (const auto& [mexer, continua, porque] : BuscarMexidas()) {
-        SCOPED_TRACE(porque);
-        TAcrescimo t;
-        EXPECT_EQ(t.Adicionar(), CUmaLinha);
-        mexer(t.Arquivo);
-        const std::size_t escritos = t.Adicionar();
-        EXPECT_EQ(escritos, continua ? CUmaLinha : t.Log.Esperar().size());
-        EXPECT_EQ(LerBytes(t.Arquivo), t.Log.Esperar());
-        EXPECT_EQ(t.Adicionar(), CUmaLinha) << "then it goes on";
-        EXPECT_EQ(LerBytes(t.Arquivo), t.Log.Esperar());
-    }
+/// What happens to the file or to the lines between two saves.
+struct TMexida {
+    const char* Porque;
+    TQuando Regrava;
+    std::function<void(const fs::path&, TLogDeTeste&)> Mexer;
+};
+
+void Trocar(const fs::path& AArquivo) {
+    fs::copy_file(AArquivo, Com(AArquivo, ".2"));
+    fs::rename(AArquivo, Com(AArquivo, ".3"));
+    fs::rename(Com(AArquivo, ".2"), AArquivo);
 }
 
-TEST(LogAcrescimo, OlhaOArquivoACadaDecimoDeSegundoENoFim) {
-    for (const auto& [mexer, continua, porque] : BuscarMexidas())
-        for (const bool fim : {false, true}) {
-            SCOPED_TRACE(porque);
-            TAcrescimo t;
-            t.Ambiente.Passo = {};
-            mexer(t.Arquivo);
-            t.Ambiente.Relogio += std::chrono::milliseconds(99);
-            EXPECT_EQ(t.Adicionar(), CUmaLinha) << "the log has just looked";
-            if (fim) {
-                t.Log.FinalizarLog();
-            } else {
-                t.Ambiente.Relogio += std::chrono::milliseconds(1);
-                const std::size_t escritos = t.Adicionar();
-                EXPECT_EQ(escritos, continua ? CUmaLinha : t.Log.Esperar().size());
+std::vector<TMexida> BuscarMexidas() {
+    using std::chrono::hours;
+    std::vector<TMexida> mexidas{
+        {"nothing", quNunca, [](auto&, auto&) {}},
+        {"read", quNunca, [](auto& a, auto&) { LerBytes(a); }},
+        {"dated", quNunca, [](auto& a, auto&) { fs::last_write_time(a, fs::last_write_time(a) + hours(1)); }},
+        {"longer", quNoOlhar, [](auto& a, auto&) { GravarBytes(a, "mais", std::ios::app); }},
+        {"shorter", quNoOlhar, [](auto& a, auto&) { fs::resize_file(a, fs::file_size(a) - 1); }},
+        {"emptied", quNoOlhar, [](auto& a, auto&) { fs::resize_file(a, 0); }},
+        {"moved away", quNoOlhar, [](auto& a, auto&) { fs::rename(a, Com(a, ".1")); }},
+        {"another file of the same text", quNoOlhar, [](auto& a, auto&) { Trocar(a); }},
+        {"empty lines at the end", quNunca, [](auto&, auto& l) { l.AdicionarEspacoEmBranco(2); }},
+        {"inserted at the end", quNunca, [](auto&, auto& l) { l.InserirTexto(u"fim", 2, clBlue); }},
+        {"inserted in the middle", quNaHora, [](auto&, auto& l) { l.InserirTexto(u"meio", 1, clBlue); }},
+        {"another encoding", quNaHora, [](auto&, auto& l) { l.SetCodificacao(clWindows1252); }},
+        {"other lines, and more", quNaHora, [](auto&, auto& l) { l.Limpar(), l.AdicionarEspacoEmBranco(500); }},
+    };
+    // Windows keeps the folder of an open file where it is; Wine deletes an open file only when it is closed.
+    if (Interno::BuscarSeparadorDePastas() == u'/') {
+        mexidas.push_back({"gone", quNoOlhar, [](auto& a, auto&) { fs::remove(a); }});
+        mexidas.push_back({"folder moved", quNoOlhar,
+                           [](auto& a, auto&) { fs::rename(a.parent_path(), Com(a.parent_path(), "_1")); }});
+    }
+    return mexidas;
+}
+
+/// It looks at the file every tenth of a second, and at the end.
+TEST(LogAcrescimo, SoContinuaOQueEleMesmoDeixou) {
+    for (const TMexida& mexida : BuscarMexidas())
+        for (const bool umaLinhaAntes : {false, true})
+            for (const bool fim : {false, true}) {
+                SCOPED_TRACE(mexida.Porque);
+                TAcrescimo t;
+                t.Ambiente.Passo = {};
+                std::size_t tamanho = t.Log.Esperar().size();
+                const auto conferir = [&](bool ATudo) {
+                    const std::size_t escritos = t.Adicionar();
+                    const std::size_t agora = t.Log.Esperar().size();
+                    EXPECT_EQ(escritos, ATudo ? agora : agora - tamanho);
+                    tamanho = agora;
+                };
+                conferir(false);
+                mexida.Mexer(t.Arquivo, t.Log);
+                t.Ambiente.Relogio += std::chrono::milliseconds(99);
+                if (umaLinhaAntes) conferir(mexida.Regrava == quNaHora);
+                t.Ambiente.Relogio += std::chrono::milliseconds(fim ? 0 : 1);
+                if (fim)
+                    t.Log.FinalizarLog();
+                else
+                    conferir(mexida.Regrava == quNoOlhar || (mexida.Regrava == quNaHora && !umaLinhaAntes));
+                EXPECT_EQ(LerBytes(t.Arquivo), t.Log.Esperar());
+                if (fim) continue;
+                conferir(false);  // then it goes on
+                EXPECT_EQ(LerBytes(t.Arquivo), t.Log.Esperar());
             }
-            EXPECT_EQ(LerBytes(t.Arquivo), t.Log.Esperar());
-        }
+}
+
+TEST(LogAcrescimo, OutroNomeEhOutroArquivo) {
+    TAcrescimo t;
+    t.Ambiente.Passo = {};
+    t.Adicionar();
+    t.Log.SetTipoPeriodicidade(tplDiario);
+    t.Adicionar();
+    EXPECT_EQ(LerBytes(t.Arquivo.parent_path() / "A_15_11_2026.log"), t.Log.Esperar());
 }
 
 TEST(LogAcrescimo, OutroEscreveDuranteARegravacao) {
@@ -193,37 +201,6 @@ TEST(LogAcrescimo, OutroLogDoMesmoArquivoTambemGrava) {
         EXPECT_EQ(LerBytes(t.Arquivo), outro.Esperar());
         t.Adicionar();
         EXPECT_EQ(LerBytes(t.Arquivo), t.Log.Esperar()) << "who saves last has its text there";
-    }
-}
-
-TEST(LogAcrescimo, TextoMudadoNoMeioRegravaTudo) {
-    struct TCaso {
-        std::function<void(TLogDeTeste&)> Mudar;
-        bool Continua;
-        const char* Porque;
-    };
-    const TCaso casos[] = {
-        {[](TLogDeTeste& l) { l.AdicionarEspacoEmBranco(2); }, true, "empty lines at the end"},
-        {[](TLogDeTeste& l) { l.InserirTexto(u"fim", 7, clBlue); }, true, "inserted at the end"},
-        {[](TLogDeTeste& l) { l.FinalizarLog(); }, true, "the footer"},
-        {[](TLogDeTeste& l) { l.InserirTexto(u"meio", 3, clBlue); }, false, "inserted in the middle"},
-        {[](TLogDeTeste& l) { l.SetCodificacao(clWindows1252); }, false, "another encoding"},
-        {[](TLogDeTeste& l) { l.Limpar(), l.AdicionarEspacoEmBranco(500); }, false, "emptied and longer again"},
-    };
-    for (const TCaso& c : casos) {
-        const TPastaTemporaria pasta;
-        TAmbienteDeTeste ambiente;
-        TLogDeTeste log(pasta.Nome("A"), ambiente, mgAcrescentar);
-        log.SetTipoPeriodicidade(tplDiario);
-        log.Adicionar(u"linha", clBlue);
-        log.SalvarArquivoLog();
-        c.Mudar(log);
-        log.SalvarArquivoLog();
-        const std::size_t tamanho = fs::file_size(pasta.Caminho() / "A_15_11_2026.log");
-        if (c.Continua)
-            EXPECT_EQ(ambiente.Bytes, tamanho) << c.Porque;
-        else
-            EXPECT_GT(ambiente.Bytes, tamanho) << c.Porque;
     }
 }
 

@@ -1,5 +1,6 @@
 #include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/platform/Pastas.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
 
 #include "files/LogApoio.hpp"
@@ -14,69 +15,59 @@ namespace {
 
 using namespace OryUtils;
 
-class TLogObvio {
-public:
-    explicit TLogObvio(const TPastaTemporaria& APasta, TAmbienteDeTeste& AAmbiente)
-        : FPasta(APasta), FAmbiente(AAmbiente) {}
+struct TLogObvio {
+    TAmbienteDeTeste& Ambiente;
+    TLinhas Linhas{};
+    std::map<std::string, TLinhas> Arquivos{};
+    TDateTime Dia = CodificarData(2026, 11, 15);
+    std::string Subpasta = "a/";
+    bool ComHora = true, Automatico = false, Existente = false, Diario = false, Iniciado = false;
 
     void Iniciar() {
-        if (FIniciado) return;
-        FIniciado = true;
+        if (Iniciado) return;
+        Iniciado = true;
         if (!Existente)
             Linhas.clear();
         else if (Arquivos.contains(Arquivo()))
             Linhas = Arquivos[Arquivo()];
-        for (const char16_t* linha : {u"Início do processo", u"Aplicação executora: Importador.exe",
-                                      u"Versão: 7.2.0.15", u"IP: 192.168.0.10", u"Nome da máquina: SERVIDOR"})
-            Mensagem(linha);
-        Adicionar(std::u16string(78, u'*'));  // a start on another day is found out only here
+        for (std::size_t i = 0; i < 5; ++i) Mensagem(CCabecalho[i]);
+        Adicionar(CCabecalho[5]);  // a start on another day is found out only here
     }
     void Mensagem(const std::u16string& AMensagem) {
         const bool hora = ComHora && !Aparar(AMensagem).empty();
-        Linhas.push_back(hora ? u"[" + FormatarDataHora(u"dd/mm/yyyy hh:nn:ss", FAmbiente.Agora) + u"]: " + AMensagem
-                              : AMensagem);
+        Linhas.push_back((hora ? FormatarDataHora(u"'['dd/mm/yyyy hh:nn:ss']: '", Ambiente.Agora) : u"") + AMensagem);
         if (Automatico) Salvar();
     }
     void Adicionar(const std::u16string& AMensagem) {
-        if (BuscarParteData(FAmbiente.Agora) != Dia) {
+        if (BuscarParteData(Ambiente.Agora) != Dia) {
             Finalizar();
-            Dia = BuscarParteData(FAmbiente.Agora);
+            Dia = BuscarParteData(Ambiente.Agora);
             Linhas.clear();
         }
         Iniciar();
         Mensagem(AMensagem);
     }
     void Finalizar() {
-        Mensagem(std::u16string(78, u'*'));
-        Mensagem(u"Fim do processo");
-        Mensagem(u"");
+        for (const std::u16string& linha : {CCabecalho[5], std::u16string(u"Fim do processo"), std::u16string()})
+            Mensagem(linha);
         Salvar();
-        FIniciado = false;
+        Iniciado = false;
     }
-    void Salvar() { Arquivos[Arquivo()] = Linhas.empty() ? std::vector<std::u16string>{u""} : Linhas; }
+    void Salvar() { Arquivos[Arquivo()] = Linhas.empty() ? TLinhas{u""} : Linhas; }
     std::string Arquivo() const {
         return Subpasta + "Log" + (Diario ? ParaUtf8(FormatarDataHora(u"'_'dd'_'mm'_'yyyy", Dia)) : "") + ".log";
     }
-
-    std::vector<std::u16string> Linhas{};
-    std::map<std::string, std::vector<std::u16string>> Arquivos{};
-    TDateTime Dia = CodificarData(2026, 11, 15);
-    std::string Subpasta = "a/";
-    bool ComHora = true, Automatico = false, Existente = false, Diario = false;
-
-private:
-    const TPastaTemporaria& FPasta;
-    TAmbienteDeTeste& FAmbiente;
-    bool FIniciado = false;
 };
 
 class TCorrida {
 public:
-    explicit TCorrida(std::uint32_t ASemente) : FSorteio(ASemente), FObvio(FPasta, FAmbiente) {}
+    explicit TCorrida(std::uint32_t ASemente) : FSorteio(ASemente) {}
     void Correr(int APassos) {
         for (int i = 0; i < APassos && !testing::Test::HasFailure(); ++i) {
-            const int passo = Sortear(16);
-            Passar(passo);
+            // Every third step or so is one more line.
+            const int passo = Sortear(static_cast<int>(FPassos.size()) * 4 / 3);
+            passo < static_cast<int>(FPassos.size()) ? FPassos[static_cast<std::size_t>(passo)](Sortear(2) == 1)
+                                                     : Adicionar();
             Conferir(passo);
         }
     }
@@ -91,62 +82,41 @@ private:
         for (int i = Sortear(6); i > 0; --i) texto += CTrechos[Sortear(std::size(CTrechos))];
         return texto;
     }
-
-    void Passar(int APasso) {
-        const bool sim = Sortear(2) == 1;
-        switch (APasso) {
-            case 0:
-                return FLog.SetSalvarAutomaticamente(FObvio.Automatico = sim);
-            case 1:
-                return FLog.SetUsarArquivoLogExistente(FObvio.Existente = sim);
-            case 2:
-                FObvio.ComHora = sim;
-                return FLog.SetFormatoMensagem(sim ? tfmComDataHora : tfmSomenteTexto);
-            case 3:
-                FObvio.Diario = sim;
-                return FLog.SetTipoPeriodicidade(sim ? tplDiario : tplUnico);
-            case 4:
-                return FLog.SetModoGravacao(sim ? mgAcrescentar : mgReescrever);
-            case 5:
-                FObvio.Subpasta = sim ? "a/" : "b/c/";
-                return FLog.SetArquivoLog(FPasta.Nome(FObvio.Subpasta + "Outro.txt"));
-            case 6: {
-                constexpr double CAvancos[] = {0, 1.0 / 86400, 0.3, 1, -0.05};
-                FAmbiente.Agora = FAmbiente.Agora + CAvancos[Sortear(std::size(CAvancos))];
-                return;
-            }
-            case 7: {
-                const int quantas = Sortear(4) - 1;
-                FLog.AdicionarEspacoEmBranco(quantas);
-                if (quantas > 0) FObvio.Linhas.resize(FObvio.Linhas.size() + static_cast<std::size_t>(quantas));
-                return;
-            }
-            case 8: {
-                const std::u16string texto = SortearTexto();
-                if (!Aparar(texto).empty()) FObvio.Iniciar();
-                const int indice = Sortear(static_cast<int>(FObvio.Linhas.size()) + 1);
-                FLog.InserirTexto(texto, indice, clBlue);
-                if (!Aparar(texto).empty()) FObvio.Linhas.insert(FObvio.Linhas.begin() + indice, texto);
-                return;
-            }
-            case 9:
-                FLog.FinalizarLog();
-                return FObvio.Finalizar();
-            case 10:
-                if (Sortear(4) > 0) return;
-                FLog.Limpar();
-                return FObvio.Linhas.clear();
-            case 11:
-                FLog.SalvarArquivoLog();
-                return FObvio.Salvar();
-            case 12:
-                return Estragar();
-            default: {
-                const std::u16string texto = SortearTexto();
-                FLog.Adicionar(texto, clBlue);
-                return FObvio.Adicionar(texto);
-            }
+    void Adicionar() {
+        const std::u16string texto = SortearTexto();
+        FLog.Adicionar(texto, clBlue);
+        FObvio.Adicionar(texto);
+    }
+    /// Also where there is no line: then nothing changes.
+    void Inserir() {
+        const std::u16string texto = SortearTexto();
+        const bool vazio = Aparar(texto).empty();
+        if (!vazio) FObvio.Iniciar();
+        const int linhas = static_cast<int>(FObvio.Linhas.size());
+        const int indice = Sortear(linhas + 3) - 1;
+        if (!vazio && (indice < 0 || indice > linhas)) {
+            EXPECT_THROW(FLog.InserirTexto(texto, indice, clBlue), EListError);
+            return;
         }
+        FLog.InserirTexto(texto, indice, clBlue);
+        if (!vazio) FObvio.Linhas.insert(FObvio.Linhas.begin() + indice, texto);
+    }
+    void AdicionarEspaco() {
+        const int quantas = Sortear(4) - 1;
+        FLog.AdicionarEspacoEmBranco(quantas);
+        if (quantas > 0) FObvio.Linhas.resize(FObvio.Linhas.size() + static_cast<std::size_t>(quantas));
+    }
+    void Avancar() {
+        constexpr double CAvancos[] = {0, 1.0 / 86400, 0.3, 1, -0.05};
+        FAmbiente.Agora = FAmbiente.Agora + CAvancos[Sortear(std::size(CAvancos))];
+    }
+    void Nomear(bool APrimeira) {
+        FObvio.Subpasta = APrimeira ? "a/" : "b/c/";
+        FLog.SetArquivoLog(FPasta.Nome(FObvio.Subpasta + "Outro.txt"));
+    }
+    void Finalizar() {
+        FLog.FinalizarLog();
+        FObvio.Finalizar();
     }
 
     /// Somebody changes the file behind the log's back.
@@ -157,10 +127,9 @@ private:
         const int estrago = Sortear(5);
         if (estrago >= 2 && Interno::BuscarSeparadorDePastas() == u'\\') {
             // Windows lets nobody take the name of an open file.
-            FLog.FinalizarLog();
-            FObvio.Finalizar();
+            Finalizar();
         }
-        std::vector<std::u16string>& linhas = achado->second;
+        TLinhas& linhas = achado->second;
         switch (estrago) {
             case 0:
                 linhas.push_back(u"de outro programa");
@@ -186,9 +155,7 @@ private:
     }
 
     void Conferir(int APasso) {
-        std::u16string texto = DeUtf8(JuntarLinhas(FObvio.Linhas));
-        if (!texto.empty()) texto.resize(texto.size() - Interno::BuscarQuebraDeLinha().size());
-        ASSERT_EQ(FLog.GetTexto(), texto) << "step " << APasso;
+        ASSERT_EQ(FLog.GetTexto(), JuntarTexto(FObvio.Linhas)) << "step " << APasso;
         ASSERT_EQ(FLog.GetArquivoLog(), FPasta.Nome(FObvio.Arquivo()));
         std::size_t arquivos = 0;
         for (const auto& entrada : std::filesystem::recursive_directory_iterator(FPasta.Caminho()))
@@ -202,7 +169,24 @@ private:
     TPastaTemporaria FPasta{};
     TAmbienteDeTeste FAmbiente{};
     TLogDeTeste FLog{FPasta.Nome("a/Log.txt"), FAmbiente, mgReescrever};
-    TLogObvio FObvio;
+    TLogObvio FObvio{FAmbiente};
+    const std::vector<std::function<void(bool)>> FPassos{
+        [this](bool ASim) { FLog.SetSalvarAutomaticamente(FObvio.Automatico = ASim); },
+        [this](bool ASim) { FLog.SetUsarArquivoLogExistente(FObvio.Existente = ASim); },
+        [this](bool ASim) { FLog.SetFormatoMensagem((FObvio.ComHora = ASim) ? tfmComDataHora : tfmSomenteTexto); },
+        [this](bool ASim) { FLog.SetTipoPeriodicidade((FObvio.Diario = ASim) ? tplDiario : tplUnico); },
+        [this](bool ASim) { FLog.SetModoGravacao(ASim ? mgAcrescentar : mgReescrever); },
+        [this](bool ASim) { Nomear(ASim); },
+        [this](bool) { Avancar(); },
+        [this](bool) { AdicionarEspaco(); },
+        [this](bool) { Inserir(); },
+        [this](bool) { Finalizar(); },
+        [this](bool) { FLog.SalvarArquivoLog(), FObvio.Salvar(); },
+        [this](bool ASim) {
+            if (ASim) FLog.Limpar(), FObvio.Linhas.clear();
+        },
+        [this](bool) { Estragar(); },
+    };
 };
 
 TEST(LogModelo, CorridasAoAcaso) {

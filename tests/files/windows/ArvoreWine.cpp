@@ -30,24 +30,18 @@ private:
     TFluxo FArquivo{};
 };
 
-/// Every .dll and .exe of the installed Wine, found when the tests were configured; none when there is no Wine.
-std::vector<std::filesystem::path> BuscarArquivosDoWine() {
+/// Every .dll and .exe in a folder and below it.
+std::vector<std::filesystem::path> BuscarArquivos(const char* ARaiz) {
     std::vector<std::filesystem::path> arquivos;
-    const std::filesystem::path raiz(ORY_ARVORE_WINE);
-    if (raiz.empty()) return arquivos;
-    for (const auto& entrada : std::filesystem::recursive_directory_iterator(raiz)) {
-        const auto extensao = entrada.path().extension();
-        if ((extensao == ".dll" || extensao == ".exe") && entrada.is_regular_file()) arquivos.push_back(entrada.path());
-    }
-    std::sort(arquivos.begin(), arquivos.end());
+    for (const auto& entrada : std::filesystem::recursive_directory_iterator(ARaiz))
+        if (entrada.path().extension() == ".dll" || entrada.path().extension() == ".exe")
+            arquivos.push_back(entrada.path());
     return arquivos;
 }
 
-constexpr std::u16string_view CChaves[] = {
-    u"CompanyName",        u"FileDescription",       u"FileVersion",  u"InternalName",   u"LegalCopyright",
-    u"LegalTrademarks",    u"OriginalFilename",      u"ProductName",  u"ProductVersion", u"Comments",
-    u"MinVersionDataBase", u"VersaoMaximaConversao", u"SpecialBuild",
-};
+constexpr std::u16string_view CChaves[] = {u"CompanyName",        u"FileDescription",  u"FileVersion",
+                                           u"LegalCopyright",     u"OriginalFilename", u"ProductName",
+                                           u"MinVersionDataBase", u"SpecialBuild"};
 
 /// Every answer to the three questions, in one text.
 template <typename T>
@@ -67,11 +61,10 @@ std::string Descrever(const T& AVersao) {
 }
 
 TEST(ArvoreWine, OLeitorDizOQueOSistemaDiz) {
-    auto arquivos = BuscarArquivosDoWine();
+    // Wine's own, found when the tests were configured, and those of the tests, with keys that these lack.
+    auto arquivos = BuscarArquivos(ORY_ARVORE_WINE);
     ASSERT_GT(arquivos.size(), 100u) << ORY_ARVORE_WINE;
-    // Those of the tests' own resources have keys, translations and numbers that these lack.
-    for (const auto& entrada : std::filesystem::directory_iterator(ORY_RECURSOS_DE_TESTE))
-        if (entrada.path().extension() != ".o") arquivos.push_back(entrada.path());
+    std::ranges::copy(BuscarArquivos(ORY_RECURSOS_DE_TESTE), std::back_inserter(arquivos));
     std::size_t comTextos = 0;
     for (const auto& arquivo : arquivos) {
         const TVersaoDeArquivo doSistema(arquivo.u16string());

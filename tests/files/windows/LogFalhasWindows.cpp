@@ -48,23 +48,9 @@ TEST_P(LogFalhasWindows, AbertoPorOutroSemPartilhar) {
 /// By the system's own code page, which knows nothing of the library's tables.
 TEST(LogCodificacao, PadraoEhAPaginaDoSistema) {
     if (::GetACP() != 1252) GTEST_SKIP() << "code page " << ::GetACP();
-    const TPastaTemporaria pasta;
-    TAmbienteDeTeste ambiente;
-    TLogDeTeste log(pasta.Nome("Padrao"), ambiente);
-    log.SetFormatoMensagem(tfmSomenteTexto);
-    log.SetModoGravacao(mgAcrescentar);
-    log.IniciarLog();
-    log.Limpar();
-    for (const char16_t* linha : {u"coração €", u"\u4E2D", u"\U0001F600", u"\xD800", u"\u0101 (no letter like it)"})
-        log.Adicionar(linha, clBlue);
-    log.SalvarArquivoLog();
-    const std::string bytes = LerBytes(pasta.Caminho() / "Padrao.log");
-    EXPECT_EQ(bytes, "cora\xE7\xE3o \x80\r\n?\r\n?\r\n?\r\n? (no letter like it)\r\n");
-
-    TLogDeTeste seguinte(pasta.Nome("Padrao"), ambiente);
-    seguinte.SetUsarArquivoLogExistente(true);
-    seguinte.IniciarLog();
-    EXPECT_TRUE(seguinte.GetTexto().starts_with(u"coração €\r\n?\r\n"));
+    const std::u16string texto = u"coração € \u4E2D \U0001F600 \xD800 \u0101 (no letter like it)";
+    EXPECT_EQ(Interno::ParaTextoDoSistema(texto), "cora\xE7\xE3o \x80 ? ? ? ? (no letter like it)");
+    EXPECT_EQ(Interno::DeTextoDoSistema("cora\xE7\xE3o \x80"), u"coração €");
 }
 
 INSTANTIATE_TEST_SUITE_P(Modos, LogFalhasWindows, testing::Values(mgReescrever, mgAcrescentar));
