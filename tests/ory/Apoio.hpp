@@ -7,16 +7,19 @@
 
 #include <gtest/gtest.h>
 
-#include <initializer_list>
+#include <ostream>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 /// What a run of the command gave.
 struct TRodada {
     int Status;
     std::string Saida, Erro;
+    bool operator==(const TRodada&) const = default;
+    friend std::ostream& operator<<(std::ostream& AFluxo, const TRodada& A) {
+        return AFluxo << A.Status << "\n" << A.Saida << "\n" << A.Erro;
+    }
 };
 
 /// Runs the command over texts, with the formats that main sets.
@@ -30,8 +33,13 @@ inline TRodada Rodar(const std::vector<std::string>& AArgumentos, std::string_vi
     return {status, saida.Texto, erro.Texto};
 }
 
-/// Each request, called as programs do, and its answer.
-inline void ConferirChamadas(std::initializer_list<std::pair<std::string_view, std::string_view>> ACasos) {
-    const OryUtils::TFormatosTemporarios formatos(OryUtils::BuscarFormatosBrasileiros());
-    for (const auto& [pergunta, resposta] : ACasos) EXPECT_EQ(Ory::Chamar(pergunta), resposta) << pergunta;
+struct TRecusa {
+    std::vector<std::string> Argumentos;
+    std::string Frase, Entrada = {};
+};
+/// Each run ends with that sentence, status 2 and no output.
+inline void ConferirRecusas(const std::vector<TRecusa>& ACasos) {
+    for (const auto& [argumentos, frase, entrada] : ACasos)
+        EXPECT_EQ(Rodar(argumentos, entrada), (TRodada{2, "", "ory: " + frase + "\n"}))
+            << testing::PrintToString(argumentos);
 }

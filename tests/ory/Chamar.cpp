@@ -10,56 +10,9 @@ namespace {
 
 using nlohmann::json;
 
-std::string Responder(std::string_view ARequisicao) {
-    const OryUtils::TFormatosTemporarios formatos(OryUtils::BuscarFormatosBrasileiros());
-    return Ory::Chamar(ARequisicao);
-}
-
-struct TPergunta {
-    std::string_view Requisicao, Resposta;
-};
-
-TEST(Chamar, CadaTipoVaiEVolta) {
-    ConferirChamadas({
-        {R"({"op":"ValidouCnpjCpf","args":[1,"11222333000181"]})", R"({"resultado":true})"},
-        {R"({"op":"ValidouCnpjCpf","args":[77,"11222333000181"]})", R"({"resultado":false})"},
-        {R"({"op":"RepetirCaractere","args":["ç",3]})", R"({"resultado":"ççç"})"},
-        {R"({"op":"LimparTexto:chars","args":["1.2-3",[".","2"]]})", R"({"resultado":"1-3"})"},
-        {R"({"op":"ClearString:chars","args":["1.2-3",".2"]})", R"({"resultado":"1-3"})"},
-        {R"({"op":"ClearString:strings","args":["abcabd",["ab","c"]]})", R"({"resultado":"d"})"},
-        {R"({"op":"ConverterTextoComDelimitadorParaStringList","args":["a;;b",";"]})", R"({"resultado":["a","","b"]})"},
-        {R"({"op":"ConverterStringListParaTextoComDelimitador","args":[["a","b"],", "]})", R"({"resultado":"a, b"})"},
-        {R"({"op":"ConverterStringListParaTextoComDelimitador","args":[null,";"]})",
-         R"({"erro":"Argumento <AStringList> não está instanciado.","classe":"Exception"})"},
-        {R"({"op":"ConverterTextoParaVetorDeCaracteres:prefixo","args":["ab",4]})",
-         R"({"resultado":"ab\u0000\u0000"})"},
-        {R"({"op":"ConverterTextoParaVetorDeCaracteres:prefixo","args":["ab",-1]})", R"({"resultado":""})"},
-        {R"({"op":"Base64:idaevolta","args":["ação 😀"]})", R"({"resultado":"ação 😀"})"},
-        {R"({"op":"AllTrim","args":["\"\\\n\u0001 é"]})", R"({"resultado":"\"\\\n\u0001é"})"},
-        {R"({"op":"BuscarUltimoDiaMes","args":["2024-02-10T23:59:59.999"]})", R"({"resultado":"2024-02-29T00:00:00"})"},
-        {R"({"op":"BuscarDataHoraMedidaTempo","args":["2024-01-31",7,1]})", R"({"resultado":"2024-02-29T00:00:00"})"},
-        {R"({"op":"BuscarDataHoraMedidaTempo","args":["2024-01-31 10:20",3,-1]})",
-         R"({"resultado":"2024-01-31T10:19:59"})"},
-        {R"({"op":"BuscarDataFormatada","args":["2024-03-05T14:07:09"]})", R"({"resultado":"03/05/2024"})"},
-        {R"({"op":"BuscarDataFormatada:tudo","args":["2024-03-05T14:07:09",1,"",false]})",
-         R"({"resultado":"05/03/2024 14:07:09"})"},
-        {R"({"op":"BuscarDataFormatada:parametros","args":["2024-03-05T14:07:09",0,"yyyy",true]})",
-         R"({"resultado":"'2024'"})"},
-        {R"({"op":"ConverterOrientacaoData","args":["03/05/2024",1]})", R"({"resultado":"2024-05-03T00:00:00"})"},
-        {R"({"op":"ConverterOrientacaoData:livre","args":["03/05/2024",1]})", R"({"resultado":"1899-12-30T00:00:00"})"},
-        {R"({"op":"BuscarDataFinalDoTrimestre","args":["2024-02-10"]})", R"({"resultado":"2024-03-31T00:00:00"})"},
-        {R"({"op":"ValidouMetodosRetorno","args":[[true,false,true],0]})", R"({"resultado":false})"},
-        {R"({"op":"SomarBase","args":[[2,3],"45"]})", R"({"resultado":23})"},
-        {R"({"op":"Iif","args":[true,"x",1]})", R"({"resultado":"x"})"},
-        {R"({"op":"Iif","args":[false,"x",0.1]})", R"({"resultado":0.1})"},
-        {R"({"op":"Iif","args":[false,"x",2.0]})", R"({"resultado":2.0})"},
-        {R"({"op":"Iif","args":[false,"x",null]})", R"({"resultado":null})"},
-        {R"({"op":"Iif","args":[false,"x",-9223372036854775808]})", R"({"resultado":-9223372036854775808})"},
-    });
-}
-
 TEST(Chamar, DizOQueEstahErrado) {
-    constexpr TPergunta CPerguntas[] = {
+    const OryUtils::TFormatosTemporarios formatos(OryUtils::BuscarFormatosBrasileiros());
+    constexpr std::pair<std::string_view, const char*> CPerguntas[] = {
         {"", "JSON inválido no byte 1"},
         {"{", "JSON inválido no byte 2"},
         {"\xFF", "JSON inválido no byte 1"},
@@ -89,15 +42,14 @@ TEST(Chamar, DizOQueEstahErrado) {
         {R"({"op":"ConverterBase64ParaTexto","args":["*"]})", "\"classe\":\"EConvertError\""},
         {R"({"op":"Iif","args":[true,1e99999,1]})", "\"classe\":\"EProtocolo\""},
     };
-    for (const TPergunta& p : CPerguntas) {
-        const std::string resposta = Responder(p.Requisicao);
-        EXPECT_NE(resposta.find(p.Resposta), std::string::npos) << p.Requisicao << "\n" << resposta;
+    for (const auto& [requisicao, trecho] : CPerguntas) {
+        const std::string resposta = Ory::Chamar(requisicao);
+        EXPECT_NE(resposta.find(trecho), std::string::npos) << requisicao << "\n" << resposta;
         EXPECT_TRUE(json::parse(resposta).contains("classe")) << resposta;
     }
-    EXPECT_TRUE(json::parse(Responder(std::string(1'000'000, '['))).contains("erro"));
-    EXPECT_TRUE(json::parse(Responder(R"({"op":"AllTrim","args":[)" + std::string(100'000, '[') +
-                                      std::string(100'000, ']') + "]}"))
-                    .contains("erro"));
+    const std::string fundo = std::string(100'000, '[') + std::string(100'000, ']');
+    for (const auto& requisicao : {std::string(1'000'000, '['), R"({"op":"AllTrim","args":[)" + fundo + "]}"})
+        EXPECT_TRUE(json::parse(Ory::Chamar(requisicao)).contains("erro"));
 }
 
 TEST(Chamar, LoteRespondeCadaLinhaEmOrdem) {
@@ -137,42 +89,27 @@ TEST(Chamar, LoteNaoSeguraRespostasQuandoTeriaDeEsperar) {
     EXPECT_EQ(std::count(conversa.Respostas.begin(), conversa.Respostas.end(), '\n'), 3);
 }
 
-struct TLinha {
-    std::vector<std::string> Argumentos;
-    int Status;
-    const char *Saida, *Erro;
-};
-
 TEST(Chamar, LinhaDeComando) {
-    const TLinha linhas[] = {
-        {{"chamar", "ValidouCnpjCpf", "1", "11222333000181"}, 0, "true\n", ""},
-        {{"chamar", "AllTrim", "1 2"}, 0, "12\n", ""},
-        {{"chamar", "AllTrim", "--json"}, 0, "--json\n", ""},
-        {{"chamar", "--json", "AllTrim", "1 2"}, 0, "{\"resultado\":\"12\"}\n", ""},
-        {{"chamar", "BuscarBimestre", "2024-03-05"}, 0, "2\n", ""},
-        {{"chamar", "Iif", "false", "x", "007"}, 0, "007\n", ""},
-        {{"chamar", "ConverterTextoParaListaDeParametros", "a \"b c\""}, 0, "a\nb c\n", ""},
-        {{"chamar", "TextoContemItemVetor", "a", "[\"b\",\"A\"]", "true"}, 0, "true\n", ""},
-        {{"chamar", "TextoContemItemVetor", "a", "b", "true"}, 2, "", "argumento 2: esperava lista de textos"},
-        {{"chamar", "ValidouCEI", "abcdefghijkl"}, 1, "", "ory: "},
-        {{"chamar", "Nada"}, 2, "", "operação desconhecida: Nada"},
-        {{"chamar"}, 2, "", "falta a operação"},
-        {{"chamar", "--lote", "x"}, 2, "", "--lote não leva operação"},
-        {{"--versao"}, 0, "ory ", ""},
-        {{}, 2, "", "Uso: ory"},
-        {{"nada"}, 2, "", "argumento desconhecido: nada"},
-        {{"chamar", "--ajuda"}, 0, "Uso: ory chamar", ""},
-        {{"operacoes"}, 0, "ValidouCnpjCpf(TTipoInscricao, texto): lógico\n", ""},
+    const std::pair<std::vector<std::string>, TRodada> linhas[] = {
+        {{"chamar", "ValidouCnpjCpf", "1", "11222333000181"}, {0, "true\n", ""}},
+        {{"chamar", "AllTrim", "1 2"}, {0, "12\n", ""}},
+        {{"chamar", "AllTrim", "--json"}, {0, "--json\n", ""}},
+        {{"chamar", "--json", "AllTrim", "1 2"}, {0, "{\"resultado\":\"12\"}\n", ""}},
+        {{"chamar", "BuscarBimestre", "2024-03-05"}, {0, "2\n", ""}},
+        {{"chamar", "Iif", "false", "x", "007"}, {0, "007\n", ""}},
+        {{"chamar", "ConverterTextoParaListaDeParametros", "a \"b c\""}, {0, "a\nb c\n", ""}},
+        {{"chamar", "TextoContemItemVetor", "a", "[\"b\",\"A\"]", "true"}, {0, "true\n", ""}},
+        {{"chamar", "ValidouCEI", "abcdefghijkl"},
+         {1, "", "ory: 'abcdefghijkl' não é um valor de ponto flutuante válido\n"}},
     };
-    for (const TLinha& linha : linhas) {
-        const TRodada rodada = Rodar(linha.Argumentos);
-        const std::string nome = testing::PrintToString(linha.Argumentos);
-        EXPECT_EQ(rodada.Status, linha.Status) << nome << rodada.Erro;
-        EXPECT_NE(rodada.Saida.find(linha.Saida), std::string::npos) << nome << rodada.Saida;
-        EXPECT_NE(rodada.Erro.find(linha.Erro), std::string::npos) << nome << rodada.Erro;
-        EXPECT_EQ(rodada.Saida.empty(), *linha.Saida == '\0') << nome << rodada.Saida;
-    }
+    for (const auto& [argumentos, esperada] : linhas)
+        EXPECT_EQ(Rodar(argumentos), esperada) << testing::PrintToString(argumentos);
+    EXPECT_TRUE(Rodar({"--versao"}).Saida.starts_with("ory "));
+    EXPECT_NE(Rodar({"chamar", "--ajuda"}).Saida.find("Uso: ory chamar"), std::string::npos);
+    EXPECT_EQ(Rodar({}).Status, 2);
+    EXPECT_NE(Rodar({}).Erro.find("Uso: ory"), std::string::npos);
     const std::string lista = Rodar({"operacoes"}).Saida;
+    EXPECT_NE(lista.find("ValidouCnpjCpf(TTipoInscricao, texto): lógico\n"), std::string::npos);
     const json emJson = json::parse(Rodar({"operacoes", "--json"}).Saida);
     EXPECT_EQ(static_cast<std::ptrdiff_t>(emJson.size()), std::count(lista.begin(), lista.end(), '\n'));
 }

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <cctype>
 #include <fstream>
 #include <map>
+#include <regex>
 #include <set>
 #include <sstream>
 #include <string>
@@ -21,13 +21,14 @@ constexpr const char* CCabecalhos[] = {
     "registry_numbers/OryUtilsValidacoes.hpp",
     "registry_numbers/UnOryUtilsValidacoesClasseIE.hpp",
     "files/OryUtilsFiles.hpp",
-    "sql/UnOryUtilsClasseFiltroSql.hpp",
     "sql/UnOryUtilsClasseManipulacaoSQL.hpp",
-    "files/UnOryUtilsArquivoLog.hpp",
 };
 
-// Most of what they declare asks the machine or changes it and is not callable; what is callable is declared here.
-constexpr const char* CCabecalhosDaMaquina[] = {
+// Most of what they declare asks the machine, changes it, or is a step on a log or a filter, and is not callable; what
+// is callable is declared here.
+constexpr const char* COutrosCabecalhos[] = {
+    "files/UnOryUtilsArquivoLog.hpp",
+    "sql/UnOryUtilsClasseFiltroSql.hpp",
     "system/OryUtilsRegistry.hpp",
     "system/OryUtilsSystem.hpp",
 };
@@ -50,25 +51,15 @@ constexpr const char* CForaDaTabela[][2] = {
     {"a step on a converter; BuscarValorPorExtenso gives the words", "TratarGrupo GetValor SetValor GetTexto"},
     {"asks the screen of a user interface", "ConverterCentimetrosParaPixels"},
     {"of the IE class: ValidouIE is it", "Validou"},
-    {"a step on a filter; MontarFiltroSql gives its text",
-     "Add GetItem SetItem Clear Assign GetCampo SetCampo GetCondicao SetCondicao GetOperador SetOperador "
-     "GetOwner SetOwner GetQuoteStr SetQuoteStr GetTabela SetTabela GetUsarUpperCase SetUsarUpperCase "
-     "BuscarCondicaoStr BuscarOperadorStr BuscarSQL BuscarSQLAnd BuscarSQLOr BuscarSQLWhere"},
     {"a step on a statement; SepararBlocosSQL gives both parts",
      "SetScriptSQL GetScriptSQL GetSQLPrincipal GetSQLAdicional Limpar"},
     {"opens a window", "AbrirArquivo"},
     {"changes a file", "AlterouDataHoraArquivo"},
     {"a step on a file's data; ory versao shows them",
-     "SetArquivo GetArquivo CarregaDados Adiciona Localiza GetItems GetNomeCompanhia GetDescricao "
+     "SetArquivo GetArquivo CarregaDados Clear Adiciona Localiza GetItems GetNomeCompanhia GetDescricao "
      "GetNomeInterno GetLegalCopyright GetLegalTrademarks GetNomeOriginal GetNomeProduto GetVersaoProduto "
      "GetComentarios GetVersaoMinimaBanco GetVersaoMaximaConversao GetNaoLiberarPacote GetVersao "
      "BuscarVersaoArquivoIni GetNome GetTamanho GetTamanhoFormatado GetExtensao GetData GetDataModificacao"},
-    {"a step on a log; ory log writes one",
-     "IniciarLog Adicionar AdicionarSeparador AdicionarEspacoEmBranco InserirTexto FinalizarLog ExibirLog "
-     "GetArquivoLog SetArquivoLog GetUsarArquivoLogExistente SetUsarArquivoLogExistente GetTipoPeriodicidade "
-     "SetTipoPeriodicidade GetFormatoMensagem SetFormatoMensagem GetSalvarAutomaticamente "
-     "SetSalvarAutomaticamente GetModoGravacao SetModoGravacao GetCodificacao SetCodificacao GetOnStatus "
-     "SetOnStatus GetOnAposFinalizarLog SetOnAposFinalizarLog EstahSalvo"},
 };
 
 // Entries that join several calls and so have a name of their own.
@@ -90,36 +81,13 @@ std::string LerCabecalho(const std::string& ANome) {
     return texto;
 }
 
-bool EhDeNome(char ACaractere) {
-    return ACaractere == '_' || std::isalnum(static_cast<unsigned char>(ACaractere)) != 0;
-}
-
-bool EhFimDeTipo(char ACaractere) { return ACaractere == '>' || ACaractere == '&' || ACaractere == '*'; }
-
-/// True when ATexto goes on as a declaration does behind its arguments: ";" or a body, "const" and "noexcept" before
-/// it.
-bool EhFimDeDeclaracao(std::string_view ATexto) {
-    for (const std::string_view palavra : {" ", "const", " ", "noexcept", " ", "override", " "})
-        while (ATexto.starts_with(palavra)) ATexto.remove_prefix(palavra.size());
-    return ATexto.starts_with(';') || ATexto.starts_with('{');
-}
-
-/// The names that are declared as functions: a type, blanks, a name in capitals first, arguments, the end.
+/// The names that are declared as functions: a type, a blank, a name in capitals first, arguments, the end.
 std::set<std::string> BuscarOperacoesDeclaradas(const std::string& ATexto) {
+    const std::regex declaracao(
+        R"((\w+|[>&*]) ((?:[A-Z]|isA)\w*)\([^)]*\) *(?:const)? *(?:noexcept)? *(?:override)? *[;{])");
     std::set<std::string> nomes;
-    for (std::size_t abre = ATexto.find('('); abre != std::string::npos; abre = ATexto.find('(', abre + 1)) {
-        std::size_t inicio = abre;
-        while (inicio > 0 && EhDeNome(ATexto[inicio - 1])) --inicio;
-        const std::string_view antes = std::string_view(ATexto).substr(0, inicio);
-        const bool depoisDeTipo = antes.size() > 1 && antes.back() == ' ' && !antes.ends_with(" explicit ") &&
-                                  (EhDeNome(antes[antes.size() - 2]) || EhFimDeTipo(antes[antes.size() - 2]));
-        const std::size_t fecha = ATexto.find(')', abre);
-        const bool nome = inicio < abre && (std::isupper(static_cast<unsigned char>(ATexto[inicio])) != 0 ||
-                                            ATexto.compare(inicio, 3, "isA") == 0);
-        if (nome && depoisDeTipo && fecha != std::string::npos &&
-            EhFimDeDeclaracao(std::string_view(ATexto).substr(fecha + 1)))
-            nomes.insert(ATexto.substr(inicio, abre - inicio));
-    }
+    for (std::sregex_iterator achado(ATexto.begin(), ATexto.end(), declaracao), fim; achado != fim; ++achado)
+        if ((*achado)[1] != "explicit") nomes.insert((*achado)[2]);
     return nomes;
 }
 
@@ -144,7 +112,7 @@ TEST(Tabela, TemAsOperacoesPublicasESoElas) {
         const bool fora = excetuadas.contains(nome) || nome.starts_with("Validar_");
         EXPECT_NE(chamaveis.contains(nome), fora) << nome << (fora ? " is excepted and bound" : " is not bound");
     }
-    for (const char* cabecalho : CCabecalhosDaMaquina)
+    for (const char* cabecalho : COutrosCabecalhos)
         declaradas.merge(BuscarOperacoesDeclaradas(LerCabecalho(cabecalho)));
     for (const std::string& nome : chamaveis)
         EXPECT_TRUE(declaradas.contains(nome) || CCompostas.contains(nome)) << nome << " is bound and not declared";

@@ -1,12 +1,19 @@
-#include "sistema/Sistema.hpp"
-
 #include "oryutils/characters/Utf.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 
 #include "Apoio.hpp"
 #include "operations/Json.hpp"
+#include "sistema/Sistema.hpp"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+
+// What the machine tells of itself: ory sistema, ory processos, ory servico.
+
+namespace {
+
+using Ory::TJson;
 
 TEST(Sistema, RetratoEmTabelaEEmJson) {
     const Ory::TRetratoDoSistema retrato{
@@ -30,7 +37,7 @@ TEST(Sistema, RetratoEmTabelaEEmJson) {
 
 TEST(Sistema, ComandoMostraEstaMaquina) {
     const TRodada rodada = Rodar({"sistema", "--json"});
-    const Ory::TJson json = Ory::TJson::parse(rodada.Saida);
+    const TJson json = TJson::parse(rodada.Saida);
     EXPECT_EQ(json["maquina"]["computador"], OryUtils::ParaUtf8(OryUtils::GetNomeComputador()));
     EXPECT_EQ(json["pastas"]["temporaria"], OryUtils::ParaUtf8(OryUtils::GetPastaTempWindows()));
     EXPECT_EQ(json["discos"].size(), OryUtils::TOryUtilsSistema::BuscarListaDrivesComputador().size());
@@ -38,17 +45,32 @@ TEST(Sistema, ComandoMostraEstaMaquina) {
     EXPECT_NE(Rodar({"sistema"}).Saida.find(OryUtils::ParaUtf8(OryUtils::GetNomeComputador())), std::string::npos);
 }
 
-TEST(Sistema, OperacoesPeloNome) {
-    ConferirChamadas({
-        {R"({"op":"FormatarBytes","args":[9223372036854775807,4]})", R"({"resultado":8388607})"},
-        {R"({"op":"ExtrairEnderecoMACComandoARP","args":["x\r\n 10.0.0.1 0a-1b-2c-3d-4e-5f din"]})",
-         R"({"resultado":"0A-1B-2C-3D-4E-5F"})"},
-        {R"({"op":"VarToIntDef","args":[null,7]})", R"({"resultado":7})"},
-        {R"({"op":"LinhasDaSaidaDeComando","args":[" a\r\n b \nc\n"]})", R"({"resultado":["a"," b ","c"]})"},
-        {R"({"op":"ListaIPLocalDaSaidaARP","args":["\r\nInterface: 10.0.0.2 --- 0x3\n 10.0.0.1\rInterface: 10.0.0.3"]})",
-         R"({"resultado":["10.0.0.2","10.0.0.3"]})"},
-        {R"({"op":"InformacoesDetalhadas","args":["","",-9223372036854775808,1,9]})",
-         R"({"resultado":"Informações detalhadas da unidade: \r\n\r\nUnidade:  \r\nNome:  \r\nEspaço total: )"
-         R"(-9223372036854775808 \r\nEspaço livre: 1 \r\nEspaço usado: 9223372036854775807 "})"},
+TEST(Processos, TabelaEJsonMostramEsteProcesso) {
+    const TRodada emJson = Rodar({"processos", "--json"});
+    ASSERT_EQ(emJson.Status, 0);
+    const TJson processos = TJson::parse(emJson.Saida);
+    // The tests of the command are a process of this name, whatever else runs.
+    const auto este = std::find_if(processos.begin(), processos.end(), [](const TJson& AProcesso) {
+        return AProcesso["processo"].get<std::string>().starts_with("testes_ory");
     });
+    ASSERT_NE(este, processos.end());
+    EXPECT_GT((*este)["memoria"].get<std::uint64_t>(), 0U);
+    EXPECT_TRUE((*este)["caminho"].get<std::string>().find((*este)["processo"]) != std::string::npos);
+
+    const TRodada tabela = Rodar({"processos", "--usuario", (*este)["usuario"].get<std::string>()});
+    EXPECT_EQ(tabela.Status, 0);
+    EXPECT_NE(tabela.Saida.find((*este)["caminho"].get<std::string>()), std::string::npos);
+
+    EXPECT_EQ(Rodar({"processos", "--usuario", "conta que nao existe"}).Saida,
+              "id  memória  usuário  processo  caminho\n");
+    EXPECT_EQ(TJson::parse(Rodar({"processos", "--json", "--usuario", "conta que nao existe"}).Saida), TJson::array());
 }
+
+TEST(Servico, UmQueNaoExisteNaoSeLe) {
+    const std::string frase = "Erro leitura serviço (pode indicar que não está instalado ou que está travado)";
+    EXPECT_EQ(Rodar({"servico", "estado", "OryNaoExiste"}), (TRodada{2, "OryNaoExiste: " + frase + "\n", ""}));
+    EXPECT_EQ(Rodar({"servico", "estado", "a\"b", "--json"}).Saida,
+              R"({"servico":"a\"b","estado":0,"texto":")" + frase + "\",\"processo\":0}\n");
+}
+
+}  // namespace
