@@ -15,28 +15,19 @@ namespace OryUtils::Testes {
 /// One dialog of each kind in turn. Whoever drives the toolkit answers it: with its default button when AConfirmar,
 /// else by closing it.
 inline void MostrarDialogo(TOryUtilsDialogs& ADialogos, int AVez, bool AConfirmar) {
-    switch (AVez % 5) {
-        case 0:
-            ADialogos.Informacao(u"Mensagem");
-            break;
-        case 1:
-            ADialogos.Erro(u"Uma mensagem\r\nde duas linhas");
-            break;
-        case 2:
-            EXPECT_FALSE(ADialogos.Confirmacao(u"Excluir?", btNo));
-            break;
-        case 3: {
-            const int resposta =
-                ADialogos.ConfirmacaoCustomizada(u"?", mtWarning, {mbYes, mbNo}, 0, u"T", {u"&Um", u"&Dois"});
-            EXPECT_EQ(resposta == mrYes, AConfirmar) << resposta;
-            break;
-        }
-        default: {
-            std::u16string valor = u"antes";
-            EXPECT_EQ(ADialogos.InputQuery(u"T", u"Valor", valor), AConfirmar);
-            EXPECT_EQ(valor, u"antes");
-        }
-    }
+    std::u16string valor = u"antes";
+    const auto escolher = [&] {
+        return ADialogos.ConfirmacaoCustomizada(u"?", mtWarning, {mbYes, mbNo}, 0, u"T", {u"&Um", u"&Dois"}) == mrYes;
+    };
+    const std::function<void()> dialogos[] = {
+        [&] { ADialogos.Informacao(u"Mensagem"); },
+        [&] { ADialogos.Erro(u"Uma mensagem\r\nde duas linhas"); },
+        [&] { EXPECT_FALSE(ADialogos.Confirmacao(u"Excluir?", btNo)); },
+        [&] { EXPECT_EQ(escolher(), AConfirmar); },
+        [&] { EXPECT_EQ(ADialogos.InputQuery(u"T", u"Valor", valor), AConfirmar); },
+    };
+    dialogos[AVez % 5]();
+    EXPECT_EQ(valor, u"antes");
 }
 
 /// Shows dialogs AVezes times and tells what the process holds meanwhile; after the first ones nothing may grow.

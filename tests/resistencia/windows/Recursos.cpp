@@ -9,23 +9,19 @@
 namespace OryUtils::Testes {
 namespace {
 
+BOOL CALLBACK Contar(HWND, LPARAM ATotal) {
+    ++*reinterpret_cast<long*>(ATotal);
+    return TRUE;
+}
+
 /// Windows of this thread, with all their children: counted too, since some systems do not count the handles.
 long ContarJanelas() {
     long total = 0;
-    ::EnumThreadWindows(
-        ::GetCurrentThreadId(),
-        [](HWND AJanela, LPARAM ATotal) -> BOOL {
-            ++*reinterpret_cast<long*>(ATotal);
-            ::EnumChildWindows(
-                AJanela,
-                [](HWND, LPARAM AOutroTotal) -> BOOL {
-                    ++*reinterpret_cast<long*>(AOutroTotal);
-                    return TRUE;
-                },
-                ATotal);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&total));
+    const auto comFilhas = [](HWND AJanela, LPARAM ATotal) -> BOOL {
+        ::EnumChildWindows(AJanela, Contar, ATotal);
+        return Contar(AJanela, ATotal);
+    };
+    ::EnumThreadWindows(::GetCurrentThreadId(), comFilhas, reinterpret_cast<LPARAM>(&total));
     return total;
 }
 
