@@ -40,6 +40,7 @@ void Percorrer(const TMascara& AMascara, Fuzz::TEntrada& AEntrada) {
         }
         const TEdicaoMascara ajustada = AMascara.Ajustar(edicao);
         Fuzz::Exigir(EhTextoDaMascara(AMascara, ajustada.Texto) && ajustada.Cursor <= ajustada.Texto.size());
+        edicao.Recusada = false;
         if (gesto % 4 != 2) Fuzz::Exigir(edicao == ajustada);
     }
 }

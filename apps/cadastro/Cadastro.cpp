@@ -16,20 +16,18 @@ namespace OryUtils::Cadastro {
 namespace {
 
 constexpr std::size_t CDigitosCep = 8;
-// The area code of two digits, the number of eight or nine; the code may have its leading zero.
+constexpr std::size_t CDigitosCpf = 11;
+// The area code of two digits, the number of eight or nine.
 constexpr std::size_t CMenorFone = 10;
-constexpr std::size_t CMaiorFone = 12;
+constexpr std::size_t CMaiorFone = 11;
 constexpr std::int16_t CPrecisaoValor = 15;
 constexpr std::int16_t CDecimaisValor = 2;
 
-constexpr std::array<std::u16string_view, 2> CTiposDocumento{u"CNPJ", u"CPF"};
 // clang-format off
 constexpr std::array<std::u16string_view, 27> CUFs{
     u"AC", u"AL", u"AM", u"AP", u"BA", u"CE", u"DF", u"ES", u"GO", u"MA", u"MG", u"MS", u"MT", u"PA",
     u"PB", u"PE", u"PI", u"PR", u"RJ", u"RN", u"RO", u"RR", u"RS", u"SC", u"SE", u"SP", u"TO"};
 // clang-format on
-
-bool EhCpf(std::u16string_view ATipoDocumento) { return ATipoDocumento == CTiposDocumento[1]; }
 
 bool EstahEmBranco(std::u16string_view ATexto) { return ATexto.find_first_not_of(u' ') == ATexto.npos; }
 
@@ -55,10 +53,10 @@ void ConferirNome(const TObjeto* ASender, TWinControl* AControle, const TValores
 }
 
 void ConferirDocumento(const TObjeto* ASender, TWinControl* AControle, const TValores& AValores) {
-    const std::u16string& numero = AValores[caDocumento];
+    const std::u16string numero = SemPontuacao(AValores[caDocumento]);
     if (std::ranges::any_of(numero, EhLetra))
         return RecusarSe(!ValidouCnpjAlfanumerico(numero), ASender, AControle, u"CNPJ inválido. Verifique.");
-    ValidarDocumento(ASender, AControle, numero, EhCpf(AValores[caTipoDocumento]) ? OryTypes::tiCPF : OryTypes::tiCNPJ);
+    ValidarDocumento(ASender, AControle, numero, numero.size() <= CDigitosCpf ? OryTypes::tiCPF : OryTypes::tiCNPJ);
 }
 
 void ConferirCEP(const TObjeto* ASender, TWinControl* AControle, const TValores& AValores) {
@@ -102,14 +100,12 @@ void ConferirNascimento(const TObjeto* ASender, TWinControl* AControle, const TV
 
 }  // namespace
 
-// The mask of the CNPJ takes the letters of the numbers given out since July 2026.
 // clang-format off
 const std::array<TDescricaoCampo, CQuantidadeCampos> CCampos{{
     {u"&Nome",                {},              -1, 40, ftString, nullptr,                        &ConferirNome,       caNome,          u"Comercial Modelo Ltda."},
-    {u"&CPF ou CNPJ",         CTiposDocumento,  0,  6, ftString, nullptr,                        nullptr,             caTipoDocumento, u"CNPJ"},
-    {u"",                     {},              -1, 20, ftString, &FormatarCnpjAlfanumericoCampo, &ConferirDocumento,  caTipoDocumento, u"11222333000181"},
+    {u"&CPF ou CNPJ",         {},              -1, 20, ftString, &FormatarCpfCnpj,               &ConferirDocumento,  caDocumento,     u"11222333000181"},
     {u"C&EP",                 {},              -1, 10, ftString, &FormatarCEP,                   &ConferirCEP,        caCEP,           u"01310100"},
-    {u"&Telefone",            {},              -1, 16, ftString, &FormatarFone,                  &ConferirFone,       caFone,          u"( 11)98765-4321"},
+    {u"&Telefone",            {},              -1, 16, ftString, &FormatarFoneDDD,               &ConferirFone,       caFone,          u"11987654321"},
     {u"&UF",                  CUFs,            -1,  4, ftString, nullptr,                        &ConferirUF,         caUF,            u"SP"},
     {u"&Inscrição estadual",  {},              -1, 20, ftString, nullptr,                        &ConferirIE,         caUF,            u"110.042.490.114"},
     {u"Código do &município", {},              -1, 10, ftString, &FormatarMunicipio,             &ConferirMunicipio,  caMunicipio,     u"3550308"},
@@ -117,18 +113,6 @@ const std::array<TDescricaoCampo, CQuantidadeCampos> CCampos{{
     {u"&Data de nascimento",  {},              -1, 12, ftDate,   &FormatarNascimento,            &ConferirNascimento, caNascimento,    u"31/12/1999"},
 }};
 // clang-format on
-
-std::u16string EscreverPorExtenso(std::u16string_view AValor) {
-    std::u16string numero(AValor);
-    std::erase(numero, FormatSettings().ThousandSeparator);
-    const auto valor = TentarTextoParaExtended(numero);
-    if (!valor) return {};
-    try {
-        return TOryUtilsMatematica::BuscarValorPorExtenso(*valor);
-    } catch (const Exception&) {
-        return {};  // negative, or more than words can tell
-    }
-}
 
 TCadastro::TCadastro() {
     for (std::size_t i = 0; i < CCampos.size(); ++i) {
@@ -169,17 +153,6 @@ void TCadastro::AoSair(std::size_t ACampo, std::size_t AFoco) {
     });
 }
 
-void TCadastro::AoEscolher(std::size_t ACampo) {
-    if (ACampo != caTipoDocumento) return;
-    TField& documento = *FCampos[caDocumento];
-    const std::u16string anterior = documento.GetEditMask();
-    EhCpf(LerCaixa(caTipoDocumento)) ? FormatarCPF(documento) : FormatarCnpjAlfanumericoCampo(documento);
-    if (documento.GetEditMask() == anterior) return;
-    // The number of one kind is none of the other.
-    documento.SetValor(TNulo{});
-    GetEditor(caDocumento)->Atualizar();
-}
-
 void TCadastro::AoSalvar() {
     if (FValidando) return;
     Tratar([&] {
@@ -188,6 +161,18 @@ void TCadastro::AoSalvar() {
             if (CCampos[i].Validar) CCampos[i].Validar(nullptr, &GetControle(i), valores);
         GOryUtilsDialogs->Informacao(u"Cliente conferido: todos os campos são válidos.");
     });
+}
+
+std::u16string TCadastro::BuscarPorExtenso() {
+    const TEditorDeCampo* editor = GetEditor(caValor);
+    const auto numero = editor ? editor->LerNumero(LerCaixa(caValor)) : std::nullopt;
+    const auto valor = numero ? TentarTextoParaExtended(*numero) : std::nullopt;
+    if (!valor) return {};
+    try {
+        return TOryUtilsMatematica::BuscarValorPorExtenso(*valor);
+    } catch (const Exception&) {
+        return {};  // negative, or more than words can tell
+    }
 }
 
 // A handler of the host: what aborts ends silently, any other error is shown.

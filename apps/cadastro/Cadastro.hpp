@@ -16,7 +16,6 @@ namespace OryUtils::Cadastro {
 /// The fields of the customer, in tab order.
 enum TCampo : int {
     caNome,
-    caTipoDocumento,
     caDocumento,
     caCEP,
     caFone,
@@ -31,7 +30,6 @@ enum TCampo : int {
 using TValores = std::array<std::u16string, CQuantidadeCampos>;
 
 struct TDescricaoCampo {
-    /// Empty: it stands on the line of the field before, at its right.
     std::u16string_view Caption;
     /// It is chosen from these; none: it is typed.
     std::span<const std::u16string_view> Opcoes;
@@ -59,8 +57,6 @@ inline constexpr std::u16string_view CCaptionFechar = u"&Fechar";
 
 /// Lines for the value in words: enough for a thousand million.
 inline constexpr int CLinhasPorExtenso = 3;
-/// What stands under the value's box: AValor in words; nothing while it is blank or no amount.
-std::u16string EscreverPorExtenso(std::u16string_view AValor);
 
 /// What the sample window does, whatever its controls: the windows of the toolkits tell what happened to theirs.
 class TCadastro {
@@ -82,8 +78,8 @@ protected:
     bool EstahValidando() const noexcept { return FValidando; }
     /// The focus went from ACampo to AFoco (CQuantidadeCampos when that is no field): the value must hold.
     void AoSair(std::size_t ACampo, std::size_t AFoco);
-    /// An option of ACampo was chosen.
-    void AoEscolher(std::size_t ACampo);
+    /// What stands under the value's box: the amount in words; nothing while there is none.
+    std::u16string BuscarPorExtenso();
     /// The save button: every field in order, without a sender; then the user is told that all is well.
     void AoSalvar();
 

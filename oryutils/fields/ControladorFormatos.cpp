@@ -25,14 +25,11 @@ void TControladorFormatos::EndUpdate() { FAtualizacoes = std::max(FAtualizacoes 
 void TControladorFormatos::SetUsarFormatosDoProcesso(bool AUsar) { FUsarFormatosDoProcesso = AUsar; }
 
 void TControladorFormatos::GetFormats() {
-    FFormatos = FUsarFormatosDoProcesso ? FormatSettings() : Interno::BuscarFormatosDoSistema();
-    FLidos = true;
+    FDoProcesso = FUsarFormatosDoProcesso;
+    if (!FDoProcesso) FDoUsuario = Interno::BuscarFormatosDoSistema();
 }
 
-const TFormatSettings& TControladorFormatos::GetFormatos() {
-    if (!FLidos) GetFormats();
-    return FFormatos;
-}
+const TFormatSettings& TControladorFormatos::GetFormatos() const { return FDoProcesso ? FormatSettings() : FDoUsuario; }
 
 void TControladorFormatos::NotifyListeners() {
     if (FAtualizacoes > 0) return;

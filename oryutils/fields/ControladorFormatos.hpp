@@ -23,24 +23,24 @@ public:
     /// True: the formats are the process-wide ones. Takes effect at GetFormats.
     virtual void SetUsarFormatosDoProcesso(bool AUsar);
     bool GetUsarFormatosDoProcesso() const noexcept { return FUsarFormatosDoProcesso; }
-    /// Reads the formats anew.
+    /// Takes the choice over, and reads the user's formats anew.
     virtual void GetFormats();
     /// Calls the listeners, in the order in which they came. Listeners may come and go meanwhile; one that comes is
     /// called from the next time on.
     virtual void NotifyListeners();
 
-    /// The formats as last read; those in force at the first use.
-    const TFormatSettings& GetFormatos();
+    /// The formats in force: those of the process as they are now, or those of the user as last read.
+    const TFormatSettings& GetFormatos() const;
 
     void AdicionarOuvinte(const TOuvinte& AOuvinte);
     void RemoverOuvinte(const TOuvinte& AOuvinte);
 
 private:
-    TFormatSettings FFormatos;
+    TFormatSettings FDoUsuario;
     std::vector<TOuvinte> FOuvintes;
     int FAtualizacoes = 0;
     bool FUsarFormatosDoProcesso = true;
-    bool FLidos = false;
+    bool FDoProcesso = true;
 };
 
 /// The controller of the process.

@@ -11,18 +11,8 @@ namespace OryUtils {
 namespace {
 
 constexpr bool EhSurrogado(char16_t ACaractere) { return ACaractere >= 0xD800 && ACaractere <= 0xDFFF; }
-constexpr bool EhControle(char16_t ACaractere) {
-    return ACaractere < u' ' || (ACaractere >= 0x7F && ACaractere <= 0x9F);
-}
 bool EhLetraComCaixa(char16_t ACaractere) noexcept {
     return EhLetra(ACaractere) || MaiusculaDe(ACaractere) != ACaractere || MinusculaDe(ACaractere) != ACaractere;
-}
-
-struct TFaixa {
-    std::size_t Inicio, Fim;
-};
-TFaixa BuscarSelecao(const TEdicaoMascara& AEdicao) {
-    return {std::min(AEdicao.Cursor, AEdicao.Ancora), std::max(AEdicao.Cursor, AEdicao.Ancora)};
 }
 
 [[noreturn]] void Recusar(std::u16string_view AMascara, std::u16string_view AMotivo) {
@@ -40,8 +30,9 @@ TMascara::TMascara(std::u16string_view AMascara, const TFormatSettings& AFormato
 
     const std::u16string_view padrao = campos.Padrao;
     TCaixaLugar caixa = clComoDigitado;
-    const auto literal = [&](char16_t ACaractere) {
-        if (ACaractere != 0) Incluir({.Literal = ACaractere});
+    const auto literal = [&](char16_t ACaractere, bool ASepara = false) {
+        if (ACaractere != 0) Incluir({.Separa = ASepara, .Literal = ACaractere});
+        FSoSepara = FSoSepara && (ASepara || ACaractere == u' ');
     };
     const auto campo = [&](TTipoLugar ATipo, bool AObrigatorio) {
         Incluir({.Tipo = ATipo, .Caixa = caixa, .Obrigatorio = AObrigatorio});
@@ -81,10 +72,10 @@ TMascara::TMascara(std::u16string_view AMascara, const TFormatSettings& AFormato
                 literal(u' ');
                 break;
             case u'/':
-                literal(AFormatos.DateSeparator);
+                literal(AFormatos.DateSeparator, true);
                 break;
             case u':':
-                literal(AFormatos.TimeSeparator);
+                literal(AFormatos.TimeSeparator, true);
                 break;
             case u'!':
                 FADireita = true;
@@ -112,7 +103,7 @@ TMascara::TMascara(std::u16string_view AMascara, const TFormatSettings& AFormato
     if (FCampos == 0) Recusar(AMascara, u"não tem onde digitar.");
     const bool tomado =
         std::ranges::any_of(FLugares, [&](const TLugar& l) { return l.Tipo != tlQualquer && LugarAceita(l, FBranco); });
-    if (tomado || EhControle(FBranco) || EhSurrogado(FBranco))
+    if (tomado || Interno::EhControle(FBranco) || EhSurrogado(FBranco))
         Recusar(AMascara, u"o caractere dos lugares vazios não serve.");
 }
 
@@ -131,7 +122,7 @@ bool TMascara::LugarAceita(const TLugar& ALugar, char16_t ACaractere) noexcept {
         case tlAlfanumerico:
             return EhDigito(ACaractere) || EhLetraComCaixa(ACaractere);
         case tlQualquer:
-            return !EhControle(ACaractere) && !EhSurrogado(ACaractere);
+            return !Interno::EhControle(ACaractere) && !EhSurrogado(ACaractere);
     }
     return false;
 }
@@ -208,45 +199,76 @@ std::u16string TMascara::Exibir(std::u16string_view AValor) const {
     return FADireita ? Distribuir<true>(AValor) : Distribuir<false>(AValor);
 }
 
-/// Puts ACaractere, which is not an empty one, at APasso or behind, both counted from the end when AInverso. The result
-/// is where the next one goes; none when it has no place here.
+/// Puts ACaractere at APasso or behind, both counted from the end when AInverso; a mark is passed over. The result is
+/// where the next one goes; none when ACaractere has no place here.
 template <bool AInverso>
 std::optional<std::size_t> TMascara::Inserir(std::u16string& ATexto, std::size_t APasso, char16_t ACaractere) const {
     const std::size_t fim = FLugares.size();
     const auto posicaoDe = [&](std::size_t APassoDado) { return AInverso ? fim - 1 - APassoDado : APassoDado; };
-    const auto ehLiteral = [&](std::size_t APassoDado) { return FLugares[posicaoDe(APassoDado)].Tipo == tlLiteral; };
-    const auto ehEste = [&](std::size_t APassoDado) { return FLugares[posicaoDe(APassoDado)].Literal == ACaractere; };
+    const auto lugarDe = [&](std::size_t APassoDado) -> const TLugar& { return FLugares[posicaoDe(APassoDado)]; };
 
     std::size_t campo = APasso;
-    while (campo < fim && ehLiteral(campo)) ++campo;
-    if (campo < fim) {
-        const TLugar& lugar = FLugares[posicaoDe(campo)];
-        const char16_t convertido = NaCaixa(lugar, ACaractere);
-        if (LugarAceita(lugar, convertido)) {
+    while (campo < fim && lugarDe(campo).Tipo == tlLiteral) ++campo;
+    if (campo < fim && !EhVazio(ACaractere)) {
+        const char16_t convertido = NaCaixa(lugarDe(campo), ACaractere);
+        if (LugarAceita(lugarDe(campo), convertido)) {
             ATexto[posicaoDe(campo)] = convertido;
             return campo + 1;
         }
     }
-    // The literals that the caret has just skipped are often typed all the same.
-    for (std::size_t i = APasso; i > 0 && ehLiteral(i - 1); --i)
-        if (ehEste(i - 1)) return APasso;
-    for (std::size_t i = APasso; i < campo; ++i)
-        if (ehEste(i)) return i + 1;
-    while (campo < fim && !ehLiteral(campo)) ++campo;
-    for (; campo < fim && ehLiteral(campo); ++campo)
-        if (ehEste(campo)) return campo + 1;
-    return std::nullopt;
+    if (!EhMarca(ACaractere)) return std::nullopt;
+    // Inside a group of which something is filled: the rest of a day or an hour may stay empty.
+    const bool dentro = APasso > 0 && campo == APasso && campo < fim && lugarDe(APasso - 1).Tipo != tlLiteral &&
+                        !EhVazio(ATexto[posicaoDe(APasso - 1)]);
+    if (!dentro) return APasso;
+    while (campo < fim && lugarDe(campo).Tipo != tlLiteral) ++campo;
+    const bool salta = campo < fim && lugarDe(campo).Separa && (FSoSepara || lugarDe(campo).Literal == ACaractere);
+    return salta ? campo + 1 : APasso;
 }
 
-/// A text that people wrote, as the text of an edit: spaces only part its groups.
+/// A text that people wrote, as the text of an edit: what no place takes is left out.
 template <bool AInverso>
 std::u16string TMascara::Preencher(std::u16string_view AValor) const {
     std::u16string texto = GetTextoVazio();
     std::size_t passo = 0;
     for (std::size_t i = 0; i < AValor.size() && passo < texto.size(); ++i) {
         const char16_t c = AValor[AInverso ? AValor.size() - 1 - i : i];
-        if (!EhVazio(c)) passo = Inserir<AInverso>(texto, passo, c).value_or(passo);
+        passo = Inserir<AInverso>(texto, passo, c).value_or(passo);
     }
+    return texto;
+}
+
+bool TMascara::EhMarca(char16_t ACaractere) const noexcept {
+    constexpr char16_t CEspacoSemQuebra = 0xA0;
+    if (ACaractere <= u' ' || ACaractere == CEspacoSemQuebra || ACaractere == FBranco) return true;
+    if (std::u16string_view(u".,-/:()_").find(ACaractere) != std::u16string_view::npos) return true;
+    return std::ranges::any_of(FLugares,
+                               [&](const TLugar& l) { return l.Tipo == tlLiteral && l.Literal == ACaractere; });
+}
+
+std::optional<std::u16string> TMascara::LerConteudo(std::u16string_view ATexto) const {
+    std::u16string conteudo;
+    for (const char16_t c : ATexto) {
+        const bool tomado = std::ranges::any_of(FLugares, [&](const TLugar& l) { return LugarAceita(l, c); });
+        if (tomado && !EhVazio(c))
+            conteudo += c;
+        else if (!EhMarca(c))
+            return std::nullopt;
+    }
+    return conteudo;
+}
+
+std::u16string TMascara::GetConteudo(std::u16string_view ATexto, std::size_t APosicao) const {
+    std::u16string conteudo = RetirarLiterais(ATexto.substr(0, APosicao));
+    std::erase(conteudo, u' ');
+    return conteudo;
+}
+
+std::optional<std::u16string> TMascara::Dispor(std::u16string_view AConteudo) const {
+    const bool aDireita = FADireita && CabeNosLugares<true>(AConteudo);
+    if (!aDireita && !CabeNosLugares<false>(AConteudo)) return std::nullopt;
+    std::u16string texto = aDireita ? Distribuir<true>(AConteudo) : Distribuir<false>(AConteudo);
+    Arrumar(texto);
     return texto;
 }
 
@@ -274,9 +296,14 @@ std::u16string TMascara::ParaEdicao(std::u16string_view AValor) const {
         texto = CabeNosLugares<true>(AValor) ? Distribuir<true>(AValor) : Preencher<true>(AValor);
     else
         texto = CabeNosLugares<false>(AValor) ? Distribuir<false>(AValor) : Preencher<false>(AValor);
-    for (std::size_t i = 0; i < texto.size(); ++i)
-        if (FLugares[i].Tipo != tlLiteral) texto[i] = EhVazio(texto[i]) ? FBranco : NaCaixa(FLugares[i], texto[i]);
+    Arrumar(texto);
     return texto;
+}
+
+/// A text of this mask as an edit shows it: each character in its case, empty places as the mask shows them.
+void TMascara::Arrumar(std::u16string& ATexto) const {
+    for (std::size_t i = 0; i < ATexto.size(); ++i)
+        if (FLugares[i].Tipo != tlLiteral) ATexto[i] = EhVazio(ATexto[i]) ? FBranco : NaCaixa(FLugares[i], ATexto[i]);
 }
 
 /// The characters of the places of a text of this mask, empty ones as spaces.
@@ -301,133 +328,6 @@ std::u16string TMascara::ParaValor(std::u16string_view ATexto) const {
     for (std::size_t i = 0; i < texto.size(); ++i)
         if (FLugares[i].Tipo != tlLiteral && EhVazio(texto[i])) texto[i] = u' ';
     return texto;
-}
-
-std::u16string TMascara::Sair(std::u16string_view ATexto) const {
-    std::u16string texto = ParaEdicao(ATexto);
-    if (!FADireita) return texto;
-    std::vector<std::size_t> campos;
-    for (std::size_t i = 0; i < texto.size(); ++i)
-        if (FLugares[i].Tipo != tlLiteral) campos.push_back(i);
-    std::size_t vazios = 0;
-    while (vazios < campos.size() && EhVazio(texto[campos[campos.size() - 1 - vazios]])) ++vazios;
-    if (vazios == 0 || vazios == campos.size()) return texto;
-    std::u16string antes = texto;
-    for (std::size_t i = campos.size(); i-- > 0;) {
-        const char16_t c = i >= vazios ? antes[campos[i - vazios]] : FBranco;
-        // Places of different kinds: what does not fit further right stays.
-        if (!EhVazio(c) && !LugarAceita(FLugares[campos[i]], c)) return antes;
-        texto[campos[i]] = EhVazio(c) ? c : NaCaixa(FLugares[campos[i]], c);
-    }
-    return texto;
-}
-
-std::size_t TMascara::BuscarCampo(std::size_t APosicao) const noexcept {
-    while (APosicao < FLugares.size() && FLugares[APosicao].Tipo == tlLiteral) ++APosicao;
-    return APosicao;
-}
-
-void TMascara::Esvaziar(std::u16string& ATexto, std::size_t AInicio, std::size_t AFim) const {
-    for (std::size_t i = AInicio; i < AFim; ++i)
-        if (FLugares[i].Tipo != tlLiteral) ATexto[i] = FBranco;
-}
-
-TEdicaoMascara TMascara::Ajustar(const TEdicaoMascara& AEdicao) const {
-    TEdicaoMascara edicao{ParaEdicao(AEdicao.Texto), AEdicao.Cursor, AEdicao.Ancora};
-    edicao.Cursor = std::min(edicao.Cursor, edicao.Texto.size());
-    edicao.Ancora = std::min(edicao.Ancora, edicao.Texto.size());
-    return edicao;
-}
-
-TEdicaoMascara TMascara::Digitar(const TEdicaoMascara& AEdicao, char16_t ACaractere) const {
-    TEdicaoMascara antes = Ajustar(AEdicao);
-    const auto [inicio, fim] = BuscarSelecao(antes);
-    TEdicaoMascara depois = antes;
-    if (EstahVazia()) {
-        if (EhControle(ACaractere)) return antes;
-        depois.Texto.replace(inicio, fim - inicio, 1, ACaractere);
-        depois.Cursor = depois.Ancora = inicio + 1;
-        return depois;
-    }
-    Esvaziar(depois.Texto, inicio, fim);
-    std::optional<std::size_t> seguinte;
-    if (!EhVazio(ACaractere)) {
-        seguinte = Inserir<false>(depois.Texto, inicio, ACaractere);
-    } else if (const std::size_t campo = BuscarCampo(inicio); campo < depois.Texto.size()) {
-        depois.Texto[campo] = FBranco;
-        seguinte = campo + 1;
-    }
-    if (!seguinte) return antes;
-    depois.Cursor = depois.Ancora = BuscarCampo(*seguinte);
-    return depois;
-}
-
-TEdicaoMascara TMascara::Colar(const TEdicaoMascara& AEdicao, std::u16string_view ATexto) const {
-    TEdicaoMascara edicao = Ajustar(AEdicao);
-    const auto [inicio, fim] = BuscarSelecao(edicao);
-    if (EstahVazia()) {
-        edicao.Texto.replace(inicio, fim - inicio, ATexto);
-        edicao.Cursor = edicao.Ancora = inicio + ATexto.size();
-        return edicao;
-    }
-    // A whole text of the mask keeps its empty places; in any other one spaces only part its groups.
-    if (BuscarCampo(0) >= inicio && EhTextoDaMascara(ATexto)) {
-        edicao.Texto = ParaEdicao(ATexto);
-        edicao.Cursor = edicao.Ancora = edicao.Texto.size();
-        return edicao;
-    }
-    Esvaziar(edicao.Texto, inicio, fim);
-    std::size_t cursor = inicio;
-    for (const char16_t c : ATexto) {
-        if (cursor >= edicao.Texto.size()) break;
-        if (!EhVazio(c)) cursor = BuscarCampo(Inserir<false>(edicao.Texto, cursor, c).value_or(cursor));
-    }
-    edicao.Cursor = edicao.Ancora = cursor;
-    return edicao;
-}
-
-TEdicaoMascara TMascara::Teclar(const TEdicaoMascara& AEdicao, TTeclaMascara ATecla) const {
-    TEdicaoMascara edicao = Ajustar(AEdicao);
-    std::size_t& cursor = edicao.Cursor;
-    const auto [inicio, fim] = BuscarSelecao(edicao);
-    const bool semMascara = EstahVazia();
-    std::size_t anterior = cursor;
-    while (!semMascara && anterior > 0 && FLugares[anterior - 1].Tipo == tlLiteral) --anterior;
-
-    if ((ATecla == tmApagar || ATecla == tmExcluir) && inicio < fim) {
-        cursor = inicio;
-        if (semMascara)
-            edicao.Texto.erase(inicio, fim - inicio);
-        else
-            Esvaziar(edicao.Texto, inicio, fim);
-    } else if (ATecla == tmApagar && anterior > 0) {
-        cursor = anterior - 1;
-        if (semMascara)
-            edicao.Texto.erase(cursor, 1);
-        else
-            Esvaziar(edicao.Texto, cursor, anterior);
-    } else if (ATecla == tmExcluir && BuscarCampo(cursor) < edicao.Texto.size()) {
-        cursor = BuscarCampo(cursor);
-        if (semMascara)
-            edicao.Texto.erase(cursor, 1);
-        else
-            Esvaziar(edicao.Texto, cursor, cursor + 1);
-    } else if (ATecla == tmEsquerda && anterior > 0) {
-        cursor = anterior - 1;
-    } else if (ATecla == tmDireita && cursor < edicao.Texto.size()) {
-        cursor = BuscarCampo(BuscarCampo(cursor) + 1);
-        cursor = std::min(cursor, edicao.Texto.size());
-    } else if (ATecla == tmInicio) {
-        cursor = BuscarCampo(0);
-    } else if (ATecla == tmFim) {
-        cursor = edicao.Texto.size();
-        while (!semMascara && cursor > 0 &&
-               (FLugares[cursor - 1].Tipo == tlLiteral || EhVazio(edicao.Texto[cursor - 1])))
-            --cursor;
-        cursor = BuscarCampo(cursor);
-    }
-    edicao.Ancora = cursor;
-    return edicao;
 }
 
 }  // namespace OryUtils

@@ -22,6 +22,8 @@ struct TEdicaoMascara {
     std::u16string Texto;
     std::size_t Cursor = 0;
     std::size_t Ancora = 0;
+    /// True when the character or the text given last was not taken: the person is to be told.
+    bool Recusada = false;
 
     bool operator==(const TEdicaoMascara&) const = default;
 };
@@ -49,7 +51,7 @@ struct TExameMascara {
 ///   C c  any character                           _     a space that the caret skips
 ///   > <  what follows in capitals, in small letters;  <>  as typed
 ///   !    anywhere: the value is aligned right, its empty places come first
-///   / :  the date and time separators of the formats (code 0: none)
+///   / :  the date and time separators of the formats (code 0: none); a field that holds no date shows them as written
 ///   \    the next character is a literal; all other characters are literals
 /// Digits are the ASCII ones; letters are those with two cases, accents included. A place holds one UTF-16 unit:
 /// combining marks are characters of their own, "C" and "c" take neither controls nor surrogates.
@@ -103,10 +105,11 @@ public:
     // Live editing: each answers what the edit becomes. A text that is not one of this mask is first made one.
 
     /// A typed character replaces the selection, or goes into the next place and the caret past it and the literals
-    /// behind. A character that the place does not take but that is among the literals next to come moves the caret
-    /// behind it; any other one changes nothing. A space empties the place.
+    /// behind. A mark (see EhMarca) that its place does not take is passed over; inside a group that "/" or ":" ends,
+    /// that mark moves the caret behind it, and so does any mark where the mask has no other literals: "5/3/2024" and
+    /// "5-3-2024" may be typed as dates. Any other character is refused.
     TEdicaoMascara Digitar(const TEdicaoMascara& AEdicao, char16_t ACaractere) const;
-    /// A pasted text replaces the selection and goes in like typed characters until the places end.
+    /// A pasted text replaces the selection and goes in like typed characters. It goes in whole or is refused.
     TEdicaoMascara Colar(const TEdicaoMascara& AEdicao, std::u16string_view ATexto) const;
     /// Backspace and delete empty the selection, else the place before or at the caret; the places behind stay where
     /// they are. The other keys move the caret past literals.
@@ -116,6 +119,27 @@ public:
     /// The positions of AEdicao inside the text, the text one of this mask.
     TEdicaoMascara Ajustar(const TEdicaoMascara& AEdicao) const;
 
+    // The characters of the places, one after the other and without empty places ("content"). Boxes whose text is laid
+    // out anew with each key edit it instead of the places.
+
+    bool AlinhaADireita() const noexcept { return FADireita; }
+    /// What people write between the characters of a number: blanks, . , - / : ( ) _ and the literals of the mask.
+    bool EhMarca(char16_t ACaractere) const noexcept;
+    /// The text of an edit for a text that people wrote, with marks or without; none when a character has no place in
+    /// it.
+    std::optional<std::u16string> LerTexto(std::u16string_view ATexto) const;
+    /// The content of a text that people wrote, with its marks or without; none when it has anything else.
+    std::optional<std::u16string> LerConteudo(std::u16string_view ATexto) const;
+    /// The content of the text of an edit before APosicao.
+    std::u16string GetConteudo(std::u16string_view ATexto, std::size_t APosicao = CMaiorTamanho) const;
+    /// The text of an edit with AConteudo in its places: with "!" at the right end when it fits there, otherwise from
+    /// the left. None when a character has no place.
+    std::optional<std::u16string> Dispor(std::u16string_view AConteudo) const;
+    /// The text of an edit without its empty places: "5/3/2024" where the mask has two places for the day.
+    std::u16string SemVazios(std::u16string_view ATexto) const;
+    /// The caret behind the first AQuantos characters of the content of ATexto.
+    std::size_t GetCursorDepoisDe(std::u16string_view ATexto, std::size_t AQuantos) const;
+
 private:
     enum TTipoLugar : std::uint8_t { tlLiteral, tlDigito, tlDigitoOuSinal, tlLetra, tlAlfanumerico, tlQualquer };
     enum TCaixaLugar : std::uint8_t { clComoDigitado, clMaiuscula, clMinuscula };
@@ -123,6 +147,8 @@ private:
         TTipoLugar Tipo = tlLiteral;
         TCaixaLugar Caixa = clComoDigitado;
         bool Obrigatorio = false;
+        /// A literal that parts a date or a time.
+        bool Separa = false;
         char16_t Literal = 0;
     };
 
@@ -131,6 +157,7 @@ private:
     static bool LugarAceita(const TLugar& ALugar, char16_t ACaractere) noexcept;
     static char16_t NaCaixa(const TLugar& ALugar, char16_t ACaractere) noexcept;
     bool EhTextoDaMascara(std::u16string_view ATexto) const noexcept;
+    void Arrumar(std::u16string& ATexto) const;
     std::size_t BuscarCampo(std::size_t APosicao) const noexcept;
     void Esvaziar(std::u16string& ATexto, std::size_t AInicio, std::size_t AFim) const;
     template <bool AInverso>
@@ -148,6 +175,8 @@ private:
     char16_t FBranco = u'_';
     bool FGravaLiterais = true;
     bool FADireita = false;
+    /// The literals are separators of dates and times, and blanks: any mark ends a group.
+    bool FSoSepara = true;
 };
 
 }  // namespace OryUtils

@@ -1,14 +1,35 @@
 #include "oryutils/registry_numbers/UnOryUtilsFormatacoes.hpp"
 
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/fields/ControladorFormatos.hpp"
 #include "oryutils/registry_numbers/interno/MascarasDeCampos.hpp"
 #include "oryutils/runtime/Formatos.hpp"
+
+#include <algorithm>
+#include <iterator>
 
 namespace OryUtils {
 
 TInstanciaGlobal<TOryUtilsFormatacoes> GOryUtilsFormatacoes;
 
 using namespace Interno;
+
+namespace {
+
+constexpr std::u16string_view CSemDDD[] = {u"0300", u"0500", u"0800", u"0900"};
+constexpr std::size_t CDigitosCpf = 11, CDigitosFoneFixo = 10;
+
+std::u16string_view EscolherMascaraDeFone(std::u16string_view AConteudo) {
+    if (std::ranges::find(CSemDDD, AConteudo.substr(0, 4)) != std::end(CSemDDD)) return CMascaraFoneSemDDD;
+    return AConteudo.size() > CDigitosFoneFixo ? CMascaraFoneMovel : CMascaraFoneFixo;
+}
+
+std::u16string_view EscolherMascaraDeCpfCnpj(std::u16string_view AConteudo) {
+    const bool cpf = AConteudo.size() <= CDigitosCpf && std::ranges::all_of(AConteudo, EhDigito);
+    return cpf ? CMascaraCpfInteiro : CMascaraCnpjInteiro;
+}
+
+}  // namespace
 
 void TOryUtilsFormatacoes::TFormatoPadraoDatasEValores::SetUsarNosControlesDevExpress(bool AUsar) {
     FUsarNosControlesDevExpress = AUsar;
@@ -22,11 +43,19 @@ void TOryUtilsFormatacoes::TFormatoPadraoDatasEValores::SetUsarNosControlesDevEx
 
 void TOryUtilsFormatacoes::TFormatoPadraoDatasEValores::Configurar() {
     const TFormatosEmConfiguracao configurando;
-    DefinirFormatSettings(BuscarFormatosBrasileiros());
+    const TFormatSettings& anteriores = FormatSettings();
+    TFormatSettings formatos = BuscarFormatosBrasileiros();
+    formatos.TimeAMString = anteriores.TimeAMString;
+    formatos.TimePMString = anteriores.TimePMString;
+    formatos.TwoDigitYearCenturyWindow = anteriores.TwoDigitYearCenturyWindow;
+    DefinirFormatSettings(formatos);
 }
 
 void TOryUtilsFormatacoes::FormatarCampo(TField& ACampo, std::u16string_view AMascara) { ACampo.SetEditMask(AMascara); }
-void TOryUtilsFormatacoes::FormatarCEP(TField& ACampo) { FormatarCampo(ACampo, CMascaraCep); }
+void TOryUtilsFormatacoes::FormatarCEP(TField& ACampo) {
+    FormatarCampo(ACampo, CMascaraCep);
+    ACampo.SetSomenteCompleto(true);
+}
 void TOryUtilsFormatacoes::FormatarCNPJ(TField& ACampo) { FormatarCampo(ACampo, CMascaraCnpj); }
 void TOryUtilsFormatacoes::FormatarCnpjAlfanumericoCampo(TField& ACampo) {
     FormatarCampo(ACampo, CMascaraCnpjAlfanumerico);
@@ -36,6 +65,8 @@ void TOryUtilsFormatacoes::FormatarCRC(TField& ACampo) { FormatarCampo(ACampo, C
 void TOryUtilsFormatacoes::FormatarCEI(TField& ACampo) { FormatarCampo(ACampo, CMascaraCei); }
 void TOryUtilsFormatacoes::FormatarCompetencia(TField& ACampo) { FormatarCampo(ACampo, CMascaraCompetencia); }
 void TOryUtilsFormatacoes::FormatarFone(TField& ACampo) { FormatarCampo(ACampo, CMascaraFone); }
+void TOryUtilsFormatacoes::FormatarFoneDDD(TField& ACampo) { ACampo.SetEscolhaDeMascara(&EscolherMascaraDeFone); }
+void TOryUtilsFormatacoes::FormatarCpfCnpj(TField& ACampo) { ACampo.SetEscolhaDeMascara(&EscolherMascaraDeCpfCnpj); }
 void TOryUtilsFormatacoes::FormatarNCM(TField& ACampo) { FormatarCampo(ACampo, CMascaraNcm); }
 
 void TOryUtilsFormatacoes::FormatarCampoNumerico(TField& ACampo, std::u16string_view AFormatoExibicao,

@@ -26,8 +26,9 @@ public:
         void SetUsarNosControlesDevExpress(bool AUsar);
 
         /// Makes the Brazilian formats (BuscarFormatosBrasileiros) the process-wide ones: 31/12/2024, 23:59:59,
-        /// 1.234,56, month and day names. Nothing calls it by itself; call it once at the start of the program, before
-        /// other threads format or read dates and numbers. They may do so at any time while nobody changes the formats.
+        /// 1.234,56, month and day names. The window of two-digit years and the texts of AM and PM stay. Nothing calls
+        /// it by itself; call it once at the start of the program, before other threads format or read dates and
+        /// numbers. They may do so at any time while nobody changes the formats.
         void Configurar();
 
     private:
@@ -42,7 +43,7 @@ public:
 
     /// Sets the edit mask of the field (see TMascara). Raises EConvertError for a broken one.
     void FormatarCampo(TField& ACampo, std::u16string_view AMascara);
-    /// Postcode: "99999-999;0; ".
+    /// Postcode: "99999-999;0; ". A box takes all eight digits or none.
     void FormatarCEP(TField& ACampo);
     /// "99.999.999/9999-99;0; ".
     void FormatarCNPJ(TField& ACampo);
@@ -58,6 +59,12 @@ public:
     void FormatarCompetencia(TField& ACampo);
     /// Phone with area code, stored with its literals: "!(999)99999-9999;1; ".
     void FormatarFone(TField& ACampo);
+    /// Phone with an area code of two digits, stored as digits: (11)3333-4444, (11)93333-4444 and, without an area
+    /// code, 0800 123 4567 (0300, 0500 and 0900 too). The mask follows the number; a box takes a whole number or none.
+    void FormatarFoneDDD(TField& ACampo);
+    /// CPF or CNPJ, of digits or of letters and digits, stored without marks: the mask follows the number, which is a
+    /// CPF while it has at most eleven characters and no letter. A box takes a whole number or none.
+    void FormatarCpfCnpj(TField& ACampo);
     /// Goods classification code: "9999.999.99;0; ".
     void FormatarNCM(TField& ACampo);
 
@@ -96,6 +103,8 @@ inline void FormatarCnpjAlfanumericoCampo(TField& ACampo) {
 }
 inline void FormatarCPF(TField& ACampo) { GOryUtilsFormatacoes->FormatarCPF(ACampo); }
 inline void FormatarCRC(TField& ACampo) { GOryUtilsFormatacoes->FormatarCRC(ACampo); }
+inline void FormatarCpfCnpj(TField& ACampo) { GOryUtilsFormatacoes->FormatarCpfCnpj(ACampo); }
+inline void FormatarFoneDDD(TField& ACampo) { GOryUtilsFormatacoes->FormatarFoneDDD(ACampo); }
 inline void FormatarFone(TField& ACampo) { GOryUtilsFormatacoes->FormatarFone(ACampo); }
 inline void FormatarNCM(TField& ACampo) { GOryUtilsFormatacoes->FormatarNCM(ACampo); }
 inline void FormatarCEI(TField& ACampo) { GOryUtilsFormatacoes->FormatarCEI(ACampo); }

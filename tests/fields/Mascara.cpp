@@ -138,7 +138,7 @@ TEST(Mascara, EdicaoViva) {
         {CCpf, u"529982247251", u"529.982.247-25", 14, "no place left"},
         {CCpf, u"529.982.247-25", u"529.982.247-25", 14, "literals typed all the same"},
         {CCpf, u"5a2", u"52 .   .   -  ", 2, "a letter is refused"},
-        {CCpf, u"5.2", u"5  .2  .   -  ", 5, "a literal ahead jumps"},
+        {CCpf, u"5.2-9", u"529.   .   -  ", 4, "marks inside a group are passed over"},
         {CCpf, u"529~", u"52 .   .   -  ", 2, "backspace over the literal"},
         {CCpf, u"~", u"   .   .   -  ", 0, "nothing before"},
         {CCpf, u"529<<^", u"5 9.   .   -  ", 1, "delete empties, nothing moves"},
@@ -150,9 +150,11 @@ TEST(Mascara, EdicaoViva) {
         {CCpf, u"529982247259]>", u"529.982.247-25", 14, "at the end"},
         {CData, u"12/05/2024", u"12/05/2024", 10, "separators after a whole group"},
         {CData, u"1/5/2024", u"1_/5_/2024", 10, "and after part of one"},
-        {CData, u"12 ", u"12/_", 4, "a space leaves a place empty"},
+        {CData, u"1-5 2024", u"1_/5_/2024", 10, "whatever the mark"},
+        {u"99.999/99;0;_", u"123.4/5", u"12.34_/5_", 8, "\"/\" alone jumps where other marks stand, too"},
+        {u"cc;0;_", u" x", u"_x", 2, "a space has a place among any characters"},
         {CCrc, u"1sp123456o5", u"1SP123456O5", 11, "case as typed"},
-        {CFone, u"11987654321", u"(119)87654-321 ", 14, "aligned only when left"},
+        {CFone, u"11987654321", u"(119)87654-321 ", 14, "from the left"},
         {u"#9;0; ", u"+5", u"+5", 2, "sign"},
         {u"CC;0;_", u"e\u0301", u"e\u0301", 2, "a combining mark takes a place"},
         {u"CC;0;_", u"\xD83D\xDE00\t", u"__", 0, "beyond a place: refused"},
@@ -182,11 +184,12 @@ TEST(Mascara, SelecaoEColagem) {
     const TCaso casos[] = {
         {CCpf, {}, u"529.982.247-25", {u"529.982.247-25", 14, 14}, "in the mask"},
         {CCpf, {}, u"52998224725", {u"529.982.247-25", 14, 14}, "bare"},
-        {CCpf, {}, u" CPF: 529 982 247 25\r\n", {u"529.982.247-25", 14, 14}, "from a letter"},
+        {CCpf, {}, u" 529 982 247 25\r\n", {u"529.982.247-25", 14, 14}, "from a letter"},
+        {CCpf, {}, u"CPF 529 982 247 25", {u"   .   .   -  ", 0, 0, true}, "whole or not at all"},
         {CCpf, {u"529.982.247-25", 4, 7}, u"11", {u"529.11 .247-25", 6, 6}, "over a selection"},
         {CCpf, {u"529.982.247-25", 14, 0}, u"1", {u"1  .   .   -  ", 1, 1}, "over everything"},
-        {CCpf, {u"529.982.247-25", 14, 14}, u"9", {u"529.982.247-25", 14, 14}, "no place left"},
-        {CCpf, {u"529.982.247-25", 99, 99}, u"9", {u"529.982.247-25", 14, 14}, "a caret outside"},
+        {CCpf, {u"529.982.247-25", 14, 14}, u"9", {u"529.982.247-25", 14, 14, true}, "no place left"},
+        {CCpf, {u"529.982.247-25", 99, 99}, u"9", {u"529.982.247-25", 14, 14, true}, "a caret outside"},
         {CCpf, {u"52998224725", 0, 0}, u"1", {u"129.982.247-25", 1, 1}, "a text not yet in the mask"},
         {u"99999-999;0;_", {}, u"1____-__5", {u"1____-__5", 9, 9}, "empty places of a text in the mask stay"},
         {u"", {u"abc", 1, 2}, u"xy", {u"axyc", 3, 3}, "no mask"},
@@ -195,11 +198,13 @@ TEST(Mascara, SelecaoEColagem) {
         const TEdicaoMascara depois = Mascara(caso.Mascara).Colar(caso.Antes, caso.Colado);
         EXPECT_EQ(ParaUtf8(depois.Texto), ParaUtf8(caso.Depois.Texto)) << caso.Porque;
         EXPECT_EQ(depois.Cursor, caso.Depois.Cursor) << caso.Porque;
+        EXPECT_EQ(depois.Recusada, caso.Depois.Recusada) << caso.Porque;
     }
     const TMascara cpf = Mascara(CCpf);
     const TEdicaoMascara tudo{u"529.982.247-25", 0, 14};
     EXPECT_EQ(cpf.Digitar(tudo, u'1').Texto, u"1  .   .   -  ") << "typing over a selection";
-    EXPECT_EQ(cpf.Digitar(tudo, u'x'), tudo) << "a refused character keeps it";
+    EXPECT_EQ(cpf.Digitar(tudo, u'x'), (TEdicaoMascara{tudo.Texto, 0, 14, true})) << "a refused character keeps it";
+    EXPECT_EQ(cpf.Digitar(tudo, u'.'), tudo) << "and so does a mark";
     EXPECT_EQ(cpf.Teclar(tudo, tmExcluir), (TEdicaoMascara{u"   .   .   -  ", 0, 0}));
     EXPECT_EQ(cpf.Teclar({u"529.982.247-25", 6, 2}, tmApagar), (TEdicaoMascara{u"52 .  2.247-25", 2, 2}));
 }
@@ -260,7 +265,8 @@ TEST(Mascara, QualquerGestoDeixaUmTextoDaMascara) {
 TEST(Mascara, Megabytes) {
     const TMascara cpf = Mascara(CCpf);
     const std::u16string letras(1 << 20, u'x');
-    EXPECT_EQ(cpf.Colar({}, letras + u"5").Texto, u"5  .   .   -  ");
+    EXPECT_TRUE(cpf.Colar({}, letras + u"5").Recusada);
+    EXPECT_EQ(cpf.Colar({}, std::u16string(1 << 20, u' ') + u"5").Texto, u"5  .   .   -  ");
     EXPECT_EQ(cpf.Exibir(letras).size(), letras.size() + 3);
     EXPECT_EQ(cpf.Examinar(letras).Falha, fmTamanho);
     EXPECT_THROW(Mascara(letras), EConvertError);

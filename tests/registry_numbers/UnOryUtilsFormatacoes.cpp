@@ -28,7 +28,14 @@ private:
 TEST_F(Formatacoes, ConfigurarDefineOsFormatosDoProcesso) {
     const TDateTime data = CodificarData(2024, 3, 9);
     EXPECT_NE(FormatarDataHora(u"ddddd", data), u"09/03/2024");
+    TFormatSettings deAntes;
+    deAntes.TimeAMString = u"a.m.";
+    deAntes.TimePMString = u"p.m.";
+    deAntes.TwoDigitYearCenturyWindow = 80;
+    DefinirFormatSettings(deAntes);
     GOryUtilsFormatacoes->GetFormatoPadraoDatasEValores().Configurar();
+    EXPECT_EQ(FormatSettings().TimeAMString + FormatSettings().TimePMString, u"a.m.p.m.") << "it says nothing of these";
+    EXPECT_EQ(FormatSettings().TwoDigitYearCenturyWindow, 80);
     EXPECT_EQ(FormatarDataHora(u"ddddd", data), u"09/03/2024");
     EXPECT_EQ(FormatarDataHora(u"dddddd", data), u"09  de MARCO de 2024");
     EXPECT_FALSE(EstahConfigurandoFormatos()) << "only while it runs";
@@ -49,6 +56,11 @@ TEST_F(Formatacoes, MascarasDosCampos) {
         {FormatarCRC, u"9>LL<999999>L<9;0; ", u"1SP123456O5", u"1SP123456O5"},
         {FormatarFone, u"!(999)99999-9999;1; ", u"(011)91234-5678", u"(011)91234-5678"},
         {FormatarNCM, u"9999.999.99;0; ", u"847130012", u"8471.300.12"},
+        {FormatarFoneDDD, u"", u"11933334444", u"(11)93333-4444"},
+        {FormatarFoneDDD, u"", u"1133334444", u"(11)3333-4444"},
+        {FormatarFoneDDD, u"", u"08001234567", u"0800 123 4567"},
+        {FormatarCpfCnpj, u"", u"52998224725", u"529.982.247-25"},
+        {FormatarCpfCnpj, u"", u"12ABC34501DE35", u"12.ABC.345/01DE-35"},
     };
     GOryUtilsFormatacoes->GetFormatoPadraoDatasEValores().Configurar();
     for (const TCaso& caso : casos) {
@@ -58,8 +70,9 @@ TEST_F(Formatacoes, MascarasDosCampos) {
         campo.SetValor(caso.Valor);
         EXPECT_EQ(ParaUtf8(campo.GetTextoExibido()), ParaUtf8(caso.Exibicao));
         // What is shown, typed again, is the value.
-        EXPECT_EQ(TMascara(caso.Mascara).ParaValor(caso.Exibicao), caso.Valor);
-        EXPECT_TRUE(TMascara(caso.Mascara).Aceita(caso.Exibicao));
+        const TMascara mascara = campo.GetMascaraDoTexto(caso.Valor);
+        EXPECT_EQ(mascara.ParaValor(caso.Exibicao), caso.Valor);
+        EXPECT_TRUE(mascara.Aceita(caso.Exibicao));
     }
     EXPECT_EQ(TMascara(u">aa.aaa.aaa/aaaa-99;0; ").ParaEdicao(u"12abc34501de35"), u"12.ABC.345/01DE-35");
 }

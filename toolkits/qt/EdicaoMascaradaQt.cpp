@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDialog>
 #include <QDropEvent>
 #include <QFocusEvent>
 #include <QInputMethodEvent>
@@ -9,6 +10,7 @@
 #include <QMimeData>
 
 #include <algorithm>
+#include <limits>
 #include <optional>
 
 namespace OryUtils {
@@ -40,6 +42,8 @@ std::optional<TTeclaMascara> BuscarTecla(int ACodigo) {
 }  // namespace
 
 TEdicaoMascaradaQt::TEdicaoMascaradaQt(QLineEdit* AWidget, TField& ACampo) : TEditorDeCampo(ACampo), FWidget(AWidget) {
+    constexpr int CLimiteDaQt = 32767;  // of a line edit nobody has limited: a longer text would be cut
+    if (AWidget->maxLength() == CLimiteDaQt) AWidget->setMaxLength(std::numeric_limits<int>::max());
     AWidget->installEventFilter(this);
     QObject::connect(AWidget, &QLineEdit::textEdited, this, [this] { AoEditar(); });
     const auto lembrar = [this] {
@@ -47,11 +51,12 @@ TEdicaoMascaradaQt::TEdicaoMascaradaQt(QLineEdit* AWidget, TField& ACampo) : TEd
     };
     QObject::connect(AWidget, &QLineEdit::selectionChanged, this, lembrar);
     QObject::connect(AWidget, &QLineEdit::cursorPositionChanged, this, lembrar);
-    // A text that came some other way, as from the program, is brought into the mask.
-    QObject::connect(AWidget, &QLineEdit::textChanged, this, [this] {
-        if (!FEscrevendo && FWidget) Mostrar(Ajustar(Ler()));
+    QObject::connect(AWidget, &QLineEdit::textChanged, this, [this] { ConferirTexto(); });
+    // A window that is not in front gives the focus to another box without telling this one.
+    QObject::connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* AAtual) {
+        if (FWidget && AAtual && AAtual != FWidget && AAtual->window() == FWidget->window()) AoSair();
     });
-    if (AWidget->hasFocus())
+    if (AWidget->hasFocus() && !AWidget->isReadOnly())
         AoEntrar();
     else
         Atualizar();
@@ -61,11 +66,12 @@ TEdicaoMascaradaQt::~TEdicaoMascaradaQt() {
     if (FWidget) FWidget->removeEventFilter(this);
 }
 
-void TEdicaoMascaradaQt::Gravar() {
-    if (FWidget) AoGravar(Ler().Texto);
-}
+bool TEdicaoMascaradaQt::EhSomenteLeitura() const { return !FWidget || FWidget->isReadOnly(); }
+
+void TEdicaoMascaradaQt::Bipar() { QApplication::beep(); }
 
 TEdicaoMascara TEdicaoMascaradaQt::Ler() const {
+    if (!FWidget) return {};
     const auto cursor = static_cast<std::size_t>(FWidget->cursorPosition());
     TEdicaoMascara edicao{FWidget->text().toStdU16String(), cursor, cursor};
     if (FWidget->hasSelectedText()) {
@@ -90,38 +96,66 @@ void TEdicaoMascaradaQt::Mostrar(const TEdicaoMascara& AEdicao) {
     }
     FEscrevendo = false;
     FAntes = Ler();
+    FConferido = FWidget->text();
 }
 
-/// The widget's own menu cuts, pastes and deletes as if there were no mask: the same is done again in the mask.
+/// A text that came some other way than by the editor: from the program, or by a key of the line edit's own.
+void TEdicaoMascaradaQt::ConferirTexto() {
+    if (FEscrevendo || !FWidget || FWidget->text() == FConferido) return;
+    FConferido = FWidget->text();
+    AoMudarTexto();
+}
+
+/// The line edit's own menu and mouse cut, paste and delete as if there were no mask: the same is done again in it.
 void TEdicaoMascaradaQt::AoEditar() {
-    if (FEscrevendo || !FWidget || FWidget->isReadOnly()) return;
-    const TEdicaoMascara antes = FAntes;
-    const auto [inicio, fim] = std::minmax(antes.Cursor, antes.Ancora);
+    if (FEscrevendo || !FWidget || FWidget->isReadOnly() || !TrataTexto()) return;
+    TEdicaoMascara antes = FAntes;
     const std::u16string depois = FWidget->text().toStdU16String();
+    std::size_t inicio = std::min(antes.Cursor, antes.Ancora), fim = std::max(antes.Cursor, antes.Ancora);
+    if (inicio == fim) {  // a word deleted: what lies between the common ends
+        const auto iguais = std::ranges::mismatch(antes.Texto, depois);
+        inicio = static_cast<std::size_t>(iguais.in1 - antes.Texto.begin());
+        fim = antes.Texto.size();
+        for (std::size_t i = depois.size(); i > inicio && fim > inicio && antes.Texto[fim - 1] == depois[i - 1]; --i)
+            --fim;
+    }
     const std::size_t restante = antes.Texto.size() - std::min(fim, antes.Texto.size());
-    const bool trocouSelecao = depois.size() >= inicio + restante &&
-                               depois.starts_with(antes.Texto.substr(0, inicio)) &&
-                               depois.ends_with(antes.Texto.substr(antes.Texto.size() - restante));
-    if (!trocouSelecao) return;  // undone, or moved by the mouse: fitted to the mask as any other text
+    if (depois.size() < inicio + restante) return;
     const std::u16string incluido = depois.substr(inicio, depois.size() - restante - inicio);
-    Mostrar(incluido.empty() ? Teclar(antes, tmExcluir) : Colar(antes, incluido));
+    if (incluido.empty() && !TrataTeclas()) return;  // deleting is the same without a mask
+    antes.Ancora = inicio;
+    antes.Cursor = fim;
+    Mostrar(antes);
+    if (incluido.empty())
+        AoTeclar(tmExcluir);
+    else
+        AoColar(incluido);
 }
 
 /// True when the key is spent.
 bool TEdicaoMascaradaQt::TratarTecla(const QKeyEvent& ATecla) {
-    if (ATecla.matches(QKeySequence::Undo) || ATecla.matches(QKeySequence::Redo)) return true;
+    if (ATecla.matches(QKeySequence::Undo)) {
+        Desfazer();
+        return true;
+    }
+    // A dialog closes by Esc.
+    if (ATecla.key() == Qt::Key_Escape) return !qobject_cast<QDialog*>(FWidget->window()) && Desfazer();
+    if (!TrataTexto()) return false;
+    if (ATecla.matches(QKeySequence::Redo)) return true;
     if (ATecla.matches(QKeySequence::Paste)) {
-        Mostrar(Colar(Ler(), QApplication::clipboard()->text().toStdU16String()));
+        AoColar(QApplication::clipboard()->text().toStdU16String());
         return true;
     }
     if (ATecla.matches(QKeySequence::Cut)) {
         FWidget->copy();
-        if (FWidget->hasSelectedText()) Mostrar(Teclar(Ler(), tmExcluir));
+        if (FWidget->hasSelectedText()) AoTeclar(tmExcluir);
         return true;
     }
-    if (!(ATecla.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier | Qt::ShiftModifier)))
+    const bool comTecla =
+        ATecla.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier | Qt::ShiftModifier);
+    if (!comTecla && TrataTeclas())
         if (const auto tecla = BuscarTecla(ATecla.key())) {
-            Mostrar(Teclar(Ler(), *tecla));
+            AoTeclar(*tecla);
             return true;
         }
     // AltGr comes as Ctrl and Alt together.
@@ -129,35 +163,70 @@ bool TEdicaoMascaradaQt::TratarTecla(const QKeyEvent& ATecla) {
     const bool alt = ATecla.modifiers().testFlag(Qt::AltModifier);
     const QString texto = ATecla.text();
     if (texto.isEmpty() || texto.front() < u' ' || texto.front() == QChar(0x7F) || ctrl != alt) return false;
-    for (const QChar c : texto) Mostrar(Digitar(Ler(), c.unicode()));
+    const bool decimal = ATecla.modifiers().testFlag(Qt::KeypadModifier) && (texto == u"." || texto == u",");
+    if (decimal)
+        AoTeclarDecimal();
+    else
+        for (const QChar c : texto) AoDigitar(c.unicode());
+    return true;
+}
+
+/// Text dragged from elsewhere, or moved inside the box.
+void TEdicaoMascaradaQt::Soltar(QDropEvent& AEvento) {
+    const TEdicaoMascara antes = Ler();
+    auto posicao = static_cast<std::size_t>(FWidget->cursorPositionAt(AEvento.position().toPoint()));
+    const auto [inicio, fim] = std::minmax(antes.Cursor, antes.Ancora);
+    const std::u16string texto = AEvento.mimeData()->text().toStdU16String();
+    if (AEvento.source() == FWidget && AEvento.dropAction() == Qt::MoveAction && inicio < fim) {
+        if (posicao >= inicio && posicao <= fim) return;  // back on itself
+        AoTeclar(tmExcluir);
+        if (!TrataTeclas() && posicao > fim) posicao -= fim - inicio;
+    }
+    const std::size_t tamanho = Ler().Texto.size();
+    Mostrar({Ler().Texto, std::min(posicao, tamanho), std::min(posicao, tamanho)});
+    if (!AoColar(texto)) Mostrar(antes);
+    AEvento.acceptProposedAction();
+}
+
+/// What an input method has composed; what is still being composed stays the line edit's.
+bool TEdicaoMascaradaQt::Compor(const QInputMethodEvent& AEvento) {
+    if (AEvento.commitString().isEmpty() || !TrataTexto()) return false;
+    QInputMethodEvent emCurso(AEvento.preeditString(), AEvento.attributes());
+    FWidget->event(&emCurso);
+    for (const QChar c : AEvento.commitString()) AoDigitar(c.unicode());
     return true;
 }
 
 bool TEdicaoMascaradaQt::eventFilter(QObject* AObjeto, QEvent* AEvento) {
     // A widget that is being destroyed still sends events, but is no QLineEdit any more.
-    if (!qobject_cast<QLineEdit*>(AObjeto) || AObjeto != FWidget || FWidget->isReadOnly())
-        return QObject::eventFilter(AObjeto, AEvento);
+    if (!qobject_cast<QLineEdit*>(AObjeto) || AObjeto != FWidget) return QObject::eventFilter(AObjeto, AEvento);
+    if (AEvento->type() == QEvent::FocusOut) {
+        const auto motivo = static_cast<QFocusEvent*>(AEvento)->reason();
+        if (motivo == Qt::ActiveWindowFocusReason || motivo == Qt::MenuBarFocusReason)
+            AoSuspender();
+        else if (motivo != Qt::PopupFocusReason)
+            AoSair();
+        return false;
+    }
+    if (FWidget->isReadOnly()) return false;
     switch (AEvento->type()) {
+        case QEvent::ShortcutOverride:
+            // Esc and Ctrl+Z reach the box before a shortcut of the window does.
+            if (const auto& tecla = *static_cast<QKeyEvent*>(AEvento);
+                EstahModificado() && (tecla.matches(QKeySequence::Undo) || tecla.key() == Qt::Key_Escape))
+                AEvento->accept();
+            return false;
         case QEvent::KeyPress:
             return TratarTecla(*static_cast<QKeyEvent*>(AEvento));
-        case QEvent::InputMethod: {
-            const QString texto = static_cast<QInputMethodEvent*>(AEvento)->commitString();
-            if (texto.isEmpty()) return false;
-            Mostrar(Colar(Ler(), texto.toStdU16String()));
+        case QEvent::InputMethod:
+            return Compor(*static_cast<QInputMethodEvent*>(AEvento));
+        case QEvent::Drop:
+            if (!TrataTexto()) return false;
+            Soltar(*static_cast<QDropEvent*>(AEvento));
             return true;
-        }
-        case QEvent::Drop: {
-            Mostrar(Colar(Ler(), static_cast<QDropEvent*>(AEvento)->mimeData()->text().toStdU16String()));
-            return true;
-        }
         case QEvent::FocusIn:
             AoEntrar();
             return false;
-        case QEvent::FocusOut: {
-            const auto motivo = static_cast<QFocusEvent*>(AEvento)->reason();
-            if (motivo != Qt::PopupFocusReason) AoSair(Ler().Texto);
-            return false;
-        }
         default:
             return false;
     }

@@ -10,9 +10,9 @@
 
 namespace OryUtils {
 
-/// Binds a line edit of a Qt host to a field while it lives: typing, deleting, pasting and the arrow keys follow the
-/// field's edit mask or number. When the widget is gone the binding does nothing more. A read-only widget is left
-/// alone.
+/// Binds a line edit of a Qt host to a field while it lives (see TEditorDeCampo). Ctrl+Z, and Esc outside of dialogs,
+/// bring back what stood there on entering. When the widget is gone the binding does nothing more. A read-only widget
+/// shows the field and changes nothing.
 /// Example:
 ///   FormatarCPF(FCpf);
 ///   TEdicaoMascaradaQt edicao(ui.cpf, FCpf);
@@ -23,20 +23,26 @@ public:
     ~TEdicaoMascaradaQt() override;
 
     QLineEdit* GetWidget() const noexcept { return FWidget.data(); }
-    void Gravar() override;
     bool eventFilter(QObject* AObjeto, QEvent* AEvento) override;
 
 protected:
+    TEdicaoMascara Ler() const override;
     void Mostrar(const TEdicaoMascara& AEdicao) override;
+    bool EhSomenteLeitura() const override;
+    void Bipar() override;
 
 private:
-    TEdicaoMascara Ler() const;
     bool TratarTecla(const QKeyEvent& ATecla);
+    bool Compor(const QInputMethodEvent& AEvento);
+    void Soltar(QDropEvent& AEvento);
     void AoEditar();
+    void ConferirTexto();
 
     QPointer<QLineEdit> FWidget;
     /// The box before the edit that is under way.
     TEdicaoMascara FAntes;
+    /// The text that the editor knows of.
+    QString FConferido;
     bool FEscrevendo = false;
 };
 

@@ -23,21 +23,14 @@ TJanelaCadastro::TJanelaCadastro() {
     auto* formulario = new QFormLayout(this);
     formulario->setVerticalSpacing(fontMetrics().lineSpacing() / 2);
     const int entre = fontMetrics().horizontalAdvance(u'0');
-    QHBoxLayout* linha = nullptr;
     for (std::size_t i = 0; i < CCampos.size(); ++i) {
         FCaixas[i] = CriarCaixa(i);
         FControles.emplace_back(FCaixas[i]);
-        if (!CCampos[i].Caption.empty()) {
-            auto* rotulo = new QLabel(Texto(CCampos[i].Caption));
-            rotulo->setBuddy(FCaixas[i]);
-            // The marked letter breaks the kerning: the text is drawn a little wider than it is measured.
-            rotulo->setMinimumWidth(rotulo->sizeHint().width() + entre);
-            linha = new QHBoxLayout;
-            linha->setSpacing(entre);
-            linha->addStretch();
-            formulario->addRow(rotulo, linha);
-        }
-        linha->insertWidget(linha->count() - 1, FCaixas[i]);
+        auto* rotulo = new QLabel(Texto(CCampos[i].Caption));
+        rotulo->setBuddy(FCaixas[i]);
+        // The marked letter breaks the kerning: the text is drawn a little wider than it is measured.
+        rotulo->setMinimumWidth(rotulo->sizeHint().width() + entre);
+        formulario->addRow(rotulo, FCaixas[i]);
         if (i != caValor) continue;
         FPorExtenso = new QLabel;
         FPorExtenso->setWordWrap(true);
@@ -65,14 +58,13 @@ QWidget* TJanelaCadastro::CriarCaixa(std::size_t ACampo) {
         auto* lista = new QComboBox(this);
         for (const auto& opcao : campo.Opcoes) lista->addItem(Texto(opcao));
         lista->setCurrentIndex(campo.OpcaoInicial);
-        connect(lista, &QComboBox::currentIndexChanged, this, [this, ACampo] { AoEscolher(ACampo); });
         caixa = lista;
         caixa->setFixedWidth(std::max(caixa->sizeHint().width(), campo.Largura * letra));
     } else {
         auto* edicao = new QLineEdit(this);
         if (ACampo == caValor)
-            connect(edicao, &QLineEdit::textChanged, this, [this](const QString& AValor) {
-                if (FPorExtenso) FPorExtenso->setText(Texto(EscreverPorExtenso(AValor.toStdU16String())));
+            connect(edicao, &QLineEdit::textChanged, this, [this] {
+                if (FPorExtenso) FPorExtenso->setText(Texto(BuscarPorExtenso()));
             });
         if (TField* dados = GetCampoDeDados(ACampo))
             FEdicoes[ACampo] = std::make_unique<TEdicaoMascaradaQt>(edicao, *dados);

@@ -91,17 +91,13 @@ void TJanelaCadastro::Montar() {
     const int esquerda = margem + colunaRotulos + margem;
     const int larguraCliente = esquerda + colunaCaixas + margem;
 
-    int topo = margem, left = esquerda;
+    int topo = margem;
     for (std::size_t i = 0; i < CCampos.size(); ++i) {
-        if (!CCampos[i].Caption.empty()) {
-            if (i > 0) topo += alturaLinha;
-            left = esquerda;
-            Criar(L"STATIC", CCampos[i].Caption, SS_CENTERIMAGE,
-                  {margem, topo, margem + colunaRotulos, topo + alturaCaixa}, 0);
-        }
-        FCaixas[i] = CriarCaixa(i, left, topo);
+        if (i > 0) topo += alturaLinha;
+        Criar(L"STATIC", CCampos[i].Caption, SS_CENTERIMAGE, {margem, topo, margem + colunaRotulos, topo + alturaCaixa},
+              0);
+        FCaixas[i] = CriarCaixa(i, esquerda, topo);
         FControles.emplace_back(FCaixas[i]);
-        left += BuscarLargura(i) + margem / 2;
         if (i != caValor) continue;
         Criar(L"STATIC", u"", SS_NOPREFIX,
               {esquerda, topo + alturaCaixa + Pixels(4), larguraCliente - margem,
@@ -110,7 +106,7 @@ void TJanelaCadastro::Montar() {
         topo += alturaExtenso + Pixels(4);
     }
     topo += alturaLinha + margem / 2;
-    left = larguraCliente - margem - larguraBotao;
+    const int left = larguraCliente - margem - larguraBotao;
     Criar(L"BUTTON", CCaptionSalvar, BS_DEFPUSHBUTTON | WS_TABSTOP,
           {left - margem - larguraBotao, topo, left - margem, topo + alturaBotao}, CSalvar);
     Criar(L"BUTTON", CCaptionFechar, WS_TABSTOP, {left, topo, left + larguraBotao, topo + alturaBotao}, CFechar);
@@ -175,7 +171,6 @@ void TJanelaCadastro::EscreverCaixa(std::size_t ACampo, std::u16string_view ATex
     }
     const auto opcao = std::ranges::find(opcoes, ATexto) - opcoes.begin();
     ::SendMessageW(FCaixas[ACampo], CB_SETCURSEL, static_cast<WPARAM>(opcao), 0);
-    AoEscolher(ACampo);
 }
 
 // Leaving for the close button, or for another program, is always allowed.
@@ -195,9 +190,8 @@ void TJanelaCadastro::AoComandar(int AId, int ANotificacao) {
     // back, is not an exit.
     if (!EstahValidando() && ANotificacao == (lista ? CBN_KILLFOCUS : EN_KILLFOCUS))
         ::PostMessageW(FJanela, CSaiuDoCampo, campo, 0);
-    if (lista && ANotificacao == CBN_SELCHANGE) AoEscolher(campo);
     if (campo == caValor && ANotificacao == EN_CHANGE && FCaixas[campo])
-        ::SetWindowTextW(GetPorExtenso(), Texto(EscreverPorExtenso(LerCaixa(campo))).c_str());
+        ::SetWindowTextW(GetPorExtenso(), Texto(BuscarPorExtenso()).c_str());
 }
 
 INT_PTR CALLBACK TJanelaCadastro::Procedimento(HWND AJanela, UINT AMensagem, WPARAM AW, LPARAM AL) {

@@ -9,6 +9,10 @@ struct TCampos {
     std::u16string_view Padrao, Literais, Branco;
 };
 
+constexpr bool EhControle(char16_t ACaractere) {
+    return ACaractere < u' ' || (ACaractere >= 0x7F && ACaractere <= 0x9F);
+}
+
 constexpr TCampos Separar(std::u16string_view AMascara) {
     TCampos campos;
     std::size_t fim = 0;

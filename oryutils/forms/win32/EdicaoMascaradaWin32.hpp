@@ -7,9 +7,10 @@ struct HWND__;
 
 namespace OryUtils {
 
-/// Binds an edit control of a Win32 host (class EDIT, one line) to a field while it lives: typing, deleting, pasting
-/// and the arrow keys follow the field's edit mask or number. Use it on the thread of the control. When the control is
-/// destroyed the binding does nothing more. A read-only control is left alone.
+/// Binds an edit control of a Win32 host (class EDIT, one line) to a field while it lives (see TEditorDeCampo). Ctrl+Z,
+/// and Esc where the dialog does not use it, bring back what stood there on entering. Use it on the thread of the
+/// control. When the control is destroyed the binding does nothing more. A read-only control shows the field and
+/// changes nothing.
 /// Example:
 ///   TField cpf(ftString);
 ///   FormatarCPF(cpf);
@@ -21,19 +22,29 @@ public:
     ~TEdicaoMascaradaWin32() override;
 
     HWND__* GetHandle() const noexcept { return FJanela; }
-    void Gravar() override;
 
 protected:
+    TEdicaoMascara Ler() const override;
     void Mostrar(const TEdicaoMascara& AEdicao) override;
+    bool EhSomenteLeitura() const override;
+    void Bipar() override;
 
 private:
     struct TTratador;
 
-    TEdicaoMascara Ler() const;
     bool Tratar(unsigned AMensagem, std::uintptr_t AWParam);
+    bool TratarCaractere(char16_t ACaractere);
+    bool TratarTecla(std::uintptr_t ACodigo);
     void ColarDaAreaDeTransferencia();
+    void Recortar();
+    void Deixar(HWND__* AOutra);
+    void ConferirTexto();
 
     HWND__* FJanela;
+    /// The text that the editor knows of.
+    std::u16string FConferido;
+    /// The key that the next character comes from is the decimal one of the keypad.
+    bool FDecimal = false;
     bool FEscrevendo = false;
 };
 
