@@ -34,9 +34,10 @@ TEST(Arquivos, NomeTamanhoEExtensao) {
     EXPECT_EQ(Ver(pasta.Gravar(u"Relatório.TXT", std::string(1536, 'x'))), "Relatório.TXT|1536|1,5 KB|.txt|dated");
     EXPECT_EQ(Ver(pasta.Caminho().u16string()), ParaUtf8(pasta.Caminho().filename().u16string()) + "|0|0 bytes||")
         << "a search finds folders too";
-    for (const auto& nome : {pasta.Nome(u"falta"), pasta.Nome(u"Relatório.TXT/x"), pasta.Nome(u"Relatório.TXT/"),
-                             pasta.Nome(std::u16string_view(u"Relatório\0", 10)), std::u16string(1 << 20, u'x'),
-                             std::u16string(u"\xD800")}) {
+    pasta.Gravar(u"r", "a name does not end at a character of code 0");
+    for (const auto& nome :
+         {pasta.Nome(u"falta"), pasta.Nome(u"Relatório.TXT/x"), pasta.Nome(u"Relatório.TXT/"),
+          pasta.Nome(std::u16string_view(u"r\0", 2)), std::u16string(1 << 20, u'x'), std::u16string(u"\xD800")}) {
         EXPECT_EQ(Ver(nome), "|0|0 bytes||");
         EXPECT_FALSE(C::AlterouDataHoraArquivo(nome, Instante(2026, 1, 1, 0, 0, 0)));
     }
@@ -111,20 +112,6 @@ TEST(Arquivos, Pastas) {
     for (const auto& nome : {arquivo, pasta.Nome(u"falta"), std::u16string()}) EXPECT_FALSE(C::ExisteDiretorio(nome));
     for (const auto& nome : {pasta.Nome(u"falta.txt"), std::u16string(), std::u16string(u"a\0b", 3)})
         EXPECT_FALSE(C::AbrirArquivo(nome));
-}
-
-TEST(Arquivos, NomeSemExtensao) {
-    constexpr std::u16string_view CCasos[][2] = {
-        {u"C:\\Logs\\Importacao.2026.txt", u"Importacao.2026"},
-        {u"/var/log.d/importação", u"importação"},
-        {u"C:nome.log", u"nome"},
-        {u"pasta.x\\", u""},
-        {u".log", u""},
-        {u"a.", u"a"},
-        {u"  .txt", u"  "},
-        {u"", u""},
-    };
-    for (const auto& [nome, esperado] : CCasos) EXPECT_EQ(C::ExtrairNomeDoArquivoSemExtensao(nome), esperado);
 }
 
 TEST(Arquivos, TamanhoComUnidade) {

@@ -204,25 +204,4 @@ TEST(LogAcrescimo, OutroLogDoMesmoArquivoTambemGrava) {
     }
 }
 
-/// A process killed in the middle of a save leaves any part of the file; the next one lives with it.
-TEST(LogAcrescimo, QualquerPedacoDeUmArquivoSeContinua) {
-    const TPastaTemporaria pasta;
-    TAmbienteDeTeste ambiente;
-    TLogDeTeste antigo(pasta.Nome("M"), ambiente, mgReescrever);
-    antigo.Adicionar(u"ação \U0001F600", clBlue);
-    antigo.FinalizarLog();
-    const auto arquivo = pasta.Caminho() / "M.log";
-    const std::string inteiro = LerBytes(arquivo);
-    for (std::size_t corte = 0; corte <= inteiro.size(); corte += corte + 200 < inteiro.size() ? 17 : 1) {
-        GravarBytes(arquivo, inteiro.substr(0, corte));
-        TLogDeTeste novo(pasta.Nome("M"), ambiente, mgReescrever);
-        novo.SetUsarArquivoLogExistente(true);
-        novo.Adicionar(u"continua", clBlue);
-        novo.SalvarArquivoLog();
-        ASSERT_EQ(LerBytes(arquivo), novo.Esperar()) << corte;
-        const std::u16string antes = DeUtf8(inteiro.substr(0, inteiro.substr(0, corte).rfind('\n') + 1));
-        ASSERT_TRUE(novo.GetTexto().starts_with(antes)) << corte;
-    }
-}
-
 }  // namespace

@@ -123,6 +123,7 @@ TEST_F(LogRegras, CarregaOArquivoExistenteComQualquerFimDeLinha) {
         {"CR LF", "a\r\nb\r\n", {u"a", u"b"}},
         {"CR", "a\rb\r", {u"a", u"b"}},
         {"mixed, the last one open", "a\n\r\n\rb", {u"a", u"", u"", u"b"}},
+        {"cut in the middle of a character", "a\n\xC3", {u"a", u"\uFFFD"}},
         {"one empty line", "\n", {u""}},
         {"nothing", "", {}},
         {"the mark of an editor", "\uFEFFação\n", {u"ação"}},

@@ -135,21 +135,23 @@ TEST(Versoes, OrdenaComoASequenciaDeTrocas) {
     EXPECT_LT(comErro, 15000);
 }
 
+/// The name without its extension, the extension, and the kinds that a file is of.
 TEST(Versoes, TiposDeArquivo) {
     constexpr std::pair<const char16_t*, const char*> CCasos[] = {
-        {u"a.exe", ".EXE exe versioned"},
-        {u"C:\\x.dll\\A.Bpl", ".BPL bpl versioned"},
-        {u"/x.exe/a.DLL", ".DLL dll versioned"},
-        {u"a.exe.dat", ".DAT dat"},
-        {u".ini", ".INI ini"},
-        {u"estilo.CSS", ".CSS html"},
-        {u"a.js", ".JS html"},
-        {u"página.html", ".HTML html"},
-        {u"a.htm", ".HTM"},
-        {u"pasta.exe/a", ""},
-        {u"a.exe ", ".EXE "},
-        {u"a.", "."},
-        {u"", ""},
+        {u"a.exe", "a|.EXE exe versioned"},
+        {u"C:\\x.dll\\A.Bpl", "A|.BPL bpl versioned"},
+        {u"/x.exe/a.DLL", "a|.DLL dll versioned"},
+        {u"C:a.exe.dat", "a.exe|.DAT dat"},
+        {u".ini", "|.INI ini"},
+        {u"estilo.CSS", "estilo|.CSS html"},
+        {u"a.js", "a|.JS html"},
+        {u"página.html", "página|.HTML html"},
+        {u"  .htm", "  |.HTM"},
+        {u"pasta.exe/a", "a|"},
+        {u"pasta.exe\\", "|"},
+        {u"a.exe ", "a|.EXE "},
+        {u"a.", "a|."},
+        {u"", "|"},
     };
     const std::pair<const char*, bool (*)(std::u16string_view)> tipos[] = {
         {" exe", IsAExe},
@@ -161,10 +163,11 @@ TEST(Versoes, TiposDeArquivo) {
         {" versioned", C::EhArquivoVersionado},
     };
     for (const auto& [arquivo, dito] : CCasos) {
-        std::string ditos = ParaUtf8(GetExtensionFromFile(arquivo));
+        std::string ditos =
+            ParaUtf8(C::ExtrairNomeDoArquivoSemExtensao(arquivo) + u"|" + GetExtensionFromFile(arquivo));
         for (const auto& [nome, ehDoTipo] : tipos)
             if (ehDoTipo(arquivo)) ditos += nome;
-        EXPECT_EQ(ditos, dito) << ParaUtf8(arquivo);
+        EXPECT_EQ(ditos, dito);
     }
 }
 

@@ -63,7 +63,8 @@ TEST(Operacoes, PeloNome) {
         {"ListaIPLocalDaSaidaARP", R"(["\r\nInterface: 10.0.0.2 --- 0x3\n 10.0.0.1\rInterface: 10.0.0.3"])",
          R"(["10.0.0.2","10.0.0.3"])"},
         {"InformacoesDetalhadas", R"(["","",-9223372036854775808,1,9])",
-         R"("Informações detalhadas da unidade: \r\n\r\nUnidade:  \r\nNome:  \r\nEspaço total: -9223372036854775808 \r\nEspaço livre: 1 \r\nEspaço usado: 9223372036854775807 ")"},
+         R"("Informações detalhadas da unidade: \r\n\r\nUnidade:  \r\nNome:  \r\nEspaço total: )"
+         R"(-9223372036854775808 \r\nEspaço livre: 1 \r\nEspaço usado: 9223372036854775807 ")"},
         // Versions and files.
         {"CompareVersion", R"(["x","1"])", "'x' não é um valor inteiro válido", "EConvertError"},
         {"DividirVersao", R"(["1.2"])", "[1,0,0,2]"},
@@ -76,7 +77,10 @@ TEST(Operacoes, PeloNome) {
         {"MontarFiltroSql", R"j([{"tabela":"f","campo":"nome","condicao":12,"valor":"d'á"},[],""])j",
          R"j("( F.NOME LIKE '%d''á%' )")j"},
         {"MontarFiltroSql",
-         R"j([{"operador":1,"filhos":[{"tabela":"f","campo":"n","condicao":6,"valor":[1,"x"],"quote":true},{"operador":0,"filhos":[{"tabela":"f","campo":"m","condicao":1,"valor":7,"upper":true},{"tabela":"g","campo":"m","condicao":8}]},{"tabela":"g","campo":"k","condicao":13,"valor":[2,3]}]},["F"],"Where"])j",
+         R"j([{"operador":1,"filhos":[{"tabela":"f","campo":"n","condicao":6,"valor":[1,"x"],"quote":true},)j"
+         R"j({"operador":0,"filhos":[{"tabela":"f","campo":"m","condicao":1,"valor":7,"upper":true},)j"
+         R"j({"tabela":"g","campo":"m","condicao":8}]},)j"
+         R"j({"tabela":"g","campo":"k","condicao":13,"valor":[2,3]}]},["F"],"Where"])j",
          R"j(" WHERE ( ( F.N IN ('1','x' ) ) OR ( ( UPPER(F.M) = UPPER(7) ) ) )")j"},
         {"MontarFiltroSql", R"([{"filhos":[]},[],"And"])", R"("")"},
         {"MontarFiltroSql", R"([{"tabela":"f","campo":"n","condicao":13,"valor":[1]},[],""])",
