@@ -4,10 +4,11 @@
 #include "oryutils/runtime/Formatos.hpp"
 #include "oryutils/sql/UnOryUtilsClasseFiltroSql.hpp"
 
+#include "comum/Acaso.hpp"
 #include "comum/Casos.hpp"
+#include "comum/MensagemDe.hpp"
 
 #include <new>
-#include <random>
 
 namespace OryUtils {
 namespace {
@@ -85,12 +86,8 @@ TEST(FiltroSql, ListaLongaContaEmOitoBits) {
 }
 
 TEST(FiltroSql, Recusas) {
-    const auto recusar = [](const TFolha& AFolha) -> std::string {
-        try {
-            return "accepted: " + Montar(AFolha);
-        } catch (const Exception& erro) {
-            return erro.what();
-        }
+    const auto recusar = [](const TFolha& AFolha) {
+        return Testes::MensagemDe<Exception>([&] { ADD_FAILURE() << Montar(AFolha); });
     };
     constexpr const char* CIn = "Erro na geração do SQL com cláusula IN ou NOT IN.";
     constexpr const char* CConversao = "Não foi possível converter a variante do tipo ";
@@ -156,7 +153,7 @@ void ListarCopiadas(const TFiltro& AOrigem, std::vector<const TFiltro*>& ACopiad
     }
 }
 
-void Sortear(TFiltro& ANo, std::mt19937& AGerador, int ANivel) {
+void Sortear(TFiltro& ANo, std::mt19937_64& AGerador, int ANivel) {
     static constexpr std::u16string_view CTabelas[] = {u"f", u"G", u"h", u""};
     if (ANivel == 0 || AGerador() % 3 == 0) {
         Preencher(ANo,
@@ -171,9 +168,7 @@ void Sortear(TFiltro& ANo, std::mt19937& AGerador, int ANivel) {
 }
 
 TEST(FiltroSql, ArvoresAoAcaso) {
-    const auto semente = std::random_device{}();
-    SCOPED_TRACE("seed " + std::to_string(semente));
-    std::mt19937 gerador(semente);
+    Testes::TAcaso gerador;
     for (int i = 0; i < 2000; ++i) {
         TFiltro arvore(gerador() % 2 ? ofAnd : ofOr);
         Sortear(arvore, gerador, static_cast<int>(gerador() % 6));

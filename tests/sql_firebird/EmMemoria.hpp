@@ -61,48 +61,27 @@ inline bool AtendeFolha(const TOryUtilsFiltroSql& AFolha, const std::vector<TCol
     if (condicao == cfIsNull || condicao == cfIsNotNull) return celula.has_value() == (condicao == cfIsNotNull);
     if (!celula) return false;  // unknown, which WHERE takes as no
 
-    const bool maiusculas = AFolha.GetUsarUpperCase();
-    const std::u16string texto = maiusculas ? MaiusculaDe(*celula) : *celula;
-    const auto comparar = [&](const Variant& AValor) {
-        const std::u16string valor = VarianteParaTexto(AValor);
-        if (!coluna->Inteira) return CompararTextos(texto, valor);
-        const auto diferenca = TextoParaInt64(texto) - TextoParaInt64(valor);
+    const auto naCaixa = [&](const std::u16string& A) { return AFolha.GetUsarUpperCase() ? MaiusculaDe(A) : A; };
+    const std::u16string texto = naCaixa(*celula);
+    const auto comparar = [&](const std::u16string& AValor) {
+        if (!coluna->Inteira) return CompararTextos(texto, AValor);
+        const auto diferenca = TextoParaInt64(texto) - TextoParaInt64(AValor);
         return (diferenca > 0) - (diferenca < 0);
     };
-    const Variant& valor = AFolha.GetValor();
-    const auto compararEscalar = [&] {
-        return comparar(maiusculas ? Variant(MaiusculaDe(VarianteParaTexto(valor))) : valor);
-    };
-    const std::vector<Variant> um{valor};
-    const auto& itens = valor.GetItens() ? *valor.GetItens() : um;
-    switch (condicao) {
-        case cfIgual:
-            return compararEscalar() == 0;
-        case cfDiferente:
-            return compararEscalar() != 0;
-        case cfMaior:
-            return compararEscalar() > 0;
-        case cfMaiorIgual:
-            return compararEscalar() >= 0;
-        case cfMenor:
-            return compararEscalar() < 0;
-        case cfMenorIgual:
-            return compararEscalar() <= 0;
-        case cfIn:
-        case cfNotIn:
-            return std::any_of(itens.begin(), itens.end(), [&](const Variant& A) { return comparar(A) == 0; }) ==
-                   (condicao == cfIn);
-        case cfBetween:
-            return comparar(itens.front()) >= 0 && comparar(itens.back()) <= 0;
-        case cfIniciaCom:
-            return texto.starts_with(VarianteParaTexto(valor));
-        case cfTerminaCom:
-            return CasaComModelo(texto, u"%" + *valor.GetTexto());
-        case cfContem:
-            return CasaComModelo(texto, u"%" + *valor.GetTexto() + u"%");
-        default:
-            return false;
+    if (const auto* itens = AFolha.GetValor().GetItens()) {
+        std::vector<int> ordens;
+        for (const Variant& item : *itens) ordens.push_back(comparar(VarianteParaTexto(item)));
+        if (condicao == cfBetween) return ordens.front() >= 0 && ordens.back() <= 0;
+        return (std::ranges::count(ordens, 0) > 0) == (condicao == cfIn);
     }
+    const std::u16string valor = VarianteParaTexto(AFolha.GetValor());
+    if (condicao == cfIniciaCom) return texto.starts_with(valor);
+    if (condicao == cfTerminaCom) return CasaComModelo(texto, u"%" + valor);
+    if (condicao == cfContem) return CasaComModelo(texto, u"%" + valor + u"%");
+    const int ordem = comparar(naCaixa(valor));
+    if (condicao == cfIgual || condicao == cfDiferente) return (ordem == 0) == (condicao == cfIgual);
+    if (ordem == 0) return condicao == cfMaiorIgual || condicao == cfMenorIgual;
+    return (ordem > 0) == (condicao == cfMaior || condicao == cfMaiorIgual);
 }
 
 /// None when the node says nothing about any row.

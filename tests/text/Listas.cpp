@@ -3,6 +3,7 @@
 #include "oryutils/text/OryUtilsStrings.hpp"
 
 #include "comum/Casos.hpp"
+#include "comum/MensagemDe.hpp"
 #include "text/Apoio.hpp"
 
 #include <stdexcept>
@@ -79,12 +80,8 @@ TEST_F(StringsListas, JuncaoECopias) {
     EXPECT_EQ(OryUtils::ConverterStringListParaVetorDeStrings(itens), itens);
     EXPECT_EQ(OryUtils::ConverterVetorDeStringsParaStringList(itens), itens);
     EXPECT_EQ(OryUtils::StringToStringDynArray(itens), itens);
-    try {
-        OryUtils::ConverterStringListParaTextoComDelimitador(nullptr, u";");
-        FAIL();
-    } catch (const OryUtils::Exception& falha) {
-        EXPECT_EQ(falha.GetMensagem(), u"Argumento <AStringList> não está instanciado.");
-    }
+    const auto semLista = [] { OryUtils::ConverterStringListParaTextoComDelimitador(nullptr, u";"); };
+    EXPECT_EQ(Testes::MensagemDe<OryUtils::Exception>(semLista), "Argumento <AStringList> não está instanciado.");
 }
 
 TEST_F(StringsListas, Parametros) {

@@ -4,12 +4,13 @@
 #include "oryutils/text/OryUtilsFormulas.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
 
+#include "comum/Acaso.hpp"
 #include "comum/Casos.hpp"
+#include "comum/MensagemDe.hpp"
 #include "comum/OutraAritmetica.hpp"
 
 #include <cmath>
 #include <limits>
-#include <random>
 
 using namespace OryUtils;
 using Testes::Conferir;
@@ -113,12 +114,8 @@ TEST_F(Matematica, PorExtensoRecusaNegativosEGuardaOTextoAnterior) {
     TConverterPorExtenso conversor;
     EXPECT_EQ(conversor.GetTexto(), u"ZERO REAIS");
     conversor.SetValor(2);
-    try {
-        conversor.SetValor(-0.01L);
-        FAIL();
-    } catch (const Exception& e) {
-        EXPECT_EQ(e.GetMensagem(), u"O valor deve ser sempre maior ou igual a 0,00");
-    }
+    EXPECT_EQ(Testes::MensagemDe<Exception>([&] { conversor.SetValor(-0.01L); }),
+              "O valor deve ser sempre maior ou igual a 0,00");
     EXPECT_THROW(conversor.SetValor(CInfinito), EConvertError);
     EXPECT_EQ(conversor.GetValor(), 2);
     EXPECT_EQ(conversor.GetTexto(), u"DOIS REAIS");
@@ -191,9 +188,7 @@ TEST_F(Matematica, CincoArredondamentos) {
 
 // The cascade on the decimal text itself: with amounts of 4 decimals the digits are certain.
 TEST_F(Matematica, CascataSobreDigitos) {
-    const auto semente = std::random_device{}();
-    SCOPED_TRACE(testing::Message() << "seed " << semente);
-    std::mt19937_64 gerador(semente);
+    Testes::TAcaso gerador;
     for (int i = 0; i < 20'000; ++i) {
         const auto milesimos = static_cast<std::int64_t>(gerador() % 10'000'000'000);
         std::int64_t esperado = milesimos;
