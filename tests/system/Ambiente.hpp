@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 namespace Testes {
@@ -10,6 +11,10 @@ void DefinirVariavel(const std::string& ANome, const std::string& AValor);
 
 /// Gives this thread a message to process, where waits are woken by messages.
 void EnviarMensagemAEstaThread();
+
+/// Waits until somebody creates the file, which the system tells; false when nobody does in half a minute.
+bool EsperarArquivo(const std::filesystem::path& AArquivo);
+inline constexpr int CMaiorEsperaDeArquivo = 30'000;  // milliseconds
 
 /// The variable has that value while this lives.
 class TVariavel {

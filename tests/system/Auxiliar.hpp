@@ -3,6 +3,7 @@
 #include "oryutils/runtime/Costura.hpp"
 
 #include "files/ApoioArquivos.hpp"
+#include "system/Ambiente.hpp"
 
 #include <gtest/gtest.h>
 
@@ -27,16 +28,12 @@ inline std::u16string Comando(std::u16string_view AArgumentos,
 }
 inline std::u16string EntreAspas(const std::filesystem::path& ACaminho) { return u"\"" + ACaminho.u16string() + u"\""; }
 
-/// Waits until somebody creates the file, which the system tells; false when nobody does in half a minute.
-bool EsperarArquivo(const std::filesystem::path& AArquivo);
-inline constexpr int CMaiorEsperaDeArquivo = 30'000;  // milliseconds
-
 /// The command line of the auxiliary program that sleeps, and the wait until it does. One that is killed before it is
 /// up leaves its console behind under Wine, waiting for it and holding what the tests write to.
 class TDorminhoco {
 public:
     std::u16string Argumentos() const { return u"dormir " + EntreAspas(FPasta / "acordou"); }
-    void Esperar() const { EXPECT_TRUE(EsperarArquivo(FPasta / "acordou")) << "it did not start"; }
+    void Esperar() const { EXPECT_TRUE(::Testes::EsperarArquivo(FPasta / "acordou")) << "it did not start"; }
 
 private:
     TPastaTemporaria FPasta;

@@ -225,9 +225,11 @@ TEST_F(TRegistro, CotaDeObjetosGDI) {
     };
     for (const auto& [versao, maior, texto] :
          {std::tuple{vwWin2000, 16384, u"16384"}, {vwWinXP, 65536, u"65536"}, {vwUnknown, 65536, u"65536"}})
-        for (const int valor : {INT32_MIN, 255, 256, maior, maior + 1, INT32_MAX})
-            EXPECT_EQ(Interno::ValidarCotaObjetosGDI(valor, versao).Mensagem,
-                      valor >= 256 && valor <= maior ? u"" : mensagem(texto));
+        for (const int valor : {INT32_MIN, 255, 256, maior, maior + 1, INT32_MAX}) {
+            const TResultStatus falha{false, mensagem(texto)};
+            EXPECT_EQ(Interno::ValidarCotaObjetosGDI(valor, versao),
+                      valor < 256 || valor > maior ? falha : TResultStatus());
+        }
     // Wine lacks it.
     Registro.CriarChave(crLocalMachine, u"Software\\Microsoft\\Windows NT\\CurrentVersion", u"Windows");
     TValorPreservado cota(CGDI, u"GDIProcessHandleQuota");

@@ -17,4 +17,13 @@ void DefinirVariavel(const std::string& ANome, const std::string& AValor) {
 
 void EnviarMensagemAEstaThread() { ::PostThreadMessageW(::GetCurrentThreadId(), WM_NULL, 0, 0); }
 
+bool EsperarArquivo(const std::filesystem::path& AArquivo) {
+    const HANDLE avisos =
+        ::FindFirstChangeNotificationW(AArquivo.parent_path().c_str(), FALSE, FILE_NOTIFY_CHANGE_FILE_NAME);
+    while (!std::filesystem::exists(AArquivo) && ::WaitForSingleObject(avisos, CMaiorEsperaDeArquivo) == WAIT_OBJECT_0)
+        ::FindNextChangeNotification(avisos);
+    ::FindCloseChangeNotification(avisos);
+    return std::filesystem::exists(AArquivo);
+}
+
 }  // namespace Testes

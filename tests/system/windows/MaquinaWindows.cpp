@@ -61,20 +61,20 @@ TEST(MaquinaWindows, Discos) {
 }
 
 TEST(MaquinaWindows, Pastas) {
-    wchar_t texto[MAX_PATH + 1];
-    ASSERT_TRUE(::GetSystemDirectoryW(texto, MAX_PATH));
-    EXPECT_EQ(GetWindowsSystemDir(), DeWide(texto));
-    ASSERT_TRUE(::GetWindowsDirectoryW(texto, MAX_PATH));
-    EXPECT_EQ(GetWindowsDrive(), DeWide(texto).substr(0, 2));
-    ASSERT_TRUE(::GetTempPathW(MAX_PATH, texto));
-    EXPECT_EQ(GetPastaTempWindows() + u"\\", DeWide(texto));
-    ASSERT_TRUE(::SHGetSpecialFolderPathW(nullptr, texto, CSIDL_PERSONAL, FALSE));
-    EXPECT_EQ(GetPastaMeusDocumentos(), DeWide(texto));
-    ASSERT_TRUE(::SHGetSpecialFolderPathW(nullptr, texto, CSIDL_PROGRAM_FILES, FALSE));
-    EXPECT_EQ(GetPastaArquivoDeProgramas(), DeWide(texto));
+    const auto doSistema = [](auto AFuncao) {
+        wchar_t texto[MAX_PATH + 1];
+        EXPECT_TRUE(AFuncao(texto) != 0);
+        return DeWide(texto);
+    };
+    EXPECT_EQ(GetWindowsSystemDir(), doSistema([](auto t) { return ::GetSystemDirectoryW(t, MAX_PATH); }));
+    EXPECT_EQ(GetWindowsDrive(), doSistema([](auto t) { return ::GetWindowsDirectoryW(t, MAX_PATH); }).substr(0, 2));
+    EXPECT_EQ(GetPastaTempWindows() + u"\\", doSistema([](auto t) { return ::GetTempPathW(MAX_PATH, t); }));
+    for (const auto& [nossa, numero] :
+         {std::pair{GetPastaMeusDocumentos(), CSIDL_PERSONAL}, {GetPastaArquivoDeProgramas(), CSIDL_PROGRAM_FILES}})
+        EXPECT_EQ(nossa, doSistema([&](auto t) { return ::SHGetSpecialFolderPathW(nullptr, t, numero, FALSE); }));
 
-    ASSERT_TRUE(::GetModuleFileNameW(nullptr, texto, MAX_PATH));
-    const std::filesystem::path pasta = std::filesystem::path(texto).parent_path();
+    const std::filesystem::path programa = doSistema([](auto t) { return ::GetModuleFileNameW(nullptr, t, MAX_PATH); });
+    const std::filesystem::path pasta = programa.parent_path();
     EXPECT_EQ(GetApplicationPath(), pasta.u16string() + u"\\");
     EXPECT_EQ(OryUtils::BuscarPastaOryApps(), pasta.parent_path().u16string() + u"\\OryApps");
     EXPECT_EQ(S::BuscarPastaOryAppsAjuda(), pasta.parent_path().u16string() + u"\\OryApps_Ajuda\\");
