@@ -29,6 +29,7 @@ TEST(FormatoDataHora, Linguagem) {
         {u"y yy yyy yyyy", madrugada, u"87 87 0987 0987", "a year of three digits is filled"},
         {u"h:n:s.z", tarde, u"14:7:9.45", "without zeros"},
         {u"HH:NN:SS.ZZZ", tarde, u"14:07:09.045", "either case"},
+        {u"h:n z", Momento(2024, 3, 5, 10, 10, 0, 100), u"10:10 100", "the least numbers of two and three digits"},
         {u"hh:mm:ss dd/mm", tarde, u"14:07:09 05/03", "mm after hh are minutes, then the month again"},
         {u"MM/DD HH:MM", tarde, u"03/05 14:07", "upper case"},
         {u"hhmm mm", tarde, u"1407 03", "only the first m after the hour"},

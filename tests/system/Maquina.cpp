@@ -1,4 +1,5 @@
 // Rules of the machine, most of which need no machine.
+#include "oryutils/characters/Caixa.hpp"
 #include "oryutils/runtime/Formatos.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 #include "oryutils/system/interno/RegrasDeDiscos.hpp"
@@ -8,6 +9,7 @@
 
 #include "text/Apoio.hpp"
 
+#include <filesystem>
 #include <limits>
 
 using namespace OryUtils;
@@ -81,6 +83,24 @@ TEST(Maquina, OQueExisteEOQueNao) {
     EXPECT_TRUE(S::EhIPLocal(S::BuscarIPLocal(), false));
     EXPECT_EQ(S::BuscarIPPeloNomeComputador(u""), S::BuscarIPLocal()) << "the empty name is this machine";
     EXPECT_EQ(S::BuscarIPPeloNomeComputador(u"127.0.0.3"), u"127.0.0.3");
+}
+
+TEST(Maquina, Discos) {
+    char16_t proxima = u'C';  // on Linux the file systems have letters in their order
+    for (const std::u16string& unidade : TOryUtilsSistema::BuscarListaDrivesComputador()) {
+        const std::u16string letra(1, unidade.front() == u'/' ? proxima++ : unidade.front());
+        std::error_code erro;
+        const auto espaco = std::filesystem::space(unidade, erro);
+        if (erro || letra > u"Z") continue;
+        for (const std::u16string& nome : {letra, MinusculaDe(letra), letra + u":", letra + u":\\"}) {
+            const auto disco = TOryUtilsSistema::BuscarInformacoesDiscoRigido(nome, fbBytes);
+            EXPECT_EQ(disco->EspacoTotal, static_cast<std::int64_t>(espaco.capacity)) << ParaUtf8(nome);
+            EXPECT_GE(disco->EspacoTotal, disco->EspacoLivre);
+            EXPECT_GT(disco->EspacoLivre, espaco.available > 0 ? 0 : -1);
+            EXPECT_EQ(disco->Unidade, nome);
+            EXPECT_NE(disco->NomeVolume, u"");
+        }
+    }
 }
 
 TEST(Maquina, IndiceDaUnidade) {
