@@ -44,10 +44,9 @@ inline std::u16string LerDoSistema(std::u16string_view AChave, std::u16string_vi
 /// Puts a value of the machine back as it was, missing included.
 class TValorPreservado {
 public:
-    TValorPreservado(std::u16string_view AChave, std::u16string_view AValor) : FValor(AValor) {
+    TValorPreservado(std::u16string_view AChave, std::u16string_view AValor)
+        : FValor(AValor), FAntigo(LerDadoDoSistema(AChave, AValor)) {
         FChave.Abrir(OryUtils::crLocalMachine, AChave, OryUtils::arTotal, false);
-        OryUtils::Interno::TDadoRegistro dado;
-        if (FChave.Ler(FValor, dado) == OryUtils::Interno::erNenhum) FAntigo = dado;
     }
     ~TValorPreservado() {
         if (FAntigo)

@@ -16,9 +16,7 @@ namespace {
 TEST(ArpDoSistema, EnderecosDasLinhasDeInterface) {
     const std::tuple<std::u16string_view, TLista, const char*> casos[] = {
         {u"", {}, "nothing printed"},
-        {u"\r\nInterface: 192.168.0.10 --- 0x3\r\n  192.168.0.1  00-1a-2b-3c-4d-5e  dynamic",
-         {u"192.168.0.10"},
-         "the line of an interface, not those of its table"},
+        {u"\r\nInterface: 10.0.0.9 --- 0x3\r\n  10.0.0.1  00-1a-2b-3c-4d-5e  dynamic", {u"10.0.0.9"}, "not its table"},
         {u"Interface: 10.0.0.1 --- 0x1\nInterface: 10.0.1.1 --- 0x2\n", {u"10.0.0.1", u"10.0.1.1"}, "two of them"},
         {u"a:b\n : c:d e ", {u"b", u"c:d"}, "up to the next space only"},
         {u":\na: \na:\t", {}, "nothing behind the mark"},
