@@ -87,6 +87,7 @@ TEST(EnderecoMac, FontesEmOrdem) {
             {u"10.0.0.9", {u"aa", u"ab"}, {u" ", u"bb"}, {}, u"aa", "n10.0.0.9 n10.0.0.9 a10.0.0.9 ", "only the first"},
             {u"10.0.0.9", {u"", u"ab"}, {}, {u"cc"}, u"pp", "n10.0.0.9 n10.0.0.9 a10.0.0.9 p10.0.0.9 ", "arp at last"},
             {u"10.0.0.2", {u"", u"ab"}, {}, {u"cc"}, u"cc", "n10.0.0.2 n10.0.0.2 a10.0.0.2 t ", "own: all adapters"},
+            {u"10.0.0.2", {u"", u"ab"}, {u"bb"}, {u"cc"}, u"bb", "n10.0.0.2 n10.0.0.2 a10.0.0.2 ", "own: its adapter"},
             {u"LocalHost", {u"", u"ab"}, {}, {}, u"", "n10.0.0.2 n10.0.0.2 a10.0.0.2 t ", "own: never arp"},
             {u"127.0.0.1", {u"aa", u"aa"}, {}, {}, u"aa", "n10.0.0.2 n10.0.0.2 ", "own: by its real address"},
             {u" 127.0.0.1", {u"aa", u"aa"}, {}, {}, u"aa", "n 127.0.0.1 n 127.0.0.1 ", "not trimmed here"},
