@@ -152,6 +152,9 @@ void TControleNativo::AtualizarSelecao() {
             const int indice = static_cast<TGrupoOpcoes*>(FModelo)->GetIndice();
             for (std::size_t i = 0; i < FOpcoes.size(); ++i)
                 ::SendMessageW(FOpcoes[i], BM_SETCHECK, static_cast<int>(i) == indice ? BST_CHECKED : BST_UNCHECKED, 0);
+            // Tab stops at the chosen option alone, as the system's button sees to; without one it stops at the first.
+            if (indice < 0 && !FOpcoes.empty())
+                ::SetWindowLongPtrW(FOpcoes[0], GWL_STYLE, ::GetWindowLongPtrW(FOpcoes[0], GWL_STYLE) | WS_TABSTOP);
             break;
         }
         case tcCaixaChecagem:
