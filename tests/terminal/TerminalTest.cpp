@@ -38,15 +38,11 @@ std::string LerTudo(int ADescritor, std::chrono::seconds ALimite) {
 TDialogo Conversar(std::vector<std::string> AArgumentos, const std::string& ADigitado) {
     TDialogo dialogo;
     const int mestre = ::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
-    if (mestre < 0 || ::grantpt(mestre) != 0 || ::unlockpt(mestre) != 0) {
-        ADD_FAILURE() << "no pseudo-terminal";
-        return dialogo;
-    }
-    const std::string nome = ::ptsname(mestre);
-    const int escravo = ::open(nome.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+    const bool temPar = mestre >= 0 && ::grantpt(mestre) == 0 && ::unlockpt(mestre) == 0;
+    const int escravo = temPar ? ::open(::ptsname(mestre), O_RDWR | O_NOCTTY | O_CLOEXEC) : -1;
     int saida[2];
     if (escravo < 0 || ::pipe2(saida, O_CLOEXEC) != 0) {
-        ADD_FAILURE() << "no terminal or pipe";
+        ADD_FAILURE() << "no pseudo-terminal or pipe";
         return dialogo;
     }
     AArgumentos.insert(AArgumentos.begin(), ORY_COMANDO);
@@ -79,43 +75,31 @@ TDialogo Conversar(std::vector<std::string> AArgumentos, const std::string& ADig
     return dialogo;
 }
 
-const std::vector<std::string> CConfirmacao{"mensagem", "--tipo", "confirmacao", "Apagar?"};
-
-TEST(Terminal, ConfirmacaoRespondidaPorLetraOuPorExtenso) {
-    struct TCaso {
-        const char* Digitado;
-        const char* Saida;
+TEST(Terminal, RespostasDigitadas) {
+    const std::vector<std::string> confirmacao{"mensagem", "--tipo", "confirmacao", "Apagar?"};
+    auto temporizada = confirmacao;
+    temporizada.insert(temporizada.end(), {"--fechar-em", "1"});
+    const std::vector<std::string> opcoes{"mensagem", "Que filial?", "--opcao", "Matriz",  "--opcao",
+                                          "Filial 2", "--botao",     "ok",      "--botao", "cancelar"};
+    const struct {
+        std::vector<std::string> Argumentos;
+        const char *Digitado, *Saida;
         int Situacao;
-        const char* Porque;
+        const char *NaTela, *Porque;
+    } casos[] = {
+        {confirmacao, "s\n", "Sim\n", 0, "Apagar?", "the letter of the caption"},
+        {confirmacao, "não\n", "Não\n", 1, "Apagar?", "the caption itself, accent and all"},
+        {confirmacao, "talvez\nN\n", "Não\n", 1, "Apagar?", "asked again until understood"},
+        {confirmacao, "\x04", "\n", 3, "Apagar?", "end of input is the window's close button"},
+        {opcoes, "2\nk\n", "OK\nFilial 2\n", 0, "Que filial?", "an option by its number"},
+        {temporizada, "", "\n", 3, "00:00:01 segundo(s)", "closed by its timer"},
     };
-    const TCaso casos[] = {
-        {"s\n", "Sim\n", 0, "the letter of the caption"},
-        {"não\n", "Não\n", 1, "the caption itself, accent and all"},
-        {"talvez\nN\n", "Não\n", 1, "asked again until understood"},
-        {"\x04", "\n", 3, "end of input is the window's close button"},
-    };
-    for (const TCaso& caso : casos) {
-        const TDialogo dialogo = Conversar(CConfirmacao, caso.Digitado);
-        EXPECT_EQ(dialogo.Saida, caso.Saida) << caso.Porque;
-        EXPECT_EQ(dialogo.Situacao, caso.Situacao) << caso.Porque;
-        EXPECT_NE(dialogo.Tela.find("Apagar?"), std::string::npos) << caso.Porque;
+    for (const auto& c : casos) {
+        const TDialogo dialogo = Conversar(c.Argumentos, c.Digitado);
+        EXPECT_EQ(dialogo.Saida, c.Saida) << c.Porque;
+        EXPECT_EQ(dialogo.Situacao, c.Situacao) << c.Porque;
+        EXPECT_NE(dialogo.Tela.find(c.NaTela), std::string::npos) << c.Porque << '\n' << dialogo.Tela;
     }
-}
-
-TEST(Terminal, OpcaoPeloNumero) {
-    const TDialogo dialogo = Conversar(
-        {"mensagem", "Que filial?", "--opcao", "Matriz", "--opcao", "Filial 2", "--botao", "ok", "--botao", "cancelar"},
-        "2\nk\n");
-    EXPECT_EQ(dialogo.Saida, "OK\nFilial 2\n") << dialogo.Tela;
-    EXPECT_EQ(dialogo.Situacao, 0);
-}
-
-TEST(Terminal, MensagemSemRespostaFechaPeloTemporizador) {
-    auto argumentos = CConfirmacao;
-    argumentos.insert(argumentos.end(), {"--fechar-em", "1"});
-    const TDialogo dialogo = Conversar(argumentos, "");
-    EXPECT_EQ(dialogo.Situacao, 3);
-    EXPECT_NE(dialogo.Tela.find("00:00:01 segundo(s)"), std::string::npos) << dialogo.Tela;
 }
 
 }  // namespace
