@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <deque>
 #include <functional>
 #include <string>
@@ -16,26 +17,12 @@
 
 namespace OryUtils {
 
-/// Binds a closure to an event.
-class TAcao : public TObjeto {
-public:
-    explicit TAcao(std::function<void()> AAcao) : FAcao(std::move(AAcao)) {}
-    void Rodar(TObjeto*) { FAcao(); }
-    TEvento<TObjeto*> Evento() { return TEvento<TObjeto*>::De<&TAcao::Rodar>(*this); }
-
-private:
-    std::function<void()> FAcao;
-};
-
 /// Real windows, driven from a timer: the system delivers a timer's tick only when no other message waits, so each step
 /// sees all effects of the one before it.
-class FormsWin32 : public testing::Test, public TUsuario {
-protected:
-    void SetUp() override {
-        if (!TToolkitWin32::HaAreaDeTrabalho()) GTEST_SKIP() << "no window can be created here: run under a display";
-        InstalarToolkit(&FToolkit);
-    }
-    void TearDown() override {
+class TUsuarioWin32 : public TUsuario {
+public:
+    TUsuarioWin32() { InstalarToolkit(&FToolkit); }
+    ~TUsuarioWin32() override {
         InstalarToolkit(nullptr);
         Digitar(VK_CONTROL, false);
     }
@@ -53,6 +40,7 @@ protected:
             if (!APassos.empty()) {
                 const auto passo = std::move(APassos.front());
                 APassos.pop_front();
+                Digitar(VK_CONTROL, false);
                 passo();
             } else if (++ociosos == CTiquesOciosos) {
                 ADD_FAILURE() << "no step ended the loop";
@@ -75,27 +63,72 @@ protected:
             [&] { AFormulario.SetModalResult(-1); }, [&] { return AFormulario.ExecutarModal(); });
     }
 
-    bool HaFormulario() override { return ::FindWindowW(L"TOryFormulario", nullptr) != nullptr; }
+    bool HaFormulario() override { return BuscarFormulario() != nullptr; }
     void Teclar(std::uint16_t ATecla) override {
         Tecla(ATecla);
         if (ATecla == VK_SPACE) ::PostMessageW(::GetFocus(), WM_KEYUP, ATecla, 1);
     }
-    void TeclarComAlt(char ALetra) override { AltTecla(static_cast<WPARAM>(ALetra)); }
-    void Escrever(const char* ATexto) override {
-        for (; *ATexto; ++ATexto) ::PostMessageW(::GetFocus(), WM_CHAR, static_cast<WPARAM>(*ATexto), 1);
+    void TeclarComAlt(char ALetra) override {
+        constexpr LPARAM CAlt = 1 << 29;
+        ::PostMessageW(::GetFocus(), WM_SYSKEYDOWN, static_cast<WPARAM>(ALetra), CAlt | 1);
     }
-    void Clicar(std::u16string_view ACaption) override { Clicar(BuscarFilho(ACaption)); }
+    void TeclarComCtrl(char ALetra) override {
+        Digitar(VK_CONTROL, true);  // until the next step
+        Tecla(static_cast<WPARAM>(ALetra));
+    }
+    void Escrever(const char* ATexto) override { Escrever(std::wstring(ATexto, ATexto + std::strlen(ATexto)).c_str()); }
+    void Clicar(std::u16string_view ACaption) override { ::PostMessageW(BuscarFilho(ACaption), BM_CLICK, 0, 0); }
     void ClicarComMouse(std::u16string_view ACaption) override {
         const HWND janela = BuscarFilho(ACaption);
         ::PostMessageW(janela, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
         ::PostMessageW(janela, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
     }
     void FecharJanela() override { ::PostMessageW(::GetActiveWindow(), WM_SYSCOMMAND, SC_CLOSE, 0); }
+    void Redimensionar(const TFormulario& AFormulario, TTamanho ACliente) override {
+        const HWND janela = Janela(AFormulario);
+        RECT fora{}, cliente{};
+        ::GetWindowRect(janela, &fora);
+        ::GetClientRect(janela, &cliente);
+        ::SetWindowPos(janela, nullptr, 10, 20, fora.right - fora.left - cliente.right + ACliente.Largura,
+                       fora.bottom - fora.top - cliente.bottom + ACliente.Altura, SWP_NOZORDER);
+    }
+    std::vector<TVisto> Ver(const TFormulario& AFormulario) override {
+        const HWND janela = Janela(AFormulario);
+        RECT cliente{};
+        ::GetClientRect(janela, &cliente);
+        std::vector<TVisto> vistos{
+            {{0, 0, static_cast<int>(cliente.right), static_cast<int>(cliente.bottom)}, Texto(janela)}};
+        const auto filhos = Filhos(janela);
+        std::size_t proximo = 0;
+        const auto estahMarcado = [](HWND AJanela) {
+            return ::SendMessageW(AJanela, BM_GETCHECK, 0, 0) == BST_CHECKED;
+        };
+        for (const auto& controle : AFormulario.GetControles()) {
+            const HWND filho = filhos.at(proximo++);
+            vistos.push_back({Retangulo(filho), Texto(filho), ::IsWindowVisible(filho) != 0,
+                              ::IsWindowEnabled(filho) != 0, ::GetFocus() == filho});
+            TVisto& visto = vistos.back();
+            if (controle->GetTipo() == tcCaixaChecagem) visto.Marcado = estahMarcado(filho);
+            if (controle->GetTipo() == tcMemorando)
+                visto.Marcado = (::GetWindowLongPtrW(filho, GWL_STYLE) & ES_READONLY) != 0;
+            if (controle->GetTipo() != tcGrupoOpcoes) continue;
+            // Its options come right after their group in tab order.
+            for (std::size_t i = 0; i < static_cast<TGrupoOpcoes&>(*controle).GetItens().size(); ++i) {
+                const HWND opcao = filhos.at(proximo++);
+                visto.Opcoes.push_back(Retangulo(opcao));
+                visto.TextoDasOpcoes += Texto(opcao) + u"\n";
+                if (estahMarcado(opcao)) visto.Escolhida = static_cast<int>(i);
+            }
+        }
+        EXPECT_EQ(proximo, filhos.size());
+        return vistos;
+    }
 
     /// The control of the active window with that text.
     static HWND BuscarFilho(std::u16string_view ATexto) {
         return ::FindWindowExW(::GetActiveWindow(), nullptr, nullptr, Interno::ParaWide(std::u16string(ATexto)));
     }
+    static HWND BuscarFormulario() { return ::FindWindowW(L"TOryFormulario", nullptr); }
     static HWND Janela(const TFormulario& AFormulario) {
         return ::FindWindowW(L"TOryFormulario", Interno::ParaWide(AFormulario.GetTitulo()));
     }
@@ -121,14 +154,9 @@ protected:
 
     /// A key pressed where the focus is.
     static void Tecla(WPARAM ATecla) { ::PostMessageW(::GetFocus(), WM_KEYDOWN, ATecla, 1); }
-    static void AltTecla(WPARAM ATecla) {
-        constexpr LPARAM CAlt = 1 << 29;
-        ::PostMessageW(::GetFocus(), WM_SYSKEYDOWN, ATecla, CAlt | 1);
-    }
     static void Escrever(const wchar_t* ATexto) {
         for (; *ATexto; ++ATexto) ::PostMessageW(::GetFocus(), WM_CHAR, *ATexto, 1);
     }
-    static void Clicar(HWND AJanela) { ::PostMessageW(AJanela, BM_CLICK, 0, 0); }
     /// Holds a key down, or lets it go, for the keys that follow.
     static void Digitar(int ATecla, bool APressionada) {
         BYTE teclado[256];
@@ -140,6 +168,13 @@ protected:
     TToolkitWin32 FToolkit;
 };
 
+class FormsWin32 : public testing::Test, public TUsuarioWin32 {
+protected:
+    void SetUp() override {
+        if (!TToolkitWin32::HaAreaDeTrabalho()) GTEST_SKIP() << "no window can be created here: run under a display";
+    }
+};
+
 /// A control of ATipo at a place of its own.
 template <typename T>
 T& Por(TFormulario& AFormulario, std::u16string_view ATexto, const TRetangulo& ARetangulo) {
@@ -147,12 +182,6 @@ T& Por(TFormulario& AFormulario, std::u16string_view ATexto, const TRetangulo& A
     controle.SetTexto(ATexto);
     controle.SetRetangulo(ARetangulo);
     return controle;
-}
-
-inline TBotao& PorBotao(TFormulario& AFormulario, std::u16string_view ATexto, int AResultado, int ALeft = 0) {
-    TBotao& botao = Por<TBotao>(AFormulario, ATexto, {ALeft, 160, 75, 25});
-    botao.SetModalResult(AResultado);
-    return botao;
 }
 
 }  // namespace OryUtils

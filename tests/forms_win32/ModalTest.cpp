@@ -1,14 +1,8 @@
 // Modal runs: other windows, nesting, exceptions, timers, what is left behind.
 #include "oryutils/forms/win32/ControleWin32.hpp"
-#include "oryutils/forms/win32/interno/Seletores.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
-#include "oryutils/ui/UnOryUtilsDialogs.hpp"
 
 #include "Auxiliares.hpp"
-#include "resistencia/Dialogos.hpp"
-#include "resistencia/Quantidade.hpp"
-
-#include <thread>
 
 namespace OryUtils {
 namespace {
@@ -41,32 +35,27 @@ TEST_F(FormsWin32, AsOutrasJanelasEsperamEOFocoVolta) {
     ::EnableWindow(desabilitada.Janela, FALSE);
     ::SetActiveWindow(hospede.Janela);
     ::SetFocus(hospede.CaixaB);
-    TFormulario fora, dentro;
-    fora.SetTitulo(u"Fora");
-    dentro.SetTitulo(u"Dentro");
-    PorBotao(fora, u"OK", mrOk);
-    PorBotao(dentro, u"OK", mrYes);
-    const int resultado = Executar(fora, {[&] {
-                                       const HWND janela = Janela(fora);
-                                       EXPECT_EQ(::GetWindow(janela, GW_OWNER), hospede.Janela);
-                                       EXPECT_FALSE(::IsWindowEnabled(hospede.Janela));
-                                       const HWND foco = ::GetFocus();
-                                       EXPECT_EQ(Executar(dentro, {[&] {
-                                                              EXPECT_EQ(::GetWindow(Janela(dentro), GW_OWNER), janela);
-                                                              EXPECT_FALSE(::IsWindowEnabled(janela));
-                                                              Clicar(Filhos(Janela(dentro))[0]);
-                                                          }}),
-                                                 mrYes);
-                                       EXPECT_TRUE(::IsWindowEnabled(janela));
-                                       EXPECT_FALSE(::IsWindowEnabled(hospede.Janela)) << "the outer form still runs";
-                                       EXPECT_EQ(::GetFocus(), foco);
-                                       Clicar(Filhos(janela)[0]);
-                                   }});
-    EXPECT_EQ(resultado, mrOk);
+    TFormularioCompleto fora(u"Fora"), dentro(u"Dentro");
+    const auto passosDentro = [&] {
+        EXPECT_EQ(::GetWindow(Janela(dentro), GW_OWNER), Janela(fora));
+        EXPECT_FALSE(::IsWindowEnabled(Janela(fora)));
+        Clicar(u"&Não");
+    };
+    const auto passosFora = [&] {
+        EXPECT_EQ(::GetWindow(Janela(fora), GW_OWNER), hospede.Janela);
+        EXPECT_FALSE(::IsWindowEnabled(hospede.Janela));
+        const HWND foco = ::GetFocus();
+        EXPECT_EQ(Executar(dentro, {passosDentro}), mrNo);
+        EXPECT_TRUE(::IsWindowEnabled(Janela(fora)));
+        EXPECT_FALSE(::IsWindowEnabled(hospede.Janela)) << "the outer form still runs";
+        EXPECT_EQ(::GetFocus(), foco);
+        Clicar(u"&Sim");
+    };
+    EXPECT_EQ(Executar(fora, {passosFora}), mrYes);
     EXPECT_TRUE(::IsWindowEnabled(hospede.Janela));
     EXPECT_FALSE(::IsWindowEnabled(desabilitada.Janela)) << "what was disabled before stays so";
     EXPECT_EQ(::GetFocus(), hospede.CaixaB);
-    EXPECT_EQ(::FindWindowW(L"TOryFormulario", nullptr), nullptr);
+    EXPECT_FALSE(HaFormulario());
 }
 
 TEST_F(FormsWin32, OAdaptadorEhOControleNativo) {
@@ -111,9 +100,7 @@ TEST_F(FormsWin32, ProcessarMensagensEntregaOQueEspera) {
 }
 
 TEST_F(FormsWin32, OFimDoProgramaEncerraTodosOsLacos) {
-    TFormulario fora, dentro;
-    fora.SetTitulo(u"Fora");
-    dentro.SetTitulo(u"Dentro");
+    TFormularioCompleto fora(u"Fora"), dentro(u"Dentro");
     int resultadoDentro = -1;
     EXPECT_EQ(Executar(fora, {[&] { resultadoDentro = Executar(dentro, {[] { ::PostQuitMessage(3); }}); }}), mrCancel);
     EXPECT_EQ(resultadoDentro, mrCancel);
@@ -124,57 +111,13 @@ TEST_F(FormsWin32, OFimDoProgramaEncerraTodosOsLacos) {
 
 TEST_F(FormsWin32, ADonaDestruidaLevaOFormularioJunto) {
     auto hospede = std::make_unique<THospede>();
-    TFormulario formulario;
-    formulario.SetTitulo(u"Órfão");
-    auto& caixa = Por<TCaixaEdicao>(formulario, u"", {0, 0, 100, 22});
+    TFormularioCompleto formulario;
     EXPECT_EQ(Executar(formulario, {[] { Escrever(L"lido"); }, [&] { hospede.reset(); }}), mrCancel);
-    EXPECT_EQ(caixa.GetTexto(), u"lido");
+    EXPECT_EQ(formulario.Edicao.GetTexto(), u"lido");
 }
 
-TEST_F(FormsWin32, SoAThreadDaInterfaceMostra) {
-    EXPECT_TRUE(FToolkit.EhThreadDaInterface());
-    std::thread([&] {
-        EXPECT_FALSE(FToolkit.EhThreadDaInterface());
-        EXPECT_THROW(TFormulario().ExecutarModal(), Exception);
-    }).join();
-    EXPECT_EQ(TToolkitWin32::GetThreadDeCarga(), ::GetCurrentThreadId()) << "the tests run on the main thread";
-}
-
-TEST_F(FormsWin32, MilFormulariosNaoDeixamNada) {
-    const auto mostrar = [&] {
-        TFormularioCompleto formulario;
-        TAcao fechar([&] { formulario.Fechar(); });
-        formulario.OnShow = fechar.Evento();
-        formulario.ExecutarModal();
-    };
-    mostrar();
-    const Testes::TRecursos antes = Testes::BuscarRecursos();
-    for (int i = 0; i < 1000; ++i) mostrar();
-    Testes::ExigirSemCrescimento(antes, "a thousand forms");
-}
-
-TEST_F(FormsWin32, MuitosDialogosNaoDeixamNada) {
-    TOryUtilsDialogs dialogos;
-    bool confirmar = false;
-    const auto respondente = FToolkit.LigarTemporizador(1, [&] {
-        const HWND janela = ::FindWindowW(L"TOryFormulario", nullptr);
-        if (!janela || !::IsWindowVisible(janela)) return;
-        if (confirmar)
-            Tecla(VK_RETURN);
-        else
-            ::PostMessageW(janela, WM_CLOSE, 0, 0);
-    });
-    Testes::MostrarSemCrescimento(Testes::QuantidadeDeDialogos(40, 10'000), [&](int AVez) {
-        confirmar = AVez % 2 == 0;
-        Testes::MostrarDialogo(dialogos, AVez, confirmar);
-    });
-    FToolkit.DesligarTemporizador(respondente);
-}
-
-TEST_F(FormsWin32, FiltroDoSeletorDeArquivos) {
-    const std::vector<TFiltroArquivo> filtros{{u"Textos", u"*.txt;*.csv"}, {u"Todos", u"*.*"}};
-    EXPECT_EQ(Interno::MontarFiltro(filtros), std::u16string(u"Textos\0*.txt;*.csv\0Todos\0*.*\0\0", 30));
-    EXPECT_EQ(Interno::MontarFiltro({}), std::u16string(1, u'\0'));
+TEST_F(FormsWin32, OsTestesEstaoNaThreadQueCarregouAInterface) {
+    EXPECT_EQ(TToolkitWin32::GetThreadDeCarga(), ::GetCurrentThreadId());
 }
 
 }  // namespace

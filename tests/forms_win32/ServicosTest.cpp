@@ -1,4 +1,6 @@
-// What the toolkit gives besides forms: the system's pickers, the cursor, the keyboard.
+// What the toolkit gives besides forms: the system's pickers, the clipboard, the cursor, the keyboard.
+#include "oryutils/forms/win32/interno/Seletores.hpp"
+
 #include "Auxiliares.hpp"
 
 #include <filesystem>
@@ -10,25 +12,6 @@ namespace {
 
 // Where the file picker takes a name: a box, or a list with one.
 constexpr int CCaixasDoNome[] = {0x480, 0x47C};
-
-/// A folder of the test's own, with a file in it.
-class TPastaTemporaria {
-public:
-    TPastaTemporaria() { std::ofstream(FPasta / L"nota.txt") << "1"; }
-    ~TPastaTemporaria() { std::filesystem::remove_all(FPasta); }
-    TPastaTemporaria(const TPastaTemporaria&) = delete;
-    TPastaTemporaria& operator=(const TPastaTemporaria&) = delete;
-    std::u16string GetCaminho() const { return FPasta.u16string(); }
-
-private:
-    static std::filesystem::path Criar() {
-        auto pasta =
-            std::filesystem::temp_directory_path() / (L"ory-seletor-" + std::to_wstring(::GetCurrentProcessId()));
-        std::filesystem::create_directories(pasta);
-        return pasta;
-    }
-    std::filesystem::path FPasta = Criar();
-};
 
 /// The picker of this thread that is shown.
 HWND BuscarSeletor() {
@@ -46,61 +29,64 @@ HWND BuscarSeletor() {
     return seletor;
 }
 
-class SeletoresWin32 : public FormsWin32 {
-protected:
-    /// Opens a picker by AAbrir and does AAcao to it.
-    std::optional<std::u16string> Responder(const std::function<void(HWND)>& AAcao,
-                                            const std::function<std::optional<std::u16string>()>& AAbrir) {
-        return Conduzir(
-            {[&] { AAcao(BuscarSeletor()); }}, [] { return BuscarSeletor() != nullptr; },
-            [] { ::PostMessageW(BuscarSeletor(), WM_COMMAND, IDCANCEL, 0); }, AAbrir);
-    }
-};
-
-TEST_F(SeletoresWin32, ArquivoEscolhidoOuCancelado) {
-    const TPastaTemporaria pasta;
-    const auto abrir = [&] {
-        return FToolkit.EscolherArquivo(pasta.GetCaminho(), {{u"Textos", u"*.txt;*.csv"}, {u"Todos", u"*.*"}});
+TEST_F(FormsWin32, ArquivoOuPastaEscolhidosOuCancelados) {
+    using TEscolha = std::optional<std::u16string>;
+    const auto pasta =
+        std::filesystem::temp_directory_path() / ("ory-seletor-" + std::to_string(::GetCurrentProcessId()));
+    std::filesystem::create_directories(pasta);
+    std::ofstream(pasta / "nota.txt") << "1";
+    const std::function<TEscolha()> arquivo = [&] {
+        return FToolkit.EscolherArquivo(pasta.u16string(), {{u"Textos", u"*.txt;*.csv"}, {u"Todos", u"*.*"}});
     };
-    const auto comando = [](WPARAM AId) { return [=](HWND AJanela) { ::PostMessageW(AJanela, WM_COMMAND, AId, 0); }; };
-    EXPECT_EQ(Responder(comando(IDCANCEL), abrir), std::nullopt);
-    EXPECT_EQ(Responder([](HWND AJanela) { ::PostMessageW(AJanela, WM_CLOSE, 0, 0); }, abrir), std::nullopt);
-    const auto escolhido = Responder(
-        [&](HWND AJanela) {
-            for (const int caixa : CCaixasDoNome) ::SetDlgItemTextW(AJanela, caixa, L"nota.txt");
-            comando(IDOK)(AJanela);
-        },
-        abrir);
-    ASSERT_TRUE(escolhido);
-    EXPECT_TRUE(std::filesystem::equivalent(*escolhido, pasta.GetCaminho() + u"/nota.txt"))
-        << std::filesystem::path(*escolhido);
+    const std::function<TEscolha()> soPasta = [&] { return FToolkit.EscolherPasta(u"Onde gravar", pasta.u16string()); };
+    const struct {
+        const std::function<TEscolha()>& Abrir;
+        UINT Mensagem;
+        WPARAM Botao;
+        std::filesystem::path Esperado;
+    } casos[] = {{arquivo, WM_COMMAND, IDCANCEL, {}},
+                 {arquivo, WM_CLOSE, 0, {}},
+                 {arquivo, WM_COMMAND, IDOK, pasta / "nota.txt"},
+                 {soPasta, WM_COMMAND, IDCANCEL, {}},
+                 {soPasta, WM_COMMAND, IDOK, pasta}};
+    for (const auto& c : casos) {
+        std::u16string titulo;
+        const auto responder = [&] {
+            const HWND seletor = BuscarSeletor();
+            titulo = Texto(seletor);
+            for (const int caixa : CCaixasDoNome) ::SetDlgItemTextW(seletor, caixa, L"nota.txt");
+            ::PostMessageW(seletor, c.Mensagem, c.Botao, 0);
+        };
+        const TEscolha escolha = Conduzir(
+            {responder}, [] { return BuscarSeletor() != nullptr; },
+            [] { ::PostMessageW(BuscarSeletor(), WM_COMMAND, IDCANCEL, 0); }, c.Abrir);
+        EXPECT_EQ(titulo == u"Onde gravar", &c.Abrir == &soPasta);
+        EXPECT_EQ(escolha.has_value(), !c.Esperado.empty());
+        EXPECT_TRUE(!escolha || std::filesystem::equivalent(*escolha, c.Esperado)) << c.Esperado;
+    }
+    std::filesystem::remove_all(pasta);
 }
 
-TEST_F(SeletoresWin32, PastaEscolhidaOuCancelada) {
-    const TPastaTemporaria pasta;
-    const auto abrir = [&] { return FToolkit.EscolherPasta(u"Onde gravar", pasta.GetCaminho()); };
-    std::u16string titulo;
-    const auto responder = [&](WPARAM AId) {
-        return Responder(
-            [&](HWND AJanela) {
-                titulo = Texto(AJanela);
-                ::PostMessageW(AJanela, WM_COMMAND, AId, 0);
-            },
-            abrir);
-    };
-    EXPECT_EQ(responder(IDCANCEL), std::nullopt);
-    EXPECT_EQ(titulo, u"Onde gravar");
-    const auto escolhida = responder(IDOK);
-    ASSERT_TRUE(escolhida);
-    EXPECT_TRUE(std::filesystem::equivalent(*escolhida, pasta.GetCaminho())) << std::filesystem::path(*escolhida);
+TEST_F(FormsWin32, FiltroDoSeletorDeArquivos) {
+    const std::vector<TFiltroArquivo> filtros{{u"Textos", u"*.txt;*.csv"}, {u"Todos", u"*.*"}};
+    EXPECT_EQ(Interno::MontarFiltro(filtros), std::u16string(u"Textos\0*.txt;*.csv\0Todos\0*.*\0\0", 30));
+    EXPECT_EQ(Interno::MontarFiltro({}), std::u16string(1, u'\0'));
+}
+
+TEST_F(FormsWin32, AreaDeTransferencia) {
+    FToolkit.CopiarParaAreaDeTransferencia(u"copiado: ação\n\U0001F600");
+    ASSERT_TRUE(::OpenClipboard(nullptr));
+    const HANDLE dados = ::GetClipboardData(CF_UNICODETEXT);
+    ASSERT_NE(dados, nullptr);
+    EXPECT_EQ(Interno::DeWide(static_cast<const wchar_t*>(::GlobalLock(dados))), u"copiado: ação\r\n\U0001F600");
+    ::GlobalUnlock(dados);
+    ::CloseClipboard();
 }
 
 TEST_F(FormsWin32, AAmpulhetaValeParaTodosOsFormularios) {
-    const auto cursor = [](WORD ANumero) { return ::LoadCursorW(nullptr, MAKEINTRESOURCEW(ANumero)); };
-    constexpr WORD CSeta = 32512, CAmpulheta = 32514;
-    TFormulario formulario;
-    formulario.SetTitulo(u"Cursor");
-    PorBotao(formulario, u"OK", mrOk);
+    const HCURSOR seta = ::LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));
+    const HCURSOR ampulheta = ::LoadCursorW(nullptr, MAKEINTRESOURCEW(32514));
+    TFormularioCompleto formulario;
     Executar(formulario, {[&] {
                  const HWND janela = Janela(formulario);
                  // The mouse moves over the form.
@@ -110,31 +96,26 @@ TEST_F(FormsWin32, AAmpulhetaValeParaTodosOsFormularios) {
                      return ::GetCursor();
                  };
                  FToolkit.SetCursor(ctAmpulheta);
-                 EXPECT_EQ(::GetCursor(), cursor(CAmpulheta)) << "at once";
-                 EXPECT_EQ(mover(), cursor(CAmpulheta)) << "and as the mouse moves";
+                 EXPECT_EQ(::GetCursor(), ampulheta) << "at once";
                  FToolkit.Bipar();
-                 EXPECT_EQ(mover(), cursor(CAmpulheta));
+                 EXPECT_EQ(mover(), ampulheta) << "and as the mouse moves";
                  FToolkit.SetCursor(ctNormal);
-                 EXPECT_EQ(::GetCursor(), cursor(CSeta));
-                 EXPECT_EQ(mover(), cursor(CSeta));
+                 EXPECT_EQ(::GetCursor(), seta);
+                 EXPECT_EQ(mover(), seta);
                  formulario.Fechar();
              }});
 }
 
 TEST_F(FormsWin32, TeclaPressionadaAgora) {
-    const auto mover = [](DWORD AComo) {
+    for (const DWORD como : {DWORD{KEYEVENTF_KEYUP}, DWORD{0}, DWORD{KEYEVENTF_KEYUP}}) {
         INPUT tecla{};
         tecla.type = INPUT_KEYBOARD;
         tecla.ki.wVk = VK_SHIFT;
-        tecla.ki.dwFlags = AComo;
-        return ::SendInput(1, &tecla, sizeof tecla);
-    };
-    EXPECT_FALSE(FToolkit.EstahPressionada(VK_SHIFT));
-    ASSERT_EQ(mover(0), 1U);
-    EXPECT_TRUE(FToolkit.EstahPressionada(VK_SHIFT));
-    EXPECT_FALSE(FToolkit.EstahPressionada(VK_CONTROL));
-    mover(KEYEVENTF_KEYUP);
-    EXPECT_FALSE(FToolkit.EstahPressionada(VK_SHIFT));
+        tecla.ki.dwFlags = como;
+        ASSERT_EQ(::SendInput(1, &tecla, sizeof tecla), 1U);
+        EXPECT_EQ(FToolkit.EstahPressionada(VK_SHIFT), como == 0);
+        EXPECT_FALSE(FToolkit.EstahPressionada(VK_CONTROL));
+    }
 }
 
 }  // namespace

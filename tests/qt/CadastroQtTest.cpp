@@ -1,7 +1,6 @@
-#include "oryutils/runtime/Formatos.hpp"
-
+// The sample window as a widget.
 #include "apps/cadastro/qt/JanelaCadastro.hpp"
-#include "comum/CasosDoCadastro.hpp"
+#include "comum/UsuarioDoCadastro.hpp"
 #include "qt/Roteiro.hpp"
 
 #include <QComboBox>
@@ -9,105 +8,67 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include <memory>
-
 namespace OryUtils::Cadastro {
 namespace {
 
-// What the next dialog says, closed by its button.
-struct TAvisos {
-    QStringList Textos;
-    void Esperar() {
-        QuandoMostrar([this] {
-            QString texto;
-            for (const QLabel* rotulo : BuscarDialogo()->findChildren<QLabel*>()) texto += rotulo->text();
-            Textos += texto;
-            QTest::keyClick(BuscarDialogo(), Qt::Key_Return);
-        });
-    }
-};
-
-class CadastroQt : public TTesteQt {
-protected:
-    void SetUp() override {
-        TTesteQt::SetUp();
+class TUsuarioDaJanela final : public TUsuarioDoCadastro, public TUsuarioQt {
+public:
+    void Conduzir(TPassos APassos) override {
         FJanela = std::make_unique<TJanelaCadastro>();
-        Caixa(caNome)->setText("Comercial Modelo");  // left empty it would be the first to complain
+        Preencher(caNome, "Comercial Modelo");  // left empty it would be the first to complain
         FJanela->show();
         FJanela->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(FJanela.get()));
+        FPassos = std::move(APassos);
+        FSeguinte = true;
+        Seguir();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return FPassos.empty() && FSeguinte; }, 20'000));
+        FJanela.reset();
     }
-    QLineEdit* Caixa(TCampo ACampo) const { return static_cast<QLineEdit*>(FJanela->GetCaixa(ACampo)); }
-    void Digitar(TCampo ACampo, const char* ATexto) {
-        Caixa(ACampo)->setFocus();
-        // A warning that has just closed gives the window its focus back.
-        EXPECT_TRUE(QTest::qWaitFor([&] { return Caixa(ACampo)->hasFocus(); }));
-        QTest::keyClicks(Caixa(ACampo), ATexto);
+    void Exemplificar() override { FJanela->Exemplificar(); }
+    void Preencher(TCampo ACampo, const char* ATexto) override { Caixa(ACampo)->setText(ATexto); }
+    std::string Ler(TCampo ACampo) override { return Caixa(ACampo)->text().toStdString(); }
+    std::string LerPorExtenso() override { return FJanela->GetPorExtenso()->text().toStdString(); }
+    void Focar(TCampo ACampo) override { FJanela->GetCaixa(ACampo)->setFocus(); }
+    bool EstahFocado(TCampo ACampo) override { return QApplication::focusWidget() == FJanela->GetCaixa(ACampo); }
+    void Salvar() override { FJanela->findChildren<QPushButton*>().constFirst()->click(); }
+    std::string LerAviso() override {
+        QString texto;
+        if (const QDialog* dialogo = BuscarDialogo())
+            for (const QLabel* rotulo : dialogo->findChildren<QLabel*>()) texto += rotulo->text();
+        return texto.toStdString();
     }
-    /// Leaves ACampo by Tab, and waits until that has been looked at.
-    void Sair(TCampo ACampo) {
-        QTest::keyClick(Caixa(ACampo), Qt::Key_Tab);
-        QCoreApplication::processEvents();
-    }
-    QPushButton* Salvar() const { return FJanela->findChildren<QPushButton*>().constFirst(); }
+    TUsuario& Teclado() override { return *this; }
 
-    TFormatosTemporarios FFormatos{BuscarFormatosBrasileiros()};
-    TAvisos FAvisos;
+private:
+    QLineEdit* Caixa(TCampo ACampo) const { return static_cast<QLineEdit*>(FJanela->GetCaixa(ACampo)); }
+    /// The next step comes when the one before has ended, or while it waits for a dialog.
+    void Seguir() {
+        QTimer::singleShot(1, FJanela.get(), [this] {
+            if (FPassos.empty()) return;
+            const QWidget* dialogo = BuscarDialogo();
+            const QWidget* frente = dialogo ? dialogo : FJanela.get();
+            if (frente->isActiveWindow() && (FSeguinte || dialogo != FDialogo)) {
+                const auto passo = std::move(FPassos.front());
+                FPassos.pop_front();
+                FSeguinte = false;
+                FDialogo = dialogo;
+                Seguir();
+                passo();
+                FSeguinte = true;
+            } else {
+                Seguir();
+            }
+        });
+    }
+
     std::unique_ptr<TJanelaCadastro> FJanela;
+    TPassos FPassos;
+    const QWidget* FDialogo = nullptr;  // in front when the last step began
+    bool FSeguinte = true;              // that one has ended
 };
 
-TEST_F(CadastroQt, AsCaixasSeguemAsMascarasESairConfere) {
-    for (const TCasoDeCampo& c : CCasosDeCampo) {
-        FAvisos.Textos.clear();
-        Caixa(c.Campo)->setText("");
-        Digitar(c.Campo, c.Digitado);
-        EXPECT_EQ(Caixa(c.Campo)->text(), c.NaCaixa);
-        if (c.Campo == caValor && !c.Aviso) {
-            EXPECT_EQ(FJanela->GetPorExtenso()->text(), CValorPorExtenso);
-        }
-        if (c.Aviso) FAvisos.Esperar();
-        Sair(c.Campo);
-        EXPECT_EQ(FAvisos.Textos, c.Aviso ? QStringList{c.Aviso} : QStringList{}) << c.Digitado;
-        if (c.Aviso) {
-            EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::focusWidget() == Caixa(c.Campo); }));
-            QCoreApplication::processEvents();
-            EXPECT_EQ(BuscarDialogo(), nullptr) << "one warning, not a chain of them";
-        }
-        EXPECT_EQ(Caixa(c.Campo)->text(), c.Depois);
-        // Out of the way without a warning, for the next row.
-        Caixa(c.Campo)->setText(c.Campo == caNome ? "Comercial Modelo" : "");
-    }
-}
-
-TEST_F(CadastroQt, SalvarConfereTudo) {
-    FJanela->Exemplificar();
-    Caixa(caNome)->setText(" ");
-    FAvisos.Esperar();
-    Salvar()->click();
-    EXPECT_EQ(FAvisos.Textos.last(), "Informe o nome do cliente.");
-    EXPECT_EQ(FJanela->focusWidget(), Caixa(caNome));
-    Caixa(caNome)->setText("Comercial Modelo");
-    Digitar(caDocumento, "11222333000182");
-    FAvisos.Esperar();
-    Salvar()->click();
-    EXPECT_EQ(FAvisos.Textos.last(), "CNPJ inválido. Verifique.") << "a box counts before it is left";
-    Caixa(caDocumento)->selectAll();
-    Digitar(caDocumento, "11222333000181");
-    FAvisos.Esperar();
-    Salvar()->click();
-    EXPECT_EQ(FAvisos.Textos.last(), "Cliente conferido: todos os campos são válidos.");
-}
-
-TEST_F(CadastroQt, AltELetraVaiAoCampoDaLetra) {
-    for (std::size_t i = 0; i < CCampos.size(); ++i) {
-        const std::size_t marca = CCampos[i].Caption.find(u'&');
-        if (marca == std::u16string_view::npos || i == caIE) continue;  // the state's list is left without a choice
-        Caixa(caCEP)->setFocus();
-        QTest::keyClick(FJanela.get(), static_cast<char>(CCampos[i].Caption[marca + 1]), Qt::AltModifier);
-        EXPECT_EQ(QApplication::focusWidget(), FJanela->GetCaixa(static_cast<TCampo>(i)));
-        if (i == caUF) static_cast<QComboBox*>(FJanela->GetCaixa(caUF))->setCurrentText("SP");
-    }
-}
-
 }  // namespace
+
+std::unique_ptr<TUsuarioDoCadastro> CriarUsuarioDoCadastro() { return std::make_unique<TUsuarioDaJanela>(); }
+
 }  // namespace OryUtils::Cadastro

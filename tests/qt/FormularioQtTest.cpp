@@ -1,3 +1,4 @@
+// The forms as widgets: what tests for every toolkit leave out.
 #include "oryutils/runtime/Excecoes.hpp"
 
 #include "qt/Roteiro.hpp"
@@ -10,80 +11,54 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include <random>
+#include <thread>
+
 namespace OryUtils {
-namespace {
 
-QRect DeRetangulo(const TRetangulo& r) { return {r.Left, r.Top, r.Width, r.Height}; }
+std::unique_ptr<TUsuario> CriarUsuario() { return std::make_unique<TUsuarioQt>(); }
 
-TEST_F(TTesteQt, RealizaCadaControleNoLugarDoModelo) {
-    TFormularioCompleto f;
-    f.Nao.SetVisivel(false);
-    f.Memorando.SetHabilitado(false);
-    Responder(f, [&] {
-        const QDialog& janela = *BuscarDialogo();
-        EXPECT_EQ(janela.windowTitle(), "Confirmação");
-        EXPECT_EQ(janela.size(), QSize(420, 330));
-        const auto filhos = janela.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-        ASSERT_EQ(filhos.size(), static_cast<qsizetype>(f.GetControles().size()));
-        for (qsizetype i = 0; i < filhos.size(); ++i) {
-            const auto& controle = *f.GetControles()[static_cast<std::size_t>(i)];
-            EXPECT_EQ(filhos[i]->geometry(), DeRetangulo(controle.GetRetangulo())) << i;
-            EXPECT_EQ(filhos[i]->isVisible(), controle.GetVisivel()) << i;
-            EXPECT_EQ(filhos[i]->isEnabled(), controle.GetHabilitado()) << i;
+std::vector<TVisto> TUsuarioQt::Ver(const TFormulario& AFormulario) {
+    const QDialog& janela = *BuscarDialogo();
+    const auto lugar = [](const QRect& r) { return TRetangulo{r.x(), r.y(), r.width(), r.height()}; };
+    std::vector<TVisto> vistos{{{0, 0, janela.width(), janela.height()}, janela.windowTitle().toStdU16String()}};
+    const auto filhos = janela.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    EXPECT_EQ(filhos.size(), static_cast<qsizetype>(AFormulario.GetControles().size()));
+    for (const QWidget* filho : filhos) {
+        QString texto;
+        TVisto& visto = vistos.emplace_back(
+            TVisto{lugar(filho->geometry()), {}, filho->isVisible(), filho->isEnabled(), filho->hasFocus()});
+        if (const auto* rotulo = qobject_cast<const QLabel*>(filho)) texto = rotulo->text();
+        if (const auto* botao = qobject_cast<const QAbstractButton*>(filho)) {
+            texto = botao->text();
+            visto.Marcado = botao->isChecked();
         }
-        EXPECT_EQ(BuscarFilho<QLabel>(0)->pixmap().size(), QSize(32, 32));
-        EXPECT_EQ(BuscarFilho<QLabel>(1)->text(), "Gravar & sair?\nHá alterações.");
-        EXPECT_TRUE(BuscarFilho<QPushButton>(0)->isDefault());
-        EXPECT_FALSE(BuscarFilho<QPushButton>(2)->isDefault());
-        const auto opcoes = janela.findChildren<QRadioButton*>();
-        ASSERT_EQ(opcoes.size(), 3);
-        EXPECT_EQ(opcoes[1]->text(), "Outra");
-        for (const QRadioButton* opcao : opcoes)
-            EXPECT_TRUE(opcao->parentWidget()->rect().contains(opcao->geometry())) << opcao->text().toStdString();
-        // The host's view of the same controls.
-        EXPECT_EQ(f.GetControleAtivo(), &f.Edicao);
-        EXPECT_TRUE(BuscarFilho<QLineEdit>()->hasFocus());
-        f.Fechar();
-    });
+        if (const auto* caixa = qobject_cast<const QLineEdit*>(filho)) texto = caixa->text();
+        if (const auto* memorando = qobject_cast<const QPlainTextEdit*>(filho)) {
+            texto = memorando->toPlainText();
+            visto.Marcado = memorando->isReadOnly();
+        }
+        if (const auto* grupo = qobject_cast<const QGroupBox*>(filho)) {
+            texto = grupo->title();
+            for (const QRadioButton* opcao : grupo->findChildren<QRadioButton*>()) {
+                if (opcao->isChecked()) visto.Escolhida = static_cast<int>(visto.Opcoes.size());
+                visto.Opcoes.push_back(lugar(opcao->geometry().translated(grupo->pos())));
+                visto.TextoDasOpcoes += opcao->text().toStdU16String() + u"\n";
+            }
+        }
+        visto.Texto = texto.toStdU16String();
+    }
+    return vistos;
 }
 
-TEST_F(TTesteQt, MudancasEnquantoMostrado) {
+namespace {
+
+TEST_F(TTesteQt, IconeEBotaoPadrao) {
     TFormularioCompleto f;
     Responder(f, [&] {
-        f.SetTitulo(u"Outro");
-        f.SetTamanhoCliente(500, 400);
-        f.Mensagem.SetTexto(u"Novo texto");
-        f.Mensagem.SetRetangulo({1, 2, 30, 40});
-        f.Sim.SetHabilitado(false);
-        f.Grupo.AdicionarItem(u"Quarta");
-        f.Grupo.SetIndice(3);
-        f.Caixa.SetMarcada(true);
-        f.Edicao.SetTexto(u"todo");
-        f.Edicao.SelecionarTudo();
-        EXPECT_EQ(BuscarFilho<QLineEdit>()->selectedText(), "todo");
-        f.Memorando.SetSomenteLeitura(true);
-        auto& ajuda = f.Adicionar<TBotao>();
-        ajuda.SetTexto(u"&Ajuda");
-        ajuda.SetRetangulo({300, 295, 75, 25});
-        f.SetControleAtivo(&ajuda);
-
-        EXPECT_EQ(BuscarDialogo()->windowTitle(), "Outro");
-        EXPECT_EQ(BuscarDialogo()->size(), QSize(500, 400));
-        EXPECT_EQ(BuscarFilho<QLabel>(1)->text(), "Novo texto");
-        EXPECT_EQ(BuscarFilho<QLabel>(1)->geometry(), QRect(1, 2, 30, 40));
-        EXPECT_FALSE(BuscarFilho<QPushButton>(0)->isEnabled());
-        const auto opcoes = BuscarDialogo()->findChildren<QRadioButton*>();
-        ASSERT_EQ(opcoes.size(), 4);
-        EXPECT_TRUE(opcoes[3]->isChecked());
-        f.Grupo.SetIndice(-1);
-        for (const QRadioButton* opcao : opcoes) EXPECT_FALSE(opcao->isChecked());
-        EXPECT_TRUE(BuscarFilho<QCheckBox>()->isChecked());
-        EXPECT_TRUE(BuscarFilho<QPlainTextEdit>()->isReadOnly());
-        QPushButton* novo = BuscarFilho<QPushButton>(3);
-        ASSERT_NE(novo, nullptr);
-        EXPECT_TRUE(novo->isVisible());
-        EXPECT_EQ(novo->geometry(), QRect(300, 295, 75, 25));
-        EXPECT_TRUE(novo->hasFocus());
+        EXPECT_EQ(BuscarFilho<QLabel>(0)->pixmap().size(), QSize(32, 32));
+        EXPECT_TRUE(BuscarFilho<QPushButton>(0)->isDefault());
+        EXPECT_FALSE(BuscarFilho<QPushButton>(2)->isDefault());
         f.Fechar();
     });
 }
@@ -95,13 +70,7 @@ struct TCasoResposta {
 };
 const TCasoResposta CRespostas[] = {
     {"Enter of the numeric block", [] { DarTecla(Qt::Key_Enter, Qt::KeypadModifier); }, mrYes},
-    {"Tab in creation order: memo, check box, options, Sim, Não",
-     [] {
-         for (int i = 0; i < 5; ++i) DarTecla(Qt::Key_Tab);
-         DarTecla(Qt::Key_Return);
-     },
-     mrNo},
-    {"and back from the first to the last",
+    {"Shift+Tab from the first to the last",
      [] {
          DarTecla(Qt::Key_Backtab, Qt::ShiftModifier);
          DarTecla(Qt::Key_Return);
@@ -109,93 +78,49 @@ const TCasoResposta CRespostas[] = {
      mrCancel},
     {"a key sent to the widget itself", [] { QTest::keyClick(BuscarFilho<QLineEdit>(), Qt::Key_Return); }, mrYes},
     {"a key sent to the window itself", [] { QTest::keyClick(BuscarDialogo(), Qt::Key_Escape); }, mrCancel},
+    {"the application ends", [] { QCoreApplication::exit(1); }, mrCancel},
 };
 
-TEST_F(TTesteQt, RespostasPorTeclasCliquesEFechar) {
+TEST_F(TTesteQt, RespostasPorOutrosCaminhos) {
     for (const TCasoResposta& c : CRespostas) {
         TFormularioCompleto f;
-        f.Grupo.SetIndice(0);
         EXPECT_EQ(Responder(f, c.Passos), c.Esperado) << c.Porque;
-        EXPECT_EQ(f.GetJanela(), nullptr) << c.Porque;
     }
-    TFormulario vazio;
-    EXPECT_EQ(Responder(vazio, [] { DarTecla(Qt::Key_Escape); }), mrCancel) << "Esc closes a form without buttons";
 }
 
-TEST_F(TTesteQt, EscreveDeVoltaOQueOUsuarioFez) {
-    TFormularioCompleto f;
-    f.Grupo.SetIndice(0);
-    f.Memorando.SetTexto(u"antes");
-    int mudancas = 0;
-    TOuvinte<TObjeto*> mudou{[&](TObjeto* AQuem) {
-        EXPECT_EQ(AQuem, &f.Edicao);
-        ++mudancas;
-    }};
-    f.Edicao.OnMudar = mudou.GetEvento();
-    Responder(f, [&] {
-        QTest::keyClicks(BuscarFilho<QLineEdit>(), "Sao");
-        DarTecla(Qt::Key_Tab);
-        QTest::keyClicks(BuscarFilho<QPlainTextEdit>(), "a");
-        DarTecla(Qt::Key_Return);  // a memo keeps its Enter
-        DarTecla(Qt::Key_Tab);
-        DarTecla(Qt::Key_Space);
-        DarTecla(Qt::Key_Tab);
-        DarTecla(Qt::Key_Down);
-        EXPECT_EQ(f.GetControleAtivo(), &f.Grupo);
-        DarTecla(Qt::Key_Return);
+TEST_F(TTesteQt, FimDaAplicacaoCancelaTodosOsNiveis) {
+    TFormularioCompleto fora, dentro;
+    int interno = 0, externo = 0;
+    QTimer::singleShot(0, qApp, [&] {
+        externo = Executar(fora, {[&] { interno = Executar(dentro, {[] { QCoreApplication::exit(1); }}); }});
     });
-    EXPECT_EQ(f.Edicao.GetTexto(), u"Sao");
-    EXPECT_EQ(mudancas, 3);
-    EXPECT_EQ(f.Memorando.GetTexto(), u"a\r\nantes");
-    EXPECT_TRUE(f.Caixa.GetMarcada());
-    EXPECT_EQ(f.Grupo.GetIndice(), 1);
+    EXPECT_EQ(QCoreApplication::exec(), 1);
+    EXPECT_EQ(interno, mrCancel);
+    EXPECT_EQ(externo, mrCancel);
 }
 
-TEST_F(TTesteQt, TeclasPassamPeloFormularioUmaVez) {
+TEST_F(TTesteQt, CadaTeclaPassaPeloFormularioUmaVezComOCodigoDoModelo) {
     TFormularioCompleto f;
     std::vector<int> codigos;
-    TOuvinte<TObjeto*, TTecla&> teclado{[&](TObjeto*, TTecla& ATecla) {
-        codigos.push_back(ATecla.Codigo + (ATecla.Ctrl ? 1000 : 0));
-        ATecla.Tratada = ATecla.Codigo == 'X';
-    }};
+    TOuvinte<TObjeto*, TTecla&> teclado{[&](TObjeto*, TTecla& ATecla) { codigos.push_back(ATecla.Codigo); }};
     f.OnKeyDown = teclado.GetEvento();
     Responder(f, [&] {
-        for (const auto tecla : {Qt::Key_A, Qt::Key_X, Qt::Key_F5, Qt::Key_Left}) DarTecla(tecla);
-        DarTecla(Qt::Key_C, Qt::ControlModifier);
+        for (const auto tecla : {Qt::Key_F5, Qt::Key_Left, Qt::Key_Control}) DarTecla(tecla);
         DarTecla(Qt::Key_7, Qt::KeypadModifier);
         BuscarFilho<QPushButton>(1)->setFocus();  // a button leaves these to its parents
         DarTecla(Qt::Key_F1);
         DarTecla(Qt::Key_F1);
         DarTecla(Qt::Key_Escape);
     });
-    EXPECT_EQ(codigos, (std::vector<int>{'A', 'X', 116, 37, 1000 + 17, 1000 + 'C', 103, 112, 112, 27}));
-    EXPECT_EQ(f.Edicao.GetTexto(), u"7a") << "X was kept from the box";
-}
-
-TEST_F(TTesteQt, RedimensionarAvisaOFormulario) {
-    TFormularioCompleto f;
-    f.EstiloBorda = ebRedimensionavel;
-    int vezes = 0;
-    TOuvinte<TObjeto*> mudou{[&](TObjeto*) { ++vezes; }};
-    f.OnResize = mudou.GetEvento();
-    Responder(f, [&] {
-        f.SetTamanhoCliente(430, 340);
-        EXPECT_EQ(vezes, 0) << "the program's own change is no news";
-        BuscarDialogo()->resize(600, 350);
-        QTRY_COMPARE(vezes, 1);
-        f.Fechar();
-    });
-    EXPECT_EQ(f.GetLarguraCliente(), 600);
-    EXPECT_EQ(f.GetAlturaCliente(), 350);
+    EXPECT_EQ(codigos, (std::vector<int>{116, 37, 17, 103, 112, 112, 27}));
 }
 
 TEST_F(TTesteQt, OpcaoLongaQuebraOndeHaLinhasESenaoEncurta) {
-    const std::u16string longa = u"uma opção cujo texto não cabe em uma linha desta largura";
     for (const bool alta : {true, false}) {
         TFormulario f;
         auto& grupo = f.Adicionar<TGrupoOpcoes>();
         grupo.SetQuebraLinha(true);
-        grupo.AdicionarItem(longa);
+        grupo.AdicionarItem(u"uma opção cujo texto não cabe em uma linha desta largura");
         grupo.SetRetangulo({0, 0, 250, alta ? 120 : 28});
         Responder(f, [&] {
             const QRadioButton* opcao = BuscarDialogo()->findChild<QRadioButton*>();
@@ -208,24 +133,48 @@ TEST_F(TTesteQt, OpcaoLongaQuebraOndeHaLinhasESenaoEncurta) {
     }
 }
 
-TEST_F(TTesteQt, TextosEstranhosETextoDeUmMegabyte) {
-    std::u16string enorme;
-    while (enorme.size() < (1u << 20)) enorme += u"Uma linha de relatório com acentuação.\r\n";
-    for (const std::u16string& texto : {std::u16string(u"\xD800 solto \xDC00"), std::u16string(u"nulo\0meio", 9),
-                                        std::u16string(u"\U0001F600"), std::u16string(), enorme}) {
-        TFormularioCompleto f;
-        f.SetTitulo(texto.substr(0, 1000));
-        f.Mensagem.SetTexto(texto);
-        f.Mensagem.SetQuebraLinha(true);
-        f.Memorando.SetTexto(texto);
-        BuscarToolkit().MedirTexto(texto, 600);
-        EXPECT_EQ(Responder(f,
-                            [] {
-                                BuscarDialogo()->grab();
-                                BuscarFilho<QPushButton>(1)->click();
-                            }),
-                  mrNo);
-        EXPECT_EQ(f.Memorando.GetTexto(), texto) << "untouched texts stay as they are";
+TEST_F(TTesteQt, TemporizadorQueFalhaSaiPorProcessarMensagens) {
+    TToolkit& toolkit = BuscarToolkit();
+    bool disparou = false;
+    const auto numero = toolkit.LigarTemporizador(1, [&] {
+        disparou = true;
+        throw EConvertError(u"x");
+    });
+    EXPECT_THROW(while (!disparou) toolkit.ProcessarMensagens(), EConvertError);
+    toolkit.DesligarTemporizador(numero);
+}
+
+TEST_F(TTesteQt, OutraThreadRecebeErroDocumentado) {
+    std::thread([&] {
+        TToolkit& toolkit = BuscarToolkit();
+        TFormulario f;
+        EXPECT_THROW(toolkit.ExecutarModal(f), Exception);
+        EXPECT_THROW(toolkit.MedirTexto(u"a", 0), Exception);
+        EXPECT_THROW(toolkit.LigarTemporizador(1, [] {}), Exception);
+        EXPECT_THROW(toolkit.EscolherPasta(u"", u""), Exception);
+        EXPECT_NO_THROW(toolkit.ProcessarMensagens());
+    }).join();
+}
+
+TEST_F(TTesteQt, MedidaDeTextoBastaAoRotulo) {
+    TToolkit& toolkit = BuscarToolkit();
+    EXPECT_EQ(toolkit.MedirTexto(u"", 100), TTamanho{});
+    const unsigned semente = std::random_device{}();
+    std::mt19937 sorteio(semente);
+    const char16_t letras[] = u"aeimrst ÁçãWg., -\n&";
+    for (int caso = 0; caso < 300; ++caso) {
+        std::u16string texto(1 + sorteio() % 200, u' ');
+        for (char16_t& letra : texto) letra = letras[sorteio() % (std::size(letras) - 1)];
+        const int maxima = caso % 3 == 0 ? 0 : 60 + static_cast<int>(sorteio() % 300);
+        const TTamanho medida = toolkit.MedirTexto(texto, maxima);
+        QLabel rotulo;
+        rotulo.setTextFormat(Qt::PlainText);
+        rotulo.setWordWrap(maxima > 0);
+        rotulo.setText(QString::fromStdU16String(texto));
+        if (maxima > 0)
+            EXPECT_LE(rotulo.heightForWidth(medida.Largura), medida.Altura) << "seed " << semente << " case " << caso;
+        else
+            EXPECT_LE(rotulo.sizeHint().width(), medida.Largura + 1) << "seed " << semente << " case " << caso;
     }
 }
 

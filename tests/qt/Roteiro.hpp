@@ -5,15 +5,16 @@
 #include "forms/roteiros/Roteiros.hpp"
 #include "toolkits/qt/ToolkitQt.hpp"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <map>
 #include <memory>
@@ -48,12 +49,13 @@ inline int Responder(TFormulario& AFormulario, std::function<void()> APassos) {
 
 /// A key of the window in front, as the window system gives it.
 inline void DarTecla(Qt::Key ATecla, Qt::KeyboardModifiers AModificadores = Qt::NoModifier) {
-    QTest::keyClick(BuscarDialogo()->windowHandle(), ATecla, AModificadores);
+    const QWidget* frente = BuscarDialogo() ? BuscarDialogo() : QApplication::activeWindow();
+    QTest::keyClick(frente->windowHandle(), ATecla, AModificadores);
 }
 
-class TTesteQt : public testing::Test, public TUsuario {
-protected:
-    void SetUp() override {
+class TUsuarioQt : public TUsuario {
+public:
+    TUsuarioQt() {
         InstalarToolkitQt();
         BuscarToolkit().GetTamanhoFonte();  // makes the application where the host has none
     }
@@ -63,18 +65,41 @@ protected:
         return AFormulario.ExecutarModal();
     }
     bool HaFormulario() override { return BuscarDialogo() != nullptr; }
-    void Teclar(std::uint16_t ATecla) override {
-        const std::map<int, Qt::Key> teclas{{9, Qt::Key_Tab}, {13, Qt::Key_Return}, {27, Qt::Key_Escape}};
-        const auto tecla = teclas.find(ATecla);
-        DarTecla(tecla == teclas.end() ? static_cast<Qt::Key>(ATecla) : tecla->second);
+    void Teclar(std::uint16_t ATecla) override { DarTecla(BuscarTecla(ATecla)); }
+    void TeclarComAlt(char ALetra) override {
+        DarTecla(static_cast<Qt::Key>(ALetra), Qt::AltModifier);
+        // The button of a letter is drawn as pressed first, and clicked a little later.
+        EXPECT_TRUE(QTest::qWaitFor([] {
+            const QDialog* dialogo = BuscarDialogo();
+            return !dialogo || std::ranges::none_of(dialogo->findChildren<QAbstractButton*>(),
+                                                    [](const auto* ABotao) { return ABotao->isDown(); });
+        }));
     }
-    void TeclarComAlt(char ALetra) override { DarTecla(static_cast<Qt::Key>(ALetra), Qt::AltModifier); }
+    void TeclarComCtrl(char ALetra) override { DarTecla(static_cast<Qt::Key>(ALetra), Qt::ControlModifier); }
     void Escrever(const char* ATexto) override { QTest::keyClicks(QApplication::focusWidget(), ATexto); }
     void Clicar(std::u16string_view ACaption) override { BuscarBotao(ACaption)->click(); }
     void ClicarComMouse(std::u16string_view ACaption) override {
-        QTest::mouseClick(BuscarBotao(ACaption), Qt::LeftButton);
+        QAbstractButton* botao = BuscarBotao(ACaption);
+        QTest::mouseClick(botao, Qt::LeftButton, {}, QPoint(5, botao->height() / 2));
     }
     void FecharJanela() override { BuscarDialogo()->close(); }
+    void Redimensionar(const TFormulario&, TTamanho ACliente) override {
+        BuscarDialogo()->resize(ACliente.Largura, ACliente.Altura);
+    }
+    std::vector<TVisto> Ver(const TFormulario& AFormulario) override;
+    long ContarObjetos() override {
+        return static_cast<long>(QApplication::allWidgets().size() + QGuiApplication::allWindows().size());
+    }
+
+    static Qt::Key BuscarTecla(std::uint16_t ATecla) {
+        const std::map<int, Qt::Key> teclas{{CTab, Qt::Key_Tab},
+                                            {CEnter, Qt::Key_Return},
+                                            {CEsc, Qt::Key_Escape},
+                                            {CAcima, Qt::Key_Up},
+                                            {CAbaixo, Qt::Key_Down}};
+        const auto tecla = teclas.find(ATecla);
+        return tecla == teclas.end() ? static_cast<Qt::Key>(ATecla) : tecla->second;
+    }
 
 private:
     static void Seguir(const std::shared_ptr<TPassos>& APassos) {
@@ -86,12 +111,14 @@ private:
             Seguir(APassos);
         });
     }
-    static QPushButton* BuscarBotao(std::u16string_view ACaption) {
-        for (QPushButton* botao : BuscarDialogo()->findChildren<QPushButton*>())
+    static QAbstractButton* BuscarBotao(std::u16string_view ACaption) {
+        for (QAbstractButton* botao : BuscarDialogo()->findChildren<QAbstractButton*>())
             if (botao->text() == QStringView(ACaption)) return botao;
         return nullptr;
     }
 };
+
+class TTesteQt : public testing::Test, public TUsuarioQt {};
 
 /// A window of the host, with two boxes.
 struct TDuasCaixas : QWidget {

@@ -1,9 +1,10 @@
+// What a key, a click or an event of the program does to the run of a form.
 #include "forms/roteiros/Roteiros.hpp"
+
+#include <thread>
 
 namespace OryUtils {
 namespace {
-
-constexpr std::uint16_t CTab = 9, CEnter = 13, CEsc = 27, CEspaco = 32;
 
 struct TCasoDeResposta {
     TControleFormulario& (*Focado)(TFormularioCompleto&);
@@ -31,15 +32,15 @@ constexpr TCasoDeResposta CRespostas[] = {
     {CCaixa, [](TUsuario& u) { u.FecharJanela(); }, mrCancel, "the close box"},
 };
 
-void RespostasPorTecladoEMouse(TUsuario& AUsuario) {
+TEST_F(Roteiro, RespostasPorTecladoEMouse) {
     for (const TCasoDeResposta& c : CRespostas) {
         TFormularioCompleto f;
         f.SetControleAtivo(&c.Focado(f));
         const auto gesto = [&] {
             EXPECT_EQ(f.GetControleAtivo(), &c.Focado(f)) << c.Porque;
-            c.Gesto(AUsuario);
+            c.Gesto(*FUsuario);
         };
-        EXPECT_EQ(AUsuario.Executar(f, {gesto}), c.Esperado) << c.Porque;
+        EXPECT_EQ(FUsuario->Executar(f, {gesto}), c.Esperado) << c.Porque;
         EXPECT_EQ(f.GetJanela(), nullptr) << c.Porque;
     }
 }
@@ -57,21 +58,21 @@ constexpr TCasoDeErro CErros[] = {
     {[](auto& f, auto, auto t) { f.OnKeyDown = t; }, [](auto& u) { u.Teclar('A'); }, "a key"},
 };
 
-void ExcecoesSaemDepoisDoLaco(TUsuario& AUsuario) {
+TEST_F(Roteiro, ExcecoesSaemDepoisDoLaco) {
     TOuvinte<TObjeto*> evento{[](TObjeto*) { throw EConvertError(u"não é número"); }};
     TOuvinte<TObjeto*, TTecla&> tecla{[](TObjeto*, TTecla&) { throw EConvertError(u"não é número"); }};
     for (const TCasoDeErro& c : CErros) {
         TFormularioCompleto f;
         c.Montar(f, evento.GetEvento(), tecla.GetEvento());
         TPassos passos;
-        if (c.Gesto) passos.push_back([&] { c.Gesto(AUsuario); });
-        EXPECT_THROW(AUsuario.Executar(f, passos), EConvertError) << c.Onde;
+        if (c.Gesto) passos.push_back([&] { c.Gesto(*FUsuario); });
+        EXPECT_THROW(FUsuario->Executar(f, passos), EConvertError) << c.Onde;
         EXPECT_EQ(f.GetJanela(), nullptr) << c.Onde;
-        EXPECT_FALSE(AUsuario.HaFormulario()) << c.Onde;
+        EXPECT_FALSE(FUsuario->HaFormulario()) << c.Onde;
     }
 }
 
-void AExcecaoDeDentroPassaPeloDeForaQueAPodeTratar(TUsuario& AUsuario) {
+TEST_F(Roteiro, AExcecaoDeDentroPassaPeloDeForaQueAPodeTratar) {
     TFormularioCompleto fora(u"Fora"), dentro(u"Dentro");
     TOuvinte<TObjeto*> falhar{[](TObjeto*) { throw std::string("qualquer tipo"); }};
     bool pegou = false;
@@ -84,24 +85,24 @@ void AExcecaoDeDentroPassaPeloDeForaQueAPodeTratar(TUsuario& AUsuario) {
     }};
     dentro.OnShow = falhar.GetEvento();
     fora.Nao.OnClick = abrir.GetEvento();
-    EXPECT_EQ(AUsuario.Executar(fora, {[&] { AUsuario.TeclarComAlt('N'); }}), mrNo);
+    EXPECT_EQ(FUsuario->Executar(fora, {[&] { FUsuario->TeclarComAlt('N'); }}), mrNo);
     EXPECT_TRUE(pegou);
 }
 
-void AbortEhSilencioso(TUsuario& AUsuario) {
+TEST_F(Roteiro, AbortEhSilencioso) {
     TFormularioCompleto f;
     TOuvinte<TObjeto*> abortar{[](TObjeto*) { Abort(); }};
     f.OnShow = abortar.GetEvento();
     f.Sim.OnClick = abortar.GetEvento();
-    const int resultado = AUsuario.Executar(f, {[&] { AUsuario.Clicar(u"&Sim"); },
-                                                [&] {
-                                                    EXPECT_EQ(f.GetModalResult(), mrNone) << "nothing is closed";
-                                                    AUsuario.Clicar(u"&Não");
-                                                }});
+    const int resultado = FUsuario->Executar(f, {[&] { FUsuario->Clicar(u"&Sim"); },
+                                                 [&] {
+                                                     EXPECT_EQ(f.GetModalResult(), mrNone) << "nothing is closed";
+                                                     FUsuario->Clicar(u"&Não");
+                                                 }});
     EXPECT_EQ(resultado, mrNo);
 }
 
-void TemporizadorFechaEDesligaASiMesmo(TUsuario&) {
+TEST_F(Roteiro, TemporizadorFechaEDesligaASiMesmo) {
     TFormularioCompleto f;
     TToolkit& toolkit = BuscarToolkit();
     int vezes = 0;
@@ -134,7 +135,7 @@ constexpr TCasoDeSaida CSaidas[] = {
     {false, CClicarSalvar, "saiu A.saiu A.", "a refused exit drops the click"},
 };
 
-void SairDaCaixaPodeSerRecusado(TUsuario& AUsuario) {
+TEST_F(Roteiro, SairDaCaixaPodeSerRecusado) {
     for (const TCasoDeSaida& c : CSaidas) {
         TFormulario formulario;
         formulario.SetTitulo(u"Saída");
@@ -152,7 +153,7 @@ void SairDaCaixaPodeSerRecusado(TUsuario& AUsuario) {
             a.ReceberFoco();
             // The warning, while it is up, takes the focus away from the form: nothing is left by that.
             TFormularioCompleto aviso(u"Aviso");
-            AUsuario.Executar(aviso, {[&] { AUsuario.Teclar(CEnter); }});
+            FUsuario->Executar(aviso, {[&] { FUsuario->Teclar(CEnter); }});
             Abort();
         }};
         TOuvinte<TObjeto*> sairB{[&](TObjeto*) { visto += "saiu B."; }};
@@ -160,35 +161,40 @@ void SairDaCaixaPodeSerRecusado(TUsuario& AUsuario) {
         a.OnSair = sairA.GetEvento();
         b.OnSair = sairB.GetEvento();
         salvar.OnClick = clicar.GetEvento();
-        const auto sair = [&] { c.Sair(AUsuario); };
+        const auto sair = [&] { c.Sair(*FUsuario); };
         const auto conferir = [&] {
             EXPECT_EQ(formulario.GetControleAtivo() == &a, !c.Aceita) << c.Porque;
             formulario.Fechar();
         };
-        EXPECT_EQ(AUsuario.Executar(formulario, {sair, sair, conferir}), mrCancel) << "EAbort is silent";
+        EXPECT_EQ(FUsuario->Executar(formulario, {sair, sair, conferir}), mrCancel) << "EAbort is silent";
         EXPECT_EQ(visto, c.Esperado) << c.Porque;
     }
 }
 
-constexpr struct {
-    void (*Conferir)(TUsuario&);
-    const char* Nome;
-} CRoteiros[] = {
-    {RespostasPorTecladoEMouse, "answers by keys and mouse"},
-    {ExcecoesSaemDepoisDoLaco, "exceptions come out after the loop"},
-    {AExcecaoDeDentroPassaPeloDeForaQueAPodeTratar, "an exception of the inner form"},
-    {AbortEhSilencioso, "EAbort"},
-    {TemporizadorFechaEDesligaASiMesmo, "timer"},
-    {SairDaCaixaPodeSerRecusado, "leaving a box"},
-};
-
-}  // namespace
-
-void ConferirRoteiros(TUsuario& AUsuario) {
-    for (const auto& roteiro : CRoteiros) {
-        SCOPED_TRACE(roteiro.Nome);
-        roteiro.Conferir(AUsuario);
-    }
+TEST_F(Roteiro, OFormularioDeForaContinuaDepoisDoDeDentro) {
+    TFormularioCompleto fora(u"Fora"), dentro(u"Dentro");
+    TOuvinte<TObjeto*> abrir{[&](TObjeto*) {
+        const auto responder = [&] {
+            EXPECT_THROW(fora.ExecutarModal(), Exception) << "it is shown already";
+            FUsuario->Clicar(u"&Não");
+        };
+        EXPECT_EQ(FUsuario->Executar(dentro, {responder}), mrNo);
+    }};
+    fora.Sim.OnClick = abrir.GetEvento();
+    fora.Sim.SetModalResult(mrNone);
+    const int resultado =
+        FUsuario->Executar(fora, {[&] { FUsuario->Clicar(u"&Sim"); }, [&] { FUsuario->ClicarComMouse(u"&Cancelar"); }});
+    EXPECT_EQ(resultado, mrCancel);
 }
 
+TEST_F(Roteiro, SoAThreadDaInterfaceMostra) {
+    TToolkit& toolkit = BuscarToolkit();
+    EXPECT_TRUE(toolkit.EhThreadDaInterface());
+    std::thread([&] {
+        EXPECT_FALSE(toolkit.EhThreadDaInterface());
+        EXPECT_THROW(TFormulario().ExecutarModal(), Exception);
+    }).join();
+}
+
+}  // namespace
 }  // namespace OryUtils

@@ -8,11 +8,24 @@
 
 #include <deque>
 #include <functional>
+#include <memory>
 #include <string>
+#include <vector>
 
 namespace OryUtils {
 
 using TPassos = std::deque<std::function<void()>>;
+
+/// A control as it is seen on the screen.
+struct TVisto {
+    TRetangulo Lugar;
+    std::u16string Texto;
+    bool Visivel = false, Habilitado = false, Focado = false;
+    bool Marcado = false;                 ///< a check box that is checked, a memo that is only read
+    std::vector<TRetangulo> Opcoes{};     ///< of a group, on the form
+    std::u16string TextoDasOpcoes = u"";  ///< one a line
+    int Escolhida = -1;
+};
 
 /// The person in front of the form that is shown.
 class TUsuario {
@@ -28,11 +41,39 @@ public:
     /// A key of the model's codes, pressed where the focus is.
     virtual void Teclar(std::uint16_t ATecla) = 0;
     virtual void TeclarComAlt(char ALetra) = 0;
+    virtual void TeclarComCtrl(char ALetra) = 0;
     virtual void Escrever(const char* ATexto) = 0;
     virtual void Clicar(std::u16string_view ACaption) = 0;
     virtual void ClicarComMouse(std::u16string_view ACaption) = 0;
     virtual void FecharJanela() = 0;
+    /// Drags the border of AFormulario until its client area has that size.
+    virtual void Redimensionar(const TFormulario& AFormulario, TTamanho ACliente) = 0;
+
+    /// The controls of AFormulario on the screen, in the order of the model. The first is the window: its title, and
+    /// the size of its client area.
+    virtual std::vector<TVisto> Ver(const TFormulario& AFormulario) = 0;
+    /// Windows and widgets of the program, where the system does not count them.
+    virtual long ContarObjetos() { return 0; }
 };
+
+/// The user of the toolkit that this program tests, which is in use meanwhile; null where no window can be shown.
+std::unique_ptr<TUsuario> CriarUsuario();
+
+class Roteiro : public testing::Test {
+protected:
+    void SetUp() override {
+        if (!FUsuario) GTEST_SKIP() << "no window can be created here: run under a display";
+    }
+    const std::unique_ptr<TUsuario> FUsuario = CriarUsuario();
+};
+
+inline constexpr std::uint16_t CTab = 9, CEnter = 13, CEsc = 27, CEspaco = 32, CAcima = 38, CAbaixo = 40;
+
+/// One is over the other, in part at least.
+inline bool SeTocam(const TRetangulo& A, const TRetangulo& B) {
+    return A.Left < B.Left + B.Width && B.Left < A.Left + A.Width && A.Top < B.Top + B.Height &&
+           B.Top < A.Top + A.Height;
+}
 
 /// A method bound as an event, from a closure that the test keeps.
 template <typename... TArgs>
@@ -68,6 +109,10 @@ struct TFormularioCompleto : TFormulario {
         Grupo.SetTexto(u"Opções: ");
         Grupo.SetRetangulo({60, 180, 200, 100});
         for (const char16_t* item : {u"Uma", u"Outra", u"Nenhuma"}) Grupo.AdicionarItem(item);
+        const std::pair<TControleFormulario*, const char16_t*> nomes[] = {
+            {&Edicao, u"Edicao"}, {&Memorando, u"Memorando"}, {&Caixa, u"Caixa"}, {&Grupo, u"Grupo"}, {&Sim, u"Sim"},
+            {&Nao, u"Nao"},       {&Cancelar, u"Cancelar"}};
+        for (const auto& [controle, nome] : nomes) controle->SetNome(nome);
         const struct {
             TBotao& Botao;
             const char16_t* Texto;
@@ -84,8 +129,5 @@ struct TFormularioCompleto : TFormulario {
         Cancelar.SetCancelar(true);
     }
 };
-
-/// Every scenario, with the toolkit that is installed.
-void ConferirRoteiros(TUsuario& AUsuario);
 
 }  // namespace OryUtils
