@@ -25,4 +25,7 @@ private:
     void* FConversor = nullptr;
 };
 
+/// ATexto in the same code page or code set; "?" for a character that it does not have.
+std::string CodificarAnsi(std::u16string_view ATexto);
+
 }  // namespace OryUtils::Interno

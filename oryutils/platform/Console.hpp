@@ -12,7 +12,12 @@ namespace OryUtils::Interno {
 /// True when stdin and stderr are terminals: somebody reads the question and can answer.
 ORY_API bool PodeConversar();
 
-/// Writes to stderr: to a console of Windows as UTF-16, to anything else as UTF-8. Errors are ignored.
+/// Characters in a line of stderr's terminal; 0 when it is none.
+ORY_API int BuscarColunasDoTerminal();
+
+/// Writes to stderr: to a console of Windows as UTF-16, on Linux in the code set of the environment's locale ("?" for a
+/// character that it does not have; the plain "C" locale counts as UTF-8), to anything else as UTF-8. Errors are
+/// ignored.
 ORY_API void EscreverNoErroPadrao(std::u16string_view ATexto);
 
 enum TLeituraDeLinha : int { llLinha, llFim, llTempo };

@@ -1,8 +1,8 @@
 // The global instance, and the tests of what a text is made of.
 #include "oryutils/text/OryUtilsStrings.hpp"
 
+#include "oryutils/characters/Acentos.hpp"
 #include "oryutils/characters/Caixa.hpp"
-#include "oryutils/text/interno/Acentos.hpp"
 #include "oryutils/text/interno/Busca.hpp"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // Removal and replacement of characters and texts.
+#include "oryutils/characters/Acentos.hpp"
 #include "oryutils/characters/Caixa.hpp"
 #include "oryutils/text/OryUtilsStrings.hpp"
-#include "oryutils/text/interno/Acentos.hpp"
 #include "oryutils/text/interno/Busca.hpp"
 #include "oryutils/text/interno/Pertinencia.hpp"
 

@@ -1,10 +1,12 @@
 #include "oryutils/characters/Utf.hpp"
+#include "oryutils/forms/console/TextoDoTerminal.hpp"
 #include "oryutils/forms/console/ToolkitConsole.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace OryUtils {
@@ -62,6 +64,7 @@ TEST(Console, RespostasDeUmaConfirmacao) {
         {true, {u"s"}, mrYes, "the letter"},
         {true, {u" S "}, mrYes, "in either case, blanks aside"},
         {true, {u"NÃO P/ TODOS"}, mrNoToAll, "the caption"},
+        {true, {u"nao p/ todos"}, mrNoToAll, "without its accents"},
         {true, {u""}, mrNoToAll, "an empty line presses what has the focus"},
         {true, {u"talvez", u"x", u"sim"}, mrYes, "asked until understood"},
         {true, {u"talvez"}, mrCancel, "end of input"},
@@ -74,7 +77,7 @@ TEST(Console, RespostasDeUmaConfirmacao) {
         TPergunta f;
         EXPECT_EQ(TToolkitConsole(conversa).ExecutarModal(f), c.Esperado) << c.Porque;
         EXPECT_EQ(conversa.Escrito.find("Confirmação: Excluir?\nNão há volta.\n"), 0u) << conversa.Escrito;
-        EXPECT_EQ(conversa.Escrito.find("[S]im / [N]ão p/ Todos: ") != std::string::npos, c.Terminal);
+        EXPECT_EQ(conversa.Escrito.find("[S]im / [N]ão p/ Todos [Não p/ Todos]: ") != std::string::npos, c.Terminal);
         EXPECT_EQ(f.GetJanela(), nullptr);
     }
 }
@@ -97,8 +100,11 @@ TEST(Console, OpcoesChecagemETexto) {
     grupo.AdicionarItem(u"Outra");
     auto& caixa = f.Adicionar<TCaixaChecagem>();
     auto& edicao = f.Adicionar<TCaixaEdicao>();
-    conversa.Linhas = {u"3", u"2", u"sim", u"São Paulo", u"s"};
+    auto& proposta = f.Adicionar<TCaixaEdicao>();
+    proposta.SetTexto(u"proposto");
+    conversa.Linhas = {u"3", u"2", u"sim", u"São Paulo", u"\"\"", u"s"};
     EXPECT_EQ(TToolkitConsole(conversa).ExecutarModal(f), mrYes);
+    EXPECT_EQ(proposta.GetTexto(), u"");
     EXPECT_EQ(grupo.GetIndice(), 1);
     EXPECT_TRUE(caixa.GetMarcada());
     EXPECT_EQ(edicao.GetTexto(), u"São Paulo");
@@ -120,6 +126,20 @@ TEST(Console, TemporizadorFechaAPerguntaQueNinguemResponde) {
     EXPECT_EQ(conversa.Instante, std::chrono::milliseconds(200));
     toolkit.ProcessarMensagens();
     EXPECT_EQ(vezes, 2);
+}
+
+TEST(Console, OTextoNaoComandaOTerminalESeQuebraEmPalavras) {
+    const std::tuple<std::u16string_view, int, std::string> casos[] = {
+        {u"a\x1B[2Jb\x07\x7F\u009B\u202Ec\td\r\ne\rf", 0, "a?[2Jb????c d\ne\nf"},
+        {u"um dois três", 7, "um dois\ntrês"},
+        {u"um dois três", 8, "um dois\ntrês"},
+        {u"um\ndois três", 7, "um\ndois\ntrês"},
+        {u"comprida demais", 4, "comprida\ndemais"},
+        {u"semespaço", 4, "semespaço"},
+        {u"um  dois", 3, "um \ndois"},
+    };
+    for (const auto& [texto, colunas, esperado] : casos)
+        EXPECT_EQ(ParaUtf8(Interno::ParaTerminal(texto, colunas)), esperado) << colunas;
 }
 
 TEST(Console, MedidaQuebraEmPalavras) {

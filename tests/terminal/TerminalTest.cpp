@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <fcntl.h>
 #include <poll.h>
+#include <sstream>
 #include <stdlib.h>
 #include <string>
 #include <sys/ioctl.h>
@@ -35,11 +37,13 @@ std::string LerTudo(int ADescritor, std::chrono::seconds ALimite) {
 }
 
 // Runs ory with stdin and stderr on a terminal of its own, where ADigitado stands typed from the start.
-TDialogo Conversar(std::vector<std::string> AArgumentos, const std::string& ADigitado) {
+TDialogo Conversar(std::vector<std::string> AArgumentos, const std::string& ADigitado, unsigned short AColunas = 80) {
     TDialogo dialogo;
     const int mestre = ::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
     const bool temPar = mestre >= 0 && ::grantpt(mestre) == 0 && ::unlockpt(mestre) == 0;
     const int escravo = temPar ? ::open(::ptsname(mestre), O_RDWR | O_NOCTTY | O_CLOEXEC) : -1;
+    const winsize tamanho{24, AColunas, 0, 0};
+    ::ioctl(mestre, TIOCSWINSZ, &tamanho);
     int saida[2];
     if (escravo < 0 || ::pipe2(saida, O_CLOEXEC) != 0) {
         ADD_FAILURE() << "no pseudo-terminal or pipe";
@@ -92,6 +96,14 @@ TEST(Terminal, RespostasDigitadas) {
         {confirmacao, "talvez\nN\n", "Não\n", 1, "Apagar?", "asked again until understood"},
         {confirmacao, "\x04", "\n", 3, "Apagar?", "end of input is the window's close button"},
         {opcoes, "2\nk\n", "OK\nFilial 2\n", 0, "Que filial?", "an option by its number"},
+        {confirmacao, "nao\n", "Não\n", 1, "[S]im / [N]ão [Sim]: ", "without its accent; the default is told"},
+        {{"mensagem", "--tipo", "confirmacao", "Pá & Cia\x1B[2J?", "--botao", "sim=A&B", "--botao", "nao"},
+         "A&B\n",
+         "A&B\n",
+         0,
+         "Pá & Cia?[2J?",
+         "a text commands nothing, and & is a letter"},
+        {{"mensagem", "Nome:", "--valor", "Ana"}, "\"\"\n\n", "\n", 0, "[Ana]", "a proposed value emptied"},
         {temporizada, "", "\n", 3, "00:00:01 segundo(s)", "closed by its timer"},
     };
     for (const auto& c : casos) {
@@ -100,6 +112,40 @@ TEST(Terminal, RespostasDigitadas) {
         EXPECT_EQ(dialogo.Situacao, c.Situacao) << c.Porque;
         EXPECT_NE(dialogo.Tela.find(c.NaTela), std::string::npos) << c.Porque << '\n' << dialogo.Tela;
     }
+}
+
+TEST(Terminal, NenhumaLinhaPassaDaLarguraENenhumaPalavraSeParte) {
+    std::string longa =
+        "Esta mensagem, comprida, tem acentuação e passa de qualquer largura que um terminal costuma ter: ";
+    longa += longa + longa;
+    for (const unsigned short colunas : std::initializer_list<unsigned short>{40, 80, 200}) {
+        const TDialogo dialogo = Conversar({"mensagem", "--tipo", "confirmacao", longa}, "s\n", colunas);
+        std::istringstream tela(dialogo.Tela);
+        std::string juntas;
+        for (std::string linha; std::getline(tela, linha);) {
+            if (linha.ends_with('\r')) linha.pop_back();
+            const auto letras = std::ranges::count_if(linha, [](char c) { return (c & 0xC0) != 0x80; });
+            EXPECT_LE(letras, colunas) << linha;
+            juntas += linha + " ";
+        }
+        EXPECT_NE(juntas.find(longa.substr(0, longa.size() - 1)), std::string::npos) << juntas;
+    }
+}
+
+// A locale of its own, compiled for the test.
+TEST(Terminal, EmLatin1) {
+    const std::string pasta = testing::TempDir() + "/localidade";
+    if (std::system(
+            ("mkdir -p " + pasta + " && localedef -c -i pt_BR -f ISO-8859-1 " + pasta + "/pt_BR > /dev/null 2>&1")
+                .c_str()) != 0)
+        GTEST_SKIP() << "this machine cannot compile a locale";
+    ::setenv("LOCPATH", pasta.c_str(), 1);
+    ::setenv("LC_ALL", "pt_BR", 1);
+    const TDialogo dialogo = Conversar({"mensagem", "--tipo", "confirmacao", "Atenção: € 5?"}, "n\xE3o\n");
+    ::unsetenv("LC_ALL");
+    ::unsetenv("LOCPATH");
+    EXPECT_NE(dialogo.Tela.find("Aten\xE7\xE3o: ? 5?"), std::string::npos) << dialogo.Tela;
+    EXPECT_EQ(dialogo.Situacao, 1);
 }
 
 }  // namespace

@@ -68,6 +68,13 @@ std::u16string JuntarLinhas(const std::vector<std::string>& ALinhas) {
     return texto;
 }
 
+/// A text of the caller as a caption: "&" is a letter like any other, not the mark of the one that Alt takes.
+std::u16string ComoCaption(std::string_view ATexto) {
+    std::u16string caption;
+    for (const char16_t c : DeUtf8(ATexto)) caption.append(c == u'&' ? 2 : 1, c);
+    return caption;
+}
+
 void LerBotoes(const TPedidoDeMensagem& APedido, TOryUtilsDialogsFormCustomizadoBaseIOP& AParametros) {
     std::vector<std::string> pedidos = APedido.Botoes;
     if (pedidos.empty())
@@ -80,7 +87,7 @@ void LerBotoes(const TPedidoDeMensagem& APedido, TOryUtilsDialogsFormCustomizado
             throw EFalha("--botao repete " + pedido.substr(0, igual));
         AParametros.Botoes.push_back(tipo);
         AParametros.CaptionBotoes.push_back(igual == std::string::npos ? CCaptionsBotao[tipo]
-                                                                       : DeUtf8(pedido.substr(igual + 1)));
+                                                                       : ComoCaption(pedido.substr(igual + 1)));
     }
     if (APedido.Padrao.empty()) return;
     const TMsgDlgBtn padrao = BuscarPorNome(CBotoes, APedido.Padrao, "--padrao").Tipo;
@@ -146,7 +153,7 @@ void DescreverMensagem(TOpcoes AComando, TPedidoDeMensagem& APedido) {
     AComando.Valor("--valor", APedido.Valor, "em vez de botões pergunta um texto, com este já escrito (pode ser \"\")")
         .AoLer([&APedido] { APedido.Perguntar = true; });
     AComando.Rodape(
-        "Na saída: uma linha com o texto do botão escolhido, sem \"&\" (vazia se a janela foi fechada\n"
+        "Na saída: uma linha com o texto do botão escolhido (vazia se a janela foi fechada\n"
         "e não há botão cancelar), e com --opcao mais uma com a opção (vazia se nenhuma), com --caixa mais uma com 1 "
         "ou 0.\n"
         "Com --valor: uma linha com o texto digitado, e nada se foi cancelado.\n\n"
@@ -168,7 +175,7 @@ int MostrarMensagem(const TPedidoDeMensagem& APedido, TAmbiente& AAmbiente) {
     if (!APedido.Opcoes.empty()) {
         TOryUtilsDialogsFormCustomizadoComOpcoesIOP parametros;
         parametros.Assign(base);
-        for (const std::string& opcao : APedido.Opcoes) parametros.OpcoesMensagem.push_back(DeUtf8(opcao));
+        for (const std::string& opcao : APedido.Opcoes) parametros.OpcoesMensagem.push_back(ComoCaption(opcao));
         parametros.OpcaoPadrao = static_cast<int>(APedido.OpcaoPadrao) - 1;
         const auto retorno = GOryUtilsDialogs->ConfirmacaoCustomizadaComOpcoes(parametros);
         resultado = retorno->RetornoMensagem;
@@ -178,7 +185,7 @@ int MostrarMensagem(const TPedidoDeMensagem& APedido, TAmbiente& AAmbiente) {
     } else if (!APedido.Caixa.empty()) {
         TOryUtilsDialogsFormCustomizadoCaixaChecagemIOP parametros;
         parametros.Assign(base);
-        parametros.TextoCaixaChecagem = DeUtf8(APedido.Caixa);
+        parametros.TextoCaixaChecagem = ComoCaption(APedido.Caixa);
         parametros.PosicaoCaixaChecagem = APedido.CaixaAbaixo ? pccAbaixo : pccAcima;
         const auto retorno = GOryUtilsDialogs->ConfirmacaoCustomizadaComCaixaChecagem(parametros);
         resultado = retorno->RetornoMensagem;

@@ -7,6 +7,7 @@ class TConversaDoSistema final : public TConversa {
 public:
     bool PodeConversar() override { return Interno::PodeConversar(); }
     void Escrever(std::u16string_view ATexto) override { Interno::EscreverNoErroPadrao(ATexto); }
+    int GetColunas() override { return Interno::BuscarColunasDoTerminal(); }
     Interno::TLeituraDeLinha LerLinha(std::optional<std::chrono::milliseconds> ALimite,
                                       std::u16string& ALinha) override {
         return Interno::LerLinhaDoTerminal(ALimite, ALinha);

@@ -16,6 +16,8 @@ public:
     virtual ~TConversa() = default;
     virtual bool PodeConversar() = 0;
     virtual void Escrever(std::u16string_view ATexto) = 0;
+    /// How many characters stand in a line; 0 when nobody knows.
+    virtual int GetColunas() { return 0; }
     /// As Interno::LerLinhaDoTerminal.
     virtual Interno::TLeituraDeLinha LerLinha(std::optional<std::chrono::milliseconds> ALimite,
                                               std::u16string& ALinha) = 0;

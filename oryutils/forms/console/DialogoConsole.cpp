@@ -1,7 +1,9 @@
 #include "oryutils/forms/console/DialogoConsole.hpp"
 
+#include "oryutils/characters/Acentos.hpp"
 #include "oryutils/characters/Caixa.hpp"
 #include "oryutils/characters/Caracteres.hpp"
+#include "oryutils/forms/console/TextoDoTerminal.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
 
@@ -10,16 +12,6 @@
 
 namespace OryUtils {
 namespace {
-
-// The terminal's own line break, whatever the text brings.
-std::u16string ParaTerminal(std::u16string_view ATexto) {
-    std::u16string resultado;
-    for (std::size_t i = 0; i < ATexto.size(); ++i) {
-        if (ATexto[i] == u'\r' && i + 1 < ATexto.size() && ATexto[i + 1] == u'\n') continue;
-        resultado += ATexto[i] == u'\r' ? u'\n' : ATexto[i];
-    }
-    return resultado;
-}
 
 std::u16string Numero(std::size_t AValor) { return InteiroParaTexto(static_cast<std::int64_t>(AValor)); }
 
@@ -36,10 +28,18 @@ bool EhPergunta(const TControleFormulario& AControle) {
     return AControle.PodeReceberFoco() && (tipo == tcGrupoOpcoes || tipo == tcCaixaChecagem || tipo == tcCaixaEdicao);
 }
 
+/// Case and accents do not count: "nao" answers "Não".
+bool SaoIguais(std::u16string_view ATexto, std::u16string_view AResposta) {
+    std::u16string semAcento(ATexto), resposta(AResposta);
+    std::ranges::transform(semAcento, semAcento.begin(), Interno::SemAcento);
+    std::ranges::transform(resposta, resposta.begin(), Interno::SemAcento);
+    return IguaisIgnorandoCaixa(semAcento, resposta);
+}
+
 bool Responde(const TBotao& ABotao, std::u16string_view AResposta) {
     const char16_t letra = BuscarLetraAtalho(ABotao.GetTexto());
     if (letra && AResposta.size() == 1 && MinusculaDe(AResposta[0]) == MinusculaDe(letra)) return true;
-    return IguaisIgnorandoCaixa(RemoverAtalho(ABotao.GetTexto()), AResposta);
+    return SaoIguais(RemoverAtalho(ABotao.GetTexto()), AResposta);
 }
 
 // "[S]im": the letter that answers stands in brackets.
@@ -101,7 +101,7 @@ void TDialogoConsole::Imprimir() {
     }
     std::u16string texto = FFormulario.GetTitulo();
     if (mensagem) texto += (texto.empty() ? u"" : u": ") + mensagem->GetTexto();
-    FConversa.Escrever(ParaTerminal(texto) + u"\n");
+    Escrever(texto + u"\n");
     for (const auto& controle : controles)
         if (controle.get() != mensagem && controle->GetVisivel()) ImprimirControle(*controle);
 }
@@ -110,14 +110,14 @@ void TDialogoConsole::ImprimirControle(const TControleFormulario& AControle) {
     switch (AControle.GetTipo()) {
         case tcRotulo:
         case tcMemorando:
-            if (!AControle.GetTexto().empty()) FConversa.Escrever(ParaTerminal(AControle.GetTexto()) + u"\n");
+            if (!AControle.GetTexto().empty()) Escrever(AControle.GetTexto() + u"\n");
             break;
         case tcGrupoOpcoes: {
             const auto& grupo = static_cast<const TGrupoOpcoes&>(AControle);
             std::u16string texto = RemoverAtalho(grupo.GetTexto()) + u"\n";
             for (std::size_t i = 0; i < grupo.GetItens().size(); ++i)
                 texto += u"  " + Numero(i + 1) + u". " + RemoverAtalho(grupo.GetItens()[i]) + u"\n";
-            FConversa.Escrever(ParaTerminal(texto));
+            Escrever(texto);
             break;
         }
         default:
@@ -145,9 +145,9 @@ void TDialogoConsole::PerguntarOpcao(TGrupoOpcoes& AGrupo) {
     while (const auto resposta = Ler(pergunta + u": ")) {
         if (resposta->empty()) return;
         for (std::size_t i = 0; i < total; ++i)
-            if (*resposta == Numero(i + 1) || IguaisIgnorandoCaixa(RemoverAtalho(AGrupo.GetItens()[i]), *resposta))
+            if (*resposta == Numero(i + 1) || SaoIguais(RemoverAtalho(AGrupo.GetItens()[i]), *resposta))
                 return AGrupo.AceitarIndice(static_cast<int>(i));
-        FConversa.Escrever(u"Resposta não reconhecida.\n");
+        Escrever(u"Resposta não reconhecida.\n");
     }
 }
 
@@ -156,20 +156,20 @@ void TDialogoConsole::PerguntarChecagem(TCaixaChecagem& ACaixa) {
         RemoverAtalho(ACaixa.GetTexto()) + (ACaixa.GetMarcada() ? u" (s/n) [s]: " : u" (s/n) [n]: ");
     while (const auto resposta = Ler(pergunta)) {
         if (resposta->empty()) return;
-        const bool sim = IguaisIgnorandoCaixa(*resposta, u"s") || IguaisIgnorandoCaixa(*resposta, u"sim");
-        if (sim || IguaisIgnorandoCaixa(*resposta, u"n") || IguaisIgnorandoCaixa(*resposta, u"não") ||
-            IguaisIgnorandoCaixa(*resposta, u"nao"))
-            return ACaixa.AceitarMarcada(sim);
-        FConversa.Escrever(u"Resposta não reconhecida.\n");
+        const bool sim = SaoIguais(*resposta, u"s") || SaoIguais(*resposta, u"sim");
+        if (sim || SaoIguais(*resposta, u"n") || SaoIguais(*resposta, u"nao")) return ACaixa.AceitarMarcada(sim);
+        Escrever(u"Resposta não reconhecida.\n");
     }
 }
 
 void TDialogoConsole::PerguntarTexto(TCaixaEdicao& ACaixa) {
-    const std::u16string pergunta = ACaixa.GetTexto().empty() ? u"> " : u"[" + ACaixa.GetTexto() + u"] > ";
+    constexpr std::u16string_view CNada = u"\"\"";
+    const std::u16string pergunta =
+        ACaixa.GetTexto().empty() ? u"> " : u"[" + ACaixa.GetTexto() + u"] (Enter mantém, \"\" esvazia) > ";
     const auto resposta = Ler(pergunta);
     if (!resposta) return;
     if (!resposta->empty()) {
-        ACaixa.AceitarTexto(*resposta);
+        ACaixa.AceitarTexto(*resposta == CNada && !ACaixa.GetTexto().empty() ? u"" : *resposta);
         Chamar([&] { ACaixa.OnMudar(&ACaixa); });
     }
     Chamar([&] { ACaixa.OnSair(&ACaixa); });
@@ -182,6 +182,7 @@ void TDialogoConsole::PerguntarBotao(const std::vector<TBotao*>& ABotoes) {
         pergunta += (pergunta.empty() ? u"" : u" / ") + MostrarCaption(botao->GetTexto());
         if (botao == FFormulario.GetControleAtivo() || (!padrao && botao->GetPadrao())) padrao = botao;
     }
+    if (padrao && ABotoes.size() > 1) pergunta += u" [" + RemoverAtalho(padrao->GetTexto()) + u"]";
     const auto resposta = Ler(pergunta + u": ");
     if (!resposta) return;
     const auto escolhido =
@@ -190,11 +191,15 @@ void TDialogoConsole::PerguntarBotao(const std::vector<TBotao*>& ABotoes) {
     if (botao)
         Chamar([&] { botao->Clicar(); });
     else
-        FConversa.Escrever(u"Resposta não reconhecida.\n");
+        Escrever(u"Resposta não reconhecida.\n");
+}
+
+void TDialogoConsole::Escrever(std::u16string_view ATexto) {
+    FConversa.Escrever(Interno::ParaTerminal(ATexto, FConversa.GetColunas()));
 }
 
 std::optional<std::u16string> TDialogoConsole::Ler(std::u16string_view APergunta) {
-    FConversa.Escrever(ParaTerminal(APergunta));
+    Escrever(APergunta);
     while (true) {
         const auto espera = FEspera();
         if (FFormulario.GetModalResult() != mrNone) {

@@ -23,6 +23,7 @@ private:
     void MudouFormulario(TMudanca) override {}
     void ResultadoMudou() override {}
 
+    void Escrever(std::u16string_view ATexto);
     void Imprimir();
     void ImprimirControle(const TControleFormulario& AControle);
     void PerguntarControles();

@@ -2,6 +2,7 @@
 
 #include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/forms/console/DialogoConsole.hpp"
+#include "oryutils/forms/console/TextoDoTerminal.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 
 #include <algorithm>
@@ -106,7 +107,8 @@ std::optional<std::u16string> TToolkitConsole::EscolherCaminho(std::u16string_vi
     namespace fs = std::filesystem;
     if (!FConversa.PodeConversar()) return std::nullopt;
     while (true) {
-        FConversa.Escrever(std::u16string(APergunta) + u" (vazio cancela): ");
+        FConversa.Escrever(
+            Interno::ParaTerminal(std::u16string(APergunta) + u" (vazio cancela): ", FConversa.GetColunas()));
         std::u16string linha;
         auto lida = Interno::llTempo;
         while (lida == Interno::llTempo) {

@@ -15,9 +15,10 @@ namespace OryUtils {
 ///
 /// A form whose only question is one button (information, warning, error) is printed and answered at once. Any other
 /// one asks when stdin and stderr are terminals: options by their number, check boxes by "s" or "n", edits by a line,
-/// the buttons by caption or by the letter marked in it; an empty line keeps what stands, or presses the button that
-/// has the focus. What is not understood is asked again; end of input cancels. Without a terminal the answer is
-/// mrCancel.
+/// the buttons by caption, accents and case aside, or by the letter marked in it; an empty line keeps what stands, or
+/// presses the button that has the focus, which the question names; "" empties an edit. Lines break between words at
+/// the width of the terminal, and no text commands it. What is not understood is asked again; end of input cancels.
+/// Without a terminal the answer is mrCancel.
 ///
 /// Every thread may show forms. Timers tick while a question waits and in ProcessarMensagens, for the thread that set
 /// them. There is no clipboard: copying raises Exception.

@@ -2,6 +2,7 @@
 
 #include "oryutils/characters/Utf.hpp"
 
+#include <algorithm>
 #include <bit>
 #include <cerrno>
 #include <iconv.h>
@@ -19,9 +20,10 @@ std::string BuscarCodificacao() {
     return nome == "ANSI_X3.4-1968" ? "UTF-8" : nome;
 }
 
+constexpr const char* CUtf16 = std::endian::native == std::endian::little ? "UTF-16LE" : "UTF-16BE";
+
 void* AbrirConversor(const std::string& ACodificacao) {
-    const char* destino = std::endian::native == std::endian::little ? "UTF-16LE" : "UTF-16BE";
-    const iconv_t conversor = ::iconv_open(destino, ACodificacao.c_str());
+    const iconv_t conversor = ::iconv_open(CUtf16, ACodificacao.c_str());
     return conversor == reinterpret_cast<iconv_t>(-1) ? nullptr : conversor;
 }
 
@@ -47,7 +49,40 @@ std::u16string Converter(void* AConversor, std::string_view ABytes) {
     return texto;
 }
 
+/// "?" for each character that the code set does not have.
+std::string Codificar(iconv_t AConversor, std::u16string_view ATexto) {
+    std::string bytes;
+    std::u16string origem(ATexto);
+    char* entrada = reinterpret_cast<char*>(origem.data());
+    std::size_t resto = origem.size() * sizeof(char16_t);
+    while (resto > 0) {
+        char parte[512];
+        char* saida = parte;
+        std::size_t espaco = sizeof(parte);
+        const std::size_t situacao = ::iconv(AConversor, &entrada, &resto, &saida, &espaco);
+        const int erro = errno;
+        bytes.append(parte, sizeof(parte) - espaco);
+        if (situacao != static_cast<std::size_t>(-1) || erro == E2BIG) continue;
+        bytes += '?';
+        const bool par = resto >= 4 && (*reinterpret_cast<const char16_t*>(entrada) & 0xFC00) == 0xD800;
+        const std::size_t usados = std::min<std::size_t>(par ? 4 : 2, resto);
+        entrada += usados;
+        resto -= usados;
+    }
+    return bytes;
+}
+
 }  // namespace
+
+std::string CodificarAnsi(std::u16string_view ATexto) {
+    const std::string codificacao = BuscarCodificacao();
+    if (codificacao == "UTF-8") return ParaUtf8(ATexto);
+    const iconv_t conversor = ::iconv_open(codificacao.c_str(), CUtf16);
+    if (conversor == reinterpret_cast<iconv_t>(-1)) return ParaUtf8(ATexto);
+    std::string bytes = Codificar(conversor, ATexto);
+    ::iconv_close(conversor);
+    return bytes;
+}
 
 TDecodificadorAnsi::~TDecodificadorAnsi() {
     if (FConversor) ::iconv_close(FConversor);

@@ -1,6 +1,6 @@
 #include "oryutils/platform/Console.hpp"
 
-#include "oryutils/characters/Utf.hpp"
+#include "oryutils/platform/CodificacaoAnsi.hpp"
 #include "oryutils/platform/Fluxo.hpp"
 
 #include <climits>
@@ -8,13 +8,19 @@
 #include <algorithm>
 #include <cerrno>
 #include <poll.h>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace OryUtils::Interno {
 
 bool PodeConversar() { return TFluxo::EntradaPadrao().EhTerminal() && TFluxo::ErroPadrao().EhTerminal(); }
 
-void EscreverNoErroPadrao(std::u16string_view ATexto) { TFluxo::ErroPadrao().Escrever(ParaUtf8(ATexto)); }
+int BuscarColunasDoTerminal() {
+    winsize tamanho{};
+    return ::ioctl(STDERR_FILENO, TIOCGWINSZ, &tamanho) == 0 ? tamanho.ws_col : 0;
+}
+
+void EscreverNoErroPadrao(std::u16string_view ATexto) { TFluxo::ErroPadrao().Escrever(CodificarAnsi(ATexto)); }
 
 TLeituraDeLinha LerLinhaDoTerminal(std::optional<std::chrono::milliseconds> ALimite, std::u16string& ALinha) {
     using TRelogio = std::chrono::steady_clock;
@@ -38,7 +44,7 @@ TLeituraDeLinha LerLinhaDoTerminal(std::optional<std::chrono::milliseconds> ALim
         if (lidos <= 0 || byte == '\n') break;
         bytes += byte;
     }
-    ALinha = DeUtf8(bytes);
+    ALinha = TDecodificadorAnsi().Decodificar(bytes);
     return llLinha;
 }
 

@@ -24,6 +24,11 @@ bool PossuiTecla(HANDLE AEntrada) {
 
 bool PodeConversar() { return TFluxo::EntradaPadrao().EhTerminal() && TFluxo::ErroPadrao().EhTerminal(); }
 
+int BuscarColunasDoTerminal() {
+    CONSOLE_SCREEN_BUFFER_INFO tela{};
+    return ::GetConsoleScreenBufferInfo(::GetStdHandle(STD_ERROR_HANDLE), &tela) ? tela.dwSize.X : 0;
+}
+
 void EscreverNoErroPadrao(std::u16string_view ATexto) {
     const HANDLE saida = ::GetStdHandle(STD_ERROR_HANDLE);
     DWORD modo = 0;
