@@ -26,14 +26,15 @@ bool TirarSinal(std::u16string_view& ATexto) {
     return true;
 }
 
-/// The digits of a whole part that may have its thousands parted by AMarca; none when the groups are not of three.
+/// The digits of a whole part that may have its thousands parted; none when the groups are not of three by one mark. "0.125"
+/// has no thousands.
 std::optional<std::u16string> LerInteiro(std::u16string_view ATexto) {
     const auto primeira = std::ranges::find_if_not(ATexto, EhDigito);
     if (primeira == ATexto.end()) return std::u16string(ATexto);
     const char16_t marca = *primeira;
     constexpr std::size_t CGrupo = 3;
     std::size_t tamanho = ATexto.find(marca);
-    if (tamanho == 0 || tamanho > CGrupo || ATexto.front() == u'0') return std::nullopt;
+    if (tamanho == 0 || tamanho > CGrupo || ATexto.substr(0, tamanho) == u"0") return std::nullopt;
     std::u16string digitos(ATexto.substr(0, tamanho));
     for (ATexto.remove_prefix(tamanho); !ATexto.empty(); ATexto.remove_prefix(CGrupo + 1)) {
         if (ATexto.size() <= CGrupo || ATexto.front() != marca) return std::nullopt;

@@ -132,6 +132,7 @@ const TColado CColados[] = {
      "-0,125"},
     {CValor, "1e5", nullptr},
     {CValor, "1.2345.678", nullptr},
+    {CValor, "012.345", "012345"},
     {CValor, "12 34", nullptr},
     {CPercentual, "7,5 %", "7,5"},
     {CInteiro, "1,5", nullptr},
@@ -272,6 +273,20 @@ void FormatosMudados(TCaixas& ACaixas) {
     ACaixas.Deixar();
     EXPECT_EQ(valor.GetValor(), Variant(10.5L));
     EXPECT_EQ(ACaixas.Texto(0), u"10.50");
+    // Boxes that follow the user's formats while the process has others.
+    DefinirFormatSettings(BuscarFormatosBrasileiros());
+    GOryUtilsFormatacoes->GetFormatoPadraoDatasEValores().SetUsarNosControlesDevExpress(false);
+    const char16_t decimal = ControladorFormatos().GetFormatos().DecimalSeparator;
+    ACaixas.Entrar(0);
+    ACaixas.Digitar(u"7");
+    ACaixas.TeclarDecimal();
+    ACaixas.Digitar(u"25");
+    ACaixas.Deixar();
+    EXPECT_EQ(valor.GetValor(), Variant(7.25L));
+    EXPECT_EQ(ACaixas.Texto(0), std::u16string(u"7") + decimal + u"25");
+    GOryUtilsFormatacoes->GetFormatoPadraoDatasEValores().SetUsarNosControlesDevExpress(true);
+    EXPECT_EQ(ACaixas.Texto(0), u"7,25") << "told of the change";
+
     TField cnpj(ftString);
     FormatarCNPJ(cnpj);
     TFormatSettings comTraco;
