@@ -52,8 +52,7 @@ std::size_t BuscarMarcaDecimal(std::u16string_view ANumero, char16_t ADecimal) {
     if (ultima == ANumero.npos) return doFormato;
     const char16_t marca = ANumero[ultima];
     if (std::ranges::count(ANumero, marca) > 1) return ANumero.npos;
-    const bool haOutra = ANumero.find_first_of(marca == u'.' ? u',' : u'.') != ANumero.npos;
-    if (haOutra || marca == ADecimal) return ultima;
+    if (marca == ADecimal) return ultima;
     return LerInteiro(ANumero) ? ANumero.npos : ultima;
 }
 

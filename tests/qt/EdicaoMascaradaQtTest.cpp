@@ -186,6 +186,21 @@ TEST_F(EdicaoQt, MetodoDeEntradaETextoArrastado) {
     caixas.Deixar();
 }
 
+// What the host has limited holds less than the field: the rest is not lost.
+TEST_F(EdicaoQt, CaixaMenorDoQueOValor) {
+    TCaixasQt caixas;
+    TField nome(ftString);
+    nome.SetValor(u"Comercial Modelo");
+    caixas.GetCaixa(0)->setMaxLength(9);
+    TEditorDeCampo& editor = caixas.Ligar(0, nome);
+    caixas.Entrar(0);
+    caixas.Teclar(tmFim);
+    caixas.Teclar(tmApagar);
+    caixas.Deixar();
+    EXPECT_NE(editor.GetErro(), u"");
+    EXPECT_EQ(nome.GetTexto(), u"Comercial Modelo");
+}
+
 // Esc closes a dialog; a box in it does not keep the key.
 TEST_F(EdicaoQt, EscEmDialogoEhDoDialogo) {
     QDialog dialogo;

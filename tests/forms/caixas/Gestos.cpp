@@ -190,6 +190,9 @@ void OProgramaMudaOCampoNaVisita(TCaixas& ACaixas) {
     ACaixas.Digitar(u"5");
     cpf.SetValor(u"52998224725");
     EXPECT_EQ(ACaixas.Texto(0), u"5  .   .   -  ") << "what is being typed stays";
+    ACaixas.TeclarDesfazer();
+    EXPECT_EQ(cpf.GetTexto(), u"52998224725") << "what the program did is not undone";
+    ACaixas.Digitar(u"5");
     ACaixas.Deixar();
     EXPECT_EQ(cpf.GetTexto(), u"5");
     cpf.SetTexto(u"");
@@ -246,6 +249,7 @@ void OutraJanelaNoMeio(TCaixas& ACaixas) {
     ACaixas.Entrar(0);
     ACaixas.Digitar(u"52998");
     ACaixas.IrEVoltar();
+    EXPECT_EQ(cpf.GetTexto(), u"52998") << "the other window finds it in the field";
     ACaixas.Digitar(u"224725");
     EXPECT_EQ(ACaixas.Texto(0), u"529.982.247-25");
     ACaixas.Deixar();
