@@ -99,6 +99,9 @@ TMascara::TMascara(std::u16string_view AMascara, const TFormatSettings& AFormato
                 literal(padrao[i]);
         }
     }
+    FSoSepara = FSoSepara && std::ranges::find(FLugares, true, &TLugar::Separa) != FLugares.end();
+    if (FSoSepara)
+        for (TLugar& lugar : FLugares) lugar.Separa = lugar.Tipo == tlLiteral;
     if (FLugares.size() > CMaiorTamanho) Recusar(AMascara.substr(0, CMaiorTamanho), u"longa demais.");
     if (FCampos == 0) Recusar(AMascara, u"não tem onde digitar.");
     const bool tomado =
@@ -223,6 +226,8 @@ std::optional<std::size_t> TMascara::Inserir(std::u16string& ATexto, std::size_t
     if (!dentro) return APasso;
     while (campo < fim && lugarDe(campo).Tipo != tlLiteral) ++campo;
     const bool salta = campo < fim && lugarDe(campo).Separa && (FSoSepara || lugarDe(campo).Literal == ACaractere);
+    // A date has no group left for what comes behind the mark: "2012-03-05" where the day comes first.
+    if (!salta && FSoSepara && campo == fim && !EhVazio(ACaractere) && ACaractere > u' ') return std::nullopt;
     return salta ? campo + 1 : APasso;
 }
 

@@ -106,8 +106,10 @@ public:
 
     /// A typed character replaces the selection, or goes into the next place and the caret past it and the literals
     /// behind. A mark (see EhMarca) that its place does not take is passed over; inside a group that "/" or ":" ends,
-    /// that mark moves the caret behind it, and so does any mark where the mask has no other literals: "5/3/2024" and
-    /// "5-3-2024" may be typed as dates. Any other character is refused.
+    /// that mark moves the caret behind it, and so does any mark where the mask has no other literals than these and
+    /// blanks: "5/3/2024" and "5-3-2024 7:05" may be typed as dates; a mark inside the last group is refused there. In
+    /// a place for any character a space leaves it empty, and the character of empty places is refused. Any other
+    /// character is refused.
     TEdicaoMascara Digitar(const TEdicaoMascara& AEdicao, char16_t ACaractere) const;
     /// A pasted text replaces the selection and goes in like typed characters. It goes in whole or is refused.
     TEdicaoMascara Colar(const TEdicaoMascara& AEdicao, std::u16string_view ATexto) const;
@@ -162,6 +164,7 @@ private:
     void Esvaziar(std::u16string& ATexto, std::size_t AInicio, std::size_t AFim) const;
     template <bool AInverso>
     std::optional<std::size_t> Inserir(std::u16string& ATexto, std::size_t APasso, char16_t ACaractere) const;
+    std::optional<std::size_t> Receber(std::u16string& ATexto, std::size_t APosicao, char16_t ACaractere) const;
     template <bool AInverso>
     std::u16string Preencher(std::u16string_view AValor) const;
     template <bool AInverso>
@@ -175,7 +178,7 @@ private:
     char16_t FBranco = u'_';
     bool FGravaLiterais = true;
     bool FADireita = false;
-    /// The literals are separators of dates and times, and blanks: any mark ends a group.
+    /// The literals are separators of dates and times, and blanks between them: any mark ends a group.
     bool FSoSepara = true;
 };
 

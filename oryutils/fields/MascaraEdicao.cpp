@@ -59,6 +59,16 @@ TEdicaoMascara TMascara::Ajustar(const TEdicaoMascara& AEdicao) const {
     return edicao;
 }
 
+/// A typed or pasted character; see Inserir. A place for any character has a blank, too.
+std::optional<std::size_t> TMascara::Receber(std::u16string& ATexto, std::size_t APosicao, char16_t ACaractere) const {
+    const std::size_t campo = BuscarCampo(APosicao);
+    const bool qualquer = campo < ATexto.size() && FLugares[campo].Tipo == tlQualquer;
+    if (!qualquer || !EhVazio(ACaractere)) return Inserir<false>(ATexto, APosicao, ACaractere);
+    if (ACaractere != u' ') return std::nullopt;
+    ATexto[campo] = FBranco;
+    return campo + 1;
+}
+
 TEdicaoMascara TMascara::Digitar(const TEdicaoMascara& AEdicao, char16_t ACaractere) const {
     TEdicaoMascara antes = Ajustar(AEdicao);
     const auto [inicio, fim] = BuscarSelecao(antes);
@@ -70,16 +80,9 @@ TEdicaoMascara TMascara::Digitar(const TEdicaoMascara& AEdicao, char16_t ACaract
         return depois;
     }
     Esvaziar(depois.Texto, inicio, fim);
-    const std::size_t campo = BuscarCampo(inicio);
-    std::optional<std::size_t> seguinte;
-    if (ACaractere == u' ' && campo < depois.Texto.size() && FLugares[campo].Tipo == tlQualquer) {
-        depois.Texto[campo] = FBranco;
-        seguinte = campo + 1;
-    } else {
-        seguinte = Inserir<false>(depois.Texto, inicio, ACaractere);
-        if (seguinte == inicio) return antes;  // a mark: a selection waits for what comes behind it
-    }
+    const auto seguinte = Receber(depois.Texto, inicio, ACaractere);
     if (!seguinte) return Recusar(antes);
+    if (seguinte == inicio) return antes;  // a mark: a selection waits for what comes behind it
     depois.Cursor = depois.Ancora = BuscarCampo(*seguinte);
     return depois;
 }
@@ -93,7 +96,7 @@ TEdicaoMascara TMascara::Colar(const TEdicaoMascara& AEdicao, std::u16string_vie
         edicao.Cursor = edicao.Ancora = inicio + ATexto.size();
         return edicao;
     }
-    // A whole text of the mask keeps its empty places; in any other one blanks are marks.
+    // A whole text of the mask keeps its empty places.
     if (BuscarCampo(0) >= inicio && EhTextoDaMascara(ATexto)) {
         edicao.Texto = ParaEdicao(ATexto);
         edicao.Cursor = edicao.Ancora = edicao.Texto.size();
@@ -102,7 +105,7 @@ TEdicaoMascara TMascara::Colar(const TEdicaoMascara& AEdicao, std::u16string_vie
     Esvaziar(edicao.Texto, inicio, fim);
     std::size_t cursor = inicio;
     for (const char16_t c : ATexto) {
-        const auto seguinte = Inserir<false>(edicao.Texto, cursor, c);
+        const auto seguinte = Receber(edicao.Texto, cursor, c);
         if (!seguinte) return Recusar(antes);
         cursor = BuscarCampo(*seguinte);
     }

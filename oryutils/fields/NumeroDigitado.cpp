@@ -26,8 +26,8 @@ bool TirarSinal(std::u16string_view& ATexto) {
     return true;
 }
 
-/// The digits of a whole part that may have its thousands parted; none when the groups are not of three by one mark. "0.125"
-/// has no thousands.
+/// The digits of a whole part that may have its thousands parted; none when the groups are not of three by one mark.
+/// "0.125" has no thousands.
 std::optional<std::u16string> LerInteiro(std::u16string_view ATexto) {
     const auto primeira = std::ranges::find_if_not(ATexto, EhDigito);
     if (primeira == ATexto.end()) return std::u16string(ATexto);
@@ -49,7 +49,7 @@ std::optional<std::u16string> LerInteiro(std::u16string_view ATexto) {
 std::size_t BuscarMarcaDecimal(std::u16string_view ANumero, char16_t ADecimal) {
     const std::size_t ultima = ANumero.find_last_of(u".,");
     const std::size_t doFormato = ANumero.find_last_of(ADecimal);
-    if (ultima == ANumero.npos) return doFormato;
+    if (ultima == ANumero.npos || (doFormato != ANumero.npos && doFormato > ultima)) return doFormato;
     const char16_t marca = ANumero[ultima];
     if (std::ranges::count(ANumero, marca) > 1) return ANumero.npos;
     if (marca == ADecimal) return ultima;
@@ -68,7 +68,7 @@ std::optional<std::u16string> LerNumeroDigitado(std::u16string_view ATexto, cons
 
     std::u16string numero(texto);
     for (char16_t& c : numero) {
-        if (EhEspaco(c)) c = u' ';
+        if (c == CEspacoSemQuebra || c == CEspacoEstreito) c = u' ';
         const bool marca = c == u'.' || c == u',' || c == u' ' || c == u'\'' || c == AFormatos.ThousandSeparator ||
                            c == AFormatos.DecimalSeparator;
         if (!EhDigito(c) && !marca) return std::nullopt;

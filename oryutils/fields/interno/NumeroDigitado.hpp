@@ -16,6 +16,7 @@ namespace OryUtils::Interno {
 ///   - a mark that comes once is the decimal mark when it is that of the formats, or when it cannot part thousands:
 ///     "1234.56" and "0.125" are read so where the comma is the decimal mark, and "1.234" is a thousand.
 /// Thousands are parted in groups of three, all of them by the same mark: "." "," a blank, "'" or that of the formats.
+/// A tab or a line break parts two numbers.
 std::optional<std::u16string> LerNumeroDigitado(std::u16string_view ATexto, const OryTypes::TFormatSettings& AFormatos,
                                                 bool APercentual);
 
