@@ -96,7 +96,7 @@ void TField::SetEditMask(std::u16string_view AMascara) {
 }
 
 void TField::SetEscolhaDeMascara(TEscolhaDeMascara AEscolha) {
-    static_cast<void>(TMascara(AEscolha(u"")));
+    if (AEscolha) static_cast<void>(TMascara(AEscolha(u"")));
     FEditMask.clear();
     FEscolha = AEscolha;
     FSomenteCompleto = false;

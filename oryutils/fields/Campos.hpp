@@ -16,7 +16,7 @@
 namespace OryUtils {
 
 /// Which mask shows a number, told by its letters and digits: a phone of eight or nine digits, a CPF or a CNPJ. Any
-/// text may be asked for; the masks store no literals.
+/// text may be asked for; each answer is a sound mask that stores no literals.
 using TEscolhaDeMascara = std::u16string_view (*)(std::u16string_view AConteudo);
 
 /// A field of the data-access layer: a value of one kind and how controls show it. Starts without a value (null).
@@ -36,8 +36,8 @@ public:
     const std::u16string& GetEditMask() const noexcept { return FEditMask; }
     /// See TMascara; empty for none. Raises EConvertError for a broken one.
     void SetEditMask(std::u16string_view AMascara);
-    /// The mask follows the number; takes the place of the edit mask. Raises EConvertError when AEscolha(u"") is
-    /// broken.
+    /// The mask follows the number; takes the place of the edit mask. Null for no mask. Raises EConvertError when
+    /// AEscolha(u"") is broken.
     void SetEscolhaDeMascara(TEscolhaDeMascara AEscolha);
     TEscolhaDeMascara GetEscolhaDeMascara() const noexcept { return FEscolha; }
     /// The mask that shows ATexto. "/" and ":" are the separators of the formats in a field of dates or times; in any
