@@ -51,6 +51,7 @@ void TEditorDeCampo::Atualizar() {
     const std::u16string texto = FCampo.GetTextoExibido(FFormatos);
     static_cast<void>(PorNaMascara(texto));  // the mask that a text written by the program will meet
     FFiel = true;
+    FNaEntrada.reset();
     Mostrar({texto, 0, 0});
 }
 
@@ -58,7 +59,8 @@ void TEditorDeCampo::MostrarParaEditar() {
     TEdicaoMascara edicao{PorNaMascara(FCampo.GetTextoDeEdicao(FFormatos)), 0, 0};
     edicao.Cursor = edicao.Texto.size();  // all selected: typing replaces
     Mostrar(edicao);
-    FFiel = Ler().Texto == edicao.Texto;
+    FNaEntrada = Ler().Texto;
+    FFiel = FNaEntrada == edicao.Texto;
 }
 
 /// ATexto as it is edited, in the mask that is right for it; as it stands where that mask cannot show it whole.
@@ -81,6 +83,7 @@ void TEditorDeCampo::AoMudarFormatos() {
 void TEditorDeCampo::AoMudarCampo() {
     if (FGravando) return;
     FAoEntrar = FCampo.GetValor();
+    FNaEntrada.reset();
     if (!FModificado) Atualizar();
 }
 
@@ -139,6 +142,7 @@ bool TEditorDeCampo::Armazenar() {
     }
     FErro.clear();
     FModificado = false;
+    FNaEntrada.reset();
     return true;
 }
 
@@ -190,9 +194,25 @@ bool TEditorDeCampo::Trocar(const TEdicaoMascara& AAntes, const TEdicaoMascara& 
         Recusar();
         return false;
     }
-    if (ADepois.Texto != AAntes.Texto) FModificado = true;
-    Mostrar(ADepois);
-    return true;
+    if (ADepois.Texto != AAntes.Texto) AnotarMudanca(ADepois.Texto);
+    if (MostrarInteiro(ADepois)) return true;
+    AnotarMudanca(AAntes.Texto);
+    if (EhPorConteudo()) FMascara = FCampo.GetMascaraDoTexto(AAntes.Texto, FFormatos);
+    Mostrar(AAntes);
+    Recusar();
+    return false;
+}
+
+/// What the box now has is a change, unless it is what stood there on entering.
+void TEditorDeCampo::AnotarMudanca(std::u16string_view ATexto) {
+    FModificado = FNaEntrada != ATexto;
+    if (!FModificado) FErro.clear();
+}
+
+/// False when the box, which the host has limited, cuts the text that was typed.
+bool TEditorDeCampo::MostrarInteiro(const TEdicaoMascara& AEdicao) {
+    Mostrar(AEdicao);
+    return !FModificado || Ler().Texto.size() >= AEdicao.Texto.size();
 }
 
 bool TEditorDeCampo::AoDigitar(char16_t ACaractere) {
@@ -217,13 +237,14 @@ void TEditorDeCampo::AoTeclar(TTeclaMascara ATecla) {
 }
 
 void TEditorDeCampo::AoMudarTexto() {
-    FModificado = true;
+    if (EhSomenteLeitura()) return;
     const TEdicaoMascara lida = Ler();
+    AnotarMudanca(lida.Texto);
     TEdicaoMascara edicao{PorNaMascara(lida.Texto), lida.Cursor, lida.Ancora};
     if (edicao.Texto == lida.Texto) return;
     edicao.Cursor = std::min(edicao.Cursor, edicao.Texto.size());
     edicao.Ancora = std::min(edicao.Ancora, edicao.Texto.size());
-    Mostrar(edicao);
+    if (!MostrarInteiro(edicao)) FFiel = false;
 }
 
 /// The selection as characters of the content.

@@ -15,8 +15,9 @@ namespace OryUtils {
 /// texts, caret and selection between it and the native box.
 ///
 /// With the focus the box shows what is edited, otherwise what is displayed (see TField). Only a change that the person
-/// makes, or a text that the program writes into the box, reaches the field: entering and leaving leave it bit for bit.
-/// A field that the program changes is shown at once, unless the person has typed.
+/// makes, or a text that the program writes into the box, reaches the field: entering and leaving leave it bit for bit,
+/// also when what was typed has been taken back by hand. A field that the program changes is shown at once, unless the
+/// person has typed.
 ///
 /// With a mask the box edits in the mask. A mask that is aligned at the right ("!") or follows the number
 /// (SetEscolhaDeMascara) is laid out anew with each key. A value that the mask cannot show whole is edited as it
@@ -29,7 +30,8 @@ class ORY_API TEditorDeCampo {
 public:
     using TAoRecusar = TEvento<TEditorDeCampo&>;
 
-    /// ACampo must outlive the editor.
+    /// ACampo must outlive the editor, and the editor a change of the field: no listener of the field destroys it.
+    /// OnRecusar may.
     explicit TEditorDeCampo(TField& ACampo);
     virtual ~TEditorDeCampo();
     TEditorDeCampo(const TEditorDeCampo&) = delete;
@@ -98,6 +100,8 @@ private:
 
     void Recusar();
     bool Trocar(const TEdicaoMascara& AAntes, const TEdicaoMascara& ADepois);
+    void AnotarMudanca(std::u16string_view ATexto);
+    bool MostrarInteiro(const TEdicaoMascara& AEdicao);
     TFaixa BuscarSelecao(const TEdicaoMascara& AEdicao) const;
     TEdicaoMascara TrocarConteudo(const TEdicaoMascara& AAntes, std::u16string_view AIncluido);
     TEdicaoMascara ApagarConteudo(const TEdicaoMascara& AAntes, TTeclaMascara ATecla);
@@ -110,6 +114,8 @@ private:
     TFormatSettings FFormatos;
     TMascara FMascara;
     Variant FAoEntrar;
+    /// The text of the box for the value that the field has; with it nothing has been changed.
+    std::optional<std::u16string> FNaEntrada;
     std::u16string FErro;
     bool FTemFoco = false;
     bool FModificado = false;

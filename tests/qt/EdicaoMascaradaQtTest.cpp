@@ -199,6 +199,38 @@ TEST_F(EdicaoQt, CaixaMenorDoQueOValor) {
     caixas.Deixar();
     EXPECT_NE(editor.GetErro(), u"");
     EXPECT_EQ(nome.GetTexto(), u"Comercial Modelo");
+    // Room for a phone of ten digits: the eleventh is refused, whether typed, pasted or written by the program.
+    caixas.GetCaixa(0)->setMaxLength(13);
+    TField fone(ftString);
+    FormatarFoneDDD(fone);
+    TEditorDeCampo& editorFone = caixas.Ligar(0, fone);
+    caixas.Entrar(0);
+    caixas.Colar(u"11933334444");
+    EXPECT_EQ(caixas.Texto(0), u"(  )    -    ");
+    caixas.Digitar(u"11333344445");
+    EXPECT_EQ(caixas.Texto(0), u"(11)3333-4444");
+    caixas.Deixar();
+    EXPECT_EQ(fone.GetTexto(), u"1133334444");
+    caixas.Escrever(0, u"11933334444");
+    editorFone.Gravar();
+    EXPECT_NE(editorFone.GetErro(), u"");
+    EXPECT_EQ(fone.GetTexto(), u"1133334444");
+}
+
+// Whoever is told of a refusal may have the box unbound.
+TEST_F(EdicaoQt, DesligadaAoRecusar) {
+    struct TOuvinte {
+        TCaixasQt Caixas;
+        void Recusar(TEditorDeCampo&) { Caixas.Desligar(); }
+    } ouvinte;
+    TField cpf(ftString);
+    FormatarCPF(cpf);
+    ouvinte.Caixas.Ligar(0, cpf).OnRecusar = TEditorDeCampo::TAoRecusar::De<&TOuvinte::Recusar>(ouvinte);
+    ouvinte.Caixas.Entrar(0);
+    QInputMethodEvent composto;
+    composto.setCommitString("5x29");
+    QApplication::sendEvent(ouvinte.Caixas.GetCaixa(0), &composto);
+    EXPECT_EQ(ouvinte.Caixas.Texto(0), u"");
 }
 
 // Esc closes a dialog; a box in it does not keep the key.

@@ -167,8 +167,14 @@ bool TEdicaoMascaradaQt::TratarTecla(const QKeyEvent& ATecla) {
     if (decimal)
         AoTeclarDecimal();
     else
-        for (const QChar c : texto) AoDigitar(c.unicode());
+        DigitarTudo(texto);
     return true;
+}
+
+void TEdicaoMascaradaQt::DigitarTudo(const QString& ATexto) {
+    const QPointer<QObject> vivo(this);  // whoever is told of a refusal may destroy it
+    for (const QChar c : ATexto)
+        if (vivo) AoDigitar(c.unicode());
 }
 
 /// Text dragged from elsewhere, or moved inside the box.
@@ -184,7 +190,11 @@ void TEdicaoMascaradaQt::Soltar(QDropEvent& AEvento) {
     }
     const std::size_t tamanho = Ler().Texto.size();
     Mostrar({Ler().Texto, std::min(posicao, tamanho), std::min(posicao, tamanho)});
-    if (!AoColar(texto)) Mostrar(antes);
+    const QPointer<QObject> vivo(this);
+    if (!AoColar(texto) && vivo) {
+        Mostrar(antes);
+        AoMudarTexto();
+    }
     AEvento.acceptProposedAction();
 }
 
@@ -193,7 +203,7 @@ bool TEdicaoMascaradaQt::Compor(const QInputMethodEvent& AEvento) {
     if (AEvento.commitString().isEmpty() || !TrataTexto()) return false;
     QInputMethodEvent emCurso(AEvento.preeditString(), AEvento.attributes());
     FWidget->event(&emCurso);
-    for (const QChar c : AEvento.commitString()) AoDigitar(c.unicode());
+    DigitarTudo(AEvento.commitString());
     return true;
 }
 
@@ -210,6 +220,9 @@ bool TEdicaoMascaradaQt::eventFilter(QObject* AObjeto, QEvent* AEvento) {
     }
     if (FWidget->isReadOnly()) return false;
     switch (AEvento->type()) {
+        case QEvent::ReadOnlyChange:
+            if (FWidget->hasFocus()) AoEntrar();
+            return false;
         case QEvent::ShortcutOverride:
             // Esc and Ctrl+Z reach the box before a shortcut of the window does.
             if (const auto& tecla = *static_cast<QKeyEvent*>(AEvento);

@@ -34,6 +34,7 @@ protected:
 private:
     bool TratarTecla(const QKeyEvent& ATecla);
     bool Compor(const QInputMethodEvent& AEvento);
+    void DigitarTudo(const QString& ATexto);
     void Soltar(QDropEvent& AEvento);
     void AoEditar();
     void ConferirTexto();

@@ -39,7 +39,8 @@ struct TEdicaoMascaradaWin32::TTratador {
         if (edicao.Tratar(AMensagem, AWParam)) return AMensagem == EM_UNDO;
         const LRESULT resultado = ::DefSubclassProc(AJanela, AMensagem, AWParam, ALParam);
         if (edicao.FEscrevendo || !edicao.FJanela) return resultado;
-        if (AMensagem == WM_SETFOCUS && !edicao.EhSomenteLeitura()) edicao.AoEntrar();
+        const bool entrou = AMensagem == WM_SETFOCUS || (AMensagem == EM_SETREADONLY && ::GetFocus() == AJanela);
+        if (entrou && !edicao.EhSomenteLeitura()) edicao.AoEntrar();
         if (AMensagem == WM_KILLFOCUS) edicao.Deixar(reinterpret_cast<HWND>(AWParam));
         if (std::ranges::find(CQueMudamOTexto, AMensagem) != CQueMudamOTexto.end()) edicao.ConferirTexto();
         return resultado;

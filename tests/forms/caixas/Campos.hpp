@@ -21,6 +21,8 @@ struct TFeitioDeCampo {
 
 inline void FormatarData(TField& ACampo) { FormatarCampo(ACampo, u"99/99/9999;1;_"); }
 inline void FormatarHora(TField& ACampo) { FormatarCampo(ACampo, u"99:99:99;1;_"); }
+inline void FormatarMomento(TField& ACampo) { FormatarCampo(ACampo, u"99/99/9999 99:99;1;_"); }
+inline void FormatarLivre(TField& ACampo) { FormatarCampo(ACampo, u"ccccc;0;_"); }
 inline void FormatarSoExibicao(TField& ACampo) { FormatarCampoNumerico(ACampo, u",0.00 'reais'", u""); }
 
 inline constexpr TFeitioDeCampo CTexto{"texto", ftString, nullptr};
@@ -48,6 +50,8 @@ inline constexpr TFeitioDeCampo CData{"data", ftDate, FormatarData};
 inline constexpr TFeitioDeCampo CHora{"hora", ftTime, FormatarHora};
 inline constexpr TFeitioDeCampo CDataHora{"data e hora", ftDateTime, nullptr};
 inline constexpr TFeitioDeCampo CDataHoraEmMascara{"data e hora em máscara de data", ftDateTime, FormatarData};
+inline constexpr TFeitioDeCampo CMomento{"data e hora em máscara das duas", ftDateTime, FormatarMomento};
+inline constexpr TFeitioDeCampo CLivre{"máscara de caracteres quaisquer", ftString, FormatarLivre};
 
 inline constexpr TFeitioDeCampo CFeitios[] = {
     CTexto,  CCpf,     CCnpj,        CCnpjAlfa,   CCpfCnpj,
@@ -55,6 +59,7 @@ inline constexpr TFeitioDeCampo CFeitios[] = {
     CNcm,    CFoneDDD, CValor,       CPercentual, CInteiro,
     CGrande, CPequeno, CPositivo,    CSoExibicao, CInteiroEmDecimal,
     CNumero, CData,    CHora,        CDataHora,   CDataHoraEmMascara,
+    CLivre,  CMomento,
 };
 
 }  // namespace OryUtils

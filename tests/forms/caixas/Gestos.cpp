@@ -60,6 +60,9 @@ const TCaso CDigitados[] = {
     {CData, "5/3/2024", {}, "5_/3_/2024", "05/03/2024", "05/03/2024", 0},
     {CData, "30022024", {}, "30/02/2024", nullptr, "30/02/2024", 1},
     {CHora, "7:05", {}, "7_:05:__", "07:05:00", "07:05:00", 0},
+    {CMomento, "5/3/24 7:05", {}, "5_/3_/24__ 7_:05", "05/03/2024 07:05:00", "05/03/2024 07:05:00", 0},
+    {CLivre, "x y", {}, "x_y__", "x y", "x y  ", 0},
+    {CLivre, "x_y", {}, "xy___", "xy", "xy   ", 1},
     {CValor, "1.234,56", {}, "1.234,56", "1234,56", "1.234,56", 0},
     {CValor, "-12x34,5", {}, "-1234,5", "-1234,50", "-1.234,50", 1},
     {CValor, "1234.56", {}, "1234.56", "1234,56", "1.234,56", 0},
@@ -120,6 +123,10 @@ const TColado CColados[] = {
     {CFoneDDD, "0800-123-4567", "0800 123 4567"},
     {CData, "5/3/2024", "5_/3_/2024"},
     {CData, "05-03-2024", "05/03/2024"},
+    {CData, "2012-03-05", nullptr},
+    {CCompetencia, "2024-03", nullptr},
+    {CMomento, "5-3-24 10:12\n", "5_/3_/24__ 10:12"},
+    {CLivre, "x y", "x_y__"},
     {CValor, "1234.56", "1234,56"},
     {CValor, "1,234.56", "1234,56"},
     {CValor, "1.234,56", "1234,56"},
@@ -134,6 +141,8 @@ const TColado CColados[] = {
     {CValor, "1.2345.678", nullptr},
     {CValor, "012.345", "012345"},
     {CValor, "12 34", nullptr},
+    {CValor, "12\t345", nullptr},
+    {CValor, "10\r\n500", nullptr},
     {CPercentual, "7,5 %", "7,5"},
     {CInteiro, "1,5", nullptr},
     {CInteiro, "2,00", "2"},
@@ -180,6 +189,38 @@ void DesfazerTrazDeVolta(TCaixas& ACaixas) {
     }
 }
 
+// What was typed and deleted again is no change: neither rounded nor refused.
+void DigitadoERetirado(TCaixas& ACaixas) {
+    TNumericField valor(ftFloat);
+    FormatarCampoValor(valor);
+    valor.SetValor(10.5074L);
+    TField cep(ftString);
+    FormatarCEP(cep);
+    cep.SetValor(u"EC1A 1BB");
+    TField* const campos[] = {&valor, &cep};
+    for (TField* campo : campos) {
+        const Variant antes = campo->GetValor();
+        TEditorDeCampo& editor = ACaixas.Ligar(0, *campo);
+        ACaixas.Entrar(0);
+        ACaixas.Teclar(tmFim);
+        ACaixas.Digitar(u"7");
+        EXPECT_TRUE(editor.EstahModificado());
+        ACaixas.Teclar(tmApagar);
+        EXPECT_FALSE(editor.EstahModificado());
+        ACaixas.Deixar();
+        EXPECT_EQ(campo->GetValor(), antes);
+        EXPECT_EQ(editor.GetErro(), u"");
+        // Saved in between, the old text is a new value.
+        ACaixas.Entrar(0);
+        ACaixas.Selecionar(0, 8);
+        ACaixas.Digitar(u"12345678");
+        editor.Gravar();
+        EXPECT_NE(campo->GetValor(), antes);
+        campo->SetValor(antes);
+        ACaixas.Desligar();
+    }
+}
+
 void OProgramaMudaOCampoNaVisita(TCaixas& ACaixas) {
     TField cpf(ftString);
     FormatarCPF(cpf);
@@ -220,7 +261,14 @@ void SomenteLeituraNadaMuda(TCaixas& ACaixas) {
     ACaixas.Deixar();
     EXPECT_EQ(ACaixas.Texto(0), u"10,51");
     EXPECT_EQ(valor.GetValor(), Variant(10.5074L));
+    ACaixas.Escrever(0, u"9");
+    valor.SetValor(12.5L);
+    EXPECT_EQ(ACaixas.Texto(0), u"12,50") << "a text of the program is none that was typed";
+    ACaixas.Entrar(0);
     ACaixas.TornarSomenteLeitura(0, false);
+    ACaixas.Digitar(u"7");
+    ACaixas.Deixar();
+    EXPECT_EQ(valor.GetValor(), Variant(7.0L)) << "released with the focus in it";
     ACaixas.Desligar();
 }
 
@@ -347,6 +395,7 @@ constexpr struct {
     {OQueSeDigita, "typed"},
     {OQueSeCola, "pasted"},
     {DesfazerTrazDeVolta, "undone"},
+    {DigitadoERetirado, "typed and deleted"},
     {OProgramaMudaOCampoNaVisita, "changed by the program"},
     {SomenteLeituraNadaMuda, "read-only"},
     {OQueACaixaNaoMostraNaoSePerde, "what a box does not show"},
