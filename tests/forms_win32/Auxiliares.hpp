@@ -24,7 +24,7 @@ public:
     TUsuarioWin32() { InstalarToolkit(&FToolkit); }
     ~TUsuarioWin32() override {
         InstalarToolkit(nullptr);
-        Digitar(VK_CONTROL, false);
+        SoltarTeclas();
     }
 
     /// ARodar runs a loop of messages; APassos follow one another meanwhile, each when ADeveAndar. A loop that no step
@@ -40,7 +40,7 @@ public:
             if (!APassos.empty()) {
                 const auto passo = std::move(APassos.front());
                 APassos.pop_front();
-                Digitar(VK_CONTROL, false);
+                SoltarTeclas();
                 passo();
             } else if (++ociosos == CTiquesOciosos) {
                 ADD_FAILURE() << "no step ended the loop";
@@ -63,6 +63,10 @@ public:
             [&] { AFormulario.SetModalResult(-1); }, [&] { return AFormulario.ExecutarModal(); });
     }
 
+    void Conduzir(TPassos APassos, const std::function<void()>& AMostrar) override {
+        Conduzir(
+            std::move(APassos), [&] { return HaFormulario(); }, [&] { FecharJanela(); }, AMostrar);
+    }
     bool HaFormulario() override { return BuscarFormulario() != nullptr; }
     void Teclar(std::uint16_t ATecla) override {
         Tecla(ATecla);
@@ -75,6 +79,27 @@ public:
     void TeclarComCtrl(char ALetra) override {
         Digitar(VK_CONTROL, true);  // until the next step
         Tecla(static_cast<WPARAM>(ALetra));
+    }
+    void TeclarComShift(std::uint16_t ATecla) override {
+        Digitar(VK_SHIFT, true);  // until the next step
+        Tecla(ATecla);
+    }
+    TFoco VerFoco() override {
+        const HWND focado = ::GetFocus();
+        TFoco foco{RemoverAtalho(Texto(focado)), ::SendMessageW(focado, BM_GETCHECK, 0, 0) == BST_CHECKED};
+        for (const HWND filho : Filhos(::GetActiveWindow()))
+            if ((::GetWindowLongPtrW(filho, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON && EhBotao(filho))
+                foco.BotaoPadrao += RemoverAtalho(Texto(filho));
+        return foco;
+    }
+    std::u16string LerAreaDeTransferencia() override {
+        if (!::OpenClipboard(nullptr)) return u"(closed)";
+        const HANDLE dados = ::GetClipboardData(CF_UNICODETEXT);
+        const std::u16string texto =
+            dados ? Interno::DeWide(static_cast<const wchar_t*>(::GlobalLock(dados))) : std::u16string();
+        if (dados) ::GlobalUnlock(dados);
+        ::CloseClipboard();
+        return texto;
     }
     void Escrever(const char* ATexto) override { Escrever(std::wstring(ATexto, ATexto + std::strlen(ATexto)).c_str()); }
     void Clicar(std::u16string_view ACaption) override { ::PostMessageW(BuscarFilho(ACaption), BM_CLICK, 0, 0); }
@@ -156,6 +181,15 @@ public:
     static void Tecla(WPARAM ATecla) { ::PostMessageW(::GetFocus(), WM_KEYDOWN, ATecla, 1); }
     static void Escrever(const wchar_t* ATexto) {
         for (; *ATexto; ++ATexto) ::PostMessageW(::GetFocus(), WM_CHAR, *ATexto, 1);
+    }
+    static bool EhBotao(HWND AJanela) {
+        wchar_t classe[16]{};
+        ::GetClassNameW(AJanela, classe, 16);
+        return std::wstring_view(classe) == L"Button";
+    }
+    static void SoltarTeclas() {
+        Digitar(VK_CONTROL, false);
+        Digitar(VK_SHIFT, false);
     }
     /// Holds a key down, or lets it go, for the keys that follow.
     static void Digitar(int ATecla, bool APressionada) {

@@ -53,20 +53,6 @@ TEST_F(FormsWin32, CadaControleTemClasseEEstilo) {
              }});
 }
 
-TEST_F(FormsWin32, OBotaoFocadoEhDesenhadoComoPadrao) {
-    TFormularioCompleto formulario;
-    formulario.Grupo.SetIndice(0);
-    formulario.SetControleAtivo(&formulario.Grupo);
-    std::u16string padroes;
-    const auto anotar = [&] {
-        for (const HWND filho : Filhos(Janela(formulario)))
-            if ((::GetWindowLongPtrW(filho, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON) padroes += Texto(filho);
-        Tecla(VK_TAB);
-    };
-    Executar(formulario, {anotar, anotar, anotar, anotar, [&] { formulario.Fechar(); }});
-    EXPECT_EQ(padroes, u"&Sim&Sim&Não&Cancelar") << "Sim while the options have the focus";
-}
-
 TEST_F(FormsWin32, FicaCentradaOuOndeFoiDesenhadaEOndeOUsuarioAPuser) {
     const TRetangulo area = FToolkit.GetAreaDeTrabalho();
     for (const auto posicao : {pfCentroDaTela, pfDesenhada}) {

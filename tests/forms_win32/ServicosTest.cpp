@@ -75,12 +75,7 @@ TEST_F(FormsWin32, FiltroDoSeletorDeArquivos) {
 
 TEST_F(FormsWin32, AreaDeTransferencia) {
     FToolkit.CopiarParaAreaDeTransferencia(u"copiado: ação\n\U0001F600");
-    ASSERT_TRUE(::OpenClipboard(nullptr));
-    const HANDLE dados = ::GetClipboardData(CF_UNICODETEXT);
-    ASSERT_NE(dados, nullptr);
-    EXPECT_EQ(Interno::DeWide(static_cast<const wchar_t*>(::GlobalLock(dados))), u"copiado: ação\r\n\U0001F600");
-    ::GlobalUnlock(dados);
-    ::CloseClipboard();
+    EXPECT_EQ(LerAreaDeTransferencia(), u"copiado: ação\r\n\U0001F600");
 }
 
 TEST_F(FormsWin32, AAmpulhetaValeParaTodosOsFormularios) {

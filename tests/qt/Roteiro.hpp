@@ -47,8 +47,9 @@ inline int Responder(TFormulario& AFormulario, std::function<void()> APassos) {
     return AFormulario.ExecutarModal();
 }
 
-/// A key of the window in front, as the window system gives it.
-inline void DarTecla(Qt::Key ATecla, Qt::KeyboardModifiers AModificadores = Qt::NoModifier) {
+/// A key or a letter for the window in front, as the window system gives it.
+template <typename TTeclaQt>
+void DarTecla(TTeclaQt ATecla, Qt::KeyboardModifiers AModificadores = Qt::NoModifier) {
     const QWidget* frente = BuscarDialogo() ? BuscarDialogo() : QApplication::activeWindow();
     QTest::keyClick(frente->windowHandle(), ATecla, AModificadores);
 }
@@ -64,6 +65,12 @@ public:
         Seguir(std::make_shared<TPassos>(std::move(APassos)));
         return AFormulario.ExecutarModal();
     }
+    void Conduzir(TPassos APassos, const std::function<void()>& AMostrar) override {
+        const auto passos = std::make_shared<TPassos>(std::move(APassos));
+        Seguir(passos);
+        AMostrar();
+        passos->clear();
+    }
     bool HaFormulario() override { return BuscarDialogo() != nullptr; }
     void Teclar(std::uint16_t ATecla) override { DarTecla(BuscarTecla(ATecla)); }
     void TeclarComAlt(char ALetra) override {
@@ -76,7 +83,14 @@ public:
         }));
     }
     void TeclarComCtrl(char ALetra) override { DarTecla(static_cast<Qt::Key>(ALetra), Qt::ControlModifier); }
-    void Escrever(const char* ATexto) override { QTest::keyClicks(QApplication::focusWidget(), ATexto); }
+    void TeclarComShift(std::uint16_t ATecla) override {
+        DarTecla(ATecla == CTab ? Qt::Key_Backtab : BuscarTecla(ATecla), Qt::ShiftModifier);
+    }
+    TFoco VerFoco() override;
+    std::u16string LerAreaDeTransferencia() override;
+    void Escrever(const char* ATexto) override {
+        for (const char* letra = ATexto; *letra; ++letra) DarTecla(*letra);
+    }
     void Clicar(std::u16string_view ACaption) override { BuscarBotao(ACaption)->click(); }
     void ClicarComMouse(std::u16string_view ACaption) override {
         QAbstractButton* botao = BuscarBotao(ACaption);
@@ -92,11 +106,8 @@ public:
     }
 
     static Qt::Key BuscarTecla(std::uint16_t ATecla) {
-        const std::map<int, Qt::Key> teclas{{CTab, Qt::Key_Tab},
-                                            {CEnter, Qt::Key_Return},
-                                            {CEsc, Qt::Key_Escape},
-                                            {CAcima, Qt::Key_Up},
-                                            {CAbaixo, Qt::Key_Down}};
+        const std::map<int, Qt::Key> teclas{{CTab, Qt::Key_Tab},  {CEnter, Qt::Key_Return}, {CEsc, Qt::Key_Escape},
+                                            {CAcima, Qt::Key_Up}, {CAbaixo, Qt::Key_Down},  {CF1, Qt::Key_F1}};
         const auto tecla = teclas.find(ATecla);
         return tecla == teclas.end() ? static_cast<Qt::Key>(ATecla) : tecla->second;
     }
@@ -105,6 +116,7 @@ private:
     static void Seguir(const std::shared_ptr<TPassos>& APassos) {
         if (APassos->empty()) return;
         QuandoMostrar([APassos] {
+            if (APassos->empty()) return;
             const auto passo = std::move(APassos->front());
             APassos->pop_front();
             passo();

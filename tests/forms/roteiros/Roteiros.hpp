@@ -27,6 +27,13 @@ struct TVisto {
     int Escolhida = -1;
 };
 
+/// Where the person is on the form in front.
+struct TFoco {
+    std::u16string Texto;          ///< of the focused control, as it is read; an option has its own
+    bool Marcado = false;          ///< a checked option or check box
+    std::u16string BotaoPadrao{};  ///< caption of the button that is drawn as the one that Enter presses
+};
+
 /// The person in front of the form that is shown.
 class TUsuario {
 public:
@@ -37,11 +44,16 @@ public:
 
     /// Runs AFormulario; APassos follow one another, each when the one before has had its effects.
     virtual int Executar(TFormulario& AFormulario, TPassos APassos) = 0;
+    /// AMostrar shows a dialog of the library; APassos follow one another on it.
+    virtual void Conduzir(TPassos APassos, const std::function<void()>& AMostrar) = 0;
     virtual bool HaFormulario() = 0;
     /// A key of the model's codes, pressed where the focus is.
     virtual void Teclar(std::uint16_t ATecla) = 0;
     virtual void TeclarComAlt(char ALetra) = 0;
     virtual void TeclarComCtrl(char ALetra) = 0;
+    virtual void TeclarComShift(std::uint16_t ATecla) = 0;
+    virtual TFoco VerFoco() = 0;
+    virtual std::u16string LerAreaDeTransferencia() = 0;
     virtual void Escrever(const char* ATexto) = 0;
     virtual void Clicar(std::u16string_view ACaption) = 0;
     virtual void ClicarComMouse(std::u16string_view ACaption) = 0;
@@ -67,7 +79,7 @@ protected:
     const std::unique_ptr<TUsuario> FUsuario = CriarUsuario();
 };
 
-inline constexpr std::uint16_t CTab = 9, CEnter = 13, CEsc = 27, CEspaco = 32, CAcima = 38, CAbaixo = 40;
+inline constexpr std::uint16_t CTab = 9, CEnter = 13, CEsc = 27, CEspaco = 32, CAcima = 38, CAbaixo = 40, CF1 = 112;
 
 /// One is over the other, in part at least.
 inline bool SeTocam(const TRetangulo& A, const TRetangulo& B) {

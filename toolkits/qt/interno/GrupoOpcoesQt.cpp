@@ -41,7 +41,8 @@ int BuscarEspacoDoTexto(const QRadioButton& ABotao) {
 
 TGrupoOpcoesQt::TGrupoOpcoesQt(QWidget* APai, std::function<void(int)> AEscolheu) : QGroupBox(APai), FGrupo(this) {
     QObject::connect(&FGrupo, &QButtonGroup::idToggled, this,
-                     [escolheu = std::move(AEscolheu)](int AIndice, bool AMarcado) {
+                     [this, escolheu = std::move(AEscolheu)](int AIndice, bool AMarcado) {
+                         EscolherParadaDoTab();
                          if (AMarcado) escolheu(AIndice);
                      });
 }
@@ -57,6 +58,7 @@ std::vector<QRadioButton*> TGrupoOpcoesQt::CompletarItens(const std::vector<std:
         novos.push_back(botao);
     }
     if (!novos.empty()) Arrumar();
+    EscolherParadaDoTab();
     return novos;
 }
 
@@ -69,6 +71,12 @@ void TGrupoOpcoesQt::Escolher(int AIndice) {
         marcado->setChecked(false);
         FGrupo.setExclusive(true);
     }
+}
+
+// Qt stops at every button of a group until one of them had the focus.
+void TGrupoOpcoesQt::EscolherParadaDoTab() {
+    const QRadioButton* parada = GetBotaoDeFoco();
+    for (QRadioButton* botao : FBotoes) botao->setFocusPolicy(botao == parada ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 void TGrupoOpcoesQt::SetQuebraLinha(bool AQuebra) {

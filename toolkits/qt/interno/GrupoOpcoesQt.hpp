@@ -23,7 +23,7 @@ public:
     void Escolher(int AIndice);
     void SetQuebraLinha(bool AQuebra);
     const std::vector<QRadioButton*>& GetBotoes() const noexcept { return FBotoes; }
-    /// What takes the focus for the group: the chosen button, else the first; null when it has none.
+    /// What takes the focus for the group, also by Tab: the chosen button, else the first; null when it has none.
     QRadioButton* GetBotaoDeFoco() const;
 
 protected:
@@ -31,6 +31,7 @@ protected:
 
 private:
     void Arrumar();
+    void EscolherParadaDoTab();
 
     std::vector<QRadioButton*> FBotoes;
     std::vector<QString> FTextos;

@@ -2,6 +2,7 @@
 
 #include "toolkits/qt/interno/GrupoOpcoesQt.hpp"
 #include "toolkits/qt/interno/GuardaQt.hpp"
+#include "toolkits/qt/interno/NavegacaoQt.hpp"
 #include "toolkits/qt/interno/TeclasQt.hpp"
 #include "toolkits/qt/interno/TextoQt.hpp"
 
@@ -17,6 +18,7 @@
 #include <QStyle>
 #include <QWindow>
 
+#include <algorithm>
 #include <utility>
 
 namespace OryUtils {
@@ -198,7 +200,7 @@ void TJanelaQt::Aplicar(TControleFormulario& AControle, QWidget& AWidget) {
             break;
         }
         case tcBotao:
-            static_cast<QPushButton&>(AWidget).setDefault(Como<TBotao>(AControle).GetPadrao());
+            AtualizarPadrao();
             break;
         case tcGrupoOpcoes: {
             auto& modelo = Como<TGrupoOpcoes>(AControle);
@@ -293,6 +295,16 @@ void TJanelaQt::FocarInicial() {
     if (!ativo) return;
     FFormulario.AceitarControleAtivo(ativo);
     Focar(*ativo);
+    AtualizarPadrao();
+}
+
+// The button that Enter presses is drawn as such: the focused one, else the form's default.
+void TJanelaQt::AtualizarPadrao() {
+    const auto botoes = FFormulario.GetBotoes();
+    const auto focado = std::ranges::find(botoes, FFormulario.GetControleAtivo());
+    const auto pressionado = focado != botoes.end() ? focado : std::ranges::find_if(botoes, &TBotao::GetPadrao);
+    for (auto botao = botoes.begin(); botao != botoes.end(); ++botao)
+        if (QWidget* widget = Buscar(**botao)) static_cast<QPushButton*>(widget)->setDefault(botao == pressionado);
 }
 
 void TJanelaQt::GravarMemorandos() {
@@ -346,9 +358,11 @@ bool TJanelaQt::eventFilter(QObject* AObjeto, QEvent* AEvento) {
             FTeclaTratada = nullptr;
             break;
         case QEvent::KeyPress:
-            return TratarTeclaQt(*AEvento);
+            return TratarTeclaQt(static_cast<QKeyEvent&>(*AEvento));
         case QEvent::FocusIn:
-            if (controle) FFormulario.AceitarControleAtivo(controle);
+            if (!controle) break;
+            FFormulario.AceitarControleAtivo(controle);
+            AtualizarPadrao();
             break;
         case QEvent::FocusOut: {
             // A window or a menu that comes to the front takes nothing away from the form's own control.
@@ -368,14 +382,44 @@ bool TJanelaQt::eventFilter(QObject* AObjeto, QEvent* AEvento) {
     return QDialog::eventFilter(AObjeto, AEvento);
 }
 
-bool TJanelaQt::TratarTeclaQt(const QEvent& AEvento) {
+bool TJanelaQt::TratarTeclaQt(const QKeyEvent& AEvento) {
     if (FTeclaTratada == &AEvento) return false;
     FTeclaTratada = &AEvento;
-    TTecla tecla = DeEventoQt(static_cast<const QKeyEvent&>(AEvento));
-    bool tratada = true;  // also when a handler raised
-    if (tecla.Codigo == 0) return false;
-    Avisar([&] { tratada = FFormulario.TratarTecla(tecla); });
-    return tratada;
+    TTecla tecla = DeEventoQt(AEvento);
+    bool tratada = tecla.Codigo != 0;  // also when a handler raised
+    if (tratada) Avisar([&] { tratada = FFormulario.TratarTecla(tecla); });
+    return tratada || Navegar(AEvento);
+}
+
+bool TJanelaQt::Navegar(const QKeyEvent& AEvento) const {
+    const auto focado = FControles.find(focusWidget());
+    const TControleFormulario* controle = focado == FControles.end() ? nullptr : focado->second;
+    if (controle && (controle->GetTipo() == tcCaixaEdicao || controle->GetTipo() == tcMemorando)) return false;
+    return PressionarLetra(BuscarBotoes(), AEvento) || (controle && AndarComSetas(BuscarVizinhos(*controle), AEvento));
+}
+
+// In the order of Tab.
+QList<QAbstractButton*> TJanelaQt::BuscarBotoes() const {
+    QList<QAbstractButton*> botoes;
+    for (const auto& controle : FFormulario.GetControles()) botoes += BuscarBotoesDe(*controle, Buscar(*controle));
+    return botoes;
+}
+
+// The arrows walk inside a run of controls of one kind; each group of options is a run of its own.
+QList<QAbstractButton*> TJanelaQt::BuscarVizinhos(const TControleFormulario& AControle) const {
+    QList<QAbstractButton*> vizinhos;
+    bool passou = false;
+    for (const auto& controle : FFormulario.GetControles()) {
+        const bool mesmo = controle.get() == &AControle;
+        if (controle->GetTipo() != AControle.GetTipo() || (AControle.GetTipo() == tcGrupoOpcoes && !mesmo)) {
+            if (passou) break;
+            vizinhos.clear();
+            continue;
+        }
+        passou = passou || mesmo;
+        vizinhos += BuscarBotoesDe(*controle, Buscar(*controle));
+    }
+    return vizinhos;
 }
 
 }  // namespace OryUtils

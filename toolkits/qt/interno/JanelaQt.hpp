@@ -2,6 +2,7 @@
 
 #include "oryutils/forms/Formulario.hpp"
 
+#include <QAbstractButton>
 #include <QDialog>
 #include <QEventLoop>
 
@@ -51,7 +52,11 @@ private:
     /// Runs a handler of the form with the model up to date.
     void Avisar(const std::function<void()>& AAcao);
     bool AvisarSaidas();
-    bool TratarTeclaQt(const QEvent& AEvento);
+    bool TratarTeclaQt(const QKeyEvent& AEvento);
+    bool Navegar(const QKeyEvent& AEvento) const;
+    QList<QAbstractButton*> BuscarBotoes() const;
+    QList<QAbstractButton*> BuscarVizinhos(const TControleFormulario& AControle) const;
+    void AtualizarPadrao();
 
     TFormulario& FFormulario;
     std::unordered_map<const TControleFormulario*, QWidget*> FWidgets;
