@@ -19,7 +19,7 @@
 
 using namespace OryUtils;
 using Teste::CChave;
-using Testes::TVariavel;
+using ::Testes::TVariavel;
 
 namespace {
 
@@ -80,7 +80,7 @@ protected:
 TEST_F(TArmazem, GravadoresMortosNaoEstragamNada) {
     constexpr long CNomes = 8;
     constexpr std::size_t CTamanho = 3000;
-    Testes::TAcaso sorteio;
+    ::Testes::TAcaso sorteio;
     // A value of a kind that nobody knows, besides those that are written.
     EscreverArquivo(LerArquivo() + Interno::BytesDeUnidades(u"[HKEY_LOCAL_MACHINE\\" + std::u16string(CChave) +
                                                             u"]\r\n\"outro\"=hex(abcd):01\r\n"));
