@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::uint16_t CTeclaEnter = 13;
 constexpr std::uint16_t CTeclaEsc = 27;
+constexpr std::uint16_t CTeclaF1 = 112;
 
 TBotao* ComoBotao(TControleFormulario* AControle) {
     return AControle && AControle->GetTipo() == tcBotao ? static_cast<TBotao*>(AControle) : nullptr;
@@ -83,6 +84,10 @@ bool TFormulario::TratarTecla(TTecla& ATecla) {
     OnKeyDown(this, ATecla);
     if (ATecla.Tratada) return true;
     if (ATecla.Ctrl || ATecla.Alt || ATecla.Shift) return false;
+    if (ATecla.Codigo == CTeclaF1 && OnAjuda) {
+        PedirAjuda();
+        return true;
+    }
     const auto botoes = GetBotoes();
     const auto pressionar = [&](auto AEscolha) {
         const auto achado = std::find_if(botoes.begin(), botoes.end(),

@@ -24,7 +24,8 @@ struct TTecla {
     bool Shift = false;
     bool Ctrl = false;
     bool Alt = false;
-    bool Tratada = false;  ///< out: true keeps the key from the focused control
+    bool ComSelecao = false;  ///< text is selected, which Ctrl+C would copy
+    bool Tratada = false;     ///< out: true keeps the key from the focused control
 };
 
 /// The native window of a shown form, implemented by a toolkit.
@@ -93,6 +94,9 @@ public:
     TEvento<TObjeto*, TTecla&> OnKeyDown;
     /// Fired after the user resized the window; the client size is the new one.
     TEvento<TObjeto*> OnResize;
+    /// The user asks for help, by F1 or by a help button: the form and its ContextoAjuda.
+    TEvento<TObjeto*, int> OnAjuda;
+    void PedirAjuda() { OnAjuda(this, ContextoAjuda); }
 
     int GetModalResult() const noexcept { return FModalResult; }
     /// Other than mrNone ends the modal run.
@@ -110,8 +114,8 @@ public:
 
     // What the toolkits tell of the user, the same for all of them.
 
-    /// A key before the focused control: OnKeyDown, then Enter and Esc by the default and cancel buttons. Returns true
-    /// when the key is spent. Enter in a memo or on a focused button is left to the control.
+    /// A key before the focused control: OnKeyDown, then F1 by OnAjuda, Enter and Esc by the default and cancel
+    /// buttons. Returns true when the key is spent. Enter in a memo or on a focused button is left to the control.
     bool TratarTecla(TTecla& ATecla);
     void AoRedimensionar(int ALargura, int AAltura);
 

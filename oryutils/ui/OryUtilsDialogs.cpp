@@ -14,7 +14,7 @@ int Avisar(TMsgDlgType ATipo, TTextoDialogo ATitulo, std::u16string_view AMensag
     ExigirToolkit();
     const std::u16string& titulo = OryMsg::Textos().Buscar(ATitulo);
     if (GOryUtilsDialogs && GOryUtilsDialogs->GetCentralNotificacoes().EstahAcumulando()) {
-        GOryUtilsDialogs->GetCentralNotificacoes().Adicionar(titulo, AMensagem);
+        GOryUtilsDialogs->GetCentralNotificacoes().Adicionar(titulo, AMensagem, ATipo);
         return mrNone;
     }
     return OryMsg::ConfirmationCustom(AMensagem, ATipo, {mbOK}, mrNone, titulo, {OryMsg::Textos().BuscarCaption(mbOK)});

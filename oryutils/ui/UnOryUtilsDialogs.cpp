@@ -108,7 +108,7 @@ std::unique_ptr<TOryUtilsDialogsFormCustomizadoIOP> TOryUtilsDialogs::BuscarConf
 int TOryUtilsDialogs::ValidarExibicaoMensagem(const TOryUtilsDialogsFormCustomizadoIOP& AParametros) {
     ExigirToolkit();
     if (!FCentral.EstahAcumulando()) return ConfirmacaoCustomizada(AParametros);
-    FCentral.Adicionar(AParametros.Titulo, AParametros.Mensagem);
+    FCentral.Adicionar(AParametros.Titulo, AParametros.Mensagem, AParametros.TipoDialogo);
     return mrNone;
 }
 
@@ -161,6 +161,11 @@ TOryUtilsDialogsFormCustomizadoBaseIOP TOryUtilsDialogs::GetConfiguracao() const
 
 bool TOryUtilsDialogs::GetTemporizadorLigado() const noexcept {
     return !FFormularios->empty() && FFormularios->back()->GetTemporizadorLigado();
+}
+
+TEvento<TObjeto*, int>& EventoDeAjuda() {
+    static TEvento<TObjeto*, int> evento;
+    return evento;
 }
 
 void IniciarInterface() {

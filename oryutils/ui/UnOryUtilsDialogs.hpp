@@ -123,6 +123,12 @@ private:
 
 extern ORY_API TInstanciaGlobal<TOryUtilsDialogs> GOryUtilsDialogs;
 
+/// What the dialogs of both generations fire when the user asks for help, by F1 or by a button without an answer
+/// (mbHelp): the form, and its ContextoAjuda. Forms built afterwards fire it. Empty at first: then F1 is a key like any
+/// other.
+/// Example:  EventoDeAjuda() = TEvento<TObjeto*, int>::De<&TManual::AoPedirAjuda>(manual);
+ORY_API TEvento<TObjeto*, int>& EventoDeAjuda();
+
 /// Puts the dialogs behind the seam of the lower rooms, and takes them away.
 void IniciarInterface();
 void FinalizarInterface();

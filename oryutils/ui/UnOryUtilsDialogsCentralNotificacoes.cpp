@@ -17,8 +17,15 @@ std::u16string EscreverQuantidade(std::size_t AQuantidade) {
 
 }  // namespace
 
-void TOryUtilsDialogsCentralNotificacoes::Adicionar(std::u16string_view ATitulo, std::u16string_view AMensagem) {
+void TOryUtilsDialogsCentralNotificacoes::Adicionar(std::u16string_view ATitulo, std::u16string_view AMensagem,
+                                                    TMsgDlgType ATipo) {
+    FTipos.push_back(ATipo);
     FMensagens.push_back(std::u16string(ATitulo) + u": \r\n" + std::u16string(AMensagem));
+}
+
+void TOryUtilsDialogsCentralNotificacoes::Limpar() {
+    FMensagens.clear();
+    FTipos.clear();
 }
 
 int TOryUtilsDialogsCentralNotificacoes::Exibir() {
@@ -31,10 +38,13 @@ int TOryUtilsDialogsCentralNotificacoes::Exibir() {
         if (!parametros.MensagemDetalhe.empty()) parametros.MensagemDetalhe += u"\r\n\r\n";
         parametros.MensagemDetalhe += mensagem;
     }
+    for (const TMsgDlgType tipo : {mtWarning, mtError})
+        if (std::find(FTipos.begin(), FTipos.end(), tipo) != FTipos.end()) parametros.TipoDialogo = tipo;
     const int resultado = ExecutarFormularioDetalhe(parametros, textos.Buscar(tdInformacao), textos, nullptr, true);
     // Messages that arrived while the form was open stay. A Limpar called meanwhile may have left fewer.
-    FMensagens.erase(FMensagens.begin(),
-                     FMensagens.begin() + static_cast<std::ptrdiff_t>(std::min(quantidade, FMensagens.size())));
+    const auto mostradas = static_cast<std::ptrdiff_t>(std::min(quantidade, FMensagens.size()));
+    FMensagens.erase(FMensagens.begin(), FMensagens.begin() + mostradas);
+    FTipos.erase(FTipos.begin(), FTipos.begin() + mostradas);
     return resultado;
 }
 

@@ -2,6 +2,7 @@
 
 #include "oryutils/OryExport.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/ui/UnOryUtilsDialogsTypes.hpp"
 
 #include <string>
 #include <string_view>
@@ -28,20 +29,22 @@ public:
     }
     bool EstahAcumulando() const noexcept { return FAcumulos > 0; }
 
-    /// Keeps "ATitulo: ", a line break and AMensagem.
-    void Adicionar(std::u16string_view ATitulo, std::u16string_view AMensagem);
+    /// Keeps "ATitulo: ", a line break and AMensagem, a message of the kind ATipo.
+    void Adicionar(std::u16string_view ATitulo, std::u16string_view AMensagem, TMsgDlgType ATipo = mtInformation);
     /// Oldest first.
     const std::vector<std::u16string>& GetMensagens() const noexcept { return FMensagens; }
-    void Limpar() { FMensagens.clear(); }
+    void Limpar();
 
-    /// Shows what was kept as one detail form, the details open and the messages a blank line apart, and then forgets
-    /// it; also while accumulating. Returns the modal result; mrNone, and nothing is shown, when there are no messages.
-    /// Raises Exception when called from a thread that does not own the user interface.
+    /// Shows what was kept as one detail form, the details open and the messages a blank line apart, under the icon of
+    /// the gravest of them (an error, else a warning, else information), and then forgets it; also while accumulating.
+    /// Returns the modal result; mrNone, and nothing is shown, when there are no messages. Raises Exception when called
+    /// from a thread that does not own the user interface.
     int Exibir();
 
 private:
     int FAcumulos = 0;
     std::vector<std::u16string> FMensagens;
+    std::vector<TMsgDlgType> FTipos;  // of each message
 };
 
 /// Accumulates while it lives, exceptions included.

@@ -1,8 +1,11 @@
 // The forms as widgets: what tests for every toolkit leave out.
 #include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/ui/OryUtilsDialogs.hpp"
+#include "oryutils/ui/UnOryUtilsDialogs.hpp"
 
 #include "qt/Roteiro.hpp"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QGroupBox>
@@ -78,6 +81,88 @@ TEST_F(TTesteQt, Icone) {
         EXPECT_EQ(BuscarFilho<QLabel>(0)->pixmap().size(), QSize(32, 32));
         f.Fechar();
     });
+}
+
+TEST_F(TTesteQt, OQueEstahSelecionadoEmUmRotuloEhCopiado) {
+    Executar(*TOryUtilsDialogs().BuscarFormularioConfirmacaoCustomizado(
+                 *TOryUtilsDialogs().BuscarConfiguracaoPadraoMensagem(u"Nota 1234 rejeitada")),
+             {[] {
+                  BuscarFilho<QLabel>(1)->setSelection(5, 4);
+                  DarTecla(Qt::Key_C, Qt::ControlModifier);
+              },
+              [&] {
+                  EXPECT_EQ(LerAreaDeTransferencia(), u"1234");
+                  EXPECT_TRUE(BuscarFilho<QPushButton>()->hasFocus());
+                  BuscarDialogo()->close();
+              }});
+}
+
+/// What a screen reader is told of AObjeto and all that is in it: role, name, and "alert" with its description.
+void Ouvir(QAccessibleInterface* AObjeto, QStringList& AOuvido) {
+    if (!AObjeto || AObjeto->state().invisible) return;
+    const QString nome = AObjeto->text(QAccessible::Name);
+    switch (AObjeto->role()) {
+        case QAccessible::AlertMessage:
+            AOuvido += "alert " + nome + ": " + AObjeto->text(QAccessible::Description);
+            break;
+        case QAccessible::Graphic:
+            AOuvido += "graphic " + nome;
+            break;
+        case QAccessible::StaticText:
+            AOuvido += "text " + nome;
+            break;
+        case QAccessible::EditableText:
+            AOuvido += "edit " + nome;
+            break;
+        case QAccessible::RadioButton:
+            AOuvido += "option " + nome;
+            break;
+        case QAccessible::CheckBox:
+            AOuvido += "check " + nome;
+            break;
+        case QAccessible::Button:
+            AOuvido += "button " + nome;
+            break;
+        default:
+            break;
+    }
+    for (int i = 0; i < AObjeto->childCount(); ++i) Ouvir(AObjeto->child(i), AOuvido);
+}
+
+struct TCasoFalado {
+    void (*Mostrar)(TOryUtilsDialogs&);
+    const char* Esperado;
+    const char* Porque;
+};
+const TCasoFalado CFalados[] = {
+    {[](auto& d) { d.Confirmacao(u"Excluir?", btNo); },
+     "alert Confirmação: Excluir?|graphic Pergunta|text Excluir?|button Sim|button Não", "a question"},
+    {[](auto& d) { d.Erro(u"Falhou."); }, "alert Erro: Falhou.|graphic Erro|text Falhou.|button OK", ""},
+    {[](auto&) { OryMsg::InputBox(u"T", u"CNPJ:", u"1"); }, "text CNPJ:|edit CNPJ:|button OK|button Cancelar",
+     "a box is called as the label before it"},
+    {[](auto&) {
+         TFormulario f;
+         auto& memorando = f.Adicionar<TMemorando>();
+         memorando.SetNome(u"Detalhe");
+         auto& grupo = f.Adicionar<TGrupoOpcoes>();
+         grupo.SetRetangulo({0, 0, 120, 40});
+         grupo.AdicionarItem(u"uma &opção que não cabe nesta largura");
+         f.ExecutarModal();
+     },
+     "edit Detalhe|option uma opção que não cabe nesta largura", "an option that is cut is told whole"},
+};
+
+TEST_F(TTesteQt, LeitoresDeTelaOuvemNomesEPapeis) {
+    for (const TCasoFalado& c : CFalados) {
+        TOryUtilsDialogs dialogos;
+        QStringList ouvido;
+        QuandoMostrar([&] {
+            Ouvir(QAccessible::queryAccessibleInterface(BuscarDialogo()), ouvido);
+            BuscarDialogo()->close();
+        });
+        c.Mostrar(dialogos);
+        EXPECT_EQ(ouvido.join('|').toStdString(), c.Esperado) << c.Porque;
+    }
 }
 
 struct TCasoResposta {

@@ -9,8 +9,12 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QTranslator>
+#include <QTreeView>
 
 namespace OryUtils {
 namespace {
@@ -73,6 +77,58 @@ TEST_F(TTesteQt, HospedeiroQueFechaSuaJanelaDuranteODialogo) {
                             BuscarFilho<QPushButton>(1)->click();
                         }),
               mrNo);
+}
+
+/// Hears of the texts of Qt for which no translator installed after it has words.
+struct TSemTraducao : QTranslator {
+    mutable QStringList Textos{};
+    QString translate(const char* AContexto, const char* ATexto, const char*, int) const override {
+        // The same in Portuguese, or a question of Qt's to itself, as the names of keys in shortcuts are.
+        const QByteArrayList mesmos{"OK", "&OK", "QT_LAYOUT_DIRECTION"};
+        if (AContexto[0] == 'Q' && QByteArray(AContexto) != "QShortcut" && !QByteArray(ATexto).startsWith("Alt+") &&
+            !mesmos.contains(ATexto))
+            Textos += ATexto;
+        return {};
+    }
+    bool isEmpty() const override { return false; }
+};
+
+TEST_F(TTesteQt, OSeletorFalaPortuguesEApenasEscolhe) {
+    QTemporaryDir pasta;
+    QFile arquivo(pasta.filePath("notas.txt"));
+    ASSERT_TRUE(arquivo.open(QIODevice::WriteOnly));
+    arquivo.close();
+    TSemTraducao semTraducao;
+    QCoreApplication::installTranslator(&semTraducao);
+    QStringList colunas;
+    QString aviso;
+    QuandoMostrar([&] {
+        auto& seletor = *qobject_cast<QFileDialog*>(BuscarDialogo());
+        EXPECT_TRUE(seletor.testOption(QFileDialog::ReadOnly)) << "no key or menu deletes or renames";
+        EXPECT_FALSE(seletor.findChild<QAbstractButton*>("newFolderButton")->isEnabled());
+        seletor.setViewMode(QFileDialog::Detail);
+        const auto* lista = seletor.findChild<QTreeView*>();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return lista->model()->rowCount(lista->rootIndex()) == 1; }));
+        for (int coluna = 0; coluna < 4; ++coluna)
+            colunas += lista->model()->index(0, coluna, lista->rootIndex()).data().toString();
+        EXPECT_FALSE(lista->model()->index(0, 0, lista->rootIndex()).flags().testFlag(Qt::ItemIsEditable));
+        QuandoMostrar([&] {
+            aviso = qobject_cast<QMessageBox*>(BuscarDialogo())->text();
+            BuscarDialogo()->reject();
+        });
+        QTest::keyClicks(seletor.findChild<QLineEdit*>(), "outro.txt");
+        QTest::keyClick(seletor.findChild<QLineEdit*>(), Qt::Key_Return);
+        seletor.reject();
+    });
+    EXPECT_EQ(BuscarToolkit().EscolherArquivo(pasta.path().toStdU16String(), {}), std::nullopt);
+    QuandoMostrar([] { BuscarDialogo()->reject(); });
+    BuscarToolkit().EscolherPasta(u"Onde", u"");
+    EXPECT_EQ(semTraducao.Textos.join('|').toStdString(), "");
+    EXPECT_TRUE(aviso.contains("Arquivo não encontrado.")) << aviso.toStdString();
+    ASSERT_EQ(colunas.size(), 4);
+    EXPECT_EQ(colunas[2], "Arquivo TXT");
+    EXPECT_TRUE(QRegularExpression(R"(^\d\d/\d\d/\d{4} \d\d:\d\d$)").match(colunas[3]).hasMatch())
+        << colunas[3].toStdString();
 }
 
 TEST_F(TTesteQt, EscolhaDeArquivoEPasta) {

@@ -151,6 +151,7 @@ TEST_F(TesteDialogos, CentralGuardaEMostraDeUmaVez) {
         EXPECT_TRUE(AFormulario.BuscarControle(u"Detalhe")->GetVisivel());
         EXPECT_EQ(BuscarTexto(AFormulario, u"Detalhe"), u"Aviso: \r\nprimeira\r\n\r\nErro: \r\nsegunda");
         EXPECT_EQ(BuscarTexto(AFormulario, u"Message"), u"Mensagens registradas: 2");
+        EXPECT_EQ(static_cast<TIcone*>(AFormulario.BuscarControle(u"Image"))->GetIdIcone(), CIDsIcones[mtError]);
         central.Adicionar(u"Aviso", u"chegou enquanto mostrava");
         BuscarBotao(AFormulario, u"O&K").Clicar();
     });

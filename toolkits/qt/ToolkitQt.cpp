@@ -6,10 +6,10 @@
 #include "toolkits/qt/interno/AplicacaoQt.hpp"
 #include "toolkits/qt/interno/GuardaQt.hpp"
 #include "toolkits/qt/interno/JanelaQt.hpp"
+#include "toolkits/qt/interno/SeletorQt.hpp"
 #include "toolkits/qt/interno/TextoQt.hpp"
 
 #include <QClipboard>
-#include <QFileDialog>
 #include <QFontInfo>
 #include <QFontMetrics>
 #include <QPointer>
@@ -30,20 +30,6 @@ QApplication& Exigir() {
     if (!EhThreadDaAplicacao())
         throw Exception(u"Formulários só podem ser mostrados pela thread da interface do usuário.");
     return ExigirAplicacao();
-}
-
-// "*.*" means every file, also those without a point in the name.
-QString ParaFiltroQt(const TFiltroArquivo& AFiltro) {
-    QStringList mascaras = ParaQt(AFiltro.Mascara).split(QLatin1Char(';'), Qt::SkipEmptyParts);
-    for (QString& mascara : mascaras) mascara = mascara.trimmed() == QLatin1String("*.*") ? "*" : mascara.trimmed();
-    return ParaQt(AFiltro.Descricao) + QLatin1String(" (") + mascaras.join(QLatin1Char(' ')) + QLatin1Char(')');
-}
-
-// The chosen path; none when cancelled.
-std::optional<std::u16string> Escolher(QFileDialog& ADialogo) {
-    ADialogo.setAttribute(Qt::WA_QuitOnClose, false);
-    if (ADialogo.exec() != QDialog::Accepted || ADialogo.selectedFiles().isEmpty()) return std::nullopt;
-    return DeQt(ADialogo.selectedFiles().constFirst());
 }
 
 }  // namespace
@@ -141,21 +127,13 @@ void TToolkitQt::DesligarTemporizador(std::uintptr_t ATemporizador) { FTemporiza
 std::optional<std::u16string> TToolkitQt::EscolherArquivo(std::u16string_view APastaInicial,
                                                           const std::vector<TFiltroArquivo>& AFiltros) {
     Exigir();
-    QFileDialog dialogo(QApplication::activeWindow(), QStringLiteral("Abrir"), ParaQt(APastaInicial));
-    dialogo.setFileMode(QFileDialog::ExistingFile);
-    QStringList filtros;
-    for (const TFiltroArquivo& filtro : AFiltros) filtros += ParaFiltroQt(filtro);
-    if (!filtros.isEmpty()) dialogo.setNameFilters(filtros);
-    return Escolher(dialogo);
+    return EscolherArquivoQt(APastaInicial, AFiltros);
 }
 
 std::optional<std::u16string> TToolkitQt::EscolherPasta(std::u16string_view ATitulo,
                                                         std::u16string_view APastaInicial) {
     Exigir();
-    QFileDialog dialogo(QApplication::activeWindow(), ParaQt(ATitulo), ParaQt(APastaInicial));
-    dialogo.setFileMode(QFileDialog::Directory);
-    dialogo.setOption(QFileDialog::ShowDirsOnly);
-    return Escolher(dialogo);
+    return EscolherPastaQt(ATitulo, APastaInicial);
 }
 
 void TToolkitQt::SetCursor(TCursorTela ACursor) {

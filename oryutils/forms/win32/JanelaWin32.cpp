@@ -228,6 +228,11 @@ bool TJanelaWin32::TratarTecla(const MSG& AMensagem) {
     tecla.Shift = EstahPressionada(VK_SHIFT);
     tecla.Ctrl = EstahPressionada(VK_CONTROL);
     tecla.Alt = EstahPressionada(VK_MENU) || (AMensagem.message == WM_SYSKEYDOWN && AMensagem.lParam & CAltPressionada);
+    if (const TControleNativo* focado = BuscarNativo(AMensagem.hwnd); focado && EhTexto(focado->GetModelo())) {
+        DWORD inicio = 0, fim = 0;
+        ::SendMessageW(AMensagem.hwnd, EM_GETSEL, reinterpret_cast<WPARAM>(&inicio), reinterpret_cast<LPARAM>(&fim));
+        tecla.ComSelecao = inicio != fim;
+    }
     bool gasta = true;
     if (!Proteger(FExcecao, [&] { gasta = FFormulario.TratarTecla(tecla); }) || gasta) return true;
     // The system's multi-line box does not select everything by Ctrl+A.

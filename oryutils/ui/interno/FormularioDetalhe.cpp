@@ -1,13 +1,12 @@
 #include "oryutils/ui/interno/FormularioDetalhe.hpp"
 
 #include "oryutils/ui/interno/Medidas.hpp"
+#include "oryutils/ui/interno/TextoCopiado.hpp"
 
 #include <algorithm>
 
 namespace OryUtils {
 namespace {
-
-constexpr std::uint16_t CTeclaC = u'C';
 
 // Dialog units.
 constexpr int CLarguraMinima = 250;
@@ -62,7 +61,7 @@ std::u16string TFormularioDetalhe::BuscarTextoCompleto() const {
 void TFormularioDetalhe::AoClicar(TObjeto*) { MostrarDetalhe(!FDetalhe->GetVisivel()); }
 
 void TFormularioDetalhe::AoTeclar(TObjeto*, TTecla& ATecla) {
-    if (ATecla.Codigo != CTeclaC || !ATecla.Ctrl || ATecla.Shift || ATecla.Alt) return;
+    if (!EhCtrlC(ATecla)) return;
     TToolkit& toolkit = BuscarToolkit();
     toolkit.Bipar();
     toolkit.CopiarParaAreaDeTransferencia(BuscarTextoCompleto());

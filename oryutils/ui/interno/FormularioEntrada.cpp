@@ -1,6 +1,7 @@
 #include "oryutils/ui/interno/FormularioEntrada.hpp"
 
 #include "oryutils/forms/Toolkit.hpp"
+#include "oryutils/ui/UnOryUtilsDialogs.hpp"
 #include "oryutils/ui/interno/Medidas.hpp"
 
 #include <algorithm>
@@ -36,6 +37,7 @@ bool ExecutarFormularioEntrada(std::u16string_view ATitulo, std::u16string_view 
 
     TFormulario formulario;
     formulario.SetTitulo(ATitulo);
+    formulario.OnAjuda = EventoDeAjuda();
     auto& pergunta = formulario.Adicionar<TRotulo>();
     pergunta.SetNome(u"Message");
     pergunta.SetTexto(APergunta);

@@ -2,7 +2,9 @@
 
 #include "oryutils/dates/OryUtilsDatas.hpp"
 #include "oryutils/runtime/Modelo.hpp"
+#include "oryutils/ui/UnOryUtilsDialogs.hpp"
 #include "oryutils/ui/interno/Medidas.hpp"
+#include "oryutils/ui/interno/TextoCopiado.hpp"
 
 #include <algorithm>
 #include <array>
@@ -68,6 +70,8 @@ TFormularioMensagem::TFormularioMensagem(const TOryUtilsDialogsFormCustomizadoBa
     EscolherBotaoPadrao();
     Dispor();
     OnShow = TEvento<TObjeto*>::De<&TFormularioMensagem::AoMostrar>(*this);
+    OnKeyDown = TEvento<TObjeto*, TTecla&>::De<&TFormularioMensagem::AoTeclar>(*this);
+    OnAjuda = EventoDeAjuda();
     if (FVivos) FVivos->push_back(this);
 }
 
@@ -105,6 +109,17 @@ void TFormularioMensagem::AplicarParametros(const TTextosDialogos& ATextos) {
         botoes[k]->SetModalResult(CModalResults[static_cast<std::size_t>(tipo)]);
         if (botoes[k]->GetModalResult() == FParametros.BotaoPadrao) SetControleAtivo(botoes[k]);
     }
+    for (TBotao* botao : botoes)
+        if (botao->GetModalResult() == mrNone)
+            botao->OnClick = TEvento<TObjeto*>::De<&TFormularioMensagem::AoClicarAjuda>(*this);
+}
+
+void TFormularioMensagem::AoClicarAjuda(TObjeto*) { PedirAjuda(); }
+
+void TFormularioMensagem::AoTeclar(TObjeto*, TTecla& ATecla) {
+    if (!EhCtrlC(ATecla) || ATecla.ComSelecao) return;
+    BuscarToolkit().CopiarParaAreaDeTransferencia(MontarTextoCopiado(*this));
+    ATecla.Tratada = true;
 }
 
 // Enter and Esc follow what the buttons answer, not the kinds they were created for: Esc must never say yes.

@@ -20,7 +20,8 @@ inline constexpr std::u16string_view CNomeMensagem = u"Message";
 
 /// The standard message form with the captions, results and focus of its parameters: icon, label "Message", one button
 /// for each kind of the set in kind order. It closes itself when its parameters say so; its timer is on only between
-/// showing and the first tick or the end of the modal run.
+/// showing and the first tick or the end of the modal run. Ctrl+C copies it as text (MontarTextoCopiado), unless some
+/// of it is selected.
 class TFormularioMensagem : public TFormulario {
 public:
     /// AVivos  list in which the form stands while it lives; null for none.
@@ -45,6 +46,8 @@ private:
     void EscolherBotaoPadrao();
     int DisporMensagem(TTamanho AMaximo, int AEsquerda);
     void AoMostrar(TObjeto* ASender);
+    void AoTeclar(TObjeto* ASender, TTecla& ATecla);
+    void AoClicarAjuda(TObjeto* ASender);
     void AoVencerTempo();
     void DesligarTemporizador() noexcept;
 

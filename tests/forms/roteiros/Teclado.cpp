@@ -176,5 +176,73 @@ TEST_F(Roteiro, PasseiosPeloTeclado) {
     }
 }
 
+#define TRACO "---------------------------\n"
+
+// Higher than the screen.
+const std::u16string CLonga = u"linha" + std::u16string(300, u'\n') + u"fim";
+
+struct TCasoDeCopia {
+    int (*Mostrar)(TOryUtilsDialogs&);
+    std::vector<const char*> Teclas;  ///< before Ctrl+C
+    std::string Copiado;
+    const char* Porque;
+};
+const TCasoDeCopia CCopias[] = {
+    {[](auto& d) { return d.ConfirmacaoRetornoModal(u"Excluir\r\ntudo?", btNo, u"Cuidado"); },
+     {},
+     TRACO "Cuidado\n" TRACO "Excluir\ntudo?\n" TRACO "Sim   Não   \n" TRACO,
+     "as the system's own boxes do"},
+    {ComOpcoes<0>,
+     {"Shift+Tab", "Down"},
+     TRACO "Título\n" TRACO "Uma mensagem.\n( ) Uma\n(x) Outra\n( ) Terceira\n" TRACO "Imprimir   Cancelar   \n" TRACO,
+     "with what is chosen now"},
+    {ComCaixa,
+     {"n"},
+     TRACO "Título\n" TRACO "Uma mensagem.\n[x] Não perguntar\n" TRACO "Imprimir   Cancelar   \n" TRACO,
+     ""},
+    {ComDetalhes, {}, "Uma mensagem.\n\ndetalhe", "a detail form copies its texts"},
+    {[](auto& d) { return d.Informacao(CLonga); },
+     {"Tab", "Ctrl+A"},
+     ParaUtf8(CLonga),
+     "what is selected goes before the whole"},
+};
+
+TEST_F(Roteiro, CtrlCCopiaAMensagem) {
+    for (const TCasoDeCopia& c : CCopias) {
+        TPassos passos;
+        for (const char* tecla : c.Teclas) passos.push_back([&, tecla] { Dar(*FUsuario, tecla); });
+        passos.push_back([&] { Dar(*FUsuario, "Ctrl+C"); });
+        std::string copiado;
+        passos.push_back([&] {
+            copiado = ParaUtf8(FUsuario->LerAreaDeTransferencia());
+            FUsuario->FecharJanela();
+        });
+        TOryUtilsDialogs dialogos;
+        FUsuario->Conduzir(passos, [&] { c.Mostrar(dialogos); });
+        std::erase(copiado, '\r');
+        EXPECT_EQ(copiado, c.Copiado) << c.Porque;
+    }
+}
+
+TEST_F(Roteiro, AjudaPorF1EPeloBotao) {
+    std::vector<int> contextos;
+    TOuvinte<TObjeto*, int> ajuda{[&](TObjeto*, int AContexto) { contextos.push_back(AContexto); }};
+    EventoDeAjuda() = ajuda.GetEvento();
+    TOryUtilsDialogs dialogos;
+    TOryUtilsDialogsFormCustomizadoComDetalhesIOP parametros;
+    parametros.Botoes = {mbOK, mbHelp};
+    parametros.CaptionBotoes = {u"O&K", u"&Ajuda"};
+    parametros.ContextoAjuda = 42;
+    TPassos passos;
+    for (const char* tecla : {"F1", "a", "Alt+A", "Esc"}) passos.push_back([this, tecla] { Dar(*FUsuario, tecla); });
+    FUsuario->Conduzir(passos, [&] { EXPECT_EQ(dialogos.ConfirmacaoCustomizadaComDetalhes(parametros), mrCancel); });
+    EXPECT_EQ(contextos, (std::vector<int>{42, 42, 42}));
+    std::u16string valor;
+    FUsuario->Conduzir({[&] { Dar(*FUsuario, "F1"); }, [&] { Dar(*FUsuario, "Esc"); }},
+                       [&] { dialogos.InputQuery(u"T", u"Valor", valor); });
+    EXPECT_EQ(contextos, (std::vector<int>{42, 42, 42, 0})) << "an input box has no context";
+    EventoDeAjuda() = {};
+}
+
 }  // namespace
 }  // namespace OryUtils

@@ -113,6 +113,7 @@ void TGrupoOpcoesQt::Arrumar() {
             if (cabe.isEmpty()) cabe = metricas.elidedText(texto, Qt::ElideRight, espaco, Qt::TextShowMnemonic);
         }
         FBotoes[i]->setText(cabe);
+        FBotoes[i]->setAccessibleName(QString::fromStdU16String(RemoverAtalho(texto.toStdU16String())));
         FBotoes[i]->setToolTip(cabe.endsWith(QChar(0x2026)) ? texto.toHtmlEscaped() : QString());
     }
 }

@@ -1,5 +1,6 @@
 #include "toolkits/qt/interno/JanelaQt.hpp"
 
+#include "toolkits/qt/interno/AcessoQt.hpp"
 #include "toolkits/qt/interno/GrupoOpcoesQt.hpp"
 #include "toolkits/qt/interno/GuardaQt.hpp"
 #include "toolkits/qt/interno/NavegacaoQt.hpp"
@@ -56,6 +57,7 @@ TJanelaQt::TJanelaQt(TFormulario& AFormulario)
     : QDialog(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                            Qt::WindowCloseButtonHint),
       FFormulario(AFormulario) {
+    DeclararAlertas();
     // A dialog that is the last window must not end the host's application.
     setAttribute(Qt::WA_QuitOnClose, false);
     setWindowModality(Qt::ApplicationModal);
@@ -141,6 +143,8 @@ QWidget* TJanelaQt::Criar(TControleFormulario& AControle) {
             auto* rotulo = new QLabel(this);
             rotulo->setTextFormat(Qt::PlainText);
             rotulo->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+            rotulo->setTextInteractionFlags(Qt::TextSelectableByMouse);
+            rotulo->setFocusPolicy(Qt::NoFocus);  // who selects a word leaves no box by that
             return rotulo;
         }
         case tcIcone:
@@ -185,6 +189,7 @@ void TJanelaQt::Vigiar(QWidget& AWidget, TControleFormulario& AControle) {
 }
 
 void TJanelaQt::Aplicar(TControleFormulario& AControle, QWidget& AWidget) {
+    AWidget.setAccessibleName(BuscarNomeFalado(AControle));
     AWidget.setGeometry(DeRetangulo(AControle.GetRetangulo()));
     AWidget.setEnabled(AControle.GetHabilitado());
     AWidget.setVisible(AControle.GetVisivel());
@@ -386,9 +391,10 @@ bool TJanelaQt::TratarTeclaQt(const QKeyEvent& AEvento) {
     if (FTeclaTratada == &AEvento) return false;
     FTeclaTratada = &AEvento;
     TTecla tecla = DeEventoQt(AEvento);
+    tecla.ComSelecao = HaTextoSelecionado(*this);
     bool tratada = tecla.Codigo != 0;  // also when a handler raised
     if (tratada) Avisar([&] { tratada = FFormulario.TratarTecla(tecla); });
-    return tratada || Navegar(AEvento);
+    return tratada || CopiarDoRotulo(*this, AEvento) || Navegar(AEvento);
 }
 
 bool TJanelaQt::Navegar(const QKeyEvent& AEvento) const {

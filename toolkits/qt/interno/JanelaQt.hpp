@@ -25,6 +25,8 @@ public:
     /// Leaves the innermost loop of this window.
     void Acordar();
 
+    const TFormulario& GetFormulario() const noexcept { return FFormulario; }
+
     void Mudou(TControleFormulario& AControle, TMudanca AMudanca) override;
     void MudouFormulario(TMudanca AMudanca) override;
     void ResultadoMudou() override;

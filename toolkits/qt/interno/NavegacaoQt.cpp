@@ -2,6 +2,11 @@
 
 #include "toolkits/qt/interno/GrupoOpcoesQt.hpp"
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QRadioButton>
 
 #include <algorithm>
@@ -16,6 +21,18 @@ QList<QAbstractButton*> AposOFocado(QList<QAbstractButton*> ABotoes) {
     const auto focado = std::ranges::find_if(ABotoes, &QWidget::hasFocus);
     if (focado != ABotoes.end()) std::rotate(ABotoes.begin(), focado + 1, ABotoes.end());
     return ABotoes;
+}
+
+bool HaSelecaoNoFoco(const QWidget& AJanela) {
+    const auto* caixa = qobject_cast<const QLineEdit*>(AJanela.focusWidget());
+    const auto* memorando = qobject_cast<const QPlainTextEdit*>(AJanela.focusWidget());
+    return (caixa && caixa->hasSelectedText()) || (memorando && memorando->textCursor().hasSelection());
+}
+
+const QLabel* BuscarRotuloSelecionado(const QWidget& AJanela) {
+    const auto rotulos = AJanela.findChildren<const QLabel*>();
+    const auto achado = std::ranges::find_if(rotulos, &QLabel::hasSelectedText);
+    return achado == rotulos.end() ? nullptr : *achado;
 }
 
 }  // namespace
@@ -54,6 +71,15 @@ bool AndarComSetas(const QList<QAbstractButton*>& ABotoes, const QKeyEvent& ATec
     if (proximo == botoes.end()) return true;
     (*proximo)->setFocus(avanca ? Qt::TabFocusReason : Qt::BacktabFocusReason);
     if (qobject_cast<QRadioButton*>(*proximo)) (*proximo)->click();
+    return true;
+}
+
+bool HaTextoSelecionado(const QWidget& AJanela) { return HaSelecaoNoFoco(AJanela) || BuscarRotuloSelecionado(AJanela); }
+
+bool CopiarDoRotulo(const QWidget& AJanela, const QKeyEvent& ATecla) {
+    const QLabel* rotulo = BuscarRotuloSelecionado(AJanela);
+    if (!rotulo || !ATecla.matches(QKeySequence::Copy) || HaSelecaoNoFoco(AJanela)) return false;
+    QGuiApplication::clipboard()->setText(rotulo->selectedText());
     return true;
 }
 

@@ -19,4 +19,10 @@ bool PressionarLetra(const QList<QAbstractButton*>& ABotoes, const QKeyEvent& AT
 /// that it reaches is chosen. False when the key is no arrow.
 bool AndarComSetas(const QList<QAbstractButton*>& ABotoes, const QKeyEvent& ATecla);
 
+/// Whether Ctrl+C would copy a part of a text: of the focused box or memo, or of a label.
+bool HaTextoSelecionado(const QWidget& AJanela);
+
+/// Labels take no focus: Ctrl+C copies what is selected in one while the focused control has no selection of its own.
+bool CopiarDoRotulo(const QWidget& AJanela, const QKeyEvent& ATecla);
+
 }  // namespace OryUtils

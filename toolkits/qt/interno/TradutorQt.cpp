@@ -23,12 +23,23 @@ constexpr std::array CTraducoes{
     TTraducao{"Delete", "Excluir"},
     TTraducao{"&Delete", "&Excluir"},
     TTraducao{"Select All", "Selecionar tudo"},
+    TTraducao{"Copy &Link Location", "Copiar &endereço do link"},
     // The file dialog.
     TTraducao{"Look in:", "Examinar:"},
     TTraducao{"File &name:", "&Nome do arquivo:"},
     TTraducao{"&File name:", "&Nome do arquivo:"},
     TTraducao{"Files of type:", "Arquivos do tipo:"},
     TTraducao{"Directory:", "Pasta:"},
+    TTraducao{"Directories", "Pastas"},
+    TTraducao{"All files (*)", "Todos os arquivos (*)"},
+    TTraducao{"All Files (*)", "Todos os arquivos (*)"},
+    TTraducao{"Show ", "Mostrar "},
+    TTraducao{"Sidebar", "Locais"},
+    TTraducao{"List of places and bookmarks", "Lista de locais e favoritos"},
+    TTraducao{"Files", "Arquivos"},
+    TTraducao{"Find Directory", "Procurar pasta"},
+    TTraducao{"Save As", "Salvar como"},
+    TTraducao{"Open", "Abrir"},
     TTraducao{"&Open", "&Abrir"},
     TTraducao{"&Choose", "E&scolher"},
     TTraducao{"Cancel", "Cancelar"},
@@ -71,8 +82,10 @@ constexpr std::array CTraducoes{
 
 }  // namespace
 
-QString TTradutorQt::translate(const char*, const char* ATexto, const char*, int) const {
-    const std::string_view original = ATexto ? ATexto : "";
+QString TTradutorQt::translate(const char* AContexto, const char* ATexto, const char*, int) const {
+    const std::string_view contexto = AContexto ? AContexto : "", original = ATexto ? ATexto : "";
+    // A host may call something of its own "Name".
+    if (!contexto.starts_with('Q')) return {};
     const auto achada =
         std::find_if(CTraducoes.begin(), CTraducoes.end(), [&](const TTraducao& t) { return t.Original == original; });
     return achada == CTraducoes.end() ? QString() : QString::fromUtf8(achada->Portugues);
