@@ -1,0 +1,61 @@
+// What a screen reader of Windows is told of the dialogs.
+#include "oryutils/characters/Utf.hpp"
+#include "oryutils/ui/UnOryUtilsDialogs.hpp"
+
+#include "Auxiliares.hpp"
+
+#include <oleacc.h>
+
+namespace OryUtils {
+namespace {
+
+// IID_IAccessible; oleacc.dll refuses the one that the compiler's libraries bring.
+constexpr IID CInterface{0x618736e0, 0x3c3d, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
+
+/// The name of a window, asked as a screen reader asks from another program; "edit" goes before that of a box. Wine
+/// gives every other control one role, the one of a window's inside.
+std::string Ouvir(HWND AJanela) {
+    IAccessible* objeto = nullptr;
+    if (::AccessibleObjectFromWindow(AJanela, static_cast<DWORD>(OBJID_CLIENT), CInterface,
+                                     reinterpret_cast<void**>(&objeto)) != S_OK)
+        return "(nothing)";
+    VARIANT eu{}, papel{};
+    eu.vt = VT_I4;
+    BSTR nome = nullptr;
+    objeto->get_accRole(eu, &papel);
+    objeto->get_accName(eu, &nome);
+    std::string ouvido = papel.lVal == ROLE_SYSTEM_TEXT ? "edit " : "";
+    if (nome) ouvido += ParaUtf8(Interno::DeWide(nome));
+    ::SysFreeString(nome);
+    objeto->Release();
+    return ouvido;
+}
+
+struct TCasoFalado {
+    void (*Mostrar)(TOryUtilsDialogs&);
+    std::vector<std::string> Esperado;
+};
+const TCasoFalado CFalados[] = {
+    {[](auto& d) { d.Confirmacao(u"Excluir?", btNo); }, {"Confirmação", "", "Excluir?", "Sim", "Não"}},
+    {[](auto& d) { d.InputBox(u"T", u"CNPJ:", u"1"); }, {"T", "CNPJ:", "edit CNPJ:", "OK", "Cancelar"}},
+};
+
+TEST_F(FormsWin32, LeitoresDeTelaOuvemNomes) {
+    ::CoInitialize(nullptr);
+    for (const TCasoFalado& c : CFalados) {
+        TOryUtilsDialogs dialogos;
+        std::vector<std::string> ouvido;
+        const auto ouvir = [&] {
+            const HWND formulario = ::GetActiveWindow();
+            ouvido.push_back(Ouvir(formulario));
+            for (const HWND filho : Filhos(formulario)) ouvido.push_back(Ouvir(filho));
+            FecharJanela();
+        };
+        Conduzir(TPassos{ouvir}, [&] { c.Mostrar(dialogos); });
+        EXPECT_EQ(ouvido, c.Esperado);
+    }
+    ::CoUninitialize();
+}
+
+}  // namespace
+}  // namespace OryUtils
