@@ -81,6 +81,22 @@ TEST_F(RoteiroDoCadastro, AsCaixasSeguemAsMascarasESairConfere) {
     }
 }
 
+// The rule of the registration depends on the state: one may leave a bad number for the choice of it, and back.
+TEST_F(RoteiroDoCadastro, AUfPodeSerEscolhidaDepoisDaInscricao) {
+    u->Conduzir({[&] {
+                     u->Exemplificar();
+                     u->Preencher(caIE, "");
+                     u->Focar(caIE);
+                 },
+                 [&] { Escrever("123"); }, [&] { u->Focar(caUF); },
+                 [&] {
+                     EXPECT_EQ(u->LerAviso(), "");
+                     EXPECT_TRUE(u->EstahFocado(caUF));
+                     u->Focar(caIE);
+                 },
+                 [&] { Teclar(CTab); }, [&] { Responder("Inscrição estadual inválida para a UF. Verifique."); }});
+}
+
 TEST_F(RoteiroDoCadastro, AltELetraVaiAoCampoDaLetra) {
     TPassos passos{[&] { u->Exemplificar(); }};
     for (std::size_t i = 0; i < CCampos.size(); ++i) {
