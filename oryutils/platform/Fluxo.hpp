@@ -43,8 +43,11 @@ public:
     /// later: on Linux who may read and write that one, where it exists, may do so with the new one from the beginning
     /// and nobody else. On Windows the folder says who may.
     TErroFluxo CriarNovo(const std::string& ANome, const std::string& ASubstituido = {});
-    /// Creates a file, or empties the one that is there, for writing. Others may read and write it meanwhile.
-    TErroFluxo CriarOuEsvaziar(const std::string& ANome);
+    /// Creates a file, or opens the one that is there, for writing from its start: what stands behind the written bytes
+    /// stays until CortarAqui. Others may read and write it meanwhile.
+    TErroFluxo AbrirParaReescrever(const std::string& ANome);
+    /// A file ends where the last byte was written; anything but a file stays as it is.
+    TErroFluxo CortarAqui() noexcept;
     /// Opens an existing file for writing behind its end, also where another program has moved that end. Others may
     /// read, write, rename and delete it meanwhile. (Windows) Who opens it must let others write.
     TErroFluxo AbrirParaAcrescentar(const std::string& ANome);

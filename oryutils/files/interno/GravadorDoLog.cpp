@@ -73,9 +73,11 @@ bool TGravadorDoLog::Reescrever(std::u16string_view AArquivo, const TTextoPronto
     FMarca.reset();
     FFluxo.Fechar();
     if (AArquivo.find(u'\0') != AArquivo.npos) return false;  // the system would end the name there
-    if (FFluxo.CriarOuEsvaziar(ParaUtf8(AArquivo)) != efNenhum) return false;
+    if (FFluxo.AbrirParaReescrever(ParaUtf8(AArquivo)) != efNenhum) return false;
     AAmbiente.AoEscrever(ATexto.Bytes.size());
-    const bool escrito = FFluxo.Escrever(ATexto.Bytes) == efNenhum;
+    // Over the old text, never into an emptied file: a log only grows, so that whatever a killed process leaves has
+    // every line that was saved before.
+    const bool escrito = FFluxo.Escrever(ATexto.Bytes) == efNenhum && FFluxo.CortarAqui() == efNenhum;
     const auto marca = AMarcar ? FFluxo.BuscarMarca() : std::nullopt;
     if (FFluxo.Fechar() != efNenhum || !escrito) return false;
     // Another size: somebody else has written too, and the next save writes the whole again.

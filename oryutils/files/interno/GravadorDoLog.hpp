@@ -19,7 +19,7 @@ class TGravadorDoLog {
 public:
     /// Makes AArquivo hold ATexto, in up to 14 attempts without a pause; the missing folders are created first. True
     /// when it was done.
-    /// AModo  mgReescrever: the file is created or emptied, written in one piece and closed. mgAcrescentar: the file
+    /// AModo  mgReescrever: the file is created or written over in one piece, cut behind it and closed. mgAcrescentar: the file
     ///        stays open and a save writes what is new behind its end. A look at the name of the file comes first when
     ///        the last one is 100 ms old; when the name leads to another file, to none or to one of another size, and
     ///        after any fault, the save is as in mgReescrever.

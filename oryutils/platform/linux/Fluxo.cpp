@@ -93,9 +93,15 @@ TErroFluxo TFluxo::CriarNovo(const std::string& ANome, const std::string& ASubst
     return Assumir(alca);
 }
 
-TErroFluxo TFluxo::CriarOuEsvaziar(const std::string& ANome) {
+TErroFluxo TFluxo::AbrirParaReescrever(const std::string& ANome) {
     Fechar();
-    return Assumir(::open(ANome.c_str(), CParaEscrever | O_CREAT | O_TRUNC, 0666));
+    return Assumir(::open(ANome.c_str(), CParaEscrever | O_CREAT, 0666));
+}
+
+TErroFluxo TFluxo::CortarAqui() noexcept {
+    if (!BuscarTamanho()) return efNenhum;
+    const off_t fim = ::lseek(Descritor(FAlca), 0, SEEK_CUR);
+    return fim >= 0 && ::ftruncate(Descritor(FAlca), fim) == 0 ? efNenhum : BuscarErro();
 }
 
 TErroFluxo TFluxo::AbrirParaAcrescentar(const std::string& ANome) {

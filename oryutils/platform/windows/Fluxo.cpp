@@ -75,14 +75,19 @@ TErroFluxo TFluxo::CriarNovo(const std::string& ANome, const std::string&) {
                                         FILE_ATTRIBUTE_NORMAL, nullptr)));
 }
 
-TErroFluxo TFluxo::CriarOuEsvaziar(const std::string& ANome) {
+TErroFluxo TFluxo::AbrirParaReescrever(const std::string& ANome) {
     Fechar();
     const std::u16string nome = DeUtf8(ANome);
     // Without FILE_SHARE_WRITE a file that a log keeps open for appending would be refused.
     constexpr DWORD CPartilha = FILE_SHARE_READ | FILE_SHARE_WRITE;
     const TErroFluxo erro = Assumir(Numero(::CreateFileW(ParaWide(nome), GENERIC_WRITE, CPartilha, nullptr,
-                                                         CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr)));
+                                                         OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr)));
     return erro != efNenhum && EhPasta(nome) ? efEhPasta : erro;
+}
+
+TErroFluxo TFluxo::CortarAqui() noexcept {
+    if (!BuscarTamanho()) return efNenhum;
+    return ::SetEndOfFile(Alca(FAlca)) ? efNenhum : ClassificarErroDoSistema(::GetLastError());
 }
 
 TErroFluxo TFluxo::AbrirParaAcrescentar(const std::string& ANome) {

@@ -1,4 +1,8 @@
+#include "oryutils/runtime/NumeroTexto.hpp"
+
+#include "comum/Acaso.hpp"
 #include "files/LogApoio.hpp"
+#include "resistencia/Quantidade.hpp"
 
 #include <csignal>
 #include <sys/resource.h>
@@ -87,6 +91,41 @@ TEST_P(LogFalhasLinux, MortoNoMeioDaGravacao) {
     log.SalvarArquivoLog();
     EXPECT_TRUE(log.Esperar().starts_with(pedaco + "\n"));
     EXPECT_EQ(LerBytes(Arquivo), log.Esperar());
+}
+
+// At any moment, most of them inside of a save: every line that was told saved is there.
+TEST_P(LogFalhasLinux, MortoAQualquerMomentoNaoPerdeLinhaGravada) {
+    ::Testes::TAcaso sorteio;
+    const std::u16string enchimento(2000, u'x');
+    for (int vez = 0; vez < OryUtils::Testes::Quantidade(20, 150); ++vez) {
+        std::filesystem::remove(Arquivo);
+        int cano[2];
+        ASSERT_EQ(::pipe(cano), 0);
+        const pid_t filho = ::fork();
+        if (filho == 0) {
+            TLogDeTeste log(Arquivo.u16string(), Ambiente, GetParam());
+            log.SetSalvarAutomaticamente(true);
+            for (int i = 0;; ++i) {
+                log.Adicionar(u"linha " + InteiroParaTexto(i) + u" " + enchimento, clBlue);
+                if (::write(cano[1], &i, sizeof i) != sizeof i) ::_exit(1);
+            }
+        }
+        ::close(cano[1]);
+        int ultima = -1;
+        const int esperar = static_cast<int>(sorteio() % 40);
+        while (ultima < esperar && ::read(cano[0], &ultima, sizeof ultima) == sizeof ultima) {
+        }
+        for (volatile auto espera = sorteio() % 100'000; espera > 0;) espera = espera - 1;
+        ::kill(filho, SIGKILL);
+        while (::read(cano[0], &ultima, sizeof ultima) == sizeof ultima) {
+        }
+        ::close(cano[0]);
+        ::waitpid(filho, nullptr, 0);
+        const std::string texto = LerBytes(Arquivo);
+        for (int i = 0; i <= ultima; ++i)
+            ASSERT_NE(texto.find("linha " + std::to_string(i) + " x"), std::string::npos)
+                << "round " << vez << ": line " << i << " of " << ultima << ", " << texto.size() << " bytes";
+    }
 }
 
 TEST(LogCodificacao, PadraoEhUtf8) {
