@@ -80,8 +80,8 @@ TErroFluxo TFluxo::AbrirParaReescrever(const std::string& ANome) {
     const std::u16string nome = DeUtf8(ANome);
     // Without FILE_SHARE_WRITE a file that a log keeps open for appending would be refused.
     constexpr DWORD CPartilha = FILE_SHARE_READ | FILE_SHARE_WRITE;
-    const TErroFluxo erro = Assumir(Numero(::CreateFileW(ParaWide(nome), GENERIC_WRITE, CPartilha, nullptr,
-                                                         OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr)));
+    const TErroFluxo erro = Assumir(Numero(
+        ::CreateFileW(ParaWide(nome), GENERIC_WRITE, CPartilha, nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr)));
     return erro != efNenhum && EhPasta(nome) ? efEhPasta : erro;
 }
 
