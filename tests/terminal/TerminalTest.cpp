@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <chrono>
 #include <fcntl.h>
+#include <fstream>
 #include <poll.h>
 #include <sstream>
 #include <stdlib.h>
@@ -146,6 +147,24 @@ TEST(Terminal, EmLatin1) {
     ::unsetenv("LOCPATH");
     EXPECT_NE(dialogo.Tela.find("Aten\xE7\xE3o: ? 5?"), std::string::npos) << dialogo.Tela;
     EXPECT_EQ(dialogo.Situacao, 1);
+}
+
+// What a shell does to a log: a limit of size, a pipe in the place of the file.
+TEST(Terminal, LogSemEspacoOuEmCano) {
+    const std::string pasta = testing::TempDir() + "/log_no_limite";
+    const auto rodar = [&](const std::string& AComando) {
+        const std::string tudo = "cd " + pasta + " && " + AComando;
+        return WEXITSTATUS(std::system(("bash -c '" + tudo + "' 2> " + pasta + "/erro").c_str()));
+    };
+    ASSERT_EQ(std::system(("rm -rf " + pasta + " && mkdir -p " + pasta).c_str()), 0);
+    const std::string ory = ORY_COMANDO;
+    EXPECT_EQ(rodar("ulimit -f 1; yes linha | head -n 100 | " + ory + " log cheio"), 2)
+        << "told, not killed by a signal";
+    EXPECT_EQ(rodar("mkfifo cano.log; echo linha | timeout 20 " + ory + " log cano --existente"), 2);
+    std::ifstream erro(pasta + "/erro");
+    std::string linha;
+    std::getline(erro, linha);
+    EXPECT_EQ(linha, "ory: não é um arquivo: cano.log");
 }
 
 }  // namespace

@@ -103,14 +103,15 @@ void DescreverLog(TOpcoes AComando, TPedidoDeLog& APedido) {
     AComando.Marca("--somente-texto", APedido.SomenteTexto, "linhas sem data e hora");
     AComando.Marca("--existente", APedido.Existente, "continua o arquivo que já existe, em vez de começar outro");
     AComando.Marca("--acrescentar", APedido.Acrescentar,
-                   "grava só o que é novo, enquanto ninguém mais mexer no arquivo (para logs longos)");
+                   "o padrão: grava só o que é novo, enquanto ninguém mais mexer");
+    AComando.Marca("--reescrever", APedido.Reescrever, "grava o texto inteiro a cada vez");
     AComando.Valor("--codificacao", APedido.Codificacao, "do arquivo: padrao (a do sistema), utf-8 ou windows-1252");
     AComando.Marca("--eco", APedido.Eco, "repete as linhas na saída padrão");
     AComando.Rodape(
         "Lê linhas da entrada padrão; o arquivo fica em dia sempre que a entrada faz uma pausa.\n"
         "Saída do programa: 0 gravado, 2 não foi possível ler ou gravar.\n\n"
         "Exemplos:\n"
-        "  ./importar.sh 2>&1 | ory log /var/log/importacao --diario --existente --acrescentar\n"
+        "  ./importar.sh 2>&1 | ory log /var/log/importacao --diario --existente\n"
         "  importar.bat | ory log C:\\Logs\\Importacao --eco");
 }
 
@@ -122,9 +123,15 @@ int EscreverLog(const TPedidoDeLog& APedido, TAmbiente& AAmbiente, TAmbienteDoLo
     TLogDoComando log(APedido.Arquivo, AAmbiente, AMundo);
     log.SetTipoPeriodicidade(APedido.Diario ? tplDiario : tplUnico);
     if (log.GetArquivoLog().empty()) throw EFalha("não há nome de arquivo em '" + APedido.Arquivo + "'");
+    OryUtils::Interno::TFluxo fluxo;
+    // A pipe would keep the log waiting for a reader, or lose what was said before there was one.
+    if (fluxo.AbrirArquivoParaLer(log.GetArquivoLog()) == OryUtils::Interno::efOutro &&
+        !OryUtils::Interno::ExistePasta(log.GetArquivoLog()))
+        throw EFalha("não é um arquivo: " + ParaUtf8(log.GetArquivoLog()));
     log.SetFormatoMensagem(APedido.SomenteTexto ? tfmSomenteTexto : tfmComDataHora);
     log.SetUsarArquivoLogExistente(APedido.Existente);
-    log.SetModoGravacao(APedido.Acrescentar ? mgAcrescentar : mgReescrever);
+    if (APedido.Reescrever && APedido.Acrescentar) throw EFalha("só um de --acrescentar e --reescrever");
+    log.SetModoGravacao(APedido.Reescrever ? mgReescrever : mgAcrescentar);
     log.SetCodificacao(LerCodificacao(APedido.Codificacao));
     log.IniciarLog();
     try {

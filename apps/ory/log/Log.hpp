@@ -19,6 +19,7 @@ struct TPedidoDeLog {
     bool Diario = false;
     bool SomenteTexto = false;
     bool Acrescentar = false;
+    bool Reescrever = false;
     bool Existente = false;
     bool Eco = false;
 };

@@ -9,7 +9,11 @@ std::vector<std::string> BuscarArgumentos(int AQuantidade, const char* const* AA
                            : std::vector<std::string>();
 }
 
-TTerminalUtf8::TTerminalUtf8() { std::signal(SIGPIPE, SIG_IGN); }
+// A reader that is gone and a file at its limit are errors of a write, not the end of the program.
+TTerminalUtf8::TTerminalUtf8() {
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+}
 TTerminalUtf8::~TTerminalUtf8() = default;
 
 }  // namespace OryUtils::Interno
