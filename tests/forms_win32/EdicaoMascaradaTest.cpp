@@ -155,6 +155,7 @@ TEST_F(EdicaoWin32, RecortarEMenuDaCaixa) {
     EXPECT_EQ(::SendMessageW(caixa, EM_UNDO, 0, 0), TRUE);
     EXPECT_EQ(FCaixas->Texto(0), u"   .   .   -  ");
     EXPECT_FALSE(editor.EstahModificado());
+    FCaixas->Desligar();
 }
 
 TEST_F(EdicaoWin32, ACaixaSeVaiEALigacaoFica) {
@@ -165,6 +166,7 @@ TEST_F(EdicaoWin32, ACaixaSeVaiEALigacaoFica) {
     editor.Atualizar();
     cpf.SetValor(u"1");
     EXPECT_EQ(static_cast<TEdicaoMascaradaWin32&>(editor).GetHandle(), nullptr);
+    FCaixas->Desligar();
 }
 
 TEST_F(EdicaoWin32, ValidacaoMoveOFocoAvisaEAborta) {

@@ -121,8 +121,8 @@ TEST_F(EdicaoQt, UmNumeroUmValor) {
 
 // What the box's own menu does, undone marks and all, counts as the same keys.
 TEST_F(EdicaoQt, OMenuDaCaixaRecortaEColaNaMascara) {
-    TCaixasQt caixas;
     TField cpf(ftString);
+    TCaixasQt caixas;
     FormatarCPF(cpf);
     caixas.Ligar(0, cpf);
     QLineEdit* caixa = caixas.GetCaixa(0);
@@ -158,8 +158,8 @@ TEST_F(EdicaoQt, OMenuDaCaixaRecortaEColaNaMascara) {
 }
 
 TEST_F(EdicaoQt, MetodoDeEntradaETextoArrastado) {
-    TCaixasQt caixas;
     TField cpf(ftString);
+    TCaixasQt caixas;
     FormatarCPF(cpf);
     caixas.Ligar(0, cpf);
     QLineEdit* caixa = caixas.GetCaixa(0);
@@ -188,8 +188,8 @@ TEST_F(EdicaoQt, MetodoDeEntradaETextoArrastado) {
 
 // What the host has limited holds less than the field: the rest is not lost.
 TEST_F(EdicaoQt, CaixaMenorDoQueOValor) {
-    TCaixasQt caixas;
     TField nome(ftString);
+    TCaixasQt caixas;
     nome.SetValor(u"Comercial Modelo");
     caixas.GetCaixa(0)->setMaxLength(9);
     TEditorDeCampo& editor = caixas.Ligar(0, nome);
@@ -215,6 +215,7 @@ TEST_F(EdicaoQt, CaixaMenorDoQueOValor) {
     editorFone.Gravar();
     EXPECT_NE(editorFone.GetErro(), u"");
     EXPECT_EQ(fone.GetTexto(), u"1133334444");
+    caixas.Desligar();
 }
 
 // Whoever is told of a refusal may have the box unbound.
