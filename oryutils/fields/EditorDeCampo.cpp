@@ -3,23 +3,12 @@
 #include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/fields/interno/NumeroDigitado.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
+#include "oryutils/runtime/Ligado.hpp"
 
 #include <algorithm>
 
 namespace OryUtils {
 namespace {
-
-/// True for the time of a scope: what happens to the field is the editor's own doing.
-class TGravando {
-public:
-    explicit TGravando(bool& AGravando) : FGravando(AGravando) { FGravando = true; }
-    ~TGravando() { FGravando = false; }
-    TGravando(const TGravando&) = delete;
-    TGravando& operator=(const TGravando&) = delete;
-
-private:
-    bool& FGravando;
-};
 
 [[noreturn]] void RecusarTexto(std::u16string_view ATexto, std::u16string_view AMotivo) {
     throw EConvertError(u"'" + std::u16string(ATexto) + u"' " + std::u16string(AMotivo));
@@ -125,7 +114,7 @@ void TEditorDeCampo::Gravar() {
 bool TEditorDeCampo::Desfazer() {
     const bool gravou = !(FCampo.GetValor() == FAoEntrar);
     if (!FTemFoco || (!FModificado && !gravou)) return false;
-    const TGravando gravando(FGravando);
+    const Interno::TLigado gravando(FGravando);
     if (gravou) FCampo.SetValor(FAoEntrar);
     Atualizar();
     return true;
@@ -133,7 +122,7 @@ bool TEditorDeCampo::Desfazer() {
 
 /// True when the field took what the box holds.
 bool TEditorDeCampo::Armazenar() {
-    const TGravando gravando(FGravando);
+    const Interno::TLigado gravando(FGravando);
     try {
         FCampo.SetTexto(LerValor(Ler().Texto), FFormatos);
     } catch (const Exception& erro) {

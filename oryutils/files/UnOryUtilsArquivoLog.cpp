@@ -11,6 +11,7 @@
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
+#include "oryutils/runtime/Ligado.hpp"
 #include "oryutils/runtime/Modelo.hpp"
 #include "oryutils/runtime/NomeDeArquivo.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
@@ -23,18 +24,6 @@ namespace {
 const std::u16string CSeparador(78, u'*');
 
 bool EhVazio(std::u16string_view ATexto) { return Aparar(ATexto).empty(); }
-
-/// True for the time of a scope.
-class TLigado {
-public:
-    explicit TLigado(bool& AMarca) : FMarca(AMarca) { FMarca = true; }
-    ~TLigado() { FMarca = false; }
-    TLigado(const TLigado&) = delete;
-    TLigado& operator=(const TLigado&) = delete;
-
-private:
-    bool& FMarca;
-};
 
 }  // namespace
 
@@ -172,7 +161,7 @@ TDateTime TOryUtilsArquivoLog::ConferirData() {
     if (FMudandoDeDia) return agora;
     const TDateTime hoje = BuscarParteData(agora);
     if (hoje == FDataControleLog) return agora;
-    const TLigado mudando(FMudandoDeDia);
+    const Interno::TLigado mudando(FMudandoDeDia);
     FinalizarLog();
     FLogIniciado = false;
     FDataControleLog = hoje;
