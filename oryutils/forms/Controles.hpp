@@ -62,7 +62,8 @@ ORY_API std::u16string RemoverAtalho(std::u16string_view ACaption);
 /// The letter that "&" marks in ACaption, as written there; 0 when it marks none.
 ORY_API char16_t BuscarLetraAtalho(std::u16string_view ACaption) noexcept;
 
-/// Something on a form. The form owns its controls; they are realised, and tabbed through, in creation order.
+/// Something on a form. The form owns its controls; they are realised, and tabbed through, in creation order,
+/// unless the form puts one elsewhere (ColocarAntes).
 /// Setters work before, while and after the form is shown: a shown form is brought up to date at once.
 class ORY_API TControleFormulario : public TWinControl {
 public:

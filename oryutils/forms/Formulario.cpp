@@ -32,6 +32,20 @@ TControleFormulario* TFormulario::BuscarControle(std::u16string_view ANome) cons
     return achado == FControles.end() ? nullptr : achado->get();
 }
 
+void TFormulario::ColocarAntes(const TControleFormulario& AControle, const TControleFormulario& ASeguinte) {
+    const auto buscar = [this](const TControleFormulario& AQual) {
+        return std::find_if(FControles.begin(), FControles.end(), [&](const auto& c) { return c.get() == &AQual; });
+    };
+    const auto controle = buscar(AControle);
+    const auto seguinte = buscar(ASeguinte);
+    if (controle == FControles.end() || seguinte == FControles.end()) return;
+    if (controle < seguinte)
+        std::rotate(controle, controle + 1, seguinte);
+    else
+        std::rotate(seguinte, controle, controle + 1);
+    if (FJanela) FJanela->MudouFormulario(mdItens);
+}
+
 std::vector<TBotao*> TFormulario::GetBotoes() const {
     std::vector<TBotao*> botoes;
     for (const auto& controle : FControles)
@@ -108,6 +122,16 @@ bool TFormulario::TratarTecla(TTecla& ATecla) {
         return pressionar([](const TBotao* b) { return b->GetPadrao(); });
     }
     return false;
+}
+
+void TFormulario::AoMudarTela(int AAntes, int AAgora) {
+    if (AAntes == AAgora || AAntes <= 0) return;
+    const auto escalar = [&](int APixels) { return static_cast<int>(1LL * APixels * AAgora / AAntes); };
+    for (const auto& controle : FControles) {
+        const TRetangulo& r = controle->GetRetangulo();
+        controle->SetRetangulo({escalar(r.Left), escalar(r.Top), escalar(r.Width), escalar(r.Height)});
+    }
+    SetTamanhoCliente(escalar(FCliente.Largura), escalar(FCliente.Altura));
 }
 
 void TFormulario::AoRedimensionar(int ALargura, int AAltura) {

@@ -66,6 +66,8 @@ public:
     const std::vector<std::unique_ptr<TControleFormulario>>& GetControles() const noexcept { return FControles; }
     /// The first control of that name; null when there is none.
     TControleFormulario* BuscarControle(std::u16string_view ANome) const noexcept;
+    /// Moves AControle to the place before ASeguinte: it is realised, tabbed to and read in that order.
+    void ColocarAntes(const TControleFormulario& AControle, const TControleFormulario& ASeguinte);
     /// The buttons in creation order.
     std::vector<TBotao*> GetBotoes() const;
 
@@ -118,6 +120,9 @@ public:
     /// buttons. Returns true when the key is spent. Enter in a memo or on a focused button is left to the control.
     bool TratarTecla(TTecla& ATecla);
     void AoRedimensionar(int ALargura, int AAltura);
+    /// The form, shown, has come to a screen of other pixels per inch or another work area. Positions and sizes grow or
+    /// shrink by AAgora / AAntes; forms that lay themselves out do so again.
+    virtual void AoMudarTela(int AAntes, int AAgora);
 
 protected:
     /// Called once after every modal run, however it ended (an exception included); must not raise.

@@ -23,6 +23,11 @@ struct TFiltroArquivo {
 
 enum TCursorTela : int { ctNormal, ctAmpulheta };
 
+class TToolkit;
+/// TToolkit::MedirControle from the measure of the text alone, for toolkits with the usual marks and edges.
+ORY_API TTamanho MedirControlePadrao(const TToolkit& AToolkit, TTipoControle ATipo, std::u16string_view ATexto,
+                                     int ALarguraMaxima);
+
 /// What realises forms natively. Every operation belongs to the thread of the user interface (EhThreadDaInterface).
 class TToolkit {
 public:
@@ -43,10 +48,16 @@ public:
 
     /// Size of ATexto in the dialog font. ALarguraMaxima above 0 wraps at words, 0 does not; line breaks count.
     virtual TTamanho MedirTexto(std::u16string_view ATexto, int ALarguraMaxima) const = 0;
+    /// Size that a control of ATipo needs to show ATexto: text, mark and edges; of tcGrupoOpcoes, one option. A check
+    /// box or an option is at most ALarguraMaxima wide and wraps, 0 does not wrap.
+    virtual TTamanho MedirControle(TTipoControle ATipo, std::u16string_view ATexto, int ALarguraMaxima) const {
+        return MedirControlePadrao(*this, ATipo, ATexto, ALarguraMaxima);
+    }
     /// Size of the dialog font, in points.
     virtual int GetTamanhoFonte() const = 0;
+    /// Pixels per inch of the screen on which the next form opens: the one of the active window, else the main one.
     virtual int GetPixelsPorPolegada() const = 0;
-    /// Part of the main screen that task bars leave free, in pixels.
+    /// Part of that screen that task bars leave free, in pixels.
     virtual TRetangulo GetAreaDeTrabalho() const = 0;
 
     /// Calls AAcao every AMilissegundos until switched off. Returns the number for DesligarTemporizador, never 0.

@@ -33,8 +33,8 @@ constexpr std::array CDadosTexto{
     TDadosTexto{tdOpcoes, u"Opções: "},
     TDadosTexto{tdNotaFechamento,
                 u"Observação: \r\nEsta mensagem será fechada automaticamente em %s caso não haja intervenção."},
-    TDadosTexto{tdMostrarDetalhes, u"Mostrar Detalhes"},
-    TDadosTexto{tdOcultarDetalhes, u"Ocultar Detalhes"},
+    TDadosTexto{tdMostrarDetalhes, u"Mostrar &Detalhes"},
+    TDadosTexto{tdOcultarDetalhes, u"Ocultar &Detalhes"},
     TDadosTexto{tdTodosArquivos, u"Todos"},
     TDadosTexto{tdMensagensGuardadas, u"Mensagens registradas: %s"},
 };

@@ -11,6 +11,7 @@
 #include <cstring>
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -21,7 +22,7 @@ namespace OryUtils {
 /// sees all effects of the one before it.
 class TUsuarioWin32 : public TUsuario {
 public:
-    TUsuarioWin32() { InstalarToolkit(&FToolkit); }
+    TUsuarioWin32() : FToolkit(0, [this](void* AJanela) { return BuscarTela(AJanela); }) { InstalarToolkit(&FToolkit); }
     ~TUsuarioWin32() override {
         InstalarToolkit(nullptr);
         SoltarTeclas();
@@ -149,6 +150,19 @@ public:
         return vistos;
     }
 
+    TVisao Medir() override;
+    bool ClicarSeHouver(std::u16string_view ACaption) override {
+        if (!BuscarFilho(ACaption)) return false;
+        Clicar(ACaption);
+        return true;
+    }
+    std::vector<TRetangulo> BuscarTelas() override {
+        std::vector<TRetangulo> areas;
+        for (const TTelaWin32& tela : CTelas) areas.push_back(tela.AreaDeTrabalho);
+        return areas;
+    }
+    void AbrirEm(std::size_t ATela) override { FTela = CTelas[ATela]; }
+
     /// The control of the active window with that text.
     static HWND BuscarFilho(std::u16string_view ATexto) {
         return ::FindWindowExW(::GetActiveWindow(), nullptr, nullptr, Interno::ParaWide(std::u16string(ATexto)));
@@ -199,7 +213,13 @@ public:
         ::SetKeyboardState(teclado);
     }
 
+    /// A system has one scale and one screen while a test runs, so the toolkit is told of others.
+    static const std::vector<TTelaWin32> CTelas;
+    std::optional<TTelaWin32> FTela;
     TToolkitWin32 FToolkit;
+
+private:
+    TTelaWin32 BuscarTela(void* AJanela) const;
 };
 
 class FormsWin32 : public testing::Test, public TUsuarioWin32 {

@@ -55,6 +55,8 @@ void DarTecla(TTeclaQt ATecla, Qt::KeyboardModifiers AModificadores = Qt::NoModi
 }
 
 class TUsuarioQt : public TUsuario {
+    std::unique_ptr<QWidget> FHospede;
+
 public:
     TUsuarioQt() {
         InstalarToolkitQt();
@@ -101,6 +103,14 @@ public:
         BuscarDialogo()->resize(ACliente.Largura, ACliente.Altura);
     }
     std::vector<TVisto> Ver(const TFormulario& AFormulario) override;
+    TVisao Medir() override;
+    bool ClicarSeHouver(std::u16string_view ACaption) override {
+        QAbstractButton* botao = BuscarBotao(ACaption);
+        if (botao) botao->click();
+        return botao != nullptr;
+    }
+    std::vector<TRetangulo> BuscarTelas() override;
+    void AbrirEm(std::size_t ATela) override;
     long ContarObjetos() override {
         return static_cast<long>(QApplication::allWidgets().size() + QGuiApplication::allWindows().size());
     }

@@ -103,10 +103,11 @@ TEST_F(TesteDialogos, OpcoesPeloAlgoritmo) {
             const auto botoes = AFormulario.GetBotoes();
             const int abaixo = topo + altura + 15;
             EXPECT_EQ(botoes[0]->GetRetangulo(), (TRetangulo{52, abaixo, 75, 23}));
-            EXPECT_EQ(botoes[1]->GetRetangulo(), (TRetangulo{130, abaixo, 169, 23}));
-            EXPECT_EQ(botoes[2]->GetRetangulo(), (TRetangulo{302, abaixo, 75, 23}));
+            EXPECT_EQ(botoes[1]->GetRetangulo(), (TRetangulo{130, abaixo, 28 * 6 + 12, 23}))
+                << "169 by the rule: less than the caption needs";
+            EXPECT_EQ(botoes[2]->GetRetangulo(), (TRetangulo{313, abaixo, 75, 23}));
             EXPECT_EQ(AFormulario.GetAlturaCliente(), base->GetAlturaCliente() + std::max(altura + 15, 100));
-            EXPECT_EQ(AFormulario.GetLarguraCliente(), std::max(319, caso.LarguraGrupo) + 100);
+            EXPECT_EQ(AFormulario.GetLarguraCliente(), std::max(330, caso.LarguraGrupo) + 100);
             ConferirEncaixe(AFormulario);
             EXPECT_EQ(AFormulario.GetControleAtivo(), botoes[1]) << "the focus stays on the default";
             botoes[0]->Clicar();

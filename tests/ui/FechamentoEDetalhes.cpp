@@ -88,10 +88,10 @@ TEST_F(TesteDialogos, DetalheAbreEFecha) {
         const auto* memorando = AFormulario.BuscarControle(u"Detalhe");
         const int altura = AFormulario.GetAlturaCliente();
         EXPECT_FALSE(memorando->GetVisivel());
-        BuscarBotao(AFormulario, u"Mostrar Detalhes").Clicar();
+        BuscarBotao(AFormulario, u"Mostrar &Detalhes").Clicar();
         EXPECT_TRUE(memorando->GetVisivel());
         EXPECT_GE(AFormulario.GetAlturaCliente(), memorando->GetTop() + memorando->GetHeight());
-        BuscarBotao(AFormulario, u"Ocultar Detalhes").Clicar();
+        BuscarBotao(AFormulario, u"Ocultar &Detalhes").Clicar();
         EXPECT_FALSE(memorando->GetVisivel());
         EXPECT_EQ(AFormulario.GetAlturaCliente(), altura);
         EXPECT_EQ(AFormulario.GetModalResult(), mrNone);

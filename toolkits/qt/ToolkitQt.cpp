@@ -4,6 +4,7 @@
 #include "oryutils/runtime/Excecoes.hpp"
 
 #include "toolkits/qt/interno/AplicacaoQt.hpp"
+#include "toolkits/qt/interno/EncaixeQt.hpp"
 #include "toolkits/qt/interno/GuardaQt.hpp"
 #include "toolkits/qt/interno/JanelaQt.hpp"
 #include "toolkits/qt/interno/SeletorQt.hpp"
@@ -90,6 +91,13 @@ TTamanho TToolkitQt::MedirTexto(std::u16string_view ATexto, int ALarguraMaxima) 
     return tamanho;
 }
 
+TTamanho TToolkitQt::MedirControle(TTipoControle ATipo, std::u16string_view ATexto, int ALarguraMaxima) const {
+    Exigir();
+    const QSize tamanho = MedirControleQt(ATipo, ParaQt(ATexto), ALarguraMaxima);
+    if (!tamanho.isValid()) return MedirControlePadrao(*this, ATipo, ATexto, ALarguraMaxima);
+    return {tamanho.width(), tamanho.height()};
+}
+
 int TToolkitQt::GetTamanhoFonte() const {
     Exigir();
     return QFontInfo(QApplication::font()).pointSize();
@@ -97,13 +105,13 @@ int TToolkitQt::GetTamanhoFonte() const {
 
 int TToolkitQt::GetPixelsPorPolegada() const {
     Exigir();
-    const QScreen* tela = QGuiApplication::primaryScreen();
+    const QScreen* tela = BuscarTelaQt();
     return tela ? qRound(tela->logicalDotsPerInch()) : 96;
 }
 
 TRetangulo TToolkitQt::GetAreaDeTrabalho() const {
     Exigir();
-    const QScreen* tela = QGuiApplication::primaryScreen();
+    const QScreen* tela = BuscarTelaQt();
     if (!tela) return {0, 0, 1024, 768};
     const QRect area = tela->availableGeometry();
     return {area.x(), area.y(), area.width(), area.height()};

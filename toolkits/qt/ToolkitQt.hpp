@@ -39,6 +39,7 @@ public:
     void ProcessarMensagens() override;
     std::shared_ptr<void> DesabilitarJanelas() override;
     TTamanho MedirTexto(std::u16string_view ATexto, int ALarguraMaxima) const override;
+    TTamanho MedirControle(TTipoControle ATipo, std::u16string_view ATexto, int ALarguraMaxima) const override;
     int GetTamanhoFonte() const override;
     int GetPixelsPorPolegada() const override;
     TRetangulo GetAreaDeTrabalho() const override;

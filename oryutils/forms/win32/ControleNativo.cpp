@@ -1,6 +1,8 @@
 #include "oryutils/forms/win32/interno/ControleNativo.hpp"
 
+#include "oryutils/forms/win32/interno/Encaixe.hpp"
 #include "oryutils/forms/win32/interno/TextoNativo.hpp"
+#include "oryutils/forms/win32/interno/VistaRolavel.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 
 #include <algorithm>
@@ -21,17 +23,17 @@ constexpr TClasseNativa CClasses[] = {
     {L"STATIC", SS_NOPREFIX, 0},
     {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0},
     {L"BUTTON", BS_GROUPBOX, 0},
-    {L"BUTTON", BS_AUTOCHECKBOX | WS_TABSTOP, 0},
+    {L"BUTTON", BS_AUTOCHECKBOX | BS_MULTILINE | WS_TABSTOP, 0},
     {L"EDIT",   ES_AUTOHSCROLL | WS_TABSTOP, WS_EX_CLIENTEDGE},
     {L"EDIT",   ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL | WS_VSCROLL | WS_TABSTOP, WS_EX_CLIENTEDGE},
     {L"STATIC", SS_ICON | SS_CENTERIMAGE, 0},
 };
 // clang-format on
 
+// Pixels at 96 per inch.
 constexpr int CRecuoOpcoes = 8;
+constexpr int CTopoOpcoes = 2;
 constexpr int CBordaInferiorGrupo = 4;
-// Square of a radio button and the gap before its text.
-constexpr int CMarcaOpcao = 20;
 // The longest text of a label. The system takes minutes to paint a longer one, and no screen shows all of it.
 constexpr std::size_t CMaiorRotulo = 32768;
 
@@ -80,9 +82,23 @@ bool TControleNativo::Possui(HWND AJanela) const noexcept {
 }
 
 std::vector<HWND> TControleNativo::GetJanelas() const {
+    if (FVista) return {FJanela, FVista};
     std::vector<HWND> janelas{FJanela};
     janelas.insert(janelas.end(), FOpcoes.begin(), FOpcoes.end());
     return janelas;
+}
+
+std::vector<HWND> TControleNativo::GetTodas() const {
+    std::vector<HWND> janelas = GetJanelas();
+    if (FVista) janelas.insert(janelas.end(), FOpcoes.begin(), FOpcoes.end());
+    return janelas;
+}
+
+void TControleNativo::MudarFonte(const TFonteDialogo& AFonte) {
+    FFonte = &AFonte;
+    for (HWND janela : GetTodas())
+        ::SendMessageW(janela, WM_SETFONT, reinterpret_cast<WPARAM>(FFonte->GetHandle()), TRUE);
+    Atualizar(mdPosicao);
 }
 
 void TControleNativo::Atualizar(unsigned AMudancas) {
@@ -100,9 +116,13 @@ void TControleNativo::Atualizar(unsigned AMudancas) {
         ::SetWindowPos(FJanela, nullptr, r.Left, r.Top, r.Width, r.Height, SWP_NOZORDER | SWP_NOACTIVATE);
     }
     if (AMudancas & (mdPosicao | mdItens)) PosicionarOpcoes();
+    if (AMudancas & (mdTexto | mdPosicao)) {
+        if (FModelo->GetTipo() == tcBotao) EncaixarTexto(FJanela, FModelo->GetTexto(), CFolgaDoBotao);
+        if (FModelo->GetTipo() == tcCaixaChecagem) EncaixarTexto(FJanela, FModelo->GetTexto(), CFolgaDoMarcavel);
+    }
     if (AMudancas & (mdSelecao | mdItens)) AtualizarSelecao();
     if (AMudancas & (mdEstado | mdItens)) {
-        for (HWND janela : GetJanelas()) {
+        for (HWND janela : GetTodas()) {
             ::EnableWindow(janela, FModelo->GetHabilitado());
             ::ShowWindow(janela, FModelo->GetVisivel() ? SW_SHOWNA : SW_HIDE);
         }
@@ -114,36 +134,79 @@ void TControleNativo::Atualizar(unsigned AMudancas) {
 void TControleNativo::CriarOpcoes() {
     const auto& grupo = static_cast<const TGrupoOpcoes&>(*FModelo);
     for (std::size_t i = FOpcoes.size(); i < grupo.GetItens().size(); ++i) {
-        const DWORD estilo =
-            BS_AUTORADIOBUTTON | (grupo.GetQuebraLinha() ? BS_MULTILINE : 0u) | (i == 0 ? WS_GROUP | WS_TABSTOP : 0u);
+        const DWORD estilo = BS_AUTORADIOBUTTON | BS_NOTIFY | (grupo.GetQuebraLinha() ? BS_MULTILINE : 0u) |
+                             (i == 0 ? WS_GROUP | WS_TABSTOP : 0u);
         FOpcoes.push_back(Criar(L"BUTTON", estilo, 0, 0));
         EscreverTexto(FOpcoes.back(), grupo.GetItens()[i]);
     }
+}
+
+std::vector<int> TControleNativo::MedirOpcoes(int ALargura) const {
+    const auto& grupo = static_cast<const TGrupoOpcoes&>(*FModelo);
+    const int linha = FFonte->GetAlturaLinha() + FFonte->Escalar(CFolgaDoMarcavel.Altura);
+    std::vector<int> alturas;
+    for (const auto& item : grupo.GetItens())
+        alturas.push_back(grupo.GetQuebraLinha() ? MedirMarcavel(*FFonte, item, ALargura).Altura : linha);
+    return alturas;
+}
+
+// Options that do not all fit lie in a view that scrolls.
+void TControleNativo::RolarOpcoes(bool ARolar) {
+    if (ARolar == (FVista != nullptr)) return;
+    const HWND vista = ARolar ? CriarVistaRolavel(FFormulario) : FVista;
+    for (HWND opcao : FOpcoes) ::SetParent(opcao, ARolar ? vista : FFormulario);
+    HWND anterior = FJanela;
+    if (ARolar) ::SetWindowPos(vista, anterior, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    if (ARolar) anterior = HWND_TOP;
+    for (HWND opcao : FOpcoes) {
+        ::SetWindowPos(opcao, anterior, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        anterior = opcao;
+    }
+    if (!ARolar) ::DestroyWindow(vista);
+    FVista = ARolar ? vista : nullptr;
 }
 
 void TControleNativo::PosicionarOpcoes() {
     if (FOpcoes.empty()) return;
     const auto& grupo = static_cast<const TGrupoOpcoes&>(*FModelo);
     const TRetangulo& r = grupo.GetRetangulo();
-    const int topo = FFonte->GetAlturaLinha() + 2;
-    const int disponivel = std::max(r.Height - topo - CBordaInferiorGrupo, 0);
-    const int largura = std::max(r.Width - 2 * CRecuoOpcoes, 0);
-    const int quantidade = static_cast<int>(FOpcoes.size());
-    // Options whose text wraps get the lines that they need, when all together fit; the rest is shared.
-    std::vector<int> alturas;
-    for (const auto& item : grupo.GetItens())
-        alturas.push_back(grupo.GetQuebraLinha() ? FFonte->Medir(item, std::max(largura - CMarcaOpcao, 1)).Altura : 0);
-    int sobra = disponivel - std::accumulate(alturas.begin(), alturas.end(), 0);
-    if (sobra < 0) {
-        alturas.assign(alturas.size(), 0);
-        sobra = disponivel;
-    }
+    const int recuo = FFonte->Escalar(CRecuoOpcoes);
+    const int topo = FFonte->GetAlturaLinha() + FFonte->Escalar(CTopoOpcoes);
+    const int disponivel = std::max(r.Height - topo - FFonte->Escalar(CBordaInferiorGrupo), 0);
+    int largura = std::max(r.Width - 2 * recuo, 0);
+    std::vector<int> alturas = MedirOpcoes(largura);
+    int soma = std::accumulate(alturas.begin(), alturas.end(), 0);
+    RolarOpcoes(soma > disponivel);
+    int sobra = 0;
+    int x = r.Left + recuo;
     int y = r.Top + topo;
-    for (std::size_t i = 0; i < FOpcoes.size(); ++i) {
-        const int altura = alturas[i] + sobra / quantidade;
-        ::SetWindowPos(FOpcoes[i], nullptr, r.Left + CRecuoOpcoes, y, largura, altura, SWP_NOZORDER | SWP_NOACTIVATE);
-        y += altura;
+    if (FVista) {
+        ::SetWindowPos(FVista, nullptr, x, y, largura, disponivel, SWP_NOZORDER | SWP_NOACTIVATE);
+        largura = std::max(largura - ::GetSystemMetrics(SM_CXVSCROLL), 0);
+        alturas = MedirOpcoes(largura);
+        soma = std::accumulate(alturas.begin(), alturas.end(), 0);
+        DefinirAlturaRolavel(FVista, soma, FFonte->GetAlturaLinha());
+        x = y = 0;
+    } else {
+        sobra = (disponivel - soma) / static_cast<int>(FOpcoes.size());
     }
+    for (std::size_t i = 0; i < FOpcoes.size(); ++i) {
+        ::SetWindowPos(FOpcoes[i], nullptr, x, y, largura, alturas[i] + sobra, SWP_NOZORDER | SWP_NOACTIVATE);
+        EncaixarTexto(FOpcoes[i], grupo.GetItens()[i], CFolgaDoMarcavel);
+        y += alturas[i] + sobra;
+    }
+}
+
+// A caption that does not fit its control is shortened, and a tip tells the whole of it.
+void TControleNativo::EncaixarTexto(HWND AJanela, std::u16string_view ATexto, TTamanho AFolga) const {
+    RECT r{};
+    ::GetClientRect(AJanela, &r);
+    if (r.right == 0) return;
+    const TEncaixe encaixe = EncaixarCaption(*FFonte, ATexto,
+                                             {static_cast<int>(r.right) - FFonte->Escalar(AFolga.Largura),
+                                              static_cast<int>(r.bottom) - FFonte->Escalar(AFolga.Altura)});
+    if (LerTexto(AJanela) != encaixe.Texto) ::SetWindowTextW(AJanela, Interno::ParaWide(encaixe.Texto));
+    MostrarDica(AJanela, encaixe.Inteiro ? std::u16string() : RemoverAtalho(ATexto));
 }
 
 void TControleNativo::AtualizarSelecao() {

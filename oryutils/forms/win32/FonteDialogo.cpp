@@ -27,6 +27,13 @@ private:
     HGDIOBJ FAnterior;
 };
 
+int BuscarPixelsDoSistema() {
+    const HDC tela = ::GetDC(nullptr);
+    const int pixels = ::GetDeviceCaps(tela, LOGPIXELSY);
+    ::ReleaseDC(nullptr, tela);
+    return pixels;
+}
+
 /// How much of AParagrafo to measure at once: all of it, or up to the last blank that fits.
 std::size_t BuscarTrecho(std::u16string_view AParagrafo) {
     if (AParagrafo.size() <= CMaiorTrecho) return AParagrafo.size();
@@ -36,16 +43,19 @@ std::size_t BuscarTrecho(std::u16string_view AParagrafo) {
 
 }  // namespace
 
-TFonteDialogo::TFonteDialogo() {
+TFonteDialogo::TFonteDialogo(int APixelsPorPolegada) : FPixelsPorPolegada(APixelsPorPolegada) {
     NONCLIENTMETRICSW metricas{};
     metricas.cbSize = sizeof metricas;
-    if (::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metricas, &metricas, 0))
+    if (::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metricas, &metricas, 0)) {
+        // The system tells the height for its main screen.
+        LONG& altura = metricas.lfMessageFont.lfHeight;
+        altura = ::MulDiv(static_cast<int>(altura), FPixelsPorPolegada, BuscarPixelsDoSistema());
         FFonte = ::CreateFontIndirectW(&metricas.lfMessageFont);
+    }
     if (!FFonte) FFonte = static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT));
     const TTela tela(FFonte);
     TEXTMETRICW medidas{};
     ::GetTextMetricsW(tela, &medidas);
-    FPixelsPorPolegada = ::GetDeviceCaps(tela, LOGPIXELSY);
     FAlturaLinha = static_cast<int>(medidas.tmHeight);
     FPontos = ::MulDiv(static_cast<int>(medidas.tmHeight - medidas.tmInternalLeading), 72, FPixelsPorPolegada);
 }

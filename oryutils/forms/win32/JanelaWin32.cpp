@@ -3,6 +3,7 @@
 #include "oryutils/forms/win32/interno/ClasseDeJanela.hpp"
 #include "oryutils/forms/win32/interno/DesabilitarJanelas.hpp"
 #include "oryutils/forms/win32/interno/LacoDeMensagens.hpp"
+#include "oryutils/forms/win32/interno/Telas.hpp"
 #include "oryutils/forms/win32/interno/TextoNativo.hpp"
 
 #include <algorithm>
@@ -37,10 +38,11 @@ bool EstahPressionada(int ATecla) { return (::GetKeyState(ATecla) & 0x8000) != 0
 
 }  // namespace
 
-TJanelaWin32::TJanelaWin32(TFormulario& AFormulario, TLacoDeMensagens& ALaco, const TFonteDialogo& AFonte)
-    : FFormulario(AFormulario), FLaco(ALaco), FFonte(AFonte) {
+TJanelaWin32::TJanelaWin32(TFormulario& AFormulario, TLacoDeMensagens& ALaco, TTelas& ATelas)
+    : FFormulario(AFormulario), FLaco(ALaco), FTelas(ATelas) {
     const TMarcar marca(FAtualizando);
     const HWND dona = BuscarDona();
+    FTela = FTelas.Buscar(dona);
     Criar(dona);
     try {
         for (const auto& controle : FFormulario.GetControles()) Realizar(*controle);
@@ -75,36 +77,44 @@ void TJanelaWin32::Realizar(TControleFormulario& AControle) {
     // The arrows walk inside a run of controls of one kind; another kind starts a new run.
     const bool iniciaGrupo = FNativos.empty() || FNativos.back()->GetModelo().GetTipo() != AControle.GetTipo();
     const int id = CPrimeiroId + static_cast<int>(FNativos.size());
-    FNativos.push_back(std::make_unique<TControleNativo>(AControle, FJanela, FFonte, id, iniciaGrupo));
-}
-
-RECT TJanelaWin32::BuscarMoldura(int ALargura, int AAltura) const {
-    RECT moldura{0, 0, ALargura, AAltura};
-    ::AdjustWindowRectEx(&moldura, static_cast<DWORD>(::GetWindowLongPtrW(FJanela, GWL_STYLE)), FALSE,
-                         static_cast<DWORD>(::GetWindowLongPtrW(FJanela, GWL_EXSTYLE)));
-    return {0, 0, moldura.right - moldura.left, moldura.bottom - moldura.top};
+    FNativos.push_back(std::make_unique<TControleNativo>(AControle, FJanela,
+                                                         FTelas.BuscarFonte(FTela.PixelsPorPolegada), id, iniciaGrupo));
 }
 
 void TJanelaWin32::Posicionar(HWND ADona) {
     const bool centrar = FFormulario.Posicao == pfCentroDaTela && !::IsWindowVisible(FJanela);
-    const RECT moldura = BuscarMoldura(FFormulario.GetLarguraCliente(), FFormulario.GetAlturaCliente());
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    ::GetMonitorInfoW(::MonitorFromWindow(centrar ? ADona : FJanela, MONITOR_DEFAULTTOPRIMARY), &monitor);
-    const RECT& area = monitor.rcWork;
-    LONG esquerda = FFormulario.GetPosicao().Left;
-    LONG topo = FFormulario.GetPosicao().Top;
+    const SIZE moldura = BuscarTamanhoExterno(
+        FJanela, {FFormulario.GetLarguraCliente(), FFormulario.GetAlturaCliente()}, FTela.PixelsPorPolegada);
+    const TRetangulo area = FTelas.Buscar(centrar ? ADona : FJanela).AreaDeTrabalho;
+    const int largura = static_cast<int>(moldura.cx);
+    const int altura = static_cast<int>(moldura.cy);
+    int esquerda = FFormulario.GetPosicao().Left;
+    int topo = FFormulario.GetPosicao().Top;
     if (centrar) {
-        esquerda = (area.left + area.right - moldura.right) / 2;
-        topo = (area.top + area.bottom - moldura.bottom) / 2;
+        esquerda = area.Left + (area.Width - largura) / 2;
+        topo = area.Top + (area.Height - altura) / 2;
     }
     // The caller gave no position: the whole window stays on the screen; where it is too large, its title bar does.
     if (FFormulario.Posicao == pfCentroDaTela) {
-        esquerda = std::max(std::min(esquerda, area.right - moldura.right), area.left);
-        topo = std::max(std::min(topo, area.bottom - moldura.bottom), area.top);
+        esquerda = std::max(std::min(esquerda, area.Left + area.Width - largura), area.Left);
+        topo = std::max(std::min(topo, area.Top + area.Height - altura), area.Top);
     }
-    ::SetWindowPos(FJanela, nullptr, esquerda, topo, moldura.right, moldura.bottom, SWP_NOZORDER | SWP_NOACTIVATE);
+    ::SetWindowPos(FJanela, nullptr, esquerda, topo, largura, altura, SWP_NOZORDER | SWP_NOACTIVATE);
     FFormulario.SetPosicao(esquerda, topo);
+}
+
+// The window has come to another screen, or its screen has changed.
+void TJanelaWin32::ConferirTela() {
+    const TTelaWin32 tela = FTelas.Buscar(FJanela);
+    const TTelaWin32 antes = std::exchange(FTela, tela);
+    if (tela.PixelsPorPolegada == antes.PixelsPorPolegada && tela.AreaDeTrabalho == antes.AreaDeTrabalho) return;
+    {
+        const TMarcar marca(FAtualizando);
+        const TFonteDialogo& fonte = FTelas.BuscarFonte(tela.PixelsPorPolegada);
+        for (const auto& nativo : FNativos) nativo->MudarFonte(fonte);
+    }
+    LerTudo();
+    FFormulario.AoMudarTela(antes.PixelsPorPolegada, tela.PixelsPorPolegada);
 }
 
 void TJanelaWin32::Mostrar() {
@@ -258,18 +268,22 @@ void TJanelaWin32::Mudou(TControleFormulario& AControle, TMudanca AMudanca) {
         return;
     }
     nativo->Atualizar(AMudanca);
-    if (AMudanca == mdItens) {
-        // A window created late is last in tab order.
-        HWND anterior = HWND_TOP;
-        for (const auto& cada : FNativos) {
-            for (HWND janela : cada->GetJanelas()) {
-                ::SetWindowPos(janela, anterior, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-                anterior = janela;
-            }
-        }
-    }
+    if (AMudanca == mdItens) OrdenarTabulacao();
     // A control that was switched off loses the focus.
     if (AMudanca == mdEstado && nativo->Possui(::GetFocus()) && !AControle.PodeReceberFoco()) Focar(nullptr);
+}
+
+// A window created late is last in tab order.
+void TJanelaWin32::OrdenarTabulacao() {
+    HWND anterior = HWND_TOP;
+    for (const auto& controle : FFormulario.GetControles()) {
+        const TControleNativo* nativo = BuscarNativo(controle.get());
+        if (!nativo) continue;
+        for (HWND janela : nativo->GetJanelas()) {
+            ::SetWindowPos(janela, anterior, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+            anterior = janela;
+        }
+    }
 }
 
 void TJanelaWin32::MudouFormulario(TMudanca AMudanca) {
@@ -277,6 +291,7 @@ void TJanelaWin32::MudouFormulario(TMudanca AMudanca) {
     const TMarcar marca(FAtualizando);
     if (AMudanca == mdTexto) EscreverTexto(FJanela, FFormulario.GetTitulo());
     if (AMudanca == mdPosicao) Posicionar(nullptr);
+    if (AMudanca == mdItens) OrdenarTabulacao();
 }
 
 void TJanelaWin32::ResultadoMudou() {
@@ -333,6 +348,14 @@ LRESULT TJanelaWin32::Tratar(UINT AMensagem, WPARAM AW, LPARAM AL) {
         case WM_SIZE:
             if (!FAtualizando && AW != SIZE_MINIMIZED) FFormulario.AoRedimensionar(LOWORD(AL), HIWORD(AL));
             return 0;
+        case WM_DPICHANGED:
+        case WM_DISPLAYCHANGE:
+        case WM_EXITSIZEMOVE:
+            ConferirTela();
+            return 0;
+        case WM_SETTINGCHANGE:
+            if (AW == SPI_SETWORKAREA) ConferirTela();
+            break;
         case WM_SETCURSOR:
             if (!FLaco.Cursor || LOWORD(AL) != HTCLIENT) break;
             ::SetCursor(FLaco.Cursor);

@@ -1,9 +1,11 @@
 #include "oryutils/forms/win32/ToolkitWin32.hpp"
 
 #include "oryutils/forms/win32/interno/DesabilitarJanelas.hpp"
+#include "oryutils/forms/win32/interno/Encaixe.hpp"
 #include "oryutils/forms/win32/interno/JanelaWin32.hpp"
 #include "oryutils/forms/win32/interno/LacoDeMensagens.hpp"
 #include "oryutils/forms/win32/interno/Seletores.hpp"
+#include "oryutils/forms/win32/interno/Telas.hpp"
 #include "oryutils/forms/win32/interno/Temporizadores.hpp"
 #include "oryutils/forms/win32/interno/TextoNativo.hpp"
 
@@ -35,15 +37,22 @@ bool AbrirAreaDeTransferencia(HWND AJanela) {
 }  // namespace
 
 struct TToolkitWin32::TPartes {
-    Interno::TFonteDialogo Fonte;
+    explicit TPartes(TBuscarTelaWin32 ATelas) : Telas(std::move(ATelas)) {}
+
+    /// Of the next form.
+    TTelaWin32 BuscarTela() const { return Telas.Buscar(Interno::BuscarDona()); }
+    const Interno::TFonteDialogo& BuscarFonte() { return Telas.BuscarFonte(BuscarTela().PixelsPorPolegada); }
+
+    Interno::TTelas Telas;
     Interno::TLacoDeMensagens Laco;
     Interno::TTemporizadores Temporizadores{Laco};
 };
 
-TToolkitWin32::TToolkitWin32(unsigned long AThread) : FThread(AThread ? AThread : ::GetCurrentThreadId()) {
-    INITCOMMONCONTROLSEX classes{sizeof classes, ICC_STANDARD_CLASSES};
+TToolkitWin32::TToolkitWin32(unsigned long AThread, TBuscarTelaWin32 ATelas)
+    : FThread(AThread ? AThread : ::GetCurrentThreadId()) {
+    INITCOMMONCONTROLSEX classes{sizeof classes, ICC_STANDARD_CLASSES | ICC_BAR_CLASSES};
     ::InitCommonControlsEx(&classes);
-    FPartes = std::make_unique<TPartes>();
+    FPartes = std::make_unique<TPartes>(std::move(ATelas));
 }
 
 TToolkitWin32::~TToolkitWin32() = default;
@@ -66,26 +75,27 @@ unsigned long TToolkitWin32::GetThreadDeCarga() noexcept { return GThreadDeCarga
 bool TToolkitWin32::EhThreadDaInterface() const { return ::GetCurrentThreadId() == FThread; }
 
 int TToolkitWin32::ExecutarModal(TFormulario& AFormulario) {
-    Interno::TJanelaWin32 janela(AFormulario, FPartes->Laco, FPartes->Fonte);
+    Interno::TJanelaWin32 janela(AFormulario, FPartes->Laco, FPartes->Telas);
     return janela.Executar();
 }
 
 void TToolkitWin32::ProcessarMensagens() { FPartes->Laco.Bombear(); }
 
 TTamanho TToolkitWin32::MedirTexto(std::u16string_view ATexto, int ALarguraMaxima) const {
-    return FPartes->Fonte.Medir(ATexto, ALarguraMaxima);
+    return FPartes->BuscarFonte().Medir(ATexto, ALarguraMaxima);
 }
 
-int TToolkitWin32::GetTamanhoFonte() const { return FPartes->Fonte.GetPontos(); }
-
-int TToolkitWin32::GetPixelsPorPolegada() const { return FPartes->Fonte.GetPixelsPorPolegada(); }
-
-TRetangulo TToolkitWin32::GetAreaDeTrabalho() const {
-    RECT area{};
-    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
-    return {static_cast<int>(area.left), static_cast<int>(area.top), static_cast<int>(area.right - area.left),
-            static_cast<int>(area.bottom - area.top)};
+TTamanho TToolkitWin32::MedirControle(TTipoControle ATipo, std::u16string_view ATexto, int ALarguraMaxima) const {
+    if ((ATipo != tcCaixaChecagem && ATipo != tcGrupoOpcoes) || ALarguraMaxima <= 0)
+        return MedirControlePadrao(*this, ATipo, ATexto, ALarguraMaxima);
+    return Interno::MedirMarcavel(FPartes->BuscarFonte(), ATexto, ALarguraMaxima);
 }
+
+int TToolkitWin32::GetTamanhoFonte() const { return FPartes->BuscarFonte().GetPontos(); }
+
+int TToolkitWin32::GetPixelsPorPolegada() const { return FPartes->BuscarTela().PixelsPorPolegada; }
+
+TRetangulo TToolkitWin32::GetAreaDeTrabalho() const { return FPartes->BuscarTela().AreaDeTrabalho; }
 
 std::uintptr_t TToolkitWin32::LigarTemporizador(int AMilissegundos, std::function<void()> AAcao) {
     return FPartes->Temporizadores.Ligar(AMilissegundos, std::move(AAcao));

@@ -3,9 +3,18 @@
 #include "oryutils/OryExport.hpp"
 #include "oryutils/forms/Toolkit.hpp"
 
+#include <functional>
 #include <memory>
 
 namespace OryUtils {
+
+/// A screen: the part that task bars leave free, and its pixels per inch.
+struct TTelaWin32 {
+    TRetangulo AreaDeTrabalho;
+    int PixelsPorPolegada = 96;
+};
+/// Tells the screen where a window (HWND) is; the main one for null.
+using TBuscarTelaWin32 = std::function<TTelaWin32(void* AJanela)>;
 
 /// Forms as windows of class "TOryFormulario" with the system's own controls, font and icons. Sizes of the model are
 /// pixels of the screen.
@@ -16,7 +25,8 @@ namespace OryUtils {
 class ORY_API TToolkitWin32 final : public TToolkit {
 public:
     /// AThread  the system's number of the thread that shows forms; 0 is the calling thread
-    explicit TToolkitWin32(unsigned long AThread = 0);
+    /// ATelas   tells of screens instead of the system; empty is the system
+    explicit TToolkitWin32(unsigned long AThread = 0, TBuscarTelaWin32 ATelas = {});
     ~TToolkitWin32() override;
 
     /// Whether this process can show windows: false in a service or a batch without a desktop.
@@ -30,6 +40,7 @@ public:
     void ProcessarMensagens() override;
     std::shared_ptr<void> DesabilitarJanelas() override;
     TTamanho MedirTexto(std::u16string_view ATexto, int ALarguraMaxima) const override;
+    TTamanho MedirControle(TTipoControle ATipo, std::u16string_view ATexto, int ALarguraMaxima) const override;
     int GetTamanhoFonte() const override;
     int GetPixelsPorPolegada() const override;
     TRetangulo GetAreaDeTrabalho() const override;

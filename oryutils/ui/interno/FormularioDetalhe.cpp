@@ -1,16 +1,12 @@
 #include "oryutils/ui/interno/FormularioDetalhe.hpp"
 
-#include "oryutils/ui/interno/Medidas.hpp"
+#include "oryutils/forms/Toolkit.hpp"
 #include "oryutils/ui/interno/TextoCopiado.hpp"
-
-#include <algorithm>
 
 namespace OryUtils {
 namespace {
 
-// Dialog units.
-constexpr int CLarguraMinima = 250;
-constexpr int CAlturaDetalhe = 100;
+constexpr int CLarguraMinima = 250;  // dialog units
 
 }  // namespace
 
@@ -18,38 +14,41 @@ TFormularioDetalhe::TFormularioDetalhe(const TOryUtilsDialogsFormCustomizadoBase
                                        std::u16string_view ADetalhe, const TTextosDialogos& ATextos,
                                        std::shared_ptr<TFormulariosVivos> AVivos)
     : TFormularioMensagem(AParametros, ATextos, std::move(AVivos)), FTextos(ATextos) {
-    const TToolkit& toolkit = BuscarToolkit();
-    const TUnidades unidades(toolkit);
-    // The caption that is longer on screen decides the button's width; both fit then.
-    const auto& mostrar = FTextos.Buscar(tdMostrarDetalhes);
-    const auto& ocultar = FTextos.Buscar(tdOcultarDetalhes);
-    const auto medir = [&](const std::u16string& ACaption) { return toolkit.MedirTexto(ACaption, 0).Largura; };
     FBotao = &Adicionar<TBotao>();
     FBotao->SetNome(u"Detalhes");
-    FBotao->SetTexto(medir(mostrar) >= medir(ocultar) ? mostrar : ocultar);
+    FBotao->SetTexto(FTextos.Buscar(tdMostrarDetalhes));
     FBotao->SetHabilitado(!ADetalhe.empty());
     FBotao->OnClick = TEvento<TObjeto*>::De<&TFormularioDetalhe::AoClicar>(*this);
-
-    const int altura = std::min(unidades.Vertical(CAlturaDetalhe), BuscarAreaUtil(toolkit).Altura / 3);
-    const int margem = unidades.Horizontal(CMargem);
-    FCrescimento = altura + unidades.Vertical(CMargem);
-    Dispor(FCrescimento, unidades.Horizontal(CLarguraMinima));
-    FBotao->SetTexto(mostrar);
 
     FDetalhe = &Adicionar<TMemorando>();
     FDetalhe->SetNome(u"Detalhe");
     FDetalhe->SetSomenteLeitura(true);
     FDetalhe->SetTexto(ADetalhe);
     FDetalhe->SetVisivel(false);
-    FDetalhe->SetRetangulo({margem, GetAlturaCliente(), GetLarguraCliente() - 2 * margem, altura});
+    GetPartes().Detalhe = FDetalhe;
+    GetPartes().LarguraMinima = CLarguraMinima;
+    Dispor();
     OnKeyDown = TEvento<TObjeto*, TTecla&>::De<&TFormularioDetalhe::AoTeclar>(*this);
+}
+
+// The caption that is longer on screen decides the button's width; both fit then.
+void TFormularioDetalhe::Dispor() {
+    const std::u16string caption = FBotao->GetTexto();
+    const auto medir = [&](TTextoDialogo ATexto) {
+        return BuscarToolkit().MedirTexto(RemoverAtalho(FTextos.Buscar(ATexto)), 0).Largura;
+    };
+    FBotao->SetTexto(
+        FTextos.Buscar(medir(tdMostrarDetalhes) >= medir(tdOcultarDetalhes) ? tdMostrarDetalhes : tdOcultarDetalhes));
+    TFormularioMensagem::Dispor();
+    FBotao->SetTexto(caption);
 }
 
 void TFormularioDetalhe::MostrarDetalhe(bool AMostrar) {
     if (FDetalhe->GetVisivel() == AMostrar) return;
+    const int crescimento = GetPartes().CrescimentoDoDetalhe;
     FDetalhe->SetVisivel(AMostrar);
     FBotao->SetTexto(FTextos.Buscar(AMostrar ? tdOcultarDetalhes : tdMostrarDetalhes));
-    SetTamanhoCliente(GetLarguraCliente(), GetAlturaCliente() + (AMostrar ? FCrescimento : -FCrescimento));
+    SetTamanhoCliente(GetLarguraCliente(), GetAlturaCliente() + (AMostrar ? crescimento : -crescimento));
 }
 
 std::u16string TFormularioDetalhe::BuscarTextoCompleto() const {

@@ -17,6 +17,7 @@ public:
                        const TTextosDialogos& ATextos, std::shared_ptr<TFormulariosVivos> AVivos);
 
     void MostrarDetalhe(bool AMostrar);
+    void Dispor() override;
     /// What Ctrl+C copies: the message, a blank line, the detail.
     std::u16string BuscarTextoCompleto() const;
 
@@ -27,7 +28,6 @@ private:
     const TTextosDialogos& FTextos;
     TBotao* FBotao = nullptr;
     TMemorando* FDetalhe = nullptr;
-    int FCrescimento = 0;
 };
 
 /// Shows a message with the usual captions for ABotoes (OK when empty) and returns its modal result.

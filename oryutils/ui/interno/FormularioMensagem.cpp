@@ -12,23 +12,12 @@
 namespace OryUtils {
 namespace {
 
-constexpr int CLadoIcone = 32;  // pixels at 96 per inch
-constexpr int CPixelsPorPolegadaBase = 96;
-
 // A form's default button, the first that it has.
 constexpr std::array CPadroes{mrOk, mrYes, mrRetry};
 
 int BuscarIdIcone(TMsgDlgType ATipo) {
     const auto indice = static_cast<std::size_t>(ATipo);
     return indice < CIDsIcones.size() ? CIDsIcones[indice] : 0;
-}
-
-// The host's least width for a button of that kind, known by the control's name.
-int BuscarLarguraMinima(const TBotao& ABotao, const TToolkit& AToolkit) {
-    const auto nome = std::find(CNomesBotao.begin(), CNomesBotao.end(), ABotao.GetNome());
-    if (nome == CNomesBotao.end()) return 0;
-    const int largura = CLarguraBotao[static_cast<std::size_t>(nome - CNomesBotao.begin())];
-    return DividirArredondando(1LL * std::max(largura, 0) * AToolkit.GetPixelsPorPolegada(), CPixelsPorPolegadaBase);
 }
 
 }  // namespace
@@ -65,7 +54,7 @@ TFormularioMensagem::TFormularioMensagem(const TOryUtilsDialogsFormCustomizadoBa
     ExigirToolkit();
     SetTitulo(FParametros.Titulo);
     CriarControles();
-    FMensagem->SetTexto(BuscarMensagemComNota(FParametros, ATextos));
+    FPartes.Mensagem->SetTexto(BuscarMensagemComNota(FParametros, ATextos));
     AplicarParametros(ATextos);
     EscolherBotaoPadrao();
     Dispor();
@@ -82,13 +71,13 @@ TFormularioMensagem::~TFormularioMensagem() {
 
 void TFormularioMensagem::CriarControles() {
     if (const int id = BuscarIdIcone(FParametros.TipoDialogo)) {
-        FIcone = &Adicionar<TIcone>();
-        FIcone->SetNome(u"Image");
-        FIcone->SetIdIcone(id);
+        FPartes.Icone = &Adicionar<TIcone>();
+        FPartes.Icone->SetNome(u"Image");
+        FPartes.Icone->SetIdIcone(id);
     }
-    FMensagem = &Adicionar<TRotulo>();
-    FMensagem->SetNome(CNomeMensagem);
-    FMensagem->SetQuebraLinha(true);
+    FPartes.Mensagem = &Adicionar<TRotulo>();
+    FPartes.Mensagem->SetNome(CNomeMensagem);
+    FPartes.Mensagem->SetQuebraLinha(true);
     const TMsgDlgButtons conjunto(FParametros.Botoes);
     for (const TDadosBotao& dados : CDadosBotao) {
         if (!conjunto.Contem(dados.Tipo)) continue;
@@ -139,74 +128,9 @@ void TFormularioMensagem::EscolherBotaoPadrao() {
     SetControleAtivo(padrao);
 }
 
-// Places label (or, for a text that does not fit, the memo that stands in for it); returns the bottom.
-int TFormularioMensagem::DisporMensagem(TTamanho AMaximo, int AEsquerda) {
-    const TToolkit& toolkit = BuscarToolkit();
-    const int topo = TUnidades(toolkit).Vertical(CMargem);
-    TTamanho tamanho = MedirTextoLimitado(toolkit, FMensagem->GetTexto(), AMaximo);
-    const bool cabe = tamanho.Largura <= AMaximo.Largura && tamanho.Altura <= AMaximo.Altura;
-    if (!cabe) tamanho = {AMaximo.Largura, std::min(tamanho.Altura, AMaximo.Altura)};
-    FMensagem->SetRetangulo({AEsquerda, topo, tamanho.Largura, tamanho.Altura});
-    FMensagem->SetVisivel(cabe);
-    if (!cabe && !FRolagem) {
-        FRolagem = &Adicionar<TMemorando>();
-        FRolagem->SetNome(u"MessageMemo");
-        FRolagem->SetSomenteLeitura(true);
-        FRolagem->SetTexto(FMensagem->GetTexto());
-    }
-    if (FRolagem) {
-        // Three lines at least, so that a single endless word can be scrolled in.
-        const int altura = std::min(AMaximo.Altura, std::max(tamanho.Altura, 3 * MedirCaractere(toolkit).Altura));
-        FRolagem->SetRetangulo({AEsquerda, topo, tamanho.Largura, altura});
-        FRolagem->SetVisivel(!cabe);
-        if (!cabe) return topo + altura;
-    }
-    return topo + tamanho.Altura;
-}
+void TFormularioMensagem::Dispor() { DisporDialogo(*this, FPartes); }
 
-void TFormularioMensagem::Dispor(int AReserva, int ALarguraMinima) {
-    const TToolkit& toolkit = BuscarToolkit();
-    const TUnidades unidades(toolkit);
-    const TTamanho area = BuscarAreaUtil(toolkit);
-    const int margem = unidades.Horizontal(CMargem);
-    const int margemVertical = unidades.Vertical(CMargem);
-    const int espaco = unidades.Horizontal(CEspacoEntreBotoes);
-    const int alturaBotao = unidades.Vertical(CAlturaBotao);
-
-    int esquerda = margem;
-    int fundo = margemVertical;
-    if (FIcone) {
-        const int lado = DividirArredondando(1LL * CLadoIcone * toolkit.GetPixelsPorPolegada(), CPixelsPorPolegadaBase);
-        FIcone->SetRetangulo({margem, margemVertical, lado, lado});
-        esquerda += lado + margem;
-        fundo += lado;
-    }
-    const TTamanho maximo{std::min(area.Largura / 2, area.Largura - esquerda - margem),
-                          std::max(unidades.GetCaractere().Altura,
-                                   area.Altura - 3 * margemVertical - alturaBotao - std::max(AReserva, 0))};
-    fundo = std::max(fundo, DisporMensagem(maximo, esquerda));
-
-    const auto botoes = GetBotoes();
-    std::vector<int> larguras;
-    int fila = 0;
-    for (const TBotao* botao : botoes) {
-        const int caption = toolkit.MedirTexto(RemoverAtalho(botao->GetTexto()), 0).Largura;
-        const int largura = std::max({unidades.Horizontal(CLarguraMinimaBotao), BuscarLarguraMinima(*botao, toolkit),
-                                      caption + 2 * unidades.Horizontal(CFolgaCaption)});
-        larguras.push_back(std::min(largura, area.Largura - 2 * margem));
-        fila += larguras.back() + (fila > 0 ? espaco : 0);
-    }
-    const int titulo = std::min(area.Largura / 2, toolkit.MedirTexto(GetTitulo().substr(0, 1024), 0).Largura +
-                                                      unidades.Horizontal(CLarguraMinimaBotao));
-    const int largura = std::max(
-        {esquerda + FMensagem->GetWidth() + margem, fila + 2 * margem, titulo, std::min(ALarguraMinima, area.Largura)});
-    int proximo = (largura - fila) / 2;
-    for (std::size_t k = 0; k < botoes.size(); ++k) {
-        botoes[k]->SetRetangulo({proximo, fundo + margemVertical, larguras[k], alturaBotao});
-        proximo += larguras[k] + espaco;
-    }
-    SetTamanhoCliente(largura, fundo + 2 * margemVertical + alturaBotao);
-}
+void TFormularioMensagem::AoMudarTela(int, int) { Dispor(); }
 
 void TFormularioMensagem::AoMostrar(TObjeto*) {
     if (!FParametros.FecharMensagemAutomaticamente || FParametros.TempoFinalizacaoAutomatica <= 0 || FTemporizador)

@@ -3,6 +3,7 @@
 #include "oryutils/forms/Formulario.hpp"
 #include "oryutils/forms/Toolkit.hpp"
 #include "oryutils/ui/UnOryUtilsDialogsIOP.hpp"
+#include "oryutils/ui/interno/Disposicao.hpp"
 
 #include <cstdint>
 #include <memory>
@@ -33,9 +34,11 @@ public:
     const TOryUtilsDialogsFormCustomizadoBaseIOP& GetParametros() const noexcept { return FParametros; }
     bool GetTemporizadorLigado() const noexcept { return FTemporizador != 0; }
 
-    /// Gives every control its place. AReserva pixels of the screen's height are left for what the caller adds; the
-    /// client area is at least ALarguraMinima wide, where the screen has it.
-    void Dispor(int AReserva = 0, int ALarguraMinima = 0);
+    /// What the form is made of; who adds a part lays the form out again.
+    TPartesDoDialogo& GetPartes() noexcept { return FPartes; }
+    /// Gives every control its place.
+    virtual void Dispor();
+    void AoMudarTela(int AAntes, int AAgora) override;
 
 protected:
     void AoEncerrar() noexcept override;
@@ -44,7 +47,6 @@ private:
     void CriarControles();
     void AplicarParametros(const TTextosDialogos& ATextos);
     void EscolherBotaoPadrao();
-    int DisporMensagem(TTamanho AMaximo, int AEsquerda);
     void AoMostrar(TObjeto* ASender);
     void AoTeclar(TObjeto* ASender, TTecla& ATecla);
     void AoClicarAjuda(TObjeto* ASender);
@@ -53,9 +55,7 @@ private:
 
     TOryUtilsDialogsFormCustomizadoBaseIOP FParametros;
     std::shared_ptr<TFormulariosVivos> FVivos;
-    TRotulo* FMensagem = nullptr;
-    TIcone* FIcone = nullptr;
-    TMemorando* FRolagem = nullptr;
+    TPartesDoDialogo FPartes;
     TToolkit* FToolkit = nullptr;
     std::uintptr_t FTemporizador = 0;
 };

@@ -9,9 +9,10 @@ namespace {
 
 constexpr std::u16string_view CLetras = u"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
 constexpr int CLarguraMinimaEmPixels = 75;
+constexpr int CPixelsPorPolegadaBase = 96;
 // Frame and title bar of a window, in average characters; generous, so that the last row always shows.
 constexpr int CMolduraHorizontal = 4;
-constexpr int CMolduraVertical = 4;
+constexpr int CMolduraVertical = 3;
 // A longer caption counts as this long, so that positions cannot overflow.
 constexpr std::size_t CLimiteCaption = std::size_t{1} << 24;
 // Only so many characters of a label are measured: no screen shows more.
@@ -36,11 +37,15 @@ TTamanho MedirCaractere(const TToolkit& AToolkit) {
     return {medido.Largura / static_cast<int>(CLetras.size()), medido.Altura};
 }
 
+int TUnidades::Escalar(int APixels) const {
+    return DividirArredondando(1LL * std::max(APixels, 0) * FPixelsPorPolegada, CPixelsPorPolegadaBase);
+}
+
 TTamanho BuscarAreaUtil(const TToolkit& AToolkit) {
     const TRetangulo area = AToolkit.GetAreaDeTrabalho();
     const TTamanho caractere = MedirCaractere(AToolkit);
-    return {std::max(200, area.Width - CMolduraHorizontal * caractere.Largura),
-            std::max(150, area.Height - CMolduraVertical * caractere.Altura)};
+    return {std::max(1, area.Width - CMolduraHorizontal * caractere.Largura),
+            std::max(1, area.Height - CMolduraVertical * caractere.Altura)};
 }
 
 TTamanho MedirTextoLimitado(const TToolkit& AToolkit, std::u16string_view ATexto, TTamanho AMaximo) {

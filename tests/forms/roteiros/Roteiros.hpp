@@ -34,6 +34,21 @@ struct TFoco {
     std::u16string BotaoPadrao{};  ///< caption of the button that is drawn as the one that Enter presses
 };
 
+/// A control of the dialog in front, measured on the screen.
+struct TNativo {
+    std::u16string Texto, Dica;
+    TRetangulo Lugar;  ///< in the client area
+    bool Cabe = true;  ///< the text that it shows fits it, or scrolls in it
+    bool Focavel = false, EhOpcao = false;
+    bool Rolado = false;  ///< in a view that scrolls
+};
+struct TVisao {
+    TRetangulo Janela;  ///< on the screen, frame and all
+    TTamanho Cliente;
+    std::vector<TNativo> Controles;     ///< what is visible; of a group, its options
+    std::vector<TRetangulo> Tabulacao;  ///< where Tab stops, once around
+};
+
 /// The person in front of the form that is shown.
 class TUsuario {
 public:
@@ -64,6 +79,13 @@ public:
     /// The controls of AFormulario on the screen, in the order of the model. The first is the window: its title, and
     /// the size of its client area.
     virtual std::vector<TVisto> Ver(const TFormulario& AFormulario) = 0;
+    virtual TVisao Medir() = 0;
+    /// False where no button has that caption.
+    virtual bool ClicarSeHouver(std::u16string_view ACaption) = 0;
+    /// The work areas of the screens that this program has.
+    virtual std::vector<TRetangulo> BuscarTelas() = 0;
+    /// The dialogs that follow belong to a window on that screen.
+    virtual void AbrirEm(std::size_t ATela) = 0;
     /// Windows and widgets of the program, where the system does not count them.
     virtual long ContarObjetos() { return 0; }
 };

@@ -7,7 +7,9 @@
 #include <QFileInfo>
 #include <QLibraryInfo>
 #include <QPluginLoader>
+#include <QScreen>
 #include <QThread>
+#include <QWidget>
 
 #include <atomic>
 #include <clocale>
@@ -63,6 +65,11 @@ bool PodeCriarAplicacao() {
         if (!qEnvironmentVariableIsEmpty(variavel)) return true;
     const bool x11 = !qEnvironmentVariableIsEmpty("DISPLAY") && Carrega("libqxcb.so");
     return x11 || (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") && Carrega("libqwayland-generic.so"));
+}
+
+QScreen* BuscarTelaQt() {
+    const QWidget* ativa = QApplication::activeWindow();
+    return ativa ? ativa->screen() : QGuiApplication::primaryScreen();
 }
 
 bool EhThreadDaAplicacao() {

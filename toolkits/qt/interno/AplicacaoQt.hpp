@@ -12,6 +12,10 @@ QApplication& ExigirAplicacao();
 /// the whole process, so this looks first. That the display answers is for the caller to know.
 bool PodeCriarAplicacao();
 
+/// The screen on which the next form opens: the one of the window in front, else the main one; null where there is
+/// none.
+QScreen* BuscarTelaQt();
+
 /// The application's thread; before there is an application, the thread that first asked.
 bool EhThreadDaAplicacao();
 

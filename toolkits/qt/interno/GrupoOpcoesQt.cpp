@@ -1,45 +1,29 @@
 #include "toolkits/qt/interno/GrupoOpcoesQt.hpp"
 
+#include "toolkits/qt/interno/EncaixeQt.hpp"
 #include "toolkits/qt/interno/TextoQt.hpp"
 
-#include <QStyle>
-#include <QStyleOptionButton>
-#include <QTextLayout>
+#include <QEvent>
+#include <QScrollBar>
 
 #include <algorithm>
+#include <numeric>
 
 namespace OryUtils {
 namespace {
 
 constexpr int CMargem = 8;
 
-// ATexto in lines of at most ALargura; empty when it takes more than ALinhas.
-QString QuebrarEmLinhas(const QString& ATexto, const QFont& AFonte, int ALargura, int ALinhas) {
-    QTextLayout disposicao(ATexto, AFonte);
-    QTextOption opcao;
-    opcao.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    disposicao.setTextOption(opcao);
-    QStringList linhas;
-    disposicao.beginLayout();
-    for (QTextLine linha = disposicao.createLine(); linha.isValid(); linha = disposicao.createLine()) {
-        if (linhas.size() == ALinhas) return {};
-        linha.setLineWidth(ALargura);
-        linhas += ATexto.mid(linha.textStart(), linha.textLength()).trimmed();
-    }
-    disposicao.endLayout();
-    return linhas.join(QLatin1Char('\n'));
-}
-
-// Width that the style leaves for the text beside the mark.
-int BuscarEspacoDoTexto(const QRadioButton& ABotao) {
-    QStyleOptionButton opcao;
-    opcao.initFrom(&ABotao);
-    return ABotao.style()->subElementRect(QStyle::SE_RadioButtonContents, &opcao, &ABotao).width() - 4;
-}
-
 }  // namespace
 
-TGrupoOpcoesQt::TGrupoOpcoesQt(QWidget* APai, std::function<void(int)> AEscolheu) : QGroupBox(APai), FGrupo(this) {
+TGrupoOpcoesQt::TGrupoOpcoesQt(QWidget* APai, std::function<void(int)> AEscolheu)
+    : QGroupBox(APai), FVista(this), FConteudo(new QWidget), FGrupo(this) {
+    FVista.setFrameShape(QFrame::NoFrame);
+    FVista.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    FVista.setFocusPolicy(Qt::NoFocus);
+    FVista.viewport()->setAutoFillBackground(false);
+    FVista.setWidget(FConteudo);
+    FConteudo->setAutoFillBackground(false);
     QObject::connect(&FGrupo, &QButtonGroup::idToggled, this,
                      [this, escolheu = std::move(AEscolheu)](int AIndice, bool AMarcado) {
                          EscolherParadaDoTab();
@@ -50,7 +34,8 @@ TGrupoOpcoesQt::TGrupoOpcoesQt(QWidget* APai, std::function<void(int)> AEscolheu
 std::vector<QRadioButton*> TGrupoOpcoesQt::CompletarItens(const std::vector<std::u16string>& AItens) {
     std::vector<QRadioButton*> novos;
     for (std::size_t i = FBotoes.size(); i < AItens.size(); ++i) {
-        auto* botao = new QRadioButton(this);
+        auto* botao = new QRadioButton(FConteudo);
+        botao->installEventFilter(this);
         FGrupo.addButton(botao, static_cast<int>(i));
         botao->show();
         FBotoes.push_back(botao);
@@ -96,25 +81,44 @@ void TGrupoOpcoesQt::resizeEvent(QResizeEvent* AEvento) {
     Arrumar();
 }
 
+// The view follows the focus, also when the arrows move it.
+bool TGrupoOpcoesQt::eventFilter(QObject* AObjeto, QEvent* AEvento) {
+    if (AEvento->type() == QEvent::FocusIn) FVista.ensureWidgetVisible(static_cast<QWidget*>(AObjeto), 0, 0);
+    return QGroupBox::eventFilter(AObjeto, AEvento);
+}
+
+std::vector<int> TGrupoOpcoesQt::MedirAlturas(int ALargura) const {
+    std::vector<int> alturas;
+    for (const QString& texto : FTextos)
+        alturas.push_back(MedirControleQt(tcGrupoOpcoes, texto, FQuebraLinha ? ALargura : 0).height());
+    return alturas;
+}
+
 void TGrupoOpcoesQt::Arrumar() {
     if (FBotoes.empty()) return;
     const QFontMetrics metricas = fontMetrics();
     const int topo = title().isEmpty() ? CMargem / 2 : metricas.height() + CMargem / 2;
-    const int largura = width() - 2 * CMargem;
-    const int altura = std::max(0, height() - topo - CMargem / 2) / static_cast<int>(FBotoes.size());
-    const int linhas = FQuebraLinha ? std::max(1, altura / metricas.lineSpacing()) : 1;
+    const QRect vista(CMargem, topo, std::max(0, width() - 2 * CMargem), std::max(0, height() - topo - CMargem / 2));
+    FVista.setGeometry(vista);
+    int largura = vista.width();
+    std::vector<int> alturas = MedirAlturas(largura);
+    int soma = std::accumulate(alturas.begin(), alturas.end(), 0);
+    const bool rola = soma > vista.height();
+    if (rola) {
+        largura = std::max(0, largura - FVista.verticalScrollBar()->sizeHint().width());
+        alturas = MedirAlturas(largura);
+        soma = std::accumulate(alturas.begin(), alturas.end(), 0);
+    }
+    FVista.setVerticalScrollBarPolicy(rola ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    FConteudo->resize(largura, std::max(soma, vista.height()));
+    // Options share what is left.
+    const int sobra = rola ? 0 : (vista.height() - soma) / static_cast<int>(FBotoes.size());
+    int y = 0;
     for (std::size_t i = 0; i < FBotoes.size(); ++i) {
-        FBotoes[i]->setGeometry(CMargem, topo + static_cast<int>(i) * altura, largura, altura);
-        const int espaco = BuscarEspacoDoTexto(*FBotoes[i]);
-        const QString& texto = FTextos[i];
-        QString cabe = texto;
-        if (metricas.size(Qt::TextShowMnemonic, texto).width() > espaco) {
-            cabe = QuebrarEmLinhas(texto, font(), espaco, linhas);
-            if (cabe.isEmpty()) cabe = metricas.elidedText(texto, Qt::ElideRight, espaco, Qt::TextShowMnemonic);
-        }
-        FBotoes[i]->setText(cabe);
-        FBotoes[i]->setAccessibleName(QString::fromStdU16String(RemoverAtalho(texto.toStdU16String())));
-        FBotoes[i]->setToolTip(cabe.endsWith(QChar(0x2026)) ? texto.toHtmlEscaped() : QString());
+        FBotoes[i]->setGeometry(0, y, largura, alturas[i] + sobra);
+        EncaixarTexto(*FBotoes[i], FTextos[i], FQuebraLinha);
+        FBotoes[i]->setAccessibleName(QString::fromStdU16String(RemoverAtalho(FTextos[i].toStdU16String())));
+        y += alturas[i] + sobra;
     }
 }
 

@@ -5,14 +5,16 @@
 #include <QButtonGroup>
 #include <QGroupBox>
 #include <QRadioButton>
+#include <QScrollArea>
 
 #include <functional>
 #include <vector>
 
 namespace OryUtils {
 
-/// Group box with a column of radio buttons that share its height. A caption that is too long is broken into lines
-/// where its row has room for them and is shortened with "…" otherwise; then a tool tip shows the whole of it.
+/// Group box with a column of radio buttons, which share its height and scroll where they do not fit. A caption that
+/// is too long is broken into lines when the group wraps and is shortened with "…" otherwise; then a tool tip shows
+/// the whole of it.
 class TGrupoOpcoesQt final : public QGroupBox {
 public:
     TGrupoOpcoesQt(QWidget* APai, std::function<void(int)> AEscolheu);
@@ -28,11 +30,15 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* AEvento) override;
+    bool eventFilter(QObject* AObjeto, QEvent* AEvento) override;
 
 private:
+    std::vector<int> MedirAlturas(int ALargura) const;
     void Arrumar();
     void EscolherParadaDoTab();
 
+    QScrollArea FVista;
+    QWidget* FConteudo;  // of the view, which owns it
     std::vector<QRadioButton*> FBotoes;
     std::vector<QString> FTextos;
     QButtonGroup FGrupo;

@@ -1,6 +1,8 @@
 #include "toolkits/qt/interno/JanelaQt.hpp"
 
 #include "toolkits/qt/interno/AcessoQt.hpp"
+#include "toolkits/qt/interno/AplicacaoQt.hpp"
+#include "toolkits/qt/interno/EncaixeQt.hpp"
 #include "toolkits/qt/interno/GrupoOpcoesQt.hpp"
 #include "toolkits/qt/interno/GuardaQt.hpp"
 #include "toolkits/qt/interno/NavegacaoQt.hpp"
@@ -80,6 +82,9 @@ void TJanelaQt::Executar(TGuardaQt& AGuarda) {
     const QPointer<QWidget> ativa = QApplication::activeWindow();
     winId();
     if (ativa && ativa->window()->windowHandle()) windowHandle()->setTransientParent(ativa->window()->windowHandle());
+    FPixelsPorPolegada = qRound(screen()->logicalDotsPerInch());
+    FAreaDaTela = screen()->availableSize();
+    connect(windowHandle(), &QWindow::screenChanged, this, &TJanelaQt::ConferirTela);
     FocarInicial();
     show();
     activateWindow();
@@ -110,7 +115,9 @@ void TJanelaQt::Mudou(TControleFormulario& AControle, TMudanca AMudanca) {
         OrdenarTabulacao();
         return;
     }
-    if (AMudanca == mdTexto) AplicarTexto(AControle, *widget);
+    const bool legenda = AControle.GetTipo() == tcBotao || AControle.GetTipo() == tcCaixaChecagem;
+    if (AMudanca == mdPosicao) widget->setGeometry(DeRetangulo(AControle.GetRetangulo()));
+    if (AMudanca == mdTexto || (AMudanca == mdPosicao && legenda)) AplicarTexto(AControle, *widget);
     if (AMudanca == mdFoco) return Focar(AControle);
     Aplicar(AControle, *widget);
     if (AMudanca == mdItens) OrdenarTabulacao();
@@ -120,6 +127,7 @@ void TJanelaQt::Mudou(TControleFormulario& AControle, TMudanca AMudanca) {
 void TJanelaQt::MudouFormulario(TMudanca AMudanca) {
     if (AMudanca == mdTexto) setWindowTitle(ParaQt(FFormulario.GetTitulo()));
     if (AMudanca == mdPosicao) AplicarTamanho();
+    if (AMudanca == mdItens) OrdenarTabulacao();
 }
 
 QWidget* TJanelaQt::Buscar(const TControleFormulario& AControle) const {
@@ -131,8 +139,8 @@ void TJanelaQt::Realizar(TControleFormulario& AControle) {
     QWidget* widget = Criar(AControle);
     FWidgets.emplace(&AControle, widget);
     Vigiar(*widget, AControle);
-    AplicarTexto(AControle, *widget);
     Aplicar(AControle, *widget);
+    AplicarTexto(AControle, *widget);
     if (AControle.GetTipo() == tcCaixaEdicao && Como<TCaixaEdicao>(AControle).GetSelecionarTudo())
         static_cast<QLineEdit*>(widget)->selectAll();
 }
@@ -233,10 +241,10 @@ void TJanelaQt::AplicarTexto(const TControleFormulario& AControle, QWidget& AWid
             static_cast<QLabel&>(AWidget).setText(texto);
             break;
         case tcBotao:
-            static_cast<QPushButton&>(AWidget).setText(texto);
+            EncaixarTexto(static_cast<QPushButton&>(AWidget), texto, false);
             break;
         case tcCaixaChecagem:
-            static_cast<QCheckBox&>(AWidget).setText(texto);
+            EncaixarTexto(static_cast<QCheckBox&>(AWidget), texto, true);
             break;
         case tcGrupoOpcoes:
             static_cast<QGroupBox&>(AWidget).setTitle(texto);
@@ -253,19 +261,6 @@ void TJanelaQt::AplicarTexto(const TControleFormulario& AControle, QWidget& AWid
         case tcIcone:
             break;
     }
-}
-
-void TJanelaQt::AplicarTamanho() {
-    const QSize cliente(FFormulario.GetLarguraCliente(), FFormulario.GetAlturaCliente());
-    if (FFormulario.EstiloBorda == ebDialogo)
-        setFixedSize(cliente);
-    else
-        resize(cliente);
-    const QScreen* tela = QGuiApplication::primaryScreen();
-    if (FFormulario.Posicao == pfDesenhada)
-        move(FFormulario.GetPosicao().Left, FFormulario.GetPosicao().Top);
-    else if (tela)
-        move(tela->availableGeometry().center() - QPoint(cliente.width() / 2, cliente.height() / 2));
 }
 
 void TJanelaQt::OrdenarTabulacao() {

@@ -47,6 +47,7 @@ private:
     void Aplicar(TControleFormulario& AControle, QWidget& AWidget);
     void AplicarTexto(const TControleFormulario& AControle, QWidget& AWidget);
     void AplicarTamanho();
+    void ConferirTela();
     void OrdenarTabulacao();
     void Focar(const TControleFormulario& AControle);
     void FocarInicial();
@@ -66,6 +67,8 @@ private:
     // A key that a control leaves alone is offered to its parents as the same event: this tells it from a new one.
     const QEvent* FTeclaTratada = nullptr;
     QEventLoop* FLaco = nullptr;
+    int FPixelsPorPolegada = 96;
+    QSize FAreaDaTela;
     std::vector<TCaixaEdicao*> FSaidas;
     bool FAvisandoSaidas = false;
 };

@@ -19,9 +19,11 @@ public:
     /// Where the focus goes: the window itself, or the chosen option of a group.
     HWND GetAlvoDoFoco() const noexcept;
     bool Possui(HWND AJanela) const noexcept;
-    /// The windows in tab order.
+    /// The windows that lie on the form, in tab order.
     std::vector<HWND> GetJanelas() const;
 
+    /// The form has come to a screen of another scale.
+    void MudarFonte(const TFonteDialogo& AFonte);
     /// Brings the native side up to date with the model.
     void Atualizar(unsigned AMudancas);
     /// Reads what the user did into the model.
@@ -35,6 +37,10 @@ private:
     HWND Criar(const wchar_t* AClasse, DWORD AEstilo, DWORD AEstiloEstendido, int AId) const;
     void CriarOpcoes();
     void PosicionarOpcoes();
+    std::vector<int> MedirOpcoes(int ALargura) const;
+    void RolarOpcoes(bool ARolar);
+    void EncaixarTexto(HWND AJanela, std::u16string_view ATexto, TTamanho AFolga) const;
+    std::vector<HWND> GetTodas() const;
     void AtualizarSelecao();
 
     TControleFormulario* FModelo;
@@ -42,6 +48,7 @@ private:
     const TFonteDialogo* FFonte;
     HWND FJanela = nullptr;
     std::vector<HWND> FOpcoes;
+    HWND FVista = nullptr;  // holds the options while they do not all fit
     bool FTextoMudou = false;
 };
 

@@ -2,6 +2,7 @@
 
 #include "oryutils/forms/Formulario.hpp"
 #include "oryutils/forms/win32/interno/ControleNativo.hpp"
+#include "oryutils/forms/win32/interno/Telas.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 
 #include <exception>
@@ -30,7 +31,7 @@ bool Proteger(std::exception_ptr& ADestino, TAcao&& AAcao) noexcept {
 class TJanelaWin32 final : public TJanela {
 public:
     /// Creates the window, not shown yet.
-    TJanelaWin32(TFormulario& AFormulario, TLacoDeMensagens& ALaco, const TFonteDialogo& AFonte);
+    TJanelaWin32(TFormulario& AFormulario, TLacoDeMensagens& ALaco, TTelas& ATelas);
     ~TJanelaWin32() override;
 
     /// Shows the window and runs until the form has a result; raises what a handler raised.
@@ -56,7 +57,8 @@ private:
     void Criar(HWND ADona);
     void Realizar(TControleFormulario& AControle);
     void Posicionar(HWND ADona);
-    RECT BuscarMoldura(int ALargura, int AAltura) const;
+    void ConferirTela();
+    void OrdenarTabulacao();
     void Mostrar();
     void LerTudo();
     void Focar(TControleNativo* AControle);
@@ -66,7 +68,8 @@ private:
 
     TFormulario& FFormulario;
     TLacoDeMensagens& FLaco;
-    const TFonteDialogo& FFonte;
+    TTelas& FTelas;
+    TTelaWin32 FTela;
     HWND FJanela = nullptr;
     std::vector<std::unique_ptr<TControleNativo>> FNativos;
     TControleFormulario* FFocado = nullptr;
