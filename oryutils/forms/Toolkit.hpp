@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 // A change of a class or of an enumeration in this header counts CVersaoDoModelo up: see forms/interno/FabricaQt.hpp.
@@ -19,6 +20,21 @@ namespace OryUtils {
 struct TFiltroArquivo {
     std::u16string Descricao;
     std::u16string Mascara;
+    bool operator==(const TFiltroArquivo&) const = default;
+};
+
+/// What a picker answers: a file that exists, several of them, a file to write, a folder that exists.
+enum TSelecaoDeCaminho : int { scAbrir, scAbrirVarios, scSalvar, scPasta };
+
+/// What a picker is asked for.
+struct TPedidoDeCaminho {
+    TSelecaoDeCaminho Selecao = scAbrir;
+    std::u16string Titulo{};          ///< empty: the picker's own
+    std::u16string PastaInicial{};    ///< empty: the picker's choice
+    std::u16string NomeSugerido{};    ///< of a file to write: a name without a folder
+    std::u16string ExtensaoPadrao{};  ///< put behind a name to write that has none; without the point
+    std::vector<TFiltroArquivo> Filtros{};
+    bool operator==(const TPedidoDeCaminho&) const = default;
 };
 
 enum TCursorTela : int { ctNormal, ctAmpulheta };
@@ -64,11 +80,22 @@ public:
     virtual std::uintptr_t LigarTemporizador(int AMilissegundos, std::function<void()> AAcao) = 0;
     virtual void DesligarTemporizador(std::uintptr_t ATemporizador) = 0;
 
-    /// Pickers: the chosen full path; none when cancelled.
-    virtual std::optional<std::u16string> EscolherArquivo(std::u16string_view APastaInicial,
-                                                          const std::vector<TFiltroArquivo>& AFiltros) = 0;
-    virtual std::optional<std::u16string> EscolherPasta(std::u16string_view ATitulo,
-                                                        std::u16string_view APastaInicial) = 0;
+    /// A picker: the chosen full paths; none when cancelled. A file to write that exists has been agreed to.
+    virtual std::vector<std::u16string> EscolherCaminhos(const TPedidoDeCaminho& APedido) = 0;
+    std::optional<std::u16string> EscolherArquivo(std::u16string_view APastaInicial,
+                                                  const std::vector<TFiltroArquivo>& AFiltros) {
+        return EscolherCaminho(
+            {.Selecao = scAbrir, .PastaInicial = std::u16string(APastaInicial), .Filtros = AFiltros});
+    }
+    std::optional<std::u16string> EscolherPasta(std::u16string_view ATitulo, std::u16string_view APastaInicial) {
+        return EscolherCaminho(
+            {.Selecao = scPasta, .Titulo = std::u16string(ATitulo), .PastaInicial = std::u16string(APastaInicial)});
+    }
+    /// The first one.
+    std::optional<std::u16string> EscolherCaminho(const TPedidoDeCaminho& APedido) {
+        auto caminhos = EscolherCaminhos(APedido);
+        return caminhos.empty() ? std::nullopt : std::optional(std::move(caminhos.front()));
+    }
 
     virtual void SetCursor(TCursorTela ACursor) = 0;
     /// Whether the key of that virtual-key code is down.

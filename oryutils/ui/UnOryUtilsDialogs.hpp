@@ -5,6 +5,7 @@
 #include "oryutils/forms/Toolkit.hpp"
 #include "oryutils/runtime/Instancia.hpp"
 #include "oryutils/ui/UnOryUtilsDialogsCentralNotificacoes.hpp"
+#include "oryutils/ui/UnOryUtilsDialogsEntradasIOP.hpp"
 #include "oryutils/ui/UnOryUtilsDialogsIOP.hpp"
 #include "oryutils/ui/UnOryUtilsDialogsTypes.hpp"
 
@@ -104,6 +105,17 @@ public:
                                             const std::vector<std::u16string>& AMascaras);
     /// The system's folder browser: the chosen folder, empty when cancelled.
     std::u16string BuscarPastaSelecionada(std::u16string_view ATitulo, std::u16string_view APastaInicial);
+
+    /// The pickers with a title, a start folder and filters of the caller's: full paths, empty when cancelled. On Win32
+    /// they are the system's own, in its language.
+    /// Raise Exception from a thread that may not show forms, and EscolherArquivos when too many were chosen.
+    /// Example:  GOryUtilsDialogs->EscolherArquivos({.Filtros = {{u"Notas", u"*.xml"}, {u"Todos", u"*.*"}}});
+    std::u16string EscolherArquivo(const TOryUtilsDialogsSelecaoIOP& AParametros);
+    std::vector<std::u16string> EscolherArquivos(const TOryUtilsDialogsSelecaoIOP& AParametros);
+    /// A file to write, which need not exist; one that does is answered only after the user agreed to replace it.
+    /// Writes nothing.
+    std::u16string EscolherArquivoParaSalvar(const TOryUtilsDialogsSelecaoIOP& AParametros);
+    std::u16string EscolherPasta(const TOryUtilsDialogsSelecaoIOP& AParametros);
 
     TOryUtilsDialogsCentralNotificacoes& GetCentralNotificacoes() noexcept { return FCentral; }
     /// The innermost message form of this instance, built and not yet freed; null when there is none.

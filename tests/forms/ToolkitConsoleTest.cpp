@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -108,6 +110,56 @@ TEST(Console, OpcoesChecagemETexto) {
     EXPECT_EQ(grupo.GetIndice(), 1);
     EXPECT_TRUE(caixa.GetMarcada());
     EXPECT_EQ(edicao.GetTexto(), u"São Paulo");
+}
+
+TEST(Console, EscolhaDeArquivosEPastas) {
+    namespace fs = std::filesystem;
+    const fs::path pasta = fs::path(testing::TempDir()) / "ory-seletor-console";
+    fs::remove_all(pasta);
+    fs::create_directories(pasta / "sub");
+    for (const char* nome : {"a.txt", "b.txt"}) std::ofstream(pasta / nome) << "1";
+    const struct {
+        TSelecaoDeCaminho Selecao;
+        TLinhas Linhas;
+        const char* Esperado;
+        const char* NaTela;
+        const char* Porque;
+    } casos[] = {
+        {scAbrir,
+         {u"c.txt", u"a.txt"},
+         "a.txt",
+         "Arquivo não encontrado.\nArquivo, Textos *.txt (vazio cancela): ",
+         ""},
+        {scAbrir, {u""}, "", "", "cancelled"},
+        {scAbrirVarios, {u"a.txt", u"sub", u"./b.txt", u""}, "a.txt b.txt", "um por linha", "a folder is no file"},
+        {scAbrirVarios, {u""}, "", "", "none"},
+        {scPasta, {u"a.txt", u"sub"}, "sub", "Pasta não encontrada.", ""},
+        {scSalvar, {u""}, "nota.txt", "[nota.txt] (Enter aceita, \"\" cancela): ", "the name suggested"},
+        {scSalvar, {u"\"\""}, "", "", "cancelled"},
+        {scSalvar, {u"outra"}, "outra.txt", "", "with the usual extension"},
+        {scSalvar, {u"a.txt", u"n", u"a.txt", u"s"}, "a.txt", "a.txt já existe. Deseja substituí-lo? (s/n) [n]: ", ""},
+        {scSalvar, {u"a", u"", u"b.log"}, "b.log", "a.txt já existe.", "also when the extension makes it the same"},
+        {scSalvar, {u"longe/x.txt", u"sub.d/", u"novo.txt"}, "novo.txt", "Pasta não encontrada.", "no such folder"},
+        {scSalvar, {u"a.txt"}, "", "", "end of input is no agreement"},
+    };
+    for (const auto& c : casos) {
+        TConversaEscrita conversa;
+        conversa.Linhas = c.Linhas;
+        TToolkitConsole toolkit(conversa);
+        std::string escolhidos;
+        for (const auto& caminho : toolkit.EscolherCaminhos({.Selecao = c.Selecao,
+                                   .PastaInicial = pasta.u16string(),
+                                   .NomeSugerido = u"nota.txt",
+                                   .ExtensaoPadrao = u"txt",
+                                   .Filtros = {{u"Textos", u"*.txt"}}}))
+            escolhidos += (escolhidos.empty() ? "" : " ") + fs::relative(caminho, pasta).string();
+        EXPECT_EQ(escolhidos, c.Esperado) << c.Porque;
+        EXPECT_NE(conversa.Escrito.find(c.NaTela), std::string::npos) << conversa.Escrito;
+    }
+    TConversaEscrita muda;
+    muda.Terminal = false;
+    EXPECT_TRUE(TToolkitConsole(muda).EscolherCaminhos({}).empty());
+    fs::remove_all(pasta);
 }
 
 TEST(Console, TemporizadorFechaAPerguntaQueNinguemResponde) {

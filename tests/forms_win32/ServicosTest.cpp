@@ -67,6 +67,69 @@ TEST_F(FormsWin32, ArquivoOuPastaEscolhidosOuCancelados) {
     std::filesystem::remove_all(pasta);
 }
 
+TEST_F(FormsWin32, VariosArquivosEArquivoParaSalvar) {
+    const auto pasta =
+        std::filesystem::temp_directory_path() / ("ory-seletor2-" + std::to_string(::GetCurrentProcessId()));
+    std::filesystem::create_directories(pasta);
+    for (const char* nome : {"a.txt", "b.txt"}) std::ofstream(pasta / nome) << "1";
+    const struct {
+        TSelecaoDeCaminho Selecao;
+        const wchar_t* Digitado;  ///< null: what is suggested
+        int Substituir;           ///< the answer, where that is asked
+        std::string Esperado;
+    } casos[] = {{scAbrirVarios, L"\"a.txt\" \"b.txt\"", 0, "a.txt b.txt"},
+                 {scAbrirVarios, L"b.txt", 0, "b.txt"},
+                 {scSalvar, nullptr, 0, "nota.txt"},
+                 {scSalvar, L"nova", 0, "nova.txt"},
+                 {scSalvar, L"a.txt", IDNO, ""},
+                 {scSalvar, L"a", IDYES, "a.txt"}};
+    for (const auto& c : casos) {
+        bool perguntou = false;
+        const auto confirmar = [&](HWND ASeletor) {
+            if (c.Digitado)
+                for (const int caixa : CCaixasDoNome) ::SetDlgItemTextW(ASeletor, caixa, c.Digitado);
+            ::PostMessageW(ASeletor, WM_COMMAND, IDOK, 0);
+        };
+        HWND seletor = nullptr;
+        // The question is a window in front of the picker; after a "no" the picker is given up.
+        const auto olhar = FToolkit.LigarTemporizador(20, [&] {
+            const HWND frente = BuscarSeletor();
+            if (!frente) return;
+            if (!seletor) return confirmar(seletor = frente);
+            if (frente != seletor && !perguntou && c.Substituir) {
+                perguntou = true;
+                ::PostMessageW(frente, WM_COMMAND, static_cast<WPARAM>(c.Substituir), 0);
+            } else if (frente == seletor && perguntou && c.Substituir == IDNO) {
+                ::PostMessageW(seletor, WM_COMMAND, IDCANCEL, 0);
+            }
+        });
+        const auto caminhos = FToolkit.EscolherCaminhos({.Selecao = c.Selecao,
+                                                         .Titulo = u"Título",
+                                                         .PastaInicial = pasta.u16string(),
+                                                         .NomeSugerido = u"nota.txt",
+                                                         .ExtensaoPadrao = u"txt",
+                                                         .Filtros = {{u"Todos", u"*.*"}}});
+        FToolkit.DesligarTemporizador(olhar);
+        std::string escolhidos;
+        for (const auto& caminho : caminhos) {
+            EXPECT_TRUE(std::filesystem::equivalent(std::filesystem::path(caminho).parent_path(), pasta));
+            escolhidos += (escolhidos.empty() ? "" : " ") + std::filesystem::path(caminho).filename().string();
+        }
+        EXPECT_EQ(escolhidos, c.Esperado);
+        EXPECT_EQ(perguntou, c.Substituir != 0) << c.Esperado;
+    }
+    std::filesystem::remove_all(pasta);
+}
+
+TEST_F(FormsWin32, OQueOSistemaDizDosEscolhidos) {
+    using TLista = std::vector<std::u16string>;
+    const auto ler = [](std::u16string_view ADados) { return Interno::LerEscolhidos(ADados); };
+    EXPECT_EQ(ler({u"C:\\x\\a.txt\0\0\0", 12}), TLista{u"C:\\x\\a.txt"});
+    EXPECT_EQ(ler({u"C:\\x\0a\0b c\0\0lixo", 16}), (TLista{u"C:\\x\\a", u"C:\\x\\b c"}));
+    EXPECT_EQ(ler({u"C:\\\0a\0b\0", 8}), (TLista{u"C:\\a", u"C:\\b"})) << "a root; no NUL more behind";
+    EXPECT_EQ(ler({u"\0", 1}), TLista{});
+}
+
 TEST_F(FormsWin32, FiltroDoSeletorDeArquivos) {
     const std::vector<TFiltroArquivo> filtros{{u"Textos", u"*.txt;*.csv"}, {u"Todos", u"*.*"}};
     EXPECT_EQ(Interno::MontarFiltro(filtros), std::u16string(u"Textos\0*.txt;*.csv\0Todos\0*.*\0\0", 30));

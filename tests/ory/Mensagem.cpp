@@ -56,5 +56,34 @@ TEST(Mensagem, RespondeOQueFoiEscolhido) {
     Rodar({"mensagem", "--tipo", "aviso", "linha 1", "linha 2"});
 }
 
+TEST(Mensagem, PedeArquivosEPastas) {
+    const struct {
+        std::vector<std::string> Argumentos;
+        TPedidoDeCaminho Esperado;
+    } casos[] = {
+        {{"--arquivo", "Que", "nota?"}, {.Selecao = scAbrir, .Titulo = u"Que nota?"}},
+        {{"--pasta", "--pasta-inicial", "/ação"}, {.Selecao = scPasta, .PastaInicial = u"/ação"}},
+        {{"--arquivos", "x", "--titulo", "y", "--filtro", "Notas=*.xml;*.x", "--filtro", "a=b=*.*"},
+         {.Selecao = scAbrirVarios,
+          .Titulo = u"y",
+          .ExtensaoPadrao = u"xml",
+          .Filtros = {{u"Notas", u"*.xml;*.x"}, {u"a=b", u"*.*"}}}},
+        {{"--salvar", "n.txt", "--filtro", "t=*.*"},
+         {.Selecao = scSalvar, .NomeSugerido = u"n.txt", .Filtros = {{u"t", u"*.*"}}}},
+        {{"--salvar", ""}, {.Selecao = scSalvar}},
+    };
+    for (const auto& caso : casos) {
+        for (const bool cancela : {false, true}) {
+            TToolkitRoteirizado toolkit;
+            if (!cancela) toolkit.Escolha = u"/tmp/São João.txt";
+            std::vector<std::string> argumentos{"mensagem"};
+            argumentos.insert(argumentos.end(), caso.Argumentos.begin(), caso.Argumentos.end());
+            EXPECT_EQ(Rodar(argumentos), (cancela ? TRodada{3, "", ""} : TRodada{0, "/tmp/São João.txt\n", ""}));
+            ASSERT_EQ(toolkit.Pedidos.size(), 1U);
+            EXPECT_EQ(toolkit.Pedidos[0], caso.Esperado) << testing::PrintToString(caso.Argumentos);
+        }
+    }
+}
+
 }  // namespace
 }  // namespace Ory

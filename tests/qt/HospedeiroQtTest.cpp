@@ -163,6 +163,64 @@ TEST_F(TTesteQt, EscolhaDeArquivoEPasta) {
     EXPECT_EQ(toolkit.EscolherPasta(u"Onde gravar", inicial), inicial);
 }
 
+TEST_F(TTesteQt, SalvarPerguntaAntesDeSubstituirEmPortugues) {
+    QTemporaryDir pasta;
+    QFile arquivo(pasta.filePath("velho.txt"));
+    ASSERT_TRUE(arquivo.open(QIODevice::WriteOnly));
+    TSemTraducao semTraducao;
+    QCoreApplication::installTranslator(&semTraducao);
+    const auto salvar = [&](const char* ANome, bool ASubstitui) {
+        QStringList vistos;
+        QuandoMostrar([&, ANome] {
+            auto& seletor = *qobject_cast<QFileDialog*>(BuscarDialogo());
+            auto* nome = seletor.findChild<QLineEdit*>();
+            vistos += {seletor.windowTitle(), nome->text()};
+            nome->selectAll();
+            QTest::keyClicks(nome, ANome);
+            // The question, where there is one, comes up inside of the key.
+            QTimer pergunta;
+            QObject::connect(&pergunta, &QTimer::timeout, &seletor, [&] {
+                auto* caixa = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                if (!caixa) return;
+                vistos += caixa->text();
+                for (QAbstractButton* botao : caixa->buttons()) vistos += botao->text();
+                pergunta.stop();
+                caixa->button(ASubstitui ? QMessageBox::Yes : QMessageBox::No)->click();
+            });
+            pergunta.start(5);
+            QTest::keyClick(nome, Qt::Key_Return);
+            if (seletor.isVisible()) seletor.reject();
+        });
+        const auto caminhos = BuscarToolkit().EscolherCaminhos({.Selecao = scSalvar,
+                                                                .PastaInicial = pasta.path().toStdU16String(),
+                                                                .NomeSugerido = u"nota.txt",
+                                                                .ExtensaoPadrao = u"txt"});
+        vistos += caminhos.empty() ? QString("-") : QFileInfo(QString::fromStdU16String(caminhos[0])).fileName();
+        return vistos.join('|').toStdString();
+    };
+    const std::string pergunta = "Salvar como|nota.txt|velho.txt já existe.\nDeseja substituí-lo?|&Sim|&Não|";
+    EXPECT_EQ(salvar("novo", true), "Salvar como|nota.txt|novo.txt");
+    EXPECT_EQ(salvar("velho.txt", false), pergunta + "-");
+    EXPECT_EQ(salvar("velho", true), pergunta + "velho.txt");
+    EXPECT_EQ(semTraducao.Textos.join('|').toStdString(), "");
+}
+
+TEST_F(TTesteQt, VariosArquivos) {
+    QTemporaryDir pasta;
+    for (const char* nome : {"a.txt", "b.txt", "c.txt"})
+        ASSERT_TRUE(QFile(pasta.filePath(nome)).open(QIODevice::WriteOnly));
+    QuandoMostrar([&] {
+        auto* nome = BuscarDialogo()->findChild<QLineEdit*>();
+        EXPECT_EQ(BuscarDialogo()->windowTitle(), "Notas");
+        QTest::keyClicks(nome, "\"a.txt\" \"c.txt\"");
+        QTest::keyClick(nome, Qt::Key_Return);
+        if (BuscarDialogo()) BuscarDialogo()->reject();
+    });
+    EXPECT_EQ(BuscarToolkit().EscolherCaminhos(
+                  {.Selecao = scAbrirVarios, .Titulo = u"Notas", .PastaInicial = pasta.path().toStdU16String()}),
+              (std::vector{pasta.filePath("a.txt").toStdU16String(), pasta.filePath("c.txt").toStdU16String()}));
+}
+
 TEST_F(TTesteQt, CursorEAreaDeTransferencia) {
     TToolkit& toolkit = BuscarToolkit();
     toolkit.SetCursor(ctAmpulheta);

@@ -214,6 +214,7 @@ TEST_F(TesteDialogos, OutraThreadRecebeErro) {
         [&] { Dialogos.InputQuery(u"a", u"b", valor); },
         [&] { Dialogos.BuscarArquivoSelecionado(u""); },
         [&] { Dialogos.BuscarPastaSelecionada(u"", u""); },
+        [&] { Dialogos.EscolherArquivos({}); },
         [&] { OryMsg::Error(u"a"); },
         [&] { OryMsg::ConfirmacaoComCaixaChecagem(u"", mtError, {mbOK}, 0, u"", {u""}, u"", pccAcima, marcada); },
         [&] {
@@ -251,13 +252,34 @@ TEST_F(TesteDialogos, Seletores) {
     GetArquivoSelecionado(u"", u"Imagens|*.png|Tudo", u"*");
     EXPECT_EQ(OryMsg::BrowseDialog(u"t"), u"C:\\lote.txt");
     std::vector<std::u16string> vistos;
-    for (const auto& filtros : Toolkit.Filtros) {
+    for (const TPedidoDeCaminho& pedido : Toolkit.Pedidos) {
+        if (pedido.Selecao == scPasta) continue;
         std::u16string texto;
-        for (const auto& filtro : filtros) texto += filtro.Descricao + u"=" + filtro.Mascara + u" ";
+        for (const auto& filtro : pedido.Filtros) texto += filtro.Descricao + u"=" + filtro.Mascara + u" ";
         vistos.push_back(texto);
     }
     EXPECT_EQ(vistos, (std::vector<std::u16string>{u"Todos=*.* ", u"Textos=*.txt;*.csv Planilhas=*.xls ", u"Todos=*.* ",
                                                    u"Imagens=*.png Tudo=* "}));
+    Toolkit.Pedidos.clear();
+    const TOryUtilsDialogsSelecaoIOP parametros{.Titulo = u"t",
+                                                .PastaInicial = u"p",
+                                                .Filtros = {{u"Notas", u"*.xml"}},
+                                                .NomeSugerido = u"a/b\\c: \"1\"?.xml",
+                                                .ExtensaoPadrao = u"xml"};
+    EXPECT_EQ(Dialogos.EscolherArquivo(parametros), u"C:\\lote.txt");
+    EXPECT_EQ(Dialogos.EscolherArquivos(parametros), std::vector<std::u16string>{u"C:\\lote.txt"});
+    EXPECT_EQ(Dialogos.EscolherArquivoParaSalvar(parametros), u"C:\\lote.txt");
+    EXPECT_EQ(Dialogos.EscolherPasta(parametros), u"C:\\lote.txt");
+    ASSERT_EQ(Toolkit.Pedidos.size(), 4U);
+    for (int i = 0; i < 4; ++i) {
+        const TPedidoDeCaminho& pedido = Toolkit.Pedidos[static_cast<std::size_t>(i)];
+        EXPECT_EQ(pedido.Selecao, i) << "in the order of TSelecaoDeCaminho";
+        EXPECT_EQ(pedido.Titulo + pedido.PastaInicial + pedido.ExtensaoPadrao, u"tpxml");
+        EXPECT_EQ(pedido.NomeSugerido, u"a_b_c_ _1__.xml") << "what no file name may have";
+        EXPECT_EQ(pedido.Filtros, parametros.Filtros);
+    }
+    Toolkit.Escolha.reset();
+    EXPECT_EQ(Dialogos.EscolherArquivoParaSalvar({}), u"") << "cancelled";
 }
 
 TEST_F(TesteDialogos, EntradaDeTexto) {

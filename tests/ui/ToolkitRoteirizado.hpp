@@ -30,7 +30,7 @@ public:
     std::vector<std::u16string> Titulos;  ///< of every form shown
     int MensagensProcessadas = 0;
     std::map<std::uintptr_t, std::pair<int, std::function<void()>>> Temporizadores;
-    std::vector<std::vector<TFiltroArquivo>> Filtros;
+    std::vector<TPedidoDeCaminho> Pedidos;  ///< of the pickers
     std::optional<std::u16string> Escolha;  ///< answer of the pickers
     std::u16string AreaDeTransferencia;
     int Bipes = 0;
@@ -92,12 +92,10 @@ public:
     void DesligarTemporizador(std::uintptr_t ATemporizador) override {
         EXPECT_EQ(Temporizadores.erase(ATemporizador), 1U) << "timer switched off twice";
     }
-    std::optional<std::u16string> EscolherArquivo(std::u16string_view,
-                                                  const std::vector<TFiltroArquivo>& AFiltros) override {
-        Filtros.push_back(AFiltros);
-        return Escolha;
+    std::vector<std::u16string> EscolherCaminhos(const TPedidoDeCaminho& APedido) override {
+        Pedidos.push_back(APedido);
+        return Escolha ? std::vector{*Escolha} : std::vector<std::u16string>{};
     }
-    std::optional<std::u16string> EscolherPasta(std::u16string_view, std::u16string_view) override { return Escolha; }
     void SetCursor(TCursorTela) override {}
     bool EstahPressionada(std::uint16_t) const override { return false; }
     void Bipar() override { ++Bipes; }

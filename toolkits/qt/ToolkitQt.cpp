@@ -132,16 +132,9 @@ std::uintptr_t TToolkitQt::LigarTemporizador(int AMilissegundos, std::function<v
 
 void TToolkitQt::DesligarTemporizador(std::uintptr_t ATemporizador) { FTemporizadores.erase(ATemporizador); }
 
-std::optional<std::u16string> TToolkitQt::EscolherArquivo(std::u16string_view APastaInicial,
-                                                          const std::vector<TFiltroArquivo>& AFiltros) {
+std::vector<std::u16string> TToolkitQt::EscolherCaminhos(const TPedidoDeCaminho& APedido) {
     Exigir();
-    return EscolherArquivoQt(APastaInicial, AFiltros);
-}
-
-std::optional<std::u16string> TToolkitQt::EscolherPasta(std::u16string_view ATitulo,
-                                                        std::u16string_view APastaInicial) {
-    Exigir();
-    return EscolherPastaQt(ATitulo, APastaInicial);
+    return EscolherCaminhosQt(APedido);
 }
 
 void TToolkitQt::SetCursor(TCursorTela ACursor) {

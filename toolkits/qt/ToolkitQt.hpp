@@ -45,10 +45,7 @@ public:
     TRetangulo GetAreaDeTrabalho() const override;
     std::uintptr_t LigarTemporizador(int AMilissegundos, std::function<void()> AAcao) override;
     void DesligarTemporizador(std::uintptr_t ATemporizador) override;
-    std::optional<std::u16string> EscolherArquivo(std::u16string_view APastaInicial,
-                                                  const std::vector<TFiltroArquivo>& AFiltros) override;
-    std::optional<std::u16string> EscolherPasta(std::u16string_view ATitulo,
-                                                std::u16string_view APastaInicial) override;
+    std::vector<std::u16string> EscolherCaminhos(const TPedidoDeCaminho& APedido) override;
     void SetCursor(TCursorTela ACursor) override;
     /// Qt tells of Shift (16), Ctrl (17), Alt (18), the system key (91) and the mouse buttons (1, 2, 4); of any other
     /// key the answer is false.

@@ -68,6 +68,12 @@ std::u16string JuntarLinhas(const std::vector<std::string>& ALinhas) {
     return texto;
 }
 
+std::string JuntarTitulo(const std::vector<std::string>& ALinhas) {
+    std::string titulo;
+    for (const std::string& linha : ALinhas) titulo += (titulo.empty() ? "" : " ") + linha;
+    return titulo;
+}
+
 /// A text of the caller as a caption: "&" is a letter like any other, not the mark of the one that Alt takes.
 std::u16string ComoCaption(std::string_view ATexto) {
     std::u16string caption;
@@ -111,12 +117,22 @@ TOryUtilsDialogsFormCustomizadoBaseIOP LerParametros(const TPedidoDeMensagem& AP
     return parametros;
 }
 
+void ConferirPedidos(const TPedidoDeMensagem& APedido, int AVariantes) {
+    const int pedidos = APedido.Caminhos.ContarPedidos();
+    if (pedidos > 1) throw EFalha("só um de --arquivo, --arquivos, --salvar e --pasta por vez");
+    if (pedidos == 1 && (AVariantes > 0 || !APedido.Botoes.empty() || !APedido.Tipo.empty() || APedido.FecharEm > 0))
+        throw EFalha("arquivos e pastas não combinam com botões, opções, --tipo, --valor nem --fechar-em");
+    if (pedidos == 0 && (!APedido.Caminhos.Filtros.empty() || !APedido.Caminhos.PastaInicial.empty()))
+        throw EFalha("--filtro e --pasta-inicial são de --arquivo, --arquivos, --salvar e --pasta");
+}
+
 void ConferirCombinacao(const TPedidoDeMensagem& APedido) {
     const int variantes =
         !APedido.Opcoes.empty() + !APedido.Caixa.empty() + !APedido.Detalhe.empty() + (APedido.Perguntar ? 1 : 0);
     if (variantes > 1) throw EFalha("só um de --opcao, --caixa, --detalhe e --valor por mensagem");
     if (APedido.Perguntar && (!APedido.Botoes.empty() || !APedido.Tipo.empty() || APedido.FecharEm > 0))
         throw EFalha("--valor não combina com --botao, --tipo nem --fechar-em");
+    ConferirPedidos(APedido, variantes);
     if (!APedido.Opcoes.empty() && APedido.OpcaoPadrao > APedido.Opcoes.size())
         throw EFalha("--opcao-padrao vai de 0 a " + std::to_string(APedido.Opcoes.size()));
 }
@@ -152,21 +168,29 @@ void DescreverMensagem(TOpcoes AComando, TPedidoDeMensagem& APedido) {
     AComando.Valor("--fechar-em", APedido.FecharEm, "segundos até fechar sem resposta");
     AComando.Valor("--valor", APedido.Valor, "em vez de botões pergunta um texto, com este já escrito (pode ser \"\")")
         .AoLer([&APedido] { APedido.Perguntar = true; });
+    DescreverCaminhos(AComando, APedido.Caminhos);
     AComando.Rodape(
         "Na saída: uma linha com o texto do botão escolhido (vazia se a janela foi fechada\n"
         "e não há botão cancelar), e com --opcao mais uma com a opção (vazia se nenhuma), com --caixa mais uma com 1 "
         "ou 0.\n"
-        "Com --valor: uma linha com o texto digitado, e nada se foi cancelado.\n\n"
+        "Com --valor: uma linha com o texto digitado, e nada se foi cancelado.\n"
+        "Com --arquivo, --arquivos, --salvar e --pasta: um caminho completo por linha, e nada se foi cancelado.\n\n"
         "Saída do programa: 0 sim, ok, repetir, ignorar, todos, sim-todos ou fechar; 1 nao, abortar ou nao-todos;\n"
         "3 cancelar, janela fechada ou tempo esgotado; 2 chamada errada.\n\n"
         "Exemplos:\n"
         "  ory mensagem --tipo confirmacao \"Apagar os arquivos antigos?\" --padrao nao && apagar.sh\n"
         "  ory mensagem \"Que filial?\" --opcao Matriz --opcao \"Filial 2\" --botao ok --botao cancelar\n"
-        "  ory mensagem \"Número do lote:\" --valor \"\"");
+        "  ory mensagem \"Número do lote:\" --valor \"\"\n"
+        "  ory mensagem --arquivos \"Notas a enviar\" --filtro \"Notas=*.xml\" --pasta-inicial /notas");
 }
 
 int MostrarMensagem(const TPedidoDeMensagem& APedido, TAmbiente& AAmbiente) {
     ConferirCombinacao(APedido);
+    if (APedido.Caminhos.ContarPedidos() > 0)
+        return PedirCaminhos(APedido.Caminhos, APedido.Titulo.empty() ? JuntarTitulo(APedido.Linhas) : APedido.Titulo,
+                             AAmbiente)
+                   ? smSim
+                   : smCancelada;
     if (APedido.Perguntar) return Perguntar(APedido, AAmbiente);
 
     const auto base = LerParametros(APedido);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Ambiente.hpp"
+#include "mensagem/Caminhos.hpp"
 
 #include <string>
 #include <vector>
@@ -24,6 +25,7 @@ struct TPedidoDeMensagem {
     unsigned FecharEm = 0;  // seconds; 0 never
     bool Perguntar = false;
     std::string Valor{};
+    TPedidoDeCaminhos Caminhos{};
 };
 
 /// Exit statuses of `ory mensagem` beside stFalha, by what the user answered.

@@ -2,11 +2,11 @@
 
 #include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/forms/console/DialogoConsole.hpp"
+#include "oryutils/forms/console/SeletorConsole.hpp"
 #include "oryutils/forms/console/TextoDoTerminal.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 
 #include <algorithm>
-#include <filesystem>
 
 namespace OryUtils {
 namespace {
@@ -102,39 +102,21 @@ std::optional<std::chrono::milliseconds> TToolkitConsole::BuscarEspera() {
     return espera;
 }
 
-std::optional<std::u16string> TToolkitConsole::EscolherCaminho(std::u16string_view APergunta,
-                                                               std::u16string_view APastaInicial, bool APasta) {
-    namespace fs = std::filesystem;
-    if (!FConversa.PodeConversar()) return std::nullopt;
-    while (true) {
-        FConversa.Escrever(
-            Interno::ParaTerminal(std::u16string(APergunta) + u" (vazio cancela): ", FConversa.GetColunas()));
-        std::u16string linha;
-        auto lida = Interno::llTempo;
-        while (lida == Interno::llTempo) {
-            DispararTemporizadores();
-            lida = FConversa.LerLinha(BuscarEspera(), linha);
-        }
-        const std::u16string caminho(Aparar(linha));
-        if (lida == Interno::llFim || caminho.empty()) return std::nullopt;
-        std::error_code erro;
-        const fs::path completo = fs::absolute(fs::path(std::u16string(APastaInicial)) / fs::path(caminho), erro);
-        if (!erro && (APasta ? fs::is_directory(completo, erro) : fs::is_regular_file(completo, erro)))
-            return completo.lexically_normal().u16string();
-        FConversa.Escrever(APasta ? u"Pasta não encontrada.\n" : u"Arquivo não encontrado.\n");
+// A line of the user without the blanks around it; none at the end of the input.
+std::optional<std::u16string> TToolkitConsole::Perguntar(std::u16string_view APergunta) {
+    FConversa.Escrever(Interno::ParaTerminal(APergunta, FConversa.GetColunas()));
+    std::u16string linha;
+    auto lida = Interno::llTempo;
+    while (lida == Interno::llTempo) {
+        DispararTemporizadores();
+        lida = FConversa.LerLinha(BuscarEspera(), linha);
     }
+    return lida == Interno::llFim ? std::nullopt : std::optional(std::u16string(Aparar(linha)));
 }
 
-std::optional<std::u16string> TToolkitConsole::EscolherArquivo(std::u16string_view APastaInicial,
-                                                               const std::vector<TFiltroArquivo>& AFiltros) {
-    std::u16string pergunta = u"Arquivo";
-    for (const TFiltroArquivo& filtro : AFiltros) pergunta += u", " + filtro.Descricao + u" " + filtro.Mascara;
-    return EscolherCaminho(pergunta, APastaInicial, false);
-}
-
-std::optional<std::u16string> TToolkitConsole::EscolherPasta(std::u16string_view ATitulo,
-                                                             std::u16string_view APastaInicial) {
-    return EscolherCaminho(ATitulo.empty() ? u"Pasta" : ATitulo, APastaInicial, true);
+std::vector<std::u16string> TToolkitConsole::EscolherCaminhos(const TPedidoDeCaminho& APedido) {
+    if (!FConversa.PodeConversar()) return {};
+    return Interno::PerguntarCaminhos(APedido, [this](std::u16string_view APergunta) { return Perguntar(APergunta); });
 }
 
 void TToolkitConsole::Bipar() {

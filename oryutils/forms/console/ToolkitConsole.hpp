@@ -37,11 +37,10 @@ public:
     TRetangulo GetAreaDeTrabalho() const override { return {0, 0, 1024, 768}; }
     std::uintptr_t LigarTemporizador(int AMilissegundos, std::function<void()> AAcao) override;
     void DesligarTemporizador(std::uintptr_t ATemporizador) override;
-    /// Asks for a path on the terminal; a relative one starts at the initial folder. An empty line cancels.
-    std::optional<std::u16string> EscolherArquivo(std::u16string_view APastaInicial,
-                                                  const std::vector<TFiltroArquivo>& AFiltros) override;
-    std::optional<std::u16string> EscolherPasta(std::u16string_view ATitulo,
-                                                std::u16string_view APastaInicial) override;
+    /// Asks for paths on the terminal; a relative one starts at the initial folder. An empty line cancels, or ends the
+    /// list of several files, or takes the name that is suggested for a file to write ("" cancels then). Whether a
+    /// file that exists is replaced is asked.
+    std::vector<std::u16string> EscolherCaminhos(const TPedidoDeCaminho& APedido) override;
     void SetCursor(TCursorTela) override {}
     bool EstahPressionada(std::uint16_t) const override { return false; }
     void Bipar() override;
@@ -58,8 +57,7 @@ private:
 
     void DispararTemporizadores();
     std::optional<std::chrono::milliseconds> BuscarEspera();
-    std::optional<std::u16string> EscolherCaminho(std::u16string_view APergunta, std::u16string_view APastaInicial,
-                                                  bool APasta);
+    std::optional<std::u16string> Perguntar(std::u16string_view APergunta);
 
     TConversa& FConversa;
     std::mutex FTrava;

@@ -2,9 +2,13 @@
 
 #include "oryutils/forms/win32/interno/DesabilitarJanelas.hpp"
 #include "oryutils/forms/win32/interno/TextoNativo.hpp"
+#include "oryutils/runtime/Excecoes.hpp"
 
+#include <algorithm>
+#include <cderr.h>
 #include <commdlg.h>
 #include <objbase.h>
+#include <optional>
 #include <shlobj.h>
 #include <utility>
 
@@ -13,6 +17,8 @@ namespace {
 
 // The longest path of the system, with its terminator.
 constexpr std::size_t CMaiorCaminho = 32768;
+// Some thousands of names.
+constexpr std::size_t CMaiorEscolha = std::size_t{1} << 20;
 
 /// The folder browser needs COM on its thread.
 class TCom {
@@ -62,29 +68,53 @@ std::u16string MontarFiltro(const std::vector<TFiltroArquivo>& AFiltros) {
     return filtro + u'\0';
 }
 
-std::optional<std::u16string> EscolherArquivo(std::u16string_view APastaInicial,
-                                              const std::vector<TFiltroArquivo>& AFiltros) {
-    const std::u16string pasta = ParaNativo(APastaInicial);
-    const std::u16string filtro = MontarFiltro(AFiltros);
-    std::u16string caminho(CMaiorCaminho, u'\0');
+std::vector<std::u16string> LerEscolhidos(std::u16string_view ADados) {
+    std::vector<std::u16string> partes;
+    while (!ADados.empty() && ADados.front() != u'\0') {
+        const std::size_t fim = std::min(ADados.find(u'\0'), ADados.size());
+        partes.emplace_back(ADados.substr(0, fim));
+        ADados.remove_prefix(std::min(fim + 1, ADados.size()));
+    }
+    if (partes.size() < 2) return partes;
+    std::u16string pasta = partes.front();
+    if (!pasta.ends_with(u'\\')) pasta += u'\\';
+    partes.erase(partes.begin());
+    for (std::u16string& nome : partes) nome = pasta + nome;
+    return partes;
+}
+
+std::vector<std::u16string> EscolherArquivos(const TPedidoDeCaminho& APedido) {
+    const bool salva = APedido.Selecao == scSalvar;
+    const bool varios = APedido.Selecao == scAbrirVarios;
+    const std::u16string titulo = ParaNativo(APedido.Titulo);
+    const std::u16string pasta = ParaNativo(APedido.PastaInicial);
+    const std::u16string extensao = ParaNativo(APedido.ExtensaoPadrao);
+    const std::u16string filtro = MontarFiltro(APedido.Filtros);
+    const auto ou = [](const std::u16string& ATexto) { return ATexto.empty() ? nullptr : Interno::ParaWide(ATexto); };
+    std::u16string caminho = salva ? ParaNativo(APedido.NomeSugerido) : std::u16string();
+    caminho.resize(varios ? CMaiorEscolha : CMaiorCaminho, u'\0');
     const HWND dona = BuscarDona();
     const TDesabilitarJanelas desabilitadas(dona);
     OPENFILENAMEW dados{};
     dados.lStructSize = sizeof dados;
     dados.hwndOwner = dona;
-    dados.lpstrFilter = AFiltros.empty() ? nullptr : Interno::ParaWide(filtro);
+    dados.lpstrFilter = APedido.Filtros.empty() ? nullptr : Interno::ParaWide(filtro);
     dados.lpstrFile = Interno::ParaWide(caminho.data());
     dados.nMaxFile = static_cast<DWORD>(caminho.size());
-    dados.lpstrInitialDir = pasta.empty() ? nullptr : Interno::ParaWide(pasta);
-    dados.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
-    if (!::GetOpenFileNameW(&dados)) return std::nullopt;
-    caminho.resize(caminho.find(u'\0'));
-    return caminho;
+    dados.lpstrInitialDir = ou(pasta);
+    dados.lpstrTitle = ou(titulo);
+    dados.lpstrDefExt = ou(extensao);
+    dados.Flags = OFN_EXPLORER | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
+    dados.Flags |= salva ? OFN_OVERWRITEPROMPT : OFN_FILEMUSTEXIST;
+    if (varios) dados.Flags |= OFN_ALLOWMULTISELECT;
+    if (salva ? ::GetSaveFileNameW(&dados) : ::GetOpenFileNameW(&dados)) return LerEscolhidos(caminho);
+    if (::CommDlgExtendedError() == FNERR_BUFFERTOOSMALL) throw Exception(u"Foram escolhidos arquivos demais.");
+    return {};
 }
 
-std::optional<std::u16string> EscolherPasta(std::u16string_view ATitulo, std::u16string_view APastaInicial) {
+std::vector<std::u16string> EscolherPasta(const TPedidoDeCaminho& APedido) {
     const TCom com;
-    const TAberturaPasta abertura{ParaNativo(ATitulo), ParaNativo(APastaInicial)};
+    const TAberturaPasta abertura{ParaNativo(APedido.Titulo), ParaNativo(APedido.PastaInicial)};
     const HWND dona = BuscarDona();
     const TDesabilitarJanelas desabilitadas(dona);
     BROWSEINFOW dados{};
@@ -94,10 +124,10 @@ std::optional<std::u16string> EscolherPasta(std::u16string_view ATitulo, std::u1
     dados.lpfn = &AoAbrirSeletorDePasta;
     dados.lParam = reinterpret_cast<LPARAM>(&abertura);
     const PIDLIST_ABSOLUTE item = ::SHBrowseForFolderW(&dados);
-    if (!item) return std::nullopt;
-    auto caminho = BuscarCaminho(item);
+    if (!item) return {};
+    const auto caminho = BuscarCaminho(item);
     ::CoTaskMemFree(item);
-    return caminho;
+    return caminho ? std::vector{*caminho} : std::vector<std::u16string>{};
 }
 
 }  // namespace OryUtils::Interno

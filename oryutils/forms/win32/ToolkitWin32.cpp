@@ -105,14 +105,8 @@ void TToolkitWin32::DesligarTemporizador(std::uintptr_t ATemporizador) {
     FPartes->Temporizadores.Desligar(ATemporizador);
 }
 
-std::optional<std::u16string> TToolkitWin32::EscolherArquivo(std::u16string_view APastaInicial,
-                                                             const std::vector<TFiltroArquivo>& AFiltros) {
-    return Interno::EscolherArquivo(APastaInicial, AFiltros);
-}
-
-std::optional<std::u16string> TToolkitWin32::EscolherPasta(std::u16string_view ATitulo,
-                                                           std::u16string_view APastaInicial) {
-    return Interno::EscolherPasta(ATitulo, APastaInicial);
+std::vector<std::u16string> TToolkitWin32::EscolherCaminhos(const TPedidoDeCaminho& APedido) {
+    return APedido.Selecao == scPasta ? Interno::EscolherPasta(APedido) : Interno::EscolherArquivos(APedido);
 }
 
 void TToolkitWin32::SetCursor(TCursorTela ACursor) {

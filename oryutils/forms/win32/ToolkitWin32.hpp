@@ -46,10 +46,8 @@ public:
     TRetangulo GetAreaDeTrabalho() const override;
     std::uintptr_t LigarTemporizador(int AMilissegundos, std::function<void()> AAcao) override;
     void DesligarTemporizador(std::uintptr_t ATemporizador) override;
-    std::optional<std::u16string> EscolherArquivo(std::u16string_view APastaInicial,
-                                                  const std::vector<TFiltroArquivo>& AFiltros) override;
-    std::optional<std::u16string> EscolherPasta(std::u16string_view ATitulo,
-                                                std::u16string_view APastaInicial) override;
+    /// The system's own pickers, in its language. Raises Exception when more files were chosen than can be told.
+    std::vector<std::u16string> EscolherCaminhos(const TPedidoDeCaminho& APedido) override;
     void SetCursor(TCursorTela ACursor) override;
     bool EstahPressionada(std::uint16_t ATecla) const override;
     void Bipar() override;

@@ -43,33 +43,38 @@ QString ParaFiltroQt(const TFiltroArquivo& AFiltro) {
     return ParaQt(AFiltro.Descricao) + QLatin1String(" (") + mascaras.join(QLatin1Char(' ')) + QLatin1Char(')');
 }
 
-// The chosen path; none when cancelled.
-std::optional<std::u16string> Escolher(std::u16string_view ATitulo, std::u16string_view APastaInicial,
-                                       QFileDialog::FileMode AModo, const QStringList& AFiltros) {
-    TTradutorQt tradutor;
-    QCoreApplication::installTranslator(&tradutor);
-    QFileDialog dialogo(QApplication::activeWindow(), ParaQt(ATitulo), ParaQt(APastaInicial));
-    dialogo.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::ReadOnly);
-    dialogo.setOption(QFileDialog::ShowDirsOnly, AModo == QFileDialog::Directory);
-    dialogo.setProxyModel(new TPastaListada(&dialogo));
-    dialogo.setFileMode(AModo);
-    if (!AFiltros.isEmpty()) dialogo.setNameFilters(AFiltros);
-    dialogo.setAttribute(Qt::WA_QuitOnClose, false);
-    if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return std::nullopt;
-    return DeQt(dialogo.selectedFiles().constFirst());
+QString BuscarTitulo(const TPedidoDeCaminho& APedido) {
+    if (!APedido.Titulo.empty() || APedido.Selecao == scPasta) return ParaQt(APedido.Titulo);
+    return APedido.Selecao == scSalvar ? QStringLiteral("Salvar como") : QStringLiteral("Abrir");
 }
+
+// In the order of TSelecaoDeCaminho.
+constexpr QFileDialog::FileMode CModos[] = {QFileDialog::ExistingFile, QFileDialog::ExistingFiles, QFileDialog::AnyFile,
+                                            QFileDialog::Directory};
 
 }  // namespace
 
-std::optional<std::u16string> EscolherArquivoQt(std::u16string_view APastaInicial,
-                                                const std::vector<TFiltroArquivo>& AFiltros) {
+std::vector<std::u16string> EscolherCaminhosQt(const TPedidoDeCaminho& APedido) {
+    TTradutorQt tradutor;
+    QCoreApplication::installTranslator(&tradutor);
+    QFileDialog dialogo(QApplication::activeWindow(), BuscarTitulo(APedido), ParaQt(APedido.PastaInicial));
+    dialogo.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::ReadOnly);
+    dialogo.setOption(QFileDialog::ShowDirsOnly, APedido.Selecao == scPasta);
+    dialogo.setProxyModel(new TPastaListada(&dialogo));
+    dialogo.setFileMode(CModos[APedido.Selecao]);
     QStringList filtros;
-    for (const TFiltroArquivo& filtro : AFiltros) filtros += ParaFiltroQt(filtro);
-    return Escolher(u"Abrir", APastaInicial, QFileDialog::ExistingFile, filtros);
-}
-
-std::optional<std::u16string> EscolherPastaQt(std::u16string_view ATitulo, std::u16string_view APastaInicial) {
-    return Escolher(ATitulo, APastaInicial, QFileDialog::Directory, {});
+    for (const TFiltroArquivo& filtro : APedido.Filtros) filtros += ParaFiltroQt(filtro);
+    if (!filtros.isEmpty()) dialogo.setNameFilters(filtros);
+    if (APedido.Selecao == scSalvar) {
+        dialogo.setAcceptMode(QFileDialog::AcceptSave);
+        dialogo.setDefaultSuffix(ParaQt(APedido.ExtensaoPadrao));
+        if (!APedido.NomeSugerido.empty()) dialogo.selectFile(ParaQt(APedido.NomeSugerido));
+    }
+    dialogo.setAttribute(Qt::WA_QuitOnClose, false);
+    std::vector<std::u16string> caminhos;
+    if (dialogo.exec() != QDialog::Accepted) return caminhos;
+    for (const QString& caminho : dialogo.selectedFiles()) caminhos.push_back(DeQt(caminho));
+    return caminhos;
 }
 
 }  // namespace OryUtils

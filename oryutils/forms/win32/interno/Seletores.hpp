@@ -2,18 +2,21 @@
 
 #include "oryutils/forms/Toolkit.hpp"
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace OryUtils::Interno {
 
-std::optional<std::u16string> EscolherArquivo(std::u16string_view APastaInicial,
-                                              const std::vector<TFiltroArquivo>& AFiltros);
-std::optional<std::u16string> EscolherPasta(std::u16string_view ATitulo, std::u16string_view APastaInicial);
+/// The pickers of TToolkit, by the system's own dialogs.
+std::vector<std::u16string> EscolherArquivos(const TPedidoDeCaminho& APedido);
+std::vector<std::u16string> EscolherPasta(const TPedidoDeCaminho& APedido);
 
-/// The filter of the open-file dialog: each description and mask ends with a NUL, the list with one more.
+/// What the system leaves in its buffer: one full path; or a folder and names, each ended by a NUL, one NUL more
+/// behind.
+std::vector<std::u16string> LerEscolhidos(std::u16string_view ADados);
+
+/// The filter of the file dialogs: each description and mask ends with a NUL, the list with one more.
 std::u16string MontarFiltro(const std::vector<TFiltroArquivo>& AFiltros);
 
 }  // namespace OryUtils::Interno
