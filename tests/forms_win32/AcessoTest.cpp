@@ -12,8 +12,14 @@ namespace {
 // IID_IAccessible; oleacc.dll refuses the one that the compiler's libraries bring.
 constexpr IID CInterface{0x618736e0, 0x3c3d, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
 
-/// The name of a window, asked as a screen reader asks from another program; "edit" goes before that of a box. Wine
-/// gives every other control one role, the one of a window's inside.
+std::string ParaTexto(BSTR ATexto) {
+    const std::string texto = ATexto ? ParaUtf8(Interno::DeWide(ATexto)) : "";
+    ::SysFreeString(ATexto);
+    return texto;
+}
+
+/// The name of a window, asked as a screen reader asks from another program, after its role; that of an alert is
+/// followed by its description. Wine gives every other control one role, the one of a window's inside.
 std::string Ouvir(HWND AJanela) {
     IAccessible* objeto = nullptr;
     if (::AccessibleObjectFromWindow(AJanela, static_cast<DWORD>(OBJID_CLIENT), CInterface,
@@ -21,14 +27,22 @@ std::string Ouvir(HWND AJanela) {
         return "(nothing)";
     VARIANT eu{}, papel{};
     eu.vt = VT_I4;
-    BSTR nome = nullptr;
+    BSTR nome = nullptr, descricao = nullptr;
     objeto->get_accRole(eu, &papel);
     objeto->get_accName(eu, &nome);
-    std::string ouvido = papel.lVal == ROLE_SYSTEM_TEXT ? "edit " : "";
-    if (nome) ouvido += ParaUtf8(Interno::DeWide(nome));
-    ::SysFreeString(nome);
+    objeto->get_accDescription(eu, &descricao);
     objeto->Release();
-    return ouvido;
+    const std::string falado = ParaTexto(nome), explicado = ParaTexto(descricao);
+    switch (papel.lVal) {
+        case ROLE_SYSTEM_TEXT:
+            return "edit " + falado;
+        case ROLE_SYSTEM_GRAPHIC:
+            return "graphic " + falado;
+        case ROLE_SYSTEM_ALERT:
+            return "alert " + falado + ": " + explicado;
+        default:
+            return falado;
+    }
 }
 
 struct TCasoFalado {
@@ -36,8 +50,21 @@ struct TCasoFalado {
     std::vector<std::string> Esperado;
 };
 const TCasoFalado CFalados[] = {
-    {[](auto& d) { d.Confirmacao(u"Excluir?", btNo); }, {"Confirmação", "", "Excluir?", "Sim", "Não"}},
+    {[](auto& d) { d.Confirmacao(u"Excluir?", btNo); },
+     {"alert Confirmação: Excluir?", "graphic Pergunta", "Excluir?", "Sim", "Não"}},
     {[](auto& d) { d.InputBox(u"T", u"CNPJ:", u"1"); }, {"T", "CNPJ:", "edit CNPJ:", "OK", "Cancelar"}},
+    {[](auto&) {
+         TFormulario f;
+         f.SetTitulo(u"T");
+         auto& memorando = f.Adicionar<TMemorando>();
+         memorando.SetNome(u"Detalhe");
+         auto& grupo = f.Adicionar<TGrupoOpcoes>();
+         grupo.SetTexto(u"Opções: ");
+         grupo.SetRetangulo({0, 0, 120, 60});
+         grupo.AdicionarItem(u"uma &opção que não cabe nesta largura");
+         f.ExecutarModal();
+     },
+     {"T", "edit Detalhe", "Opções: ", "uma opção que não cabe nesta largura"}},
 };
 
 TEST_F(FormsWin32, LeitoresDeTelaOuvemNomes) {

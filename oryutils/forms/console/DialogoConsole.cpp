@@ -3,6 +3,7 @@
 #include "oryutils/characters/Acentos.hpp"
 #include "oryutils/characters/Caixa.hpp"
 #include "oryutils/characters/Caracteres.hpp"
+#include "oryutils/forms/NomeFalado.hpp"
 #include "oryutils/forms/console/TextoDoTerminal.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
@@ -92,7 +93,7 @@ void TDialogoConsole::Mudou(TControleFormulario& AControle, TMudanca AMudanca) {
 
 // "Título: mensagem" first, then the rest in creation order.
 void TDialogoConsole::Imprimir() {
-    const TControleFormulario* mensagem = FFormulario.BuscarControle(u"Message");
+    const TControleFormulario* mensagem = FFormulario.BuscarControle(CNomeDaMensagem);
     const auto& controles = FFormulario.GetControles();
     if (!mensagem) {
         const auto rotulo = std::find_if(controles.begin(), controles.end(),

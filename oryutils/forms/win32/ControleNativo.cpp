@@ -1,12 +1,15 @@
 #include "oryutils/forms/win32/interno/ControleNativo.hpp"
 
+#include "oryutils/forms/NomeFalado.hpp"
 #include "oryutils/forms/win32/interno/Encaixe.hpp"
 #include "oryutils/forms/win32/interno/TextoNativo.hpp"
 #include "oryutils/forms/win32/interno/VistaRolavel.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 
 #include <algorithm>
+#include <commctrl.h>
 #include <numeric>
+#include <oleacc.h>
 
 namespace OryUtils::Interno {
 namespace {
@@ -67,7 +70,29 @@ HWND TControleNativo::Criar(const wchar_t* AClasse, DWORD AEstilo, DWORD AEstilo
                           reinterpret_cast<HINSTANCE>(::GetWindowLongPtrW(FFormulario, GWLP_HINSTANCE)), nullptr);
     if (!janela) throw Exception(u"Não foi possível criar um controle do formulário.");
     ::SendMessageW(janela, WM_SETFONT, reinterpret_cast<WPARAM>(FFonte->GetHandle()), FALSE);
+    ::SetWindowSubclass(janela, &Receber, 0, reinterpret_cast<DWORD_PTR>(this));
     return janela;
+}
+
+LRESULT CALLBACK TControleNativo::Receber(HWND AJanela, UINT AMensagem, WPARAM AW, LPARAM AL, UINT_PTR AId,
+                                          DWORD_PTR AControle) {
+    if (AMensagem == WM_GETOBJECT && static_cast<LONG>(AL) == OBJID_CLIENT) {
+        const TFalado falado = reinterpret_cast<const TControleNativo*>(AControle)->BuscarFalado(AJanela);
+        if (!falado.Nome.empty()) return ResponderLeitorDeTela(AJanela, AW, falado);
+    }
+    if (AMensagem == WM_NCDESTROY) ::RemoveWindowSubclass(AJanela, &Receber, AId);
+    return ::DefSubclassProc(AJanela, AMensagem, AW, AL);
+}
+
+TFalado TControleNativo::BuscarFalado(HWND AJanela) const {
+    TFalado falado{BuscarNomeFalado(*FModelo)};
+    const auto opcao = std::find(FOpcoes.begin(), FOpcoes.end(), AJanela);
+    if (opcao != FOpcoes.end()) {
+        const auto indice = static_cast<std::size_t>(opcao - FOpcoes.begin());
+        falado.Nome = RemoverAtalho(static_cast<const TGrupoOpcoes&>(*FModelo).GetItens()[indice]);
+    }
+    if (FModelo->GetTipo() == tcIcone) falado.Papel = ROLE_SYSTEM_GRAPHIC;
+    return falado;
 }
 
 HWND TControleNativo::GetAlvoDoFoco() const noexcept {
@@ -162,7 +187,10 @@ void TControleNativo::RolarOpcoes(bool ARolar) {
         ::SetWindowPos(opcao, anterior, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
         anterior = opcao;
     }
-    if (!ARolar) ::DestroyWindow(vista);
+    if (ARolar)
+        ::ShowWindow(vista, FModelo->GetVisivel() ? SW_SHOWNA : SW_HIDE);
+    else
+        ::DestroyWindow(vista);
     FVista = ARolar ? vista : nullptr;
 }
 

@@ -1,12 +1,15 @@
 #include "oryutils/forms/win32/interno/JanelaWin32.hpp"
 
+#include "oryutils/forms/NomeFalado.hpp"
 #include "oryutils/forms/win32/interno/ClasseDeJanela.hpp"
 #include "oryutils/forms/win32/interno/DesabilitarJanelas.hpp"
 #include "oryutils/forms/win32/interno/LacoDeMensagens.hpp"
+#include "oryutils/forms/win32/interno/LeitorDeTela.hpp"
 #include "oryutils/forms/win32/interno/Telas.hpp"
 #include "oryutils/forms/win32/interno/TextoNativo.hpp"
 
 #include <algorithm>
+#include <oleacc.h>
 #include <utility>
 
 namespace OryUtils::Interno {
@@ -356,6 +359,10 @@ LRESULT TJanelaWin32::Tratar(UINT AMensagem, WPARAM AW, LPARAM AL) {
         case WM_SETTINGCHANGE:
             if (AW == SPI_SETWORKAREA) ConferirTela();
             break;
+        case WM_GETOBJECT:
+            if (static_cast<LONG>(AL) != OBJID_CLIENT || !EhAlerta(FFormulario)) break;
+            return ResponderLeitorDeTela(
+                janela, AW, {FFormulario.GetTitulo(), BuscarMensagemFalada(FFormulario), ROLE_SYSTEM_ALERT});
         case WM_SETCURSOR:
             if (!FLaco.Cursor || LOWORD(AL) != HTCLIENT) break;
             ::SetCursor(FLaco.Cursor);

@@ -1,5 +1,6 @@
 #include "oryutils/ui/interno/Disposicao.hpp"
 
+#include "oryutils/forms/NomeFalado.hpp"
 #include "oryutils/ui/UnOryUtilsDialogsTypes.hpp"
 #include "oryutils/ui/interno/Medidas.hpp"
 
@@ -268,7 +269,7 @@ void TDisposicao::AplicarMensagem() {
     FPartes.Mensagem->SetVisivel(FCabe);
     if (!FCabe && !FPartes.Rolagem) {
         FPartes.Rolagem = &FFormulario.Adicionar<TMemorando>();
-        FPartes.Rolagem->SetNome(u"MessageMemo");
+        FPartes.Rolagem->SetNome(CNomeDaRolagem);
         FPartes.Rolagem->SetSomenteLeitura(true);
         FPartes.Rolagem->SetTexto(FPartes.Mensagem->GetTexto());
         const auto& controles = FFormulario.GetControles();

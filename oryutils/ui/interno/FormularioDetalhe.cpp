@@ -52,7 +52,7 @@ void TFormularioDetalhe::MostrarDetalhe(bool AMostrar) {
 }
 
 std::u16string TFormularioDetalhe::BuscarTextoCompleto() const {
-    std::u16string texto = BuscarControle(CNomeMensagem)->GetTexto();
+    std::u16string texto = BuscarControle(CNomeDaMensagem)->GetTexto();
     if (!FDetalhe->GetTexto().empty()) texto += u"\r\n\r\n" + FDetalhe->GetTexto();
     return texto;
 }

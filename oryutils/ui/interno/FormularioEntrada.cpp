@@ -1,5 +1,6 @@
 #include "oryutils/ui/interno/FormularioEntrada.hpp"
 
+#include "oryutils/forms/NomeFalado.hpp"
 #include "oryutils/forms/Toolkit.hpp"
 #include "oryutils/ui/UnOryUtilsDialogs.hpp"
 #include "oryutils/ui/interno/Disposicao.hpp"
@@ -16,7 +17,7 @@ public:
         SetTitulo(ATitulo);
         OnAjuda = EventoDeAjuda();
         FPartes.Mensagem = &Adicionar<TRotulo>();
-        FPartes.Mensagem->SetNome(u"Message");
+        FPartes.Mensagem->SetNome(CNomeDaMensagem);
         FPartes.Mensagem->SetTexto(APergunta);
         FPartes.Mensagem->SetQuebraLinha(true);
         FPartes.Edicao = &Adicionar<TCaixaEdicao>();

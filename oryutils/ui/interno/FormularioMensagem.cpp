@@ -39,7 +39,7 @@ TOryUtilsDialogsInfoFormMensagemIOP BuscarFatosDoFormulario(const TFormulario& A
         fatos.PosicaoTopoBotoes = botoes.front()->GetTop();
         fatos.LarguraPrimeiroBotao = CalcularLarguraBotao(pontos, botoes.front()->GetTexto().size());
     }
-    const TControleFormulario* mensagem = AFormulario.BuscarControle(CNomeMensagem);
+    const TControleFormulario* mensagem = AFormulario.BuscarControle(CNomeDaMensagem);
     if (mensagem && mensagem->GetTipo() == tcRotulo) {
         fatos.PosicaoEsquerdaTexto = mensagem->GetLeft();
         fatos.LarguraTotalTextoFormulario = mensagem->GetWidth();
@@ -76,7 +76,7 @@ void TFormularioMensagem::CriarControles() {
         FPartes.Icone->SetIdIcone(id);
     }
     FPartes.Mensagem = &Adicionar<TRotulo>();
-    FPartes.Mensagem->SetNome(CNomeMensagem);
+    FPartes.Mensagem->SetNome(CNomeDaMensagem);
     FPartes.Mensagem->SetQuebraLinha(true);
     const TMsgDlgButtons conjunto(FParametros.Botoes);
     for (const TDadosBotao& dados : CDadosBotao) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "oryutils/forms/Formulario.hpp"
+#include "oryutils/forms/NomeFalado.hpp"
 #include "oryutils/forms/Toolkit.hpp"
 #include "oryutils/ui/UnOryUtilsDialogsIOP.hpp"
 #include "oryutils/ui/interno/Disposicao.hpp"
@@ -16,8 +17,6 @@ class TFormularioMensagem;
 
 /// The message forms of one TOryUtilsDialogs that are alive, the innermost last.
 using TFormulariosVivos = std::vector<TFormularioMensagem*>;
-
-inline constexpr std::u16string_view CNomeMensagem = u"Message";
 
 /// The standard message form with the captions, results and focus of its parameters: icon, label "Message", one button
 /// for each kind of the set in kind order. It closes itself when its parameters say so; its timer is on only between

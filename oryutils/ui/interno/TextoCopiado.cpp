@@ -23,7 +23,7 @@ bool EhCtrlC(const TTecla& ATecla) noexcept {
 
 std::u16string MontarTextoCopiado(const TFormulario& AFormulario) {
     std::u16string corpo, botoes;
-    if (const auto* mensagem = AFormulario.BuscarControle(CNomeMensagem)) corpo = mensagem->GetTexto() + u"\r\n";
+    if (const auto* mensagem = AFormulario.BuscarControle(CNomeDaMensagem)) corpo = mensagem->GetTexto() + u"\r\n";
     for (const auto& controle : AFormulario.GetControles()) {
         if (!controle->GetVisivel()) continue;
         const std::u16string texto = RemoverAtalho(controle->GetTexto());

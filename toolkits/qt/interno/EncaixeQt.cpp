@@ -124,7 +124,6 @@ void EncaixarTexto(QAbstractButton& ABotao, const QString& ATexto, bool AQuebra)
     ABotao.setText(cabe);
     const std::u16string completo = RemoverAtalho(DeQt(ATexto));
     ABotao.setToolTip(inteiro ? QString() : ParaQt(completo).toHtmlEscaped());
-    if (!inteiro) ABotao.setAccessibleName(ParaQt(completo));
 }
 
 }  // namespace OryUtils

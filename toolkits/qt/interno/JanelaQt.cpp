@@ -1,5 +1,7 @@
 #include "toolkits/qt/interno/JanelaQt.hpp"
 
+#include "oryutils/forms/NomeFalado.hpp"
+
 #include "toolkits/qt/interno/AcessoQt.hpp"
 #include "toolkits/qt/interno/AplicacaoQt.hpp"
 #include "toolkits/qt/interno/EncaixeQt.hpp"
@@ -84,7 +86,8 @@ void TJanelaQt::Executar(TGuardaQt& AGuarda) {
     if (ativa && ativa->window()->windowHandle()) windowHandle()->setTransientParent(ativa->window()->windowHandle());
     FPixelsPorPolegada = qRound(screen()->logicalDotsPerInch());
     FAreaDaTela = screen()->availableSize();
-    connect(windowHandle(), &QWindow::screenChanged, this, &TJanelaQt::ConferirTela);
+    // Later: Qt may be making the window anew for its other screen.
+    connect(windowHandle(), &QWindow::screenChanged, this, &TJanelaQt::ConferirTela, Qt::QueuedConnection);
     FocarInicial();
     show();
     activateWindow();
@@ -187,6 +190,7 @@ QWidget* TJanelaQt::Criar(TControleFormulario& AControle) {
     auto* memorando = new QPlainTextEdit(this);
     memorando->setTabChangesFocus(true);
     memorando->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    memorando->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // lines wrap
     return memorando;
 }
 
@@ -197,7 +201,7 @@ void TJanelaQt::Vigiar(QWidget& AWidget, TControleFormulario& AControle) {
 }
 
 void TJanelaQt::Aplicar(TControleFormulario& AControle, QWidget& AWidget) {
-    AWidget.setAccessibleName(BuscarNomeFalado(AControle));
+    AWidget.setAccessibleName(ParaQt(BuscarNomeFalado(AControle)));
     AWidget.setGeometry(DeRetangulo(AControle.GetRetangulo()));
     AWidget.setEnabled(AControle.GetHabilitado());
     AWidget.setVisible(AControle.GetVisivel());

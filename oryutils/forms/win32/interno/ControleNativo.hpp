@@ -2,6 +2,7 @@
 
 #include "oryutils/forms/Controles.hpp"
 #include "oryutils/forms/win32/interno/FonteDialogo.hpp"
+#include "oryutils/forms/win32/interno/LeitorDeTela.hpp"
 #include "oryutils/platform/windows/Windows.hpp"
 
 #include <vector>
@@ -34,6 +35,9 @@ public:
     void DesenharComoPadrao(bool APadrao);
 
 private:
+    static LRESULT CALLBACK Receber(HWND AJanela, UINT AMensagem, WPARAM AW, LPARAM AL, UINT_PTR AId,
+                                    DWORD_PTR AControle);
+    TFalado BuscarFalado(HWND AJanela) const;
     HWND Criar(const wchar_t* AClasse, DWORD AEstilo, DWORD AEstiloEstendido, int AId) const;
     void CriarOpcoes();
     void PosicionarOpcoes();
