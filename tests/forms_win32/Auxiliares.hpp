@@ -162,6 +162,10 @@ public:
         return areas;
     }
     void AbrirEm(std::size_t ATela) override { FTela = CTelas[ATela]; }
+    void ArrastarPara(std::size_t ATela) override {
+        FTela = CTelas[ATela];
+        ::SendMessageW(BuscarFormulario(), WM_EXITSIZEMOVE, 0, 0);
+    }
 
     /// The control of the active window with that text.
     static HWND BuscarFilho(std::u16string_view ATexto) {

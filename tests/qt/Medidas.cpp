@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QWindow>
 
 namespace OryUtils {
 namespace {
@@ -106,6 +107,13 @@ void TUsuarioQt::AbrirEm(std::size_t ATela) {
     FHospede->show();
     FHospede->activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(FHospede.get()));
+}
+
+void TUsuarioQt::ArrastarPara(std::size_t ATela) {
+    QScreen* tela = QGuiApplication::screens().at(static_cast<qsizetype>(ATela));
+    QDialog& janela = *BuscarDialogo();
+    janela.move(tela->availableGeometry().topLeft());
+    janela.windowHandle()->setScreen(tela);
 }
 
 }  // namespace OryUtils

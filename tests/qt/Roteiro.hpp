@@ -111,6 +111,7 @@ public:
     }
     std::vector<TRetangulo> BuscarTelas() override;
     void AbrirEm(std::size_t ATela) override;
+    void ArrastarPara(std::size_t ATela) override;
     long ContarObjetos() override {
         return static_cast<long>(QApplication::allWidgets().size() + QGuiApplication::allWindows().size());
     }

@@ -162,31 +162,30 @@ TEST_F(Roteiro, QualquerDialogoCabeEmQualquerTela) {
     const auto telas = FUsuario->BuscarTelas();
     TSorteio sorteio(semente);
     for (int vez = 0; vez < Testes::Quantidade(100, 1000) && !HasFailure(); ++vez) {
-        const std::size_t tela = static_cast<std::size_t>(sorteio.Ate(static_cast<int>(telas.size()) - 1));
+        const int ultima = static_cast<int>(telas.size()) - 1;
+        auto tela = static_cast<std::size_t>(sorteio.Ate(ultima));
         const TDialogo dialogo = Sortear(sorteio);
-        SCOPED_TRACE(testing::Message() << "seed " << semente << ", dialog " << vez << " of kind " << dialogo.Tipo
-                                        << ", work area " << Descrever(telas[tela]));
         FUsuario->AbrirEm(tela);
-        int conferencias = 0;
         const auto conferir = [&] {
+            SCOPED_TRACE(testing::Message() << "seed " << semente << ", dialog " << vez << " of kind " << dialogo.Tipo
+                                            << ", work area " << Descrever(telas[tela]));
             const TVisao visao = FUsuario->Medir();
             EXPECT_TRUE(EstahDentro(visao.Janela, telas[tela])) << "window " << Descrever(visao.Janela);
             ConferirTextos(visao.Controles, dialogo.BuscarTextos());
             ConferirLugares(visao.Controles, {0, 0, visao.Cliente.Largura, visao.Cliente.Altura});
             ConferirTabulacao(visao.Tabulacao, visao.Controles);
         };
-        const auto olhar = BuscarToolkit().LigarTemporizador(5, [&] {
-            if (!FUsuario->HaFormulario() || conferencias == 2) return;
-            conferir();
-            if (++conferencias == 1 && dialogo.Tipo == TDialogo::tdDetalhe &&
-                FUsuario->ClicarSeHouver(u"Mostrar &Detalhes"))
-                return;
-            conferencias = 2;
-            FUsuario->FecharJanela();
-        });
-        Mostrar(dialogos, dialogo);
-        BuscarToolkit().DesligarTemporizador(olhar);
-        EXPECT_GT(conferencias, 0);
+        const TPassos passos{conferir,
+                             [&] { FUsuario->ClicarSeHouver(u"Mostrar &Detalhes"); },
+                             conferir,
+                             [&] {
+                                 if (ultima == 0) return;
+                                 tela = (tela + 1 + static_cast<std::size_t>(sorteio.Ate(ultima - 1))) % telas.size();
+                                 FUsuario->ArrastarPara(tela);
+                             },
+                             conferir,
+                             [&] { FUsuario->FecharJanela(); }};
+        FUsuario->Conduzir(passos, [&] { Mostrar(dialogos, dialogo); });
     }
 }
 
@@ -205,6 +204,21 @@ TEST_F(Roteiro, AMensagemTemNoMaximoNoventaLetrasDeLargura) {
         });
         dialogos.Informacao(mensagem);
         BuscarToolkit().DesligarTemporizador(olhar);
+    }
+}
+
+TEST_F(Roteiro, OTituloDeUmaMensagemCurtaCabeNaBarra) {
+    TOryUtilsDialogs dialogos;
+    const auto telas = FUsuario->BuscarTelas();
+    for (std::size_t tela = 0; tela < telas.size(); ++tela) {
+        FUsuario->AbrirEm(tela);
+        const TPassos passos{[&] {
+            // Beside it stand at least an icon and a button, as high as the line.
+            const TTamanho titulo = BuscarToolkit().MedirTexto(u"Informação", 0);
+            EXPECT_GE(FUsuario->Medir().Janela.Width, titulo.Largura + 3 * titulo.Altura) << tela;
+            FUsuario->FecharJanela();
+        }};
+        FUsuario->Conduzir(passos, [&] { dialogos.Informacao(u"Ok"); });
     }
 }
 

@@ -86,6 +86,8 @@ public:
     virtual std::vector<TRetangulo> BuscarTelas() = 0;
     /// The dialogs that follow belong to a window on that screen.
     virtual void AbrirEm(std::size_t ATela) = 0;
+    /// Drags the dialog in front to that screen.
+    virtual void ArrastarPara(std::size_t ATela) = 0;
     /// Windows and widgets of the program, where the system does not count them.
     virtual long ContarObjetos() { return 0; }
 };

@@ -69,6 +69,8 @@ bool PodeCriarAplicacao() {
 
 QScreen* BuscarTelaQt() {
     const QWidget* ativa = QApplication::activeWindow();
+    // While another program is in front.
+    if (!ativa) ativa = QApplication::activeModalWidget();
     return ativa ? ativa->screen() : QGuiApplication::primaryScreen();
 }
 
