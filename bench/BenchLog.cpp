@@ -53,7 +53,8 @@ void EscreverSpdlog(const fs::path& AArquivo, int ALinhas) {
 void EscreverUmaAUma(const fs::path& AArquivo, int ALinhas) {
     const std::string linha = "[21/11/2026 14:07:05]: " + std::string(CMensagem) + "\n";
     Interno::TFluxo fluxo;
-    fluxo.CriarOuEsvaziar(AArquivo.string());
+    fluxo.AbrirParaReescrever(AArquivo.string());
+    fluxo.CortarAqui();
     for (int i = 0; i < ALinhas; ++i) fluxo.Escrever(linha);
     fluxo.Fechar();
 }

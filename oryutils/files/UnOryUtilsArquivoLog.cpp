@@ -3,10 +3,9 @@
 #include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/files/OryUtilsFiles.hpp"
 #include "oryutils/files/interno/AmbienteDoLog.hpp"
-#include "oryutils/files/interno/CodificacaoDoLog.hpp"
+#include "oryutils/files/interno/CargaDoLog.hpp"
 #include "oryutils/files/interno/GravadorDoLog.hpp"
 #include "oryutils/files/interno/LinhasDoLog.hpp"
-#include "oryutils/platform/Arquivos.hpp"
 #include "oryutils/platform/DadosDoArquivo.hpp"
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
@@ -16,6 +15,7 @@
 #include "oryutils/runtime/NomeDeArquivo.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
 
+#include <optional>
 #include <utility>
 
 namespace OryUtils {
@@ -93,7 +93,10 @@ void TOryUtilsArquivoLog::FinalizarLog() {
     FLogIniciado = false;
 }
 
-void TOryUtilsArquivoLog::Limpar() { FLog->Limpar(); }
+void TOryUtilsArquivoLog::Limpar() {
+    FLog->Limpar();
+    FPorCarregar = false;  // the lines of the file would have gone with the others
+}
 
 void TOryUtilsArquivoLog::ExibirLog() {
     if (Interno::ExisteArquivo(FArquivoLog))
@@ -172,12 +175,27 @@ TDateTime TOryUtilsArquivoLog::ConferirData() {
 
 void TOryUtilsArquivoLog::CarregarArquivo() {
     if (EhVazio(FArquivoLog)) return;
-    if (const auto bytes = Interno::LerArquivo(FArquivoLog)) FLog->Substituir(SepararLinhas(*bytes, GetCodificacao()));
+    TLinhasDoLog doArquivo;
+    doArquivo.SetCodificacao(GetCodificacao());
+    const TCargaDoLog carga = CarregarLinhas(FArquivoLog, doArquivo);
+    if (carga == cgSemArquivo) {
+        FPorCarregar = false;
+        return;
+    }
+    // Lines that wait for those of the file are of its runs, and stay behind them; others give way.
+    if (!FPorCarregar) FLog->Limpar();
+    FPorCarregar = carga == cgIlegivel;
+    if (carga == cgLida) FLog->ColocarAntes(std::move(doArquivo));
 }
 
 void TOryUtilsArquivoLog::SalvarArquivoLog() {
     if (EhVazio(FArquivoLog)) return;
-    FSalvo = FGravador->Gravar(FArquivoLog, FLog->BuscarTextoPronto(), FModoGravacao, FAmbiente);
+    const auto buscarTexto = [&]() -> std::optional<TTextoPronto> {
+        if (FPorCarregar) CarregarArquivo();
+        if (FPorCarregar) return {};
+        return FLog->BuscarTextoPronto();
+    };
+    FSalvo = FGravador->Gravar(FArquivoLog, buscarTexto, FModoGravacao, FAmbiente);
 }
 
 void TOryUtilsArquivoLog::ValidarEventoOnStatus(std::u16string_view AStatus, TColor ACor) {

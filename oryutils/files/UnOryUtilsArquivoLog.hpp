@@ -42,9 +42,11 @@ public:
     TOryUtilsArquivoLog(const TOryUtilsArquivoLog&) = delete;
     TOryUtilsArquivoLog& operator=(const TOryUtilsArquivoLog&) = delete;
 
-    /// Starts a run unless it has started: empties the list, or loads the file's lines with UsarArquivoLogExistente
-    /// (a file that is not there or cannot be read leaves the list as it is), and writes the header. Adicionar and
-    /// InserirTexto call it.
+    /// Starts a run unless it has started: empties the list, or puts the file's lines in its place with
+    /// UsarArquivoLogExistente (without a file the list stays as it is), and writes the header. A file that is there
+    /// and cannot be read, as one without the right to or one that another program keeps for itself, is read again by
+    /// each attempt of a save, and stands untouched until then: its lines then come before those of the run. Adicionar
+    /// and InserirTexto call this operation.
     void IniciarLog();
     /// Adds AMensagem as a line of its own, behind the header when the run has not started. When the date has changed
     /// since the run began, that run is finished first and a new one begun, whatever the periodicity; a single file
@@ -76,7 +78,7 @@ public:
     /// The lines with the system's line break (CR LF on Windows, LF on Linux) between them.
     std::u16string GetTexto() const;
     bool GetUsarArquivoLogExistente() const noexcept { return FUsarArquivoLogExistente; }
-    /// At the start of a run the lines of the file are loaded and continued. False at first.
+    /// At the start of a run the lines of the file are loaded and continued; see IniciarLog. False at first.
     void SetUsarArquivoLogExistente(bool AValor) noexcept { FUsarArquivoLogExistente = AValor; }
     TTipoPeriodicidadeLog GetTipoPeriodicidade() const noexcept { return FTipoPeriodicidade; }
     /// Also renames the file to come: "_DD_MM_YYYY" comes or goes. tplUnico at first.
@@ -99,8 +101,9 @@ public:
     /// Encoding in which the file is written and loaded; clPadrao at first. A character that it lacks becomes "?" in
     /// the file (Texto keeps it).
     void SetCodificacao(TCodificacaoLog AValor);
-    /// False when the last save failed: the file lacks what the memory holds. True before the first save.
-    bool EstahSalvo() const noexcept { return FSalvo; }
+    /// False when the last save failed: the file lacks what the memory holds. True before the first save. False, too,
+    /// while an existing log that is to be continued could not be read.
+    bool EstahSalvo() const noexcept { return FSalvo && !FPorCarregar; }
     const TEventoOnStatusLog& GetOnStatus() const noexcept { return FOnStatus; }
     /// Called for each line that Adicionar, IniciarLog and FinalizarLog add.
     void SetOnStatus(const TEventoOnStatusLog& AValor) noexcept { FOnStatus = AValor; }
@@ -119,7 +122,7 @@ protected:
     void AdicionarMensagem(std::u16string_view AMensagem, TColor ACor);
     /// Ends the run of a day that is over and makes ready for the next.
     void AtualizarArquivoLog();
-    /// Puts the lines of the file in place of the list; leaves it alone when there is no file that can be read.
+    /// Puts the lines of the file in place of the list; leaves it alone when there is no file.
     void CarregarArquivo();
     /// Brings the file up to date, in up to 14 attempts; does nothing without a name of a file.
     void SalvarArquivoLog();
@@ -151,6 +154,7 @@ private:
     TModoGravacao FModoGravacao = mgReescrever;
     bool FMudandoDeDia = false;
     bool FSalvo = true;
+    bool FPorCarregar = false;  // the existing log could not be read yet
     TFormatSettings FFormatos;
     TDateTime FInstanteDoCarimbo{-1};
     std::u16string FCarimbo{};

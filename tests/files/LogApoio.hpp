@@ -100,3 +100,25 @@ inline TLinhas Somar(TLinhas ALinhas, const TLinhas& AMais) {
     ALinhas.insert(ALinhas.end(), AMais.begin(), AMais.end());
     return ALinhas;
 }
+
+/// An existing log of AArquivo that ASoltar makes readable, and nothing else, is continued as soon as it can be read,
+/// and stands untouched until then.
+inline void ConferirQueEsperaOExistente(const std::filesystem::path& AArquivo, OryUtils::TModoGravacao AModo,
+                                        const std::function<void()>& ASoltar) {
+    TAmbienteDeTeste ambiente;
+    TLogDeTeste log(AArquivo.u16string(), ambiente, AModo);
+    log.SetUsarArquivoLogExistente(true);
+    log.AdicionarEspacoEmBranco(3);  // the file's lines come in the place of these
+    log.Adicionar(u"enquanto ninguém lê", OryUtils::clBlue);
+    EXPECT_FALSE(log.EstahSalvo()) << "before the first save, too";
+    EXPECT_EQ(log.ContarTentativas(), 14);
+    EXPECT_FALSE(log.EstahSalvo());
+    ambiente.AoTentar = [&](int ATentativa) {
+        if (ATentativa == 5) ASoltar();
+    };
+    const std::u16string destaVez = log.GetTexto();
+    EXPECT_EQ(log.ContarTentativas(), 5);
+    EXPECT_TRUE(log.EstahSalvo());
+    EXPECT_EQ(log.GetTexto(), JuntarTexto({u"de ontem", destaVez}));
+    EXPECT_EQ(LerBytes(AArquivo), log.Esperar());
+}

@@ -91,7 +91,9 @@ std::string DescreverFalhaDoLog(const std::u16string& AArquivo) {
     if (OryUtils::Interno::ExistePasta(AArquivo))
         return falha.append(": ").append(DescreverErro(OryUtils::Interno::efEhPasta));
     if (!pasta.empty() && !OryUtils::Interno::ExistePasta(pasta)) return falha += ": a pasta não pôde ser criada";
-    const OryUtils::Interno::TErroFluxo erro = fluxo.AbrirParaAcrescentar(ParaUtf8(AArquivo));
+    OryUtils::Interno::TErroFluxo erro = fluxo.AbrirParaAcrescentar(ParaUtf8(AArquivo));
+    // A log that is continued must be read, too.
+    if (erro == OryUtils::Interno::efNenhum) erro = fluxo.AbrirArquivoParaLer(AArquivo);
     if (erro == OryUtils::Interno::efNenhum) return falha;  // it may be written to now
     if (erro == OryUtils::Interno::efNaoExiste) return falha += ": o arquivo não pôde ser criado";
     return falha.append(": ").append(DescreverErro(erro));

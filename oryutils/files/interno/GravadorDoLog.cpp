@@ -22,20 +22,22 @@ void CriarPastaQueFalta(std::u16string_view AArquivo) {
 
 }  // namespace
 
-bool TGravadorDoLog::Gravar(std::u16string_view AArquivo, const TTextoPronto& ATexto, TModoGravacao AModo,
+bool TGravadorDoLog::Gravar(std::u16string_view AArquivo, const TBuscarTexto& ABuscarTexto, TModoGravacao AModo,
                             TAmbienteDoLog& AAmbiente) {
     constexpr int CTentativas = 14;
     const bool acrescentar = AModo == mgAcrescentar;
     bool pastaConferida = false;
     for (int i = 1; i <= CTentativas; ++i) {
         AAmbiente.AoTentarGravar(i);
-        if (acrescentar && PodeContinuar(AArquivo, ATexto.Geracao, AAmbiente)) {
-            if (Acrescentar(ATexto.Bytes.substr(FMarca->Tamanho), AAmbiente)) return true;
+        const auto texto = ABuscarTexto();
+        if (!texto) continue;
+        if (acrescentar && PodeContinuar(AArquivo, texto->Geracao, AAmbiente)) {
+            if (Acrescentar(texto->Bytes.substr(FMarca->Tamanho), AAmbiente)) return true;
             continue;
         }
         if (!pastaConferida) CriarPastaQueFalta(AArquivo);
         pastaConferida = true;
-        if (Reescrever(AArquivo, ATexto, acrescentar, AAmbiente)) return true;
+        if (Reescrever(AArquivo, *texto, acrescentar, AAmbiente)) return true;
     }
     return false;
 }

@@ -40,11 +40,20 @@ void TLinhasDoLog::Inserir(std::size_t AIndice, std::u16string_view ALinha) {
     ++FGeracao;
 }
 
-void TLinhasDoLog::Substituir(const std::vector<std::u16string>& ALinhas) {
+void TLinhasDoLog::Limpar() {
     FLinhas.clear();
     FPronto.clear();
     ++FGeracao;
-    for (const std::u16string& linha : ALinhas) Adicionar(linha);
+}
+
+void TLinhasDoLog::ColocarAntes(TLinhasDoLog&& AOutras) {
+    for (TLinha& linha : FLinhas) {
+        linha.Inicio += AOutras.FPronto.size();
+        AOutras.FLinhas.push_back(std::move(linha));
+    }
+    if (!FLinhas.empty()) AOutras.FPronto += FPronto;
+    AOutras.FGeracao = FGeracao + 1;
+    *this = std::move(AOutras);
 }
 
 std::string_view TLinhasDoLog::BuscarBytes(std::size_t AIndice) const noexcept {

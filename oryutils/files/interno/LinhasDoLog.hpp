@@ -27,8 +27,9 @@ public:
     void Adicionar(std::u16string_view ALinha);
     /// ALinha becomes line AIndice, at most GetQuantidade(). Anywhere but at the end all text behind it moves.
     void Inserir(std::size_t AIndice, std::u16string_view ALinha);
-    void Substituir(const std::vector<std::u16string>& ALinhas);
-    void Limpar() { Substituir({}); }
+    void Limpar();
+    /// The lines of AOutras, of the same encoding, come before these.
+    void ColocarAntes(TLinhasDoLog&& AOutras);
     /// The lines with the system's line break between them.
     std::u16string GetTexto() const;
 

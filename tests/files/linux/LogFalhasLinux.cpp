@@ -6,6 +6,7 @@
 
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -126,6 +127,16 @@ TEST_P(LogFalhasLinux, MortoAQualquerMomentoNaoPerdeLinhaGravada) {
             ASSERT_NE(texto.find("linha " + std::to_string(i) + " x"), std::string::npos)
                 << "round " << vez << ": line " << i << " of " << ultima << ", " << texto.size() << " bytes";
     }
+}
+
+TEST_P(LogFalhasLinux, ExistenteQueNaoPodeSerLido) {
+    constexpr uid_t CNinguem = 65534;
+    GravarBytes(Arquivo, "de ontem\n");
+    ASSERT_EQ(::chmod(Arquivo.c_str(), 0200), 0);
+    const bool raiz = ::geteuid() == 0;  // who may read everything
+    ASSERT_TRUE(!raiz || (::chown(Arquivo.c_str(), CNinguem, 0) == 0 && ::seteuid(CNinguem) == 0));
+    ConferirQueEsperaOExistente(Arquivo, GetParam(), [&] { ::chmod(Arquivo.c_str(), 0600); });
+    ASSERT_TRUE(!raiz || ::seteuid(0) == 0);
 }
 
 TEST(LogCodificacao, PadraoEhUtf8) {

@@ -2,6 +2,9 @@
 
 #include "files/LogApoio.hpp"
 
+#include <optional>
+#include <utility>
+
 namespace {
 
 using namespace OryUtils;
@@ -43,6 +46,18 @@ TEST_P(LogFalhasWindows, AbertoPorOutroSemPartilhar) {
     const TAbertoPorOutro leitor(arquivo, FILE_SHARE_READ | FILE_SHARE_WRITE);
     log.Adicionar(u"com um leitor", clBlue);
     EXPECT_EQ(log.ContarTentativas(), 1);
+}
+
+TEST_P(LogFalhasWindows, ExistenteAbertoPorOutroSemPartilhar) {
+    const TPastaTemporaria pasta;
+    const auto arquivo = pasta.Caminho() / "Continua.log";
+    for (const DWORD partilha : {DWORD{0}, DWORD{FILE_SHARE_WRITE}}) {
+        SCOPED_TRACE(partilha);
+        GravarBytes(arquivo, "de ontem\r\n");
+        std::optional<TAbertoPorOutro> outro(std::in_place, arquivo, partilha);
+        ASSERT_TRUE(outro->EstahAberto());
+        ConferirQueEsperaOExistente(arquivo, GetParam(), [&] { outro.reset(); });
+    }
 }
 
 /// By the system's own code page, which knows nothing of the library's tables.
