@@ -123,7 +123,6 @@ TEST_F(LogRegras, CarregaOArquivoExistenteComQualquerFimDeLinha) {
         {"CR LF", "a\r\nb\r\n", {u"a", u"b"}},
         {"CR", "a\rb\r", {u"a", u"b"}},
         {"mixed, the last one open", "a\n\r\n\rb", {u"a", u"", u"", u"b"}},
-        {"cut in the middle of a character", "a\n\xC3", {u"a", u"\uFFFD"}},
         {"one empty line", "\n", {u""}},
         {"nothing", "", {}},
         {"the mark of an editor", "\uFEFFação\n", {u"ação"}},
@@ -185,6 +184,44 @@ TEST_F(LogRegras, CodificacaoNuncaPara) {
     for (int i = 1; i < 256; ++i)
         if (i != '\r' && i != '\n') bytes += static_cast<char>(i);
     EXPECT_EQ(ParaWindows1252(DeWindows1252(bytes)), bytes);
+}
+
+TEST_F(LogRegras, LinhaCarregadaGuardaOsSeusBytes) {
+    const std::string quebra = ParaUtf8(Interno::BuscarQuebraDeLinha());
+    const struct {
+        const char* Porque;
+        TCodificacaoLog Codificacao;
+        std::string Linha;
+        std::u16string Lido;
+        std::string EmUtf8, EmWindows1252;  // after a change of the setting
+    } casos[] = {
+        {"Windows-1252 continued as UTF-8", clUtf8, "cora\xE7\xE3o", u"cora\uFFFD\uFFFDo", "cora\xE7\xE3o",
+         "cora\xE7\xE3o"},
+        {"cut in a character", clUtf8, "a \xC3", u"a \uFFFD", "a \xC3", "a \xC3"},
+        {"a line that decodes goes along", clUtf8, "ação", u"ação", "ação", "a\xE7\xE3o"},
+        {"Windows-1252 as what it is", clWindows1252, "a\xE7\xE3o", u"ação", "ação", "a\xE7\xE3o"},
+        {"UTF-8 continued as Windows-1252", clWindows1252, "\xC3\xA7", u"Ã§", "Ã§", "\xC3\xA7"},
+    };
+    for (const auto& c : casos) {
+        SCOPED_TRACE(c.Porque);
+        GravarBytes(Pasta / "B.log", c.Linha + "\n");
+        TLogDeTeste log(Pasta.Nome("B"), Ambiente);
+        log.SetFormatoMensagem(tfmSomenteTexto);
+        log.SetUsarArquivoLogExistente(true);
+        log.SetCodificacao(c.Codificacao);
+        log.IniciarLog();
+        EXPECT_EQ(log.GetTexto(), JuntarTexto(Somar({c.Lido}, CCabecalho)));
+        const auto gravar = [&] {
+            log.SalvarArquivoLog();
+            const std::string bytes = LerBytes(Pasta / "B.log");
+            return bytes.substr(0, bytes.find(quebra));
+        };
+        EXPECT_EQ(gravar(), c.Linha);
+        log.SetCodificacao(clUtf8);
+        EXPECT_EQ(gravar(), c.EmUtf8);
+        log.SetCodificacao(clWindows1252);
+        EXPECT_EQ(gravar(), c.EmWindows1252);
+    }
 }
 
 TEST_F(LogRegras, ExibirAvisaQuandoNaoHaArquivo) {

@@ -13,7 +13,7 @@ TCargaDoLog CarregarLinhas(std::u16string_view AArquivo, TLinhasDoLog& ALinhas) 
     if (erro == Interno::efNaoExiste || Interno::ExistePasta(AArquivo)) return cgSemArquivo;
     const auto bytes = Interno::LerArquivo(AArquivo);
     if (!bytes) return cgIlegivel;
-    for (const std::u16string& linha : SepararLinhas(*bytes, ALinhas.GetCodificacao())) ALinhas.Adicionar(linha);
+    for (const std::string_view linha : SepararLinhas(*bytes, ALinhas.GetCodificacao())) ALinhas.AdicionarBytes(linha);
     return cgLida;
 }
 

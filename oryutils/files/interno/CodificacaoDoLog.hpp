@@ -8,11 +8,13 @@
 
 namespace OryUtils {
 
-/// Appends ATexto to ADestino in the encoding. True when all of it is ASCII.
+/// Appends ATexto to ADestino in the encoding. True when the encoding has all of it: its bytes give the text again.
 bool AcrescentarCodificado(std::string& ADestino, std::u16string_view ATexto, TCodificacaoLog ACodificacao);
+/// Appends the text of ABytes. True when the encoding gives those bytes for it, and no others.
+bool AcrescentarDecodificado(std::u16string& ADestino, std::string_view ABytes, TCodificacaoLog ACodificacao);
 
-/// The lines of a file. CR, LF and CR LF end a line, in any mixture; the last line needs no end. The mark that some
-/// editors put before UTF-8 is no part of the first line.
-std::vector<std::u16string> SepararLinhas(std::string_view ABytes, TCodificacaoLog ACodificacao);
+/// The lines of a file, in its bytes. CR, LF and CR LF end a line, in any mixture; the last line needs no end. The mark
+/// that some editors put before UTF-8 is no part of the first line.
+std::vector<std::string_view> SepararLinhas(std::string_view ABytes, TCodificacaoLog ACodificacao);
 
 }  // namespace OryUtils

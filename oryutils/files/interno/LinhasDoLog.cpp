@@ -23,6 +23,11 @@ void TLinhasDoLog::Adicionar(std::u16string_view ALinha) {
     }
 }
 
+void TLinhasDoLog::AdicionarBytes(std::string_view ALinha) {
+    Adicionar({});
+    FPronto.insert(FLinhas.back().Inicio, ALinha);
+}
+
 void TLinhasDoLog::Inserir(std::size_t AIndice, std::u16string_view ALinha) {
     const std::size_t quantidade = FLinhas.size();
     Adicionar(ALinha);
@@ -64,19 +69,14 @@ std::string_view TLinhasDoLog::BuscarBytes(std::size_t AIndice) const noexcept {
 
 std::u16string TLinhasDoLog::GetTexto() const {
     const std::u16string_view quebra = Interno::BuscarQuebraDeLinha();
-    std::size_t tamanho = 0;
-    for (std::size_t i = 0; i < FLinhas.size(); ++i)
-        tamanho += quebra.size() + (FLinhas[i].Original ? FLinhas[i].Original->size() : BuscarBytes(i).size());
     std::u16string texto;
-    texto.reserve(tamanho);
+    texto.reserve(FPronto.size());
     for (std::size_t i = 0; i < FLinhas.size(); ++i) {
-        if (FLinhas[i].Original) {
-            texto.append(*FLinhas[i].Original);
-        } else {
-            const std::string_view bytes = BuscarBytes(i);
-            texto.append(bytes.begin(), bytes.end());
-        }
-        texto.append(quebra);
+        if (FLinhas[i].Original)
+            texto += *FLinhas[i].Original;
+        else
+            AcrescentarDecodificado(texto, BuscarBytes(i), FCodificacao);
+        texto += quebra;
     }
     if (!texto.empty()) texto.resize(texto.size() - quebra.size());
     return texto;
@@ -89,8 +89,13 @@ void TLinhasDoLog::SetCodificacao(TCodificacaoLog ACodificacao) {
     outras.FGeracao = FGeracao + 1;
     std::u16string linha;
     for (std::size_t i = 0; i < FLinhas.size(); ++i) {
-        const std::string_view bytes = BuscarBytes(i);
-        outras.Adicionar(FLinhas[i].Original ? *FLinhas[i].Original : linha.assign(bytes.begin(), bytes.end()));
+        linha.clear();
+        if (FLinhas[i].Original)
+            outras.Adicionar(*FLinhas[i].Original);
+        else if (AcrescentarDecodificado(linha, BuscarBytes(i), FCodificacao))
+            outras.Adicionar(linha);
+        else
+            outras.AdicionarBytes(BuscarBytes(i));
     }
     *this = std::move(outras);
 }

@@ -18,13 +18,15 @@ struct TTextoPronto {
     std::uint64_t Geracao;
 };
 
-/// The lines of a log, kept as the text ready for writing, which grows with each line. A line of ASCII, which every
-/// encoding holds as it is, lives in that text alone; of another the characters are kept too.
+/// The lines of a log, kept as the text ready for writing, which grows with each line. Of a line with characters that
+/// the encoding lacks the characters are kept, too.
 class TLinhasDoLog {
 public:
     std::size_t GetQuantidade() const noexcept { return FLinhas.size(); }
     /// Costs the length of the line.
     void Adicionar(std::u16string_view ALinha);
+    /// A line of a file: its bytes stay, whether the encoding knows them or not.
+    void AdicionarBytes(std::string_view ALinha);
     /// ALinha becomes line AIndice, at most GetQuantidade(). Anywhere but at the end all text behind it moves.
     void Inserir(std::size_t AIndice, std::u16string_view ALinha);
     void Limpar();
@@ -34,6 +36,7 @@ public:
     std::u16string GetTexto() const;
 
     TCodificacaoLog GetCodificacao() const noexcept { return FCodificacao; }
+    /// Writes every line in the encoding. Bytes of a file that were none of a text in the old one stay as they are.
     void SetCodificacao(TCodificacaoLog ACodificacao);
     /// The text of the file: GetTexto and one line break. Valid until the next change.
     TTextoPronto BuscarTextoPronto();
@@ -41,7 +44,7 @@ public:
 private:
     struct TLinha {
         std::size_t Inicio;                        // in FPronto
-        std::unique_ptr<std::u16string> Original;  // of a line that is not ASCII
+        std::unique_ptr<std::u16string> Original;  // of a line with characters that the encoding lacks
     };
 
     std::string_view BuscarBytes(std::size_t AIndice) const noexcept;
