@@ -7,6 +7,7 @@
 #include "oryutils/files/interno/GravadorDoLog.hpp"
 #include "oryutils/files/interno/LinhasDoLog.hpp"
 #include "oryutils/platform/DadosDoArquivo.hpp"
+#include "oryutils/platform/Fluxo.hpp"
 #include "oryutils/runtime/Costura.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
@@ -175,17 +176,19 @@ TDateTime TOryUtilsArquivoLog::ConferirData() {
 
 void TOryUtilsArquivoLog::CarregarArquivo() {
     if (EhVazio(FArquivoLog)) return;
-    TLinhasDoLog doArquivo;
-    doArquivo.SetCodificacao(GetCodificacao());
-    const TCargaDoLog carga = CarregarLinhas(FArquivoLog, doArquivo);
-    if (carga == cgSemArquivo) {
+    Interno::TFluxo fluxo;
+    const TLogExistente existente = AbrirLogExistente(fluxo, FArquivoLog);
+    if (existente == leSemArquivo) {
         FPorCarregar = false;
         return;
     }
     // Lines that wait for those of the file are of its runs, and stay behind them; others give way.
-    if (!FPorCarregar) FLog->Limpar();
-    FPorCarregar = carga == cgIlegivel;
-    if (carga == cgLida) FLog->ColocarAntes(std::move(doArquivo));
+    if (!std::exchange(FPorCarregar, true)) FLog->Limpar();
+    if (existente == leIlegivel) return;
+    if (auto linhas = LerLogExistente(fluxo, GetCodificacao())) {
+        FLog->ColocarAntes(std::move(*linhas));
+        FPorCarregar = false;
+    }
 }
 
 void TOryUtilsArquivoLog::SalvarArquivoLog() {

@@ -60,7 +60,7 @@ public:
     void AdicionarEspacoEmBranco(int AQuantidade);
     /// Starts the run and puts ATexto, as it stands, before line AIndice (0 the first; the number of lines appends).
     /// Nothing when ATexto is blank. No event, no save; ACor is not used. Raises EListError for another index. Anywhere
-    /// but at the end it costs a move of the lines behind it, and the next save writes the whole text.
+    /// but at the end it counts the lines before it and moves those behind it, and the next save writes the whole text.
     void InserirTexto(std::u16string_view ATexto, int AIndice, TColor ACor);
     /// Adds the footer, also without a start, and saves. A daily file gets midnight of the day it records as its
     /// last-write time, so that its date is right when it is finished after midnight. Then OnAposFinalizarLog.

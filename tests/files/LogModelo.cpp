@@ -1,8 +1,10 @@
 #include "oryutils/characters/Caracteres.hpp"
+#include "oryutils/files/interno/LinhasDoLog.hpp"
 #include "oryutils/platform/Pastas.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/runtime/FormatoDataHora.hpp"
 
+#include "comum/Acaso.hpp"
 #include "files/LogApoio.hpp"
 
 #include <map>
@@ -200,6 +202,30 @@ TEST(LogModelo, CorridasAoAcaso) {
 }
 
 /// A day and a half of a service that logs every four seconds and saves every ten minutes.
+/// Lines that their bytes do not tell, among others: the list of texts beside it is what they were.
+TEST(LogModelo, LinhasQueOsBytesNaoContam) {
+    constexpr std::u16string_view CLinhas[] = {u"",       u"x",    u"ação", u"\u4E2D",
+                                               u"\xD800", u"a\nb", u"\r\n", u"\r\n\u4E2D\n"};
+    Testes::TAcaso sorteio;
+    TLinhasDoLog linhas;
+    TLinhas obvias;
+    for (int passo = 0; passo < 2000; ++passo) {
+        const std::u16string_view linha = CLinhas[sorteio() % std::size(CLinhas)];
+        const std::size_t indice = sorteio() % 3 == 0 ? sorteio() % (obvias.size() + 1) : obvias.size();
+        linhas.Inserir(indice, linha);
+        obvias.emplace(obvias.begin() + static_cast<std::ptrdiff_t>(indice), linha);
+        if (sorteio() % 8 == 0) linhas.SetCodificacao(static_cast<TCodificacaoLog>(sorteio() % 3));
+        if (sorteio() % 8 == 0)
+            linhas.ColocarAntes({ParaUtf8(Interno::BuscarQuebraDeLinha()), 1}), obvias.insert(obvias.begin(), u"");
+        if (sorteio() % 64 == 0) linhas.Limpar(), obvias.clear();
+        std::u16string texto;
+        for (const std::u16string& obvia : obvias) (texto += obvia) += Interno::BuscarQuebraDeLinha();
+        if (!texto.empty()) texto.resize(texto.size() - Interno::BuscarQuebraDeLinha().size());
+        ASSERT_EQ(linhas.GetTexto(), texto) << "step " << passo;
+        ASSERT_EQ(linhas.GetQuantidade(), obvias.size());
+    }
+}
+
 TEST(LogModelo, UmDiaInteiro) {
     const TFormatosTemporarios formatos(BuscarFormatosBrasileiros());
     const TPastaTemporaria pasta;

@@ -126,6 +126,8 @@ TEST_F(LogRegras, CarregaOArquivoExistenteComQualquerFimDeLinha) {
         {"one empty line", "\n", {u""}},
         {"nothing", "", {}},
         {"the mark of an editor", "\uFEFFação\n", {u"ação"}},
+        {"the mark alone", "\uFEFF", {}},
+        {"the mark before an empty line", "\uFEFF\n", {u""}},
         {"no file: the list stays as it is", nullptr, {u"", u""}},
         {"a folder: so it does", nullptr, {u"", u""}},
     };

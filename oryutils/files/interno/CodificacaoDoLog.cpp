@@ -53,19 +53,4 @@ bool AcrescentarDecodificado(std::u16string& ADestino, std::string_view ABytes, 
     return Codificar(texto, ACodificacao) == resto;
 }
 
-std::vector<std::string_view> SepararLinhas(std::string_view ABytes, TCodificacaoLog ACodificacao) {
-    constexpr std::string_view CMarcaUtf8 = "\xEF\xBB\xBF";
-    if (ABytes.starts_with(CMarcaUtf8) && Decodificar(CMarcaUtf8, ACodificacao) == u"\uFEFF")
-        ABytes.remove_prefix(CMarcaUtf8.size());
-    std::vector<std::string_view> linhas;
-    // No byte of a longer character of any ANSI code page, nor of UTF-8, is a CR or an LF.
-    while (!ABytes.empty()) {
-        const std::size_t fim = std::min(ABytes.find_first_of("\r\n"), ABytes.size());
-        linhas.push_back(ABytes.substr(0, fim));
-        ABytes.remove_prefix(fim);
-        ABytes.remove_prefix(ABytes.starts_with("\r\n") ? 2 : ABytes.empty() ? 0 : 1);
-    }
-    return linhas;
-}
-
 }  // namespace OryUtils

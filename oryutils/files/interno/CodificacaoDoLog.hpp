@@ -4,7 +4,6 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace OryUtils {
 
@@ -12,9 +11,5 @@ namespace OryUtils {
 bool AcrescentarCodificado(std::string& ADestino, std::u16string_view ATexto, TCodificacaoLog ACodificacao);
 /// Appends the text of ABytes. True when the encoding gives those bytes for it, and no others.
 bool AcrescentarDecodificado(std::u16string& ADestino, std::string_view ABytes, TCodificacaoLog ACodificacao);
-
-/// The lines of a file, in its bytes. CR, LF and CR LF end a line, in any mixture; the last line needs no end. The mark
-/// that some editors put before UTF-8 is no part of the first line.
-std::vector<std::string_view> SepararLinhas(std::string_view ABytes, TCodificacaoLog ACodificacao);
 
 }  // namespace OryUtils

@@ -3,79 +3,96 @@
 #include "oryutils/files/interno/CodificacaoDoLog.hpp"
 #include "oryutils/platform/TextoDoSistema.hpp"
 
-#include <algorithm>
 #include <utility>
 
 namespace OryUtils {
+namespace {
+
+/// The system's line break, whose bytes are the same in every encoding.
+std::string_view BuscarQuebra() { return Interno::BuscarQuebraDeLinha().size() == 1 ? "\n" : "\r\n"; }
+
+}  // namespace
 
 void TLinhasDoLog::Adicionar(std::u16string_view ALinha) {
-    if (FLinhas.empty()) FPronto.clear();  // it may hold the text of a log without lines
-    const std::size_t inicio = FPronto.size();
-    FLinhas.push_back({inicio, nullptr});
-    try {
-        if (!AcrescentarCodificado(FPronto, ALinha, FCodificacao))
-            FLinhas.back().Original = std::make_unique<std::u16string>(ALinha);
-        AcrescentarCodificado(FPronto, Interno::BuscarQuebraDeLinha(), FCodificacao);
-    } catch (...) {
-        FPronto.resize(inicio);
-        FLinhas.pop_back();
-        throw;
+    std::string bytes;
+    const bool temTodos = AcrescentarCodificado(bytes, ALinha, FCodificacao);
+    if (!temTodos || bytes.find(BuscarQuebra()) != bytes.npos) {
+        auto original = temTodos ? nullptr : std::make_unique<std::u16string>(ALinha);
+        FEspeciais[FPronto.size()] = {bytes.size(), std::move(original)};
     }
+    AdicionarBytes(bytes);
 }
 
 void TLinhasDoLog::AdicionarBytes(std::string_view ALinha) {
-    Adicionar({});
-    FPronto.insert(FLinhas.back().Inicio, ALinha);
+    const std::size_t inicio = FPronto.size();
+    try {
+        FPronto.append(ALinha).append(BuscarQuebra());
+    } catch (...) {
+        FPronto.resize(inicio);
+        FEspeciais.erase(inicio);
+        throw;
+    }
+    ++FQuantidade;
 }
 
 void TLinhasDoLog::Inserir(std::size_t AIndice, std::u16string_view ALinha) {
-    const std::size_t quantidade = FLinhas.size();
-    Adicionar(ALinha);
-    if (AIndice == quantidade) return;
-    const std::size_t inicio = FLinhas[AIndice].Inicio;
-    const std::size_t corte = FLinhas.back().Inicio;
-    const std::size_t tamanho = FPronto.size() - corte;
-    const auto ponto = [](auto& ALista, std::size_t APosicao) {
-        return ALista.begin() + static_cast<std::ptrdiff_t>(APosicao);
-    };
-    std::rotate(ponto(FPronto, inicio), ponto(FPronto, corte), FPronto.end());
-    std::rotate(ponto(FLinhas, AIndice), FLinhas.end() - 1, FLinhas.end());
-    FLinhas[AIndice].Inicio = inicio;
-    for (std::size_t i = AIndice + 1; i <= quantidade; ++i) FLinhas[i].Inicio += tamanho;
+    if (AIndice == FQuantidade) return Adicionar(ALinha);
+    std::size_t inicio = 0;
+    for (std::size_t i = 0; i < AIndice; ++i) inicio = BuscarProxima(inicio);
+    TLinhasDoLog uma;
+    uma.FCodificacao = FCodificacao;
+    uma.Adicionar(ALinha);
+    FPronto.insert(inicio, uma.FPronto);
+    MoverEspeciais(inicio, uma.FPronto.size());
+    if (!uma.FEspeciais.empty()) FEspeciais[inicio] = std::move(uma.FEspeciais.begin()->second);
+    ++FQuantidade;
     ++FGeracao;
 }
 
 void TLinhasDoLog::Limpar() {
-    FLinhas.clear();
-    FPronto.clear();
+    std::string().swap(FPronto);  // gives its memory back
+    FQuantidade = 0;
+    FEspeciais.clear();
     ++FGeracao;
 }
 
-void TLinhasDoLog::ColocarAntes(TLinhasDoLog&& AOutras) {
-    for (TLinha& linha : FLinhas) {
-        linha.Inicio += AOutras.FPronto.size();
-        AOutras.FLinhas.push_back(std::move(linha));
-    }
-    if (!FLinhas.empty()) AOutras.FPronto += FPronto;
-    AOutras.FGeracao = FGeracao + 1;
-    *this = std::move(AOutras);
+void TLinhasDoLog::ColocarAntes(TLinhasCarregadas&& ALinhas) {
+    const std::size_t tamanho = ALinhas.Bytes.size();
+    ALinhas.Bytes += FPronto;
+    FPronto = std::move(ALinhas.Bytes);
+    MoverEspeciais(0, tamanho);
+    FQuantidade += ALinhas.Quantidade;
+    ++FGeracao;
 }
 
-std::string_view TLinhasDoLog::BuscarBytes(std::size_t AIndice) const noexcept {
-    const std::size_t inicio = FLinhas[AIndice].Inicio;
-    const std::size_t fim = AIndice + 1 < FLinhas.size() ? FLinhas[AIndice + 1].Inicio : FPronto.size();
-    return std::string_view(FPronto).substr(inicio, fim - inicio - Interno::BuscarQuebraDeLinha().size());
+TLinhasDoLog::TLinha TLinhasDoLog::BuscarLinha(std::size_t AInicio) const {
+    const std::string_view resto = std::string_view(FPronto).substr(AInicio);
+    const auto especial = FEspeciais.find(AInicio);
+    if (especial == FEspeciais.end()) return {resto.substr(0, resto.find(BuscarQuebra())), nullptr};
+    return {resto.substr(0, especial->second.Tamanho), especial->second.Original.get()};
+}
+
+std::size_t TLinhasDoLog::BuscarProxima(std::size_t AInicio) const {
+    return AInicio + BuscarLinha(AInicio).Bytes.size() + BuscarQuebra().size();
+}
+
+void TLinhasDoLog::MoverEspeciais(std::size_t ADe, std::size_t AQuanto) {
+    std::map<std::size_t, TEspecial> movidos;
+    for (auto& [inicio, especial] : FEspeciais)
+        movidos.emplace_hint(movidos.end(), inicio < ADe ? inicio : inicio + AQuanto, std::move(especial));
+    FEspeciais = std::move(movidos);
 }
 
 std::u16string TLinhasDoLog::GetTexto() const {
     const std::u16string_view quebra = Interno::BuscarQuebraDeLinha();
     std::u16string texto;
     texto.reserve(FPronto.size());
-    for (std::size_t i = 0; i < FLinhas.size(); ++i) {
-        if (FLinhas[i].Original)
-            texto += *FLinhas[i].Original;
+    for (std::size_t inicio = 0; inicio < FPronto.size(); inicio = BuscarProxima(inicio)) {
+        const TLinha linha = BuscarLinha(inicio);
+        if (linha.Original)
+            texto += *linha.Original;
         else
-            AcrescentarDecodificado(texto, BuscarBytes(i), FCodificacao);
+            AcrescentarDecodificado(texto, linha.Bytes, FCodificacao);
         texto += quebra;
     }
     if (!texto.empty()) texto.resize(texto.size() - quebra.size());
@@ -87,24 +104,23 @@ void TLinhasDoLog::SetCodificacao(TCodificacaoLog ACodificacao) {
     TLinhasDoLog outras;
     outras.FCodificacao = ACodificacao;
     outras.FGeracao = FGeracao + 1;
-    std::u16string linha;
-    for (std::size_t i = 0; i < FLinhas.size(); ++i) {
-        linha.clear();
-        if (FLinhas[i].Original)
-            outras.Adicionar(*FLinhas[i].Original);
-        else if (AcrescentarDecodificado(linha, BuscarBytes(i), FCodificacao))
-            outras.Adicionar(linha);
+    std::u16string texto;
+    for (std::size_t inicio = 0; inicio < FPronto.size(); inicio = BuscarProxima(inicio)) {
+        const TLinha linha = BuscarLinha(inicio);
+        texto.clear();
+        if (linha.Original)
+            outras.Adicionar(*linha.Original);
+        else if (AcrescentarDecodificado(texto, linha.Bytes, FCodificacao))
+            outras.Adicionar(texto);
         else
-            outras.AdicionarBytes(BuscarBytes(i));
+            outras.AdicionarBytes(linha.Bytes);
     }
     *this = std::move(outras);
 }
 
 TTextoPronto TLinhasDoLog::BuscarTextoPronto() {
-    if (!FLinhas.empty()) return {FPronto, FGeracao};
-    // A line break alone, which no first line continues.
-    if (FPronto.empty()) AcrescentarCodificado(FPronto, Interno::BuscarQuebraDeLinha(), FCodificacao);
-    return {FPronto, FGeracao++};
+    if (FQuantidade > 0) return {FPronto, FGeracao};
+    return {BuscarQuebra(), FGeracao++};  // a line break alone, which no first line continues
 }
 
 }  // namespace OryUtils
