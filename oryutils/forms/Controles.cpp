@@ -74,6 +74,16 @@ void TBotao::SetPadrao(bool APadrao) {
     Avisar(mdEstado);
 }
 
+void TBotao::SetComplemento(std::u16string_view AComplemento) {
+    if (FComplemento == AComplemento) return;
+    FComplemento = AComplemento;
+    Avisar(mdTexto);
+}
+
+std::u16string TBotao::GetLegenda() const {
+    return FComplemento.empty() ? GetTexto() : GetTexto() + u" " + FComplemento;
+}
+
 void TBotao::Clicar() {
     if (!GetHabilitado()) return;
     OnClick(this);

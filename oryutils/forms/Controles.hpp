@@ -155,6 +155,11 @@ public:
     /// Pressed by Esc.
     bool GetCancelar() const noexcept { return FCancelar; }
     void SetCancelar(bool ACancelar) { FCancelar = ACancelar; }
+    /// Shown behind the caption without being part of it: "(5)" for the seconds that are left.
+    const std::u16string& GetComplemento() const noexcept { return FComplemento; }
+    void SetComplemento(std::u16string_view AComplemento);
+    /// What stands on the button: caption, blank, complement.
+    std::u16string GetLegenda() const;
 
     TEvento<TObjeto*> OnClick;
 
@@ -165,6 +170,7 @@ private:
     int FModalResult = mrNone;
     bool FPadrao = false;
     bool FCancelar = false;
+    std::u16string FComplemento;
 };
 
 /// Group box with one radio button for each item, in one column.

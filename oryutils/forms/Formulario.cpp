@@ -95,6 +95,7 @@ int TFormulario::ExecutarModal() {
 }
 
 bool TFormulario::TratarTecla(TTecla& ATecla) {
+    AoIntervir();
     OnKeyDown(this, ATecla);
     if (ATecla.Tratada) return true;
     if (ATecla.Ctrl || ATecla.Alt || ATecla.Shift) return false;

@@ -116,10 +116,13 @@ public:
 
     // What the toolkits tell of the user, the same for all of them.
 
-    /// A key before the focused control: OnKeyDown, then F1 by OnAjuda, Enter and Esc by the default and cancel
-    /// buttons. Returns true when the key is spent. Enter in a memo or on a focused button is left to the control.
+    /// A key before the focused control: AoIntervir, OnKeyDown, then F1 by OnAjuda, Enter and Esc by the default and
+    /// cancel buttons. Returns true when the key is spent. Enter in a memo or on a focused button is left to the
+    /// control.
     bool TratarTecla(TTecla& ATecla);
     void AoRedimensionar(int ALargura, int AAltura);
+    /// Somebody is there: a key was pressed on the form, or a button of the mouse. Called before what it does there.
+    virtual void AoIntervir() {}
     /// The form, shown, has come to a screen of other pixels per inch or another work area. Positions and sizes grow or
     /// shrink by AAgora / AAntes; forms that lay themselves out do so again.
     virtual void AoMudarTela(int AAntes, int AAgora);

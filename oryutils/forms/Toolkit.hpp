@@ -39,6 +39,9 @@ struct TPedidoDeCaminho {
 
 enum TCursorTela : int { ctNormal, ctAmpulheta };
 
+/// What became of a request: done, the window does not exist, the system does not let a program do that.
+enum TAtendimento : int { atFeito, atNaoExiste, atNaoPermite };
+
 class TToolkit;
 /// TToolkit::MedirControle from the measure of the text alone, for toolkits with the usual marks and edges.
 ORY_API TTamanho MedirControlePadrao(const TToolkit& AToolkit, TTipoControle ATipo, std::u16string_view ATexto,
@@ -61,6 +64,16 @@ public:
     virtual void ProcessarMensagens() = 0;
     /// The visible windows of this thread take no input as long as the result lives. Null when there are none.
     virtual std::shared_ptr<void> DesabilitarJanelas() { return nullptr; }
+
+    /// Whether somebody could answer a question: false without a screen and without a terminal, where a form that asks
+    /// is cancelled.
+    virtual bool PodePerguntar() const { return true; }
+    /// The forms and pickers that are shown from now on, and that no other window of this program owns, belong to the
+    /// window of that number (HWND, window of X11), of any program: they stand in front of it, on its screen. 0: to
+    /// none.
+    virtual TAtendimento SetJanelaDona(std::uintptr_t AJanela) { return AJanela ? atNaoPermite : atFeito; }
+    /// The forms that are shown from now on stay in front of the windows of all programs.
+    virtual TAtendimento SetNaFrente(bool ANaFrente) { return ANaFrente ? atNaoPermite : atFeito; }
 
     /// Size of ATexto in the dialog font. ALarguraMaxima above 0 wraps at words, 0 does not; line breaks count.
     virtual TTamanho MedirTexto(std::u16string_view ATexto, int ALarguraMaxima) const = 0;

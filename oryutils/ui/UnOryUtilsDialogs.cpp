@@ -152,16 +152,19 @@ std::u16string TOryUtilsDialogs::BuscarPastaSelecionada(std::u16string_view ATit
 }
 
 TFormulario* TOryUtilsDialogs::GetFormularioAtual() const noexcept {
-    return FFormularios->empty() ? nullptr : FFormularios->back();
+    return FFormularios->Formularios.empty() ? nullptr : FFormularios->Formularios.back();
 }
 
 TOryUtilsDialogsFormCustomizadoBaseIOP TOryUtilsDialogs::GetConfiguracao() const {
-    return FFormularios->empty() ? TOryUtilsDialogsFormCustomizadoBaseIOP{} : FFormularios->back()->GetParametros();
+    const auto& formularios = FFormularios->Formularios;
+    return formularios.empty() ? TOryUtilsDialogsFormCustomizadoBaseIOP{} : formularios.back()->GetParametros();
 }
 
 bool TOryUtilsDialogs::GetTemporizadorLigado() const noexcept {
-    return !FFormularios->empty() && FFormularios->back()->GetTemporizadorLigado();
+    return !FFormularios->Formularios.empty() && FFormularios->Formularios.back()->GetTemporizadorLigado();
 }
+
+bool TOryUtilsDialogs::GetFechadaPorTempo() const noexcept { return FFormularios->UltimaPorTempo; }
 
 TEvento<TObjeto*, int>& EventoDeAjuda() {
     static TEvento<TObjeto*, int> evento;

@@ -16,7 +16,7 @@
 
 namespace OryUtils {
 
-class TFormularioMensagem;
+struct TFormulariosVivos;
 
 /// The one way the library speaks to the user. Belongs to the thread of the user interface: from another thread every
 /// operation that shows or measures raises Exception "Formulários só podem ser mostrados pela thread da interface do
@@ -124,13 +124,16 @@ public:
     TOryUtilsDialogsFormCustomizadoBaseIOP GetConfiguracao() const;
     /// Whether the auto-close timer of that form is running.
     bool GetTemporizadorLigado() const noexcept;
+    /// Whether the message form of this instance that ended last closed because its time was over. Its result is
+    /// mrCancel, as when somebody cancels.
+    bool GetFechadaPorTempo() const noexcept;
 
 private:
     int Avisar(TMsgDlgType ATipo, TTextoDialogo ATitulo, std::u16string_view AMensagem);
 
     TOryUtilsDialogsCentralNotificacoes FCentral;
     // The forms refer to the list too: a host may keep one longer than this instance.
-    std::shared_ptr<std::vector<TFormularioMensagem*>> FFormularios;
+    std::shared_ptr<TFormulariosVivos> FFormularios;
 };
 
 extern ORY_API TInstanciaGlobal<TOryUtilsDialogs> GOryUtilsDialogs;

@@ -25,6 +25,9 @@ struct ORY_API TOryUtilsDialogsFormCustomizadoBaseIOP {
     bool FecharMensagemAutomaticamente = false;
     /// Milliseconds until an unanswered message closes; 0 or less leaves it open.
     std::int32_t TempoFinalizacaoAutomatica = 0;
+    /// A message that closes by itself tells the seconds that are left on its default button: "OK (5)". The first key
+    /// or click on the form ends that for good: it then waits for its answer.
+    bool MostrarTempoRestante = false;
 
     /// Copies every property.
     void Assign(const TOryUtilsDialogsFormCustomizadoBaseIOP& AOrigem) { *this = AOrigem; }

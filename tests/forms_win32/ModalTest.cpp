@@ -30,6 +30,23 @@ private:
     }
 };
 
+TEST_F(FormsWin32, UmaJanelaPedidaEhADonaEOFormularioFicaNaFrente) {
+    const THospede dona;
+    ::ShowWindow(dona.Janela, SW_HIDE);  // neither active nor visible: nothing but the request leads to it
+    EXPECT_EQ(FToolkit.SetJanelaDona(0x7FFFFFF0), atNaoExiste);
+    for (const bool pedida : {true, false}) {
+        EXPECT_EQ(FToolkit.SetJanelaDona(pedida ? reinterpret_cast<std::uintptr_t>(dona.CaixaA) : 0), atFeito);
+        EXPECT_EQ(FToolkit.SetNaFrente(pedida), atFeito);
+        TFormularioCompleto f;
+        const auto conferir = [&] {
+            EXPECT_EQ(::GetWindow(Janela(f), GW_OWNER) == dona.Janela, pedida);
+            EXPECT_EQ((::GetWindowLongPtrW(Janela(f), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0, pedida);
+            Clicar(u"&Sim");
+        };
+        EXPECT_EQ(Executar(f, {conferir}), mrYes);
+    }
+}
+
 TEST_F(FormsWin32, AsOutrasJanelasEsperamEOFocoVolta) {
     const THospede hospede, desabilitada;
     ::EnableWindow(desabilitada.Janela, FALSE);

@@ -38,10 +38,15 @@ TEST(Mensagem, RespondeOQueFoiEscolhido) {
          "OK\nPá & Cia\n",
          "options"},
         {{"?", "--opcao", "Matriz", "--opcao-padrao", "0"}, enter, 0, "OK\n\n", "no option chosen"},
+        {{"?", "--opcao", "A", "--opcao", "B", "--opcao-padrao", "2", "--indice"}, enter, 0, "OK\n2\n", "its number"},
+        {{"?", "--opcao", "A", "--opcao-padrao", "0", "--indice"}, enter, 0, "OK\n0\n", "the number of none"},
+        {{"?", "--opcao", "A\r\nB\nC\rD", "--botao", "ok=1\n2"}, enter, 0, "1 2\nA B C D\n", "one line for each"},
         {{"?", "--caixa", "mais"}, enter, 0, "OK\n0\n", "check box"},
-        {{"?", "--detalhe", "d", "--fechar-em", "5"}, esperar, 3, "\n", "nobody answered"},
+        {{"?", "--detalhe", "d", "--fechar-em", "5"}, esperar, 4, "\n", "nobody answered"},
+        {{"?", "--fechar-em", "5"}, fechar, 3, "\n", "closed before its time"},
         {{"Nome:", "--valor", ""}, digitar, 0, "São João\n", "a text"},
         {{"Nome:", "--valor", "x"}, fechar, 3, "", "no text"},
+        {{"?", "--botao", "sim", "--botao", "nao", "--fechar-em", "1", "--mostrar-tempo"}, esperar, 4, "\n", "counted"},
     };
     for (const auto& caso : casos) {
         toolkit.Roteiro = {caso.Passo};
@@ -83,6 +88,28 @@ TEST(Mensagem, PedeArquivosEPastas) {
             EXPECT_EQ(toolkit.Pedidos[0], caso.Esperado) << testing::PrintToString(caso.Argumentos);
         }
     }
+}
+
+// Without a screen and a terminal a message is told, and a question has a status of its own.
+TEST(Mensagem, SemQuemResponda) {
+    TToolkitRoteirizado toolkit;
+    toolkit.HaQuemResponda = false;
+    const TRodada recusa{5, "", "ory: não há tela nem terminal para perguntar\n"};
+    for (const std::vector<std::string>& pergunta :
+         std::initializer_list<std::vector<std::string>>{{"--tipo", "confirmacao"},
+                                                         {"--botao", "ok", "--botao", "cancelar"},
+                                                         {"--opcao", "a"},
+                                                         {"--caixa", "c"},
+                                                         {"--detalhe", "d"},
+                                                         {"--pasta"},
+                                                         {"--valor", ""}}) {
+        std::vector<std::string> argumentos{"mensagem", "?"};
+        argumentos.insert(argumentos.end(), pergunta.begin(), pergunta.end());
+        EXPECT_EQ(Rodar(argumentos), recusa) << pergunta.back();
+    }
+    toolkit.Roteiro = {[](TFormulario& AFormulario) { Teclar(AFormulario, 13); }};
+    EXPECT_EQ(Rodar({"mensagem", "oi"}), (TRodada{0, "OK\n", ""}));
+    EXPECT_EQ(toolkit.Titulos.size(), 1U);
 }
 
 }  // namespace

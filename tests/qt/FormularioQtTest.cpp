@@ -274,5 +274,25 @@ TEST_F(TTesteQt, MedidaDeTextoBastaAoRotulo) {
     }
 }
 
+TEST_F(TTesteQt, UmaJanelaPedidaEhADonaEOFormularioFicaNaFrente) {
+    TToolkit& toolkit = BuscarToolkit();
+    const bool x11 = QGuiApplication::platformName() == QLatin1String("xcb");
+    EXPECT_EQ(toolkit.SetJanelaDona(0x12345), x11 ? atNaoExiste : atNaoPermite);
+    QWindow dona;
+    dona.create();
+    for (const bool pedida : {true, false}) {
+        EXPECT_EQ(toolkit.SetJanelaDona(pedida ? dona.winId() : 0), pedida && !x11 ? atNaoPermite : atFeito);
+        EXPECT_EQ(toolkit.SetNaFrente(pedida), atFeito);
+        TFormularioCompleto f;
+        const auto conferir = [&] {
+            const QWindow* pai = BuscarDialogo()->windowHandle()->transientParent();
+            EXPECT_EQ(pai && pai->winId() == dona.winId(), pedida && x11);
+            EXPECT_EQ(BuscarDialogo()->windowFlags().testFlag(Qt::WindowStaysOnTopHint), pedida);
+            Clicar(u"&Sim");
+        };
+        EXPECT_EQ(Executar(f, {conferir}), mrYes);
+    }
+}
+
 }  // namespace
 }  // namespace OryUtils

@@ -105,7 +105,7 @@ TEST(Terminal, RespostasDigitadas) {
          "Pá & Cia?[2J?",
          "a text commands nothing, and & is a letter"},
         {{"mensagem", "Nome:", "--valor", "Ana"}, "\"\"\n\n", "\n", 0, "[Ana]", "a proposed value emptied"},
-        {temporizada, "", "\n", 3, "00:00:01 segundo(s)", "closed by its timer"},
+        {temporizada, "", "\n", 4, "00:00:01 segundo(s)", "closed by its timer"},
     };
     for (const auto& c : casos) {
         const TDialogo dialogo = Conversar(c.Argumentos, c.Digitado);

@@ -57,6 +57,42 @@ TEST_F(TesteDialogos, MensagemQueSeFecha) {
     Dialogos.ConfirmacaoCustomizada(MontarTemporizada(0));
 }
 
+TEST_F(TesteDialogos, OBotaoPadraoContaOsSegundos) {
+    auto parametros = MontarTemporizada(2500);
+    parametros.MostrarTempoRestante = true;
+    const auto esperar = [&](TFormulario& AFormulario, std::u16string_view ALegenda, int AMilissegundos) {
+        EXPECT_EQ(BuscarBotao(AFormulario, u"&Sim").GetLegenda(), ALegenda);
+        ASSERT_EQ(Toolkit.Temporizadores.size(), AMilissegundos ? 1U : 0U);
+        for (const auto& temporizador : Toolkit.Temporizadores) EXPECT_EQ(temporizador.second.first, AMilissegundos);
+    };
+    const auto formulario = Dialogos.BuscarFormularioConfirmacaoCustomizado(parametros);
+    const int largura = formulario->GetBotoes()[0]->GetWidth();
+    Toolkit.Roteiro.push_back([&](TFormulario& AFormulario) {
+        esperar(AFormulario, u"&Sim (3)", 500);
+        Toolkit.VencerTempo();
+        esperar(AFormulario, u"&Sim (2)", 1000);
+        Toolkit.VencerTempo();
+        esperar(AFormulario, u"&Sim (1)", 1000);
+        EXPECT_EQ(AFormulario.GetBotoes()[0]->GetWidth(), largura);
+        Toolkit.VencerTempo();
+        EXPECT_NE(AFormulario.GetModalResult(), mrNone);
+    });
+    EXPECT_EQ(formulario->ExecutarModal(), mrCancel);
+    EXPECT_TRUE(Dialogos.GetFechadaPorTempo());
+    for (const auto& intervir : {std::function<void(TFormulario&)>([](TFormulario& f) { Teclar(f, 16); }),
+                                 std::function<void(TFormulario&)>([](TFormulario& f) { f.AoIntervir(); })}) {
+        Toolkit.Roteiro.push_back([&](TFormulario& AFormulario) {
+            Toolkit.VencerTempo();
+            intervir(AFormulario);
+            esperar(AFormulario, u"&Sim", 0);
+            EXPECT_EQ(AFormulario.GetModalResult(), mrNone) << "it waits now";
+            BuscarBotao(AFormulario, u"&Não").Clicar();
+        });
+        EXPECT_EQ(formulario->ExecutarModal(), mrNo);
+        EXPECT_FALSE(Dialogos.GetFechadaPorTempo());
+    }
+}
+
 // A message shown by an event of another leaves the outer one's timer and place alone.
 TEST_F(TesteDialogos, MensagensAninhadas) {
     Toolkit.Roteiro.push_back([&](TFormulario& AFora) {

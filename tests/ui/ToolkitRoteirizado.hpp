@@ -35,6 +35,7 @@ public:
     std::u16string AreaDeTransferencia;
     int Bipes = 0;
     bool DaInterface = true;
+    bool HaQuemResponda = true;
 
     TToolkitRoteirizado() { InstalarToolkit(this); }
     ~TToolkitRoteirizado() override { InstalarToolkit(nullptr); }
@@ -61,6 +62,7 @@ public:
         return AFormulario.GetModalResult();
     }
     void ProcessarMensagens() override { ++MensagensProcessadas; }
+    bool PodePerguntar() const override { return HaQuemResponda; }
     TTamanho MedirTexto(std::u16string_view ATexto, int ALarguraMaxima) const override {
         TTamanho tamanho{0, CAlturaLinha};
         int largura = 0;

@@ -4,6 +4,7 @@
 #include "oryutils/runtime/Excecoes.hpp"
 
 #include "toolkits/qt/interno/AplicacaoQt.hpp"
+#include "toolkits/qt/interno/DonaQt.hpp"
 #include "toolkits/qt/interno/EncaixeQt.hpp"
 #include "toolkits/qt/interno/GuardaQt.hpp"
 #include "toolkits/qt/interno/JanelaQt.hpp"
@@ -163,6 +164,16 @@ std::shared_ptr<void> TToolkitQt::DesabilitarJanelas() {
         janelas->append(janela);
     }
     return janelas;
+}
+
+TAtendimento TToolkitQt::SetJanelaDona(std::uintptr_t AJanela) {
+    Exigir();
+    return DefinirDonaQt(AJanela);
+}
+
+TAtendimento TToolkitQt::SetNaFrente(bool ANaFrente) {
+    Exigir();
+    return DefinirNaFrenteQt(ANaFrente);
 }
 
 bool TToolkitQt::EstahPressionada(std::uint16_t ATecla) const {

@@ -38,6 +38,10 @@ public:
     int ExecutarModal(TFormulario& AFormulario) override;
     void ProcessarMensagens() override;
     std::shared_ptr<void> DesabilitarJanelas() override;
+    /// On X11.
+    TAtendimento SetJanelaDona(std::uintptr_t AJanela) override;
+    /// Not on Wayland.
+    TAtendimento SetNaFrente(bool ANaFrente) override;
     TTamanho MedirTexto(std::u16string_view ATexto, int ALarguraMaxima) const override;
     TTamanho MedirControle(TTipoControle ATipo, std::u16string_view ATexto, int ALarguraMaxima) const override;
     int GetTamanhoFonte() const override;

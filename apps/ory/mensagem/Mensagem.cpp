@@ -114,6 +114,7 @@ TOryUtilsDialogsFormCustomizadoBaseIOP LerParametros(const TPedidoDeMensagem& AP
         throw EFalha("--fechar-em vai até 2147483 segundos");
     parametros.FecharMensagemAutomaticamente = APedido.FecharEm > 0;
     parametros.TempoFinalizacaoAutomatica = static_cast<std::int32_t>(APedido.FecharEm) * 1000;
+    parametros.MostrarTempoRestante = APedido.MostrarTempo;
     return parametros;
 }
 
@@ -137,8 +138,18 @@ void ConferirCombinacao(const TPedidoDeMensagem& APedido) {
         throw EFalha("--opcao-padrao vai de 0 a " + std::to_string(APedido.Opcoes.size()));
 }
 
-void EscreverLinha(TAmbiente& AAmbiente, std::u16string_view ATexto) {
-    AAmbiente.Saida.Escrever(ParaUtf8(ATexto) + "\n");
+// A message with one button is told without asking, also where nobody can answer.
+bool ExigeResposta(const TPedidoDeMensagem& APedido) {
+    const bool confirma = APedido.Botoes.empty() && APedido.Tipo == "confirmacao";
+    return confirma || APedido.Botoes.size() > 1 || APedido.Perguntar || APedido.Caminhos.ContarPedidos() > 0 ||
+           !APedido.Opcoes.empty() || !APedido.Caixa.empty() || !APedido.Detalhe.empty();
+}
+
+// The chosen option, its number from 1 or its text.
+std::u16string ResponderOpcao(const TPedidoDeMensagem& APedido, int AIndice) {
+    if (APedido.Indice) return DeUtf8(std::to_string(AIndice + 1));
+    const auto indice = static_cast<std::size_t>(AIndice);
+    return indice < APedido.Opcoes.size() ? DeUtf8(APedido.Opcoes[indice]) : u"";
 }
 
 int Perguntar(const TPedidoDeMensagem& APedido, TAmbiente& AAmbiente) {
@@ -162,21 +173,28 @@ void DescreverMensagem(TOpcoes AComando, TPedidoDeMensagem& APedido) {
     AComando.Valor("--padrao", APedido.Padrao, "nome do botão que recebe o foco");
     AComando.Valor("--opcao", APedido.Opcoes, "uma opção a escolher; repita para cada uma").SemMaisValores();
     AComando.Valor("--opcao-padrao", APedido.OpcaoPadrao, "opção já escolhida, a partir de 1; 0 nenhuma (padrão: 1)");
+    AComando.Marca("--indice", APedido.Indice, "responde o número da opção, a partir de 1, em vez do texto");
     AComando.Valor("--caixa", APedido.Caixa, "texto de uma caixa de checagem");
     AComando.Marca("--caixa-abaixo", APedido.CaixaAbaixo, "caixa abaixo dos botões");
     AComando.Valor("--detalhe", APedido.Detalhe, "texto que o botão Mostrar Detalhes abre");
     AComando.Valor("--fechar-em", APedido.FecharEm, "segundos até fechar sem resposta");
+    AComando.Marca("--mostrar-tempo", APedido.MostrarTempo,
+                   "conta os segundos no botão padrão; a primeira tecla ou clique para a contagem");
+    AComando.Valor("--dono", APedido.Janela.Dona,
+                   "número da janela dona da mensagem, de qualquer programa (X11, como em $WINDOWID, e Windows)");
+    AComando.Marca("--na-frente", APedido.Janela.NaFrente, "na frente das janelas de todos os programas");
     AComando.Valor("--valor", APedido.Valor, "em vez de botões pergunta um texto, com este já escrito (pode ser \"\")")
         .AoLer([&APedido] { APedido.Perguntar = true; });
     DescreverCaminhos(AComando, APedido.Caminhos);
     AComando.Rodape(
         "Na saída: uma linha com o texto do botão escolhido (vazia se a janela foi fechada\n"
-        "e não há botão cancelar), e com --opcao mais uma com a opção (vazia se nenhuma), com --caixa mais uma com 1 "
-        "ou 0.\n"
+        "e não há botão cancelar), e com --opcao mais uma com a opção (vazia, ou 0 com --indice, se nenhuma),\n"
+        "com --caixa mais uma com 1 ou 0. Um texto de várias linhas sai em uma só.\n"
         "Com --valor: uma linha com o texto digitado, e nada se foi cancelado.\n"
         "Com --arquivo, --arquivos, --salvar e --pasta: um caminho completo por linha, e nada se foi cancelado.\n\n"
         "Saída do programa: 0 sim, ok, repetir, ignorar, todos, sim-todos ou fechar; 1 nao, abortar ou nao-todos;\n"
-        "3 cancelar, janela fechada ou tempo esgotado; 2 chamada errada.\n\n"
+        "2 chamada errada; 3 cancelar ou janela fechada; 4 tempo de --fechar-em esgotado;\n"
+        "5 não há tela nem terminal para perguntar (nada sai; uma mensagem de um só botão não pergunta).\n\n"
         "Exemplos:\n"
         "  ory mensagem --tipo confirmacao \"Apagar os arquivos antigos?\" --padrao nao && apagar.sh\n"
         "  ory mensagem \"Que filial?\" --opcao Matriz --opcao \"Filial 2\" --botao ok --botao cancelar\n"
@@ -186,6 +204,8 @@ void DescreverMensagem(TOpcoes AComando, TPedidoDeMensagem& APedido) {
 
 int MostrarMensagem(const TPedidoDeMensagem& APedido, TAmbiente& AAmbiente) {
     ConferirCombinacao(APedido);
+    const TJanelaPedida janela(APedido.Janela);
+    if (ExigeResposta(APedido) && !BuscarToolkit().PodePerguntar()) return RecusarSemQuemResponda(AAmbiente);
     if (APedido.Caminhos.ContarPedidos() > 0)
         return PedirCaminhos(APedido.Caminhos, APedido.Titulo.empty() ? JuntarTitulo(APedido.Linhas) : APedido.Titulo,
                              AAmbiente)
@@ -203,9 +223,7 @@ int MostrarMensagem(const TPedidoDeMensagem& APedido, TAmbiente& AAmbiente) {
         parametros.OpcaoPadrao = static_cast<int>(APedido.OpcaoPadrao) - 1;
         const auto retorno = GOryUtilsDialogs->ConfirmacaoCustomizadaComOpcoes(parametros);
         resultado = retorno->RetornoMensagem;
-        const auto indice = static_cast<std::size_t>(retorno->IndiceOpcao);
-        respostas.push_back(indice < parametros.OpcoesMensagem.size() ? RemoverAtalho(parametros.OpcoesMensagem[indice])
-                                                                      : u"");
+        respostas.push_back(ResponderOpcao(APedido, retorno->IndiceOpcao));
     } else if (!APedido.Caixa.empty()) {
         TOryUtilsDialogsFormCustomizadoCaixaChecagemIOP parametros;
         parametros.Assign(base);
@@ -225,7 +243,7 @@ int MostrarMensagem(const TPedidoDeMensagem& APedido, TAmbiente& AAmbiente) {
 
     const auto escolhido = std::find_if(base.Botoes.begin(), base.Botoes.end(),
                                         [&](TMsgDlgBtn b) { return BuscarResultado(b) == resultado; });
-    TStatusMensagem status = smCancelada;
+    TStatusMensagem status = GOryUtilsDialogs->GetFechadaPorTempo() ? smTempoEsgotado : smCancelada;
     std::u16string caption;
     if (escolhido != base.Botoes.end()) {
         caption = RemoverAtalho(base.CaptionBotoes[static_cast<std::size_t>(escolhido - base.Botoes.begin())]);

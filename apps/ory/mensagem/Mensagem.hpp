@@ -1,7 +1,8 @@
 #pragma once
 
-#include "Ambiente.hpp"
 #include "mensagem/Caminhos.hpp"
+#include "mensagem/Janela.hpp"
+#include "mensagem/Resposta.hpp"
 
 #include <string>
 #include <vector>
@@ -19,17 +20,17 @@ struct TPedidoDeMensagem {
     std::string Padrao{};               // name of a button
     std::vector<std::string> Opcoes{};
     unsigned OpcaoPadrao = 1;  // from 1; 0 none
+    bool Indice = false;       // answers the number of the option, not its text
     std::string Caixa{};
     bool CaixaAbaixo = false;
     std::string Detalhe{};
     unsigned FecharEm = 0;  // seconds; 0 never
+    bool MostrarTempo = false;
+    TPedidoDeJanela Janela{};
     bool Perguntar = false;
     std::string Valor{};
     TPedidoDeCaminhos Caminhos{};
 };
-
-/// Exit statuses of `ory mensagem` beside stFalha, by what the user answered.
-enum TStatusMensagem : int { smSim = 0, smNao = 1, smCancelada = 3 };
 
 /// The options and the help of the sub-command.
 void DescreverMensagem(TOpcoes AComando, TPedidoDeMensagem& APedido);

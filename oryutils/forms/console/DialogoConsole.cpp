@@ -210,6 +210,7 @@ std::optional<std::u16string> TDialogoConsole::Ler(std::u16string_view APergunta
         std::u16string linha;
         switch (FConversa.LerLinha(espera, linha)) {
             case Interno::llLinha:
+                FFormulario.AoIntervir();
                 return std::u16string(Aparar(linha));
             case Interno::llFim:
                 FConversa.Escrever(u"\n");

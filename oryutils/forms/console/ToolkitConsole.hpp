@@ -30,6 +30,7 @@ public:
     bool EhThreadDaInterface() const override { return true; }
     int ExecutarModal(TFormulario& AFormulario) override;
     void ProcessarMensagens() override { DispararTemporizadores(); }
+    bool PodePerguntar() const override { return FConversa.PodeConversar(); }
     /// In cells of a fixed font, 6 by 13.
     TTamanho MedirTexto(std::u16string_view ATexto, int ALarguraMaxima) const override;
     int GetTamanhoFonte() const override { return 8; }

@@ -142,7 +142,8 @@ void TControleNativo::Atualizar(unsigned AMudancas) {
     }
     if (AMudancas & (mdPosicao | mdItens)) PosicionarOpcoes();
     if (AMudancas & (mdTexto | mdPosicao)) {
-        if (FModelo->GetTipo() == tcBotao) EncaixarTexto(FJanela, FModelo->GetTexto(), CFolgaDoBotao);
+        if (FModelo->GetTipo() == tcBotao)
+            EncaixarTexto(FJanela, static_cast<const TBotao*>(FModelo)->GetLegenda(), CFolgaDoBotao);
         if (FModelo->GetTipo() == tcCaixaChecagem) EncaixarTexto(FJanela, FModelo->GetTexto(), CFolgaDoMarcavel);
     }
     if (AMudancas & (mdSelecao | mdItens)) AtualizarSelecao();

@@ -3,6 +3,8 @@
 namespace OryUtils::Interno {
 namespace {
 
+HWND GDona = nullptr;
+
 bool Responde(HWND AJanela) { return ::IsWindowVisible(AJanela) && ::IsWindowEnabled(AJanela); }
 
 }  // namespace
@@ -26,8 +28,11 @@ TDesabilitarJanelas::~TDesabilitarJanelas() {
         if (::IsWindow(janela)) ::EnableWindow(janela, TRUE);
 }
 
+void DefinirDona(HWND ADona) noexcept { GDona = ADona; }
+
 HWND BuscarDona() {
     if (HWND ativa = ::GetActiveWindow()) return ativa;
+    if (::IsWindow(GDona)) return GDona;
     HWND dona = nullptr;
     ::EnumThreadWindows(
         ::GetCurrentThreadId(),

@@ -70,7 +70,8 @@ const wchar_t* TJanelaWin32::BuscarClasse() {
 void TJanelaWin32::Criar(HWND ADona) {
     const bool redimensiona = FFormulario.EstiloBorda == ebRedimensionavel;
     const DWORD estilo = WS_POPUP | WS_CAPTION | WS_SYSMENU | (redimensiona ? WS_THICKFRAME | WS_MAXIMIZEBOX : 0);
-    const DWORD estendido = WS_EX_CONTROLPARENT | (redimensiona ? 0 : WS_EX_DLGMODALFRAME);
+    const DWORD estendido =
+        WS_EX_CONTROLPARENT | (redimensiona ? 0 : WS_EX_DLGMODALFRAME) | (FLaco.NaFrente ? WS_EX_TOPMOST : 0);
     ::CreateWindowExW(estendido, BuscarClasse(), Interno::ParaWide(ParaNativo(FFormulario.GetTitulo())), estilo, 0, 0,
                       0, 0, ADona, nullptr, BuscarModulo(), this);
     if (!FJanela) throw Exception(u"Não foi possível criar a janela do formulário.");
@@ -130,7 +131,9 @@ void TJanelaWin32::Mostrar() {
         ::SetWindowPos(FJanela, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
         ::SetActiveWindow(FJanela);
         // The only window of a program comes to the front; where the system forbids it, its task-bar button calls.
-        if (!::GetWindow(FJanela, GW_OWNER)) ::SetForegroundWindow(FJanela);
+        const HWND dona = ::GetWindow(FJanela, GW_OWNER);
+        if (!dona || ::GetWindowThreadProcessId(dona, nullptr) != ::GetCurrentThreadId())
+            ::SetForegroundWindow(FJanela);
         Focar(BuscarNativo(FFormulario.GetControleAtivo()));
     }
     AcompanharFoco();
@@ -255,6 +258,10 @@ bool TJanelaWin32::TratarTecla(const MSG& AMensagem) {
         return true;
     }
     return false;
+}
+
+void TJanelaWin32::AvisarIntervencao() noexcept {
+    Proteger(FExcecao, [&] { FFormulario.AoIntervir(); });
 }
 
 void TJanelaWin32::Mudou(TControleFormulario& AControle, TMudanca AMudanca) {

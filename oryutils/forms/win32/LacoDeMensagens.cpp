@@ -5,12 +5,35 @@
 #include <algorithm>
 
 namespace OryUtils::Interno {
+namespace {
+
+// Buttons and wheel of the mouse, on the client area or on the frame; a letter, which an input method gives without a
+// key. TratarTecla tells of keys.
+bool EhIntervencao(UINT AMensagem) {
+    switch (AMensagem) {
+        case WM_LBUTTONDOWN:
+        case WM_RBUTTONDOWN:
+        case WM_MBUTTONDOWN:
+        case WM_XBUTTONDOWN:
+        case WM_NCLBUTTONDOWN:
+        case WM_NCRBUTTONDOWN:
+        case WM_NCMBUTTONDOWN:
+        case WM_MOUSEWHEEL:
+        case WM_CHAR:
+            return true;
+        default:
+            return false;
+    }
+}
+
+}  // namespace
 
 void TLacoDeMensagens::Despachar(MSG& AMensagem) {
     const auto alvo = std::find_if(Janelas.rbegin(), Janelas.rend(), [&](const TJanelaWin32* AJanela) {
         const HWND janela = AJanela->GetHandle();
         return janela && (AMensagem.hwnd == janela || ::IsChild(janela, AMensagem.hwnd));
     });
+    if (alvo != Janelas.rend() && EhIntervencao(AMensagem.message)) (*alvo)->AvisarIntervencao();
     const bool gasta = alvo != Janelas.rend() &&
                        ((*alvo)->TratarTecla(AMensagem) || ::IsDialogMessageW((*alvo)->GetHandle(), &AMensagem));
     if (!gasta) {

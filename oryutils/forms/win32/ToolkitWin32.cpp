@@ -115,6 +115,18 @@ void TToolkitWin32::SetCursor(TCursorTela ACursor) {
     ::SetCursor(ACursor == ctAmpulheta ? ampulheta : ::LoadCursorW(nullptr, MAKEINTRESOURCEW(CCursorSeta)));
 }
 
+TAtendimento TToolkitWin32::SetJanelaDona(std::uintptr_t AJanela) {
+    const auto janela = reinterpret_cast<HWND>(AJanela);
+    if (janela && !::IsWindow(janela)) return atNaoExiste;
+    Interno::DefinirDona(janela ? ::GetAncestor(janela, GA_ROOT) : nullptr);
+    return atFeito;
+}
+
+TAtendimento TToolkitWin32::SetNaFrente(bool ANaFrente) {
+    FPartes->Laco.NaFrente = ANaFrente;
+    return atFeito;
+}
+
 std::shared_ptr<void> TToolkitWin32::DesabilitarJanelas() {
     return std::make_shared<Interno::TDesabilitarJanelas>(nullptr);
 }

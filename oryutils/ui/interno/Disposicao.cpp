@@ -100,7 +100,7 @@ private:
 
 // A caption and 6 units at both sides, at least what the host or the width rule asks for.
 int TDisposicao::BuscarLargura(const TBotao& ABotao, bool AComAdicao) const {
-    const std::u16string& caption = ABotao.GetTexto();
+    const std::u16string caption = ABotao.GetLegenda();
     const int necessaria = FToolkit.MedirControle(tcBotao, caption, 0).Largura;
     if (EstahApertado()) return necessaria;
     if (AComAdicao) {

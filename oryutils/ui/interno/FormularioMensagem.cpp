@@ -2,6 +2,7 @@
 
 #include "oryutils/dates/OryUtilsDatas.hpp"
 #include "oryutils/runtime/Modelo.hpp"
+#include "oryutils/runtime/NumeroTexto.hpp"
 #include "oryutils/ui/UnOryUtilsDialogs.hpp"
 #include "oryutils/ui/interno/Medidas.hpp"
 #include "oryutils/ui/interno/TextoCopiado.hpp"
@@ -14,6 +15,17 @@ namespace {
 
 // A form's default button, the first that it has.
 constexpr std::array CPadroes{mrOk, mrYes, mrRetry};
+
+constexpr int CSegundo = 1000;  // milliseconds
+
+int CalcularSegundos(int AMilissegundos) { return AMilissegundos / CSegundo + (AMilissegundos % CSegundo > 0 ? 1 : 0); }
+
+// As many digits as AValor has, each the widest of the dialog font.
+std::u16string BuscarNumeroMaisLargo(int AValor) {
+    const auto medir = [](char16_t ADigito) { return BuscarToolkit().MedirTexto({&ADigito, 1}, 0).Largura; };
+    const std::u16string_view digitos = u"0123456789";
+    return std::u16string(InteiroParaTexto(AValor).size(), *std::ranges::max_element(digitos, {}, medir));
+}
 
 int BuscarIdIcone(TMsgDlgType ATipo) {
     const auto indice = static_cast<std::size_t>(ATipo);
@@ -61,12 +73,12 @@ TFormularioMensagem::TFormularioMensagem(const TOryUtilsDialogsFormCustomizadoBa
     OnShow = TEvento<TObjeto*>::De<&TFormularioMensagem::AoMostrar>(*this);
     OnKeyDown = TEvento<TObjeto*, TTecla&>::De<&TFormularioMensagem::AoTeclar>(*this);
     OnAjuda = EventoDeAjuda();
-    if (FVivos) FVivos->push_back(this);
+    if (FVivos) FVivos->Formularios.push_back(this);
 }
 
 TFormularioMensagem::~TFormularioMensagem() {
     DesligarTemporizador();
-    if (FVivos) std::erase(*FVivos, this);
+    if (FVivos) std::erase(FVivos->Formularios, this);
 }
 
 void TFormularioMensagem::CriarControles() {
@@ -124,27 +136,70 @@ void TFormularioMensagem::EscolherBotaoPadrao() {
     }
     if (!padrao && !botoes.empty()) padrao = botoes.front();
     if (!padrao) return;
+    FPadrao = padrao;
     padrao->SetPadrao(true);
     SetControleAtivo(padrao);
 }
 
-void TFormularioMensagem::Dispor() { DisporDialogo(*this, FPartes); }
+// The button has room for the seconds from the start, so that it does not change while they tick away.
+void TFormularioMensagem::Dispor() {
+    const std::u16string complemento = FPadrao ? FPadrao->GetComplemento() : u"";
+    if (ContaTempo()) MostrarSegundos(BuscarNumeroMaisLargo(CalcularSegundos(FParametros.TempoFinalizacaoAutomatica)));
+    DisporDialogo(*this, FPartes);
+    if (FPadrao) FPadrao->SetComplemento(complemento);
+}
 
 void TFormularioMensagem::AoMudarTela(int, int) { Dispor(); }
 
 void TFormularioMensagem::AoMostrar(TObjeto*) {
     if (!FParametros.FecharMensagemAutomaticamente || FParametros.TempoFinalizacaoAutomatica <= 0 || FTemporizador)
         return;
+    FVenceu = false;
     FToolkit = &BuscarToolkit();
-    FTemporizador = FToolkit->LigarTemporizador(FParametros.TempoFinalizacaoAutomatica, [this] { AoVencerTempo(); });
+    const int tempo = FParametros.TempoFinalizacaoAutomatica;
+    if (!ContaTempo()) {
+        FTemporizador = FToolkit->LigarTemporizador(tempo, [this] { AoVencerTempo(); });
+        return;
+    }
+    FSegundos = CalcularSegundos(tempo);
+    MostrarSegundos(InteiroParaTexto(FSegundos));
+    FTemporizador = FToolkit->LigarTemporizador(tempo - (FSegundos - 1) * CSegundo, [this] { ContarSegundo(); });
+}
+
+bool TFormularioMensagem::ContaTempo() const noexcept {
+    return FPadrao && FParametros.FecharMensagemAutomaticamente && FParametros.MostrarTempoRestante &&
+           FParametros.TempoFinalizacaoAutomatica > 0;
+}
+
+void TFormularioMensagem::MostrarSegundos(std::u16string_view ASegundos) {
+    FPadrao->SetComplemento(u"(" + std::u16string(ASegundos) + u")");
+}
+
+void TFormularioMensagem::ContarSegundo() {
+    if (--FSegundos == 0) return AoVencerTempo();
+    MostrarSegundos(InteiroParaTexto(FSegundos));
+    DesligarTemporizador();
+    FTemporizador = FToolkit->LigarTemporizador(CSegundo, [this] { ContarSegundo(); });
+}
+
+void TFormularioMensagem::AoIntervir() {
+    if (FSegundos == 0) return;
+    FSegundos = 0;
+    DesligarTemporizador();
+    FPadrao->SetComplemento(u"");
 }
 
 void TFormularioMensagem::AoVencerTempo() {
     DesligarTemporizador();
+    FVenceu = GetModalResult() == mrNone;
     Fechar();
 }
 
-void TFormularioMensagem::AoEncerrar() noexcept { DesligarTemporizador(); }
+void TFormularioMensagem::AoEncerrar() noexcept {
+    DesligarTemporizador();
+    FSegundos = 0;
+    if (FVivos) FVivos->UltimaPorTempo = FVenceu;
+}
 
 void TFormularioMensagem::DesligarTemporizador() noexcept {
     if (const auto temporizador = std::exchange(FTemporizador, 0)) FToolkit->DesligarTemporizador(temporizador);

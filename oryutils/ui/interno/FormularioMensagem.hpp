@@ -15,8 +15,11 @@ namespace OryUtils {
 
 class TFormularioMensagem;
 
-/// The message forms of one TOryUtilsDialogs that are alive, the innermost last.
-using TFormulariosVivos = std::vector<TFormularioMensagem*>;
+/// The message forms of one TOryUtilsDialogs.
+struct TFormulariosVivos {
+    std::vector<TFormularioMensagem*> Formularios;  ///< those that are alive, the innermost last
+    bool UltimaPorTempo = false;                    ///< how the modal run that ended last came to its end
+};
 
 /// The standard message form with the captions, results and focus of its parameters: icon, label "Message", one button
 /// for each kind of the set in kind order. It closes itself when its parameters say so; its timer is on only between
@@ -38,6 +41,7 @@ public:
     /// Gives every control its place.
     virtual void Dispor();
     void AoMudarTela(int AAntes, int AAgora) override;
+    void AoIntervir() override;
 
 protected:
     void AoEncerrar() noexcept override;
@@ -49,6 +53,9 @@ private:
     void AoMostrar(TObjeto* ASender);
     void AoTeclar(TObjeto* ASender, TTecla& ATecla);
     void AoClicarAjuda(TObjeto* ASender);
+    bool ContaTempo() const noexcept;
+    void ContarSegundo();
+    void MostrarSegundos(std::u16string_view ASegundos);
     void AoVencerTempo();
     void DesligarTemporizador() noexcept;
 
@@ -57,6 +64,9 @@ private:
     TPartesDoDialogo FPartes;
     TToolkit* FToolkit = nullptr;
     std::uintptr_t FTemporizador = 0;
+    TBotao* FPadrao = nullptr;
+    int FSegundos = 0;  // left, while they are shown
+    bool FVenceu = false;
 };
 
 /// The message as shown: with the note that an auto-closing one carries.

@@ -2,6 +2,7 @@
 
 #include "oryutils/runtime/Excecoes.hpp"
 
+#include "toolkits/qt/interno/DonaQt.hpp"
 #include "toolkits/qt/interno/TradutorQt.hpp"
 
 #include <QFileInfo>
@@ -71,7 +72,10 @@ QScreen* BuscarTelaQt() {
     const QWidget* ativa = QApplication::activeWindow();
     // While another program is in front.
     if (!ativa) ativa = QApplication::activeModalWidget();
-    return ativa ? ativa->screen() : QGuiApplication::primaryScreen();
+    if (ativa) return ativa->screen();
+    const auto dona = BuscarDonaQt();
+    QScreen* tela = dona ? QGuiApplication::screenAt(dona->Lugar.center()) : nullptr;
+    return tela ? tela : QGuiApplication::primaryScreen();
 }
 
 bool EhThreadDaAplicacao() {

@@ -4,6 +4,7 @@
 
 #include "toolkits/qt/interno/AcessoQt.hpp"
 #include "toolkits/qt/interno/AplicacaoQt.hpp"
+#include "toolkits/qt/interno/DonaQt.hpp"
 #include "toolkits/qt/interno/EncaixeQt.hpp"
 #include "toolkits/qt/interno/GrupoOpcoesQt.hpp"
 #include "toolkits/qt/interno/GuardaQt.hpp"
@@ -59,7 +60,8 @@ T& Como(TControleFormulario& AControle) {
 
 TJanelaQt::TJanelaQt(TFormulario& AFormulario)
     : QDialog(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                           Qt::WindowCloseButtonHint),
+                           Qt::WindowCloseButtonHint |
+                           (EstahNaFrenteQt() ? Qt::WindowStaysOnTopHint : Qt::WindowFlags())),
       FFormulario(AFormulario) {
     DeclararAlertas();
     // A dialog that is the last window must not end the host's application.
@@ -83,7 +85,9 @@ void TJanelaQt::Executar(TGuardaQt& AGuarda) {
     // Above the host's window, without belonging to it: the host may free that window meanwhile.
     const QPointer<QWidget> ativa = QApplication::activeWindow();
     winId();
+    const std::optional<TDonaQt> dona = ativa ? std::nullopt : BuscarDonaQt();
     if (ativa && ativa->window()->windowHandle()) windowHandle()->setTransientParent(ativa->window()->windowHandle());
+    if (dona) windowHandle()->setTransientParent(dona->Janela.get());
     FPixelsPorPolegada = qRound(screen()->logicalDotsPerInch());
     FAreaDaTela = screen()->availableSize();
     // Later: Qt may be making the window anew for its other screen.
@@ -189,6 +193,7 @@ QWidget* TJanelaQt::Criar(TControleFormulario& AControle) {
     }
     auto* memorando = new QPlainTextEdit(this);
     memorando->setTabChangesFocus(true);
+    memorando->viewport()->installEventFilter(this);  // where the mouse presses
     memorando->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     memorando->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // lines wrap
     return memorando;
@@ -239,7 +244,8 @@ void TJanelaQt::Aplicar(TControleFormulario& AControle, QWidget& AWidget) {
 }
 
 void TJanelaQt::AplicarTexto(const TControleFormulario& AControle, QWidget& AWidget) {
-    const QString texto = ParaQt(AControle.GetTexto());
+    const bool botao = AControle.GetTipo() == tcBotao;
+    const QString texto = ParaQt(botao ? static_cast<const TBotao&>(AControle).GetLegenda() : AControle.GetTexto());
     switch (AControle.GetTipo()) {
         case tcRotulo:
             static_cast<QLabel&>(AWidget).setText(texto);
@@ -357,6 +363,11 @@ bool TJanelaQt::eventFilter(QObject* AObjeto, QEvent* AEvento) {
     const auto achado = FControles.find(AObjeto);
     TControleFormulario* controle = achado == FControles.end() ? nullptr : achado->second;
     switch (AEvento->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::NonClientAreaMouseButtonPress:
+        case QEvent::Wheel:
+            FFormulario.AoIntervir();
+            break;
         case QEvent::ShortcutOverride:
         case QEvent::KeyRelease:
             FTeclaTratada = nullptr;

@@ -1,5 +1,6 @@
 #include "toolkits/qt/interno/SeletorQt.hpp"
 
+#include "toolkits/qt/interno/DonaQt.hpp"
 #include "toolkits/qt/interno/TextoQt.hpp"
 #include "toolkits/qt/interno/TradutorQt.hpp"
 
@@ -71,6 +72,10 @@ std::vector<std::u16string> EscolherCaminhosQt(const TPedidoDeCaminho& APedido) 
         if (!APedido.NomeSugerido.empty()) dialogo.selectFile(ParaQt(APedido.NomeSugerido));
     }
     dialogo.setAttribute(Qt::WA_QuitOnClose, false);
+    dialogo.setWindowFlag(Qt::WindowStaysOnTopHint, EstahNaFrenteQt());
+    const auto dona = dialogo.parentWidget() ? std::nullopt : BuscarDonaQt();
+    dialogo.winId();
+    if (dona) dialogo.windowHandle()->setTransientParent(dona->Janela.get());
     std::vector<std::u16string> caminhos;
     if (dialogo.exec() != QDialog::Accepted) return caminhos;
     for (const QString& caminho : dialogo.selectedFiles()) caminhos.push_back(DeQt(caminho));

@@ -20,7 +20,11 @@ private:
     std::vector<HWND> FJanelas;
 };
 
-/// The window that a new dialog of this thread belongs to: the active one, else the first visible one; may be null.
+/// ADona, a window of any program, owns the dialogs that no window of this thread owns; null: nobody does.
+void DefinirDona(HWND ADona) noexcept;
+
+/// The window that a new dialog of this thread belongs to: the active one, else that of DefinirDona, else the first
+/// visible one; may be null.
 HWND BuscarDona();
 
 }  // namespace OryUtils::Interno

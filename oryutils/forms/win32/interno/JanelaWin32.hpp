@@ -40,6 +40,8 @@ public:
     HWND GetHandle() const noexcept { return FJanela; }
     /// A key on its way to a control of this form: true when it goes no further.
     bool TratarTecla(const MSG& AMensagem);
+    /// Somebody clicked or typed on this form.
+    void AvisarIntervencao() noexcept;
     /// Tells the model of a focus that has moved. False when the box that it left refused.
     bool AcompanharFoco();
 

@@ -23,6 +23,8 @@ public:
     std::vector<std::exception_ptr*> Destinos;
     /// Cursor of all forms; null for each window's own.
     HCURSOR Cursor = nullptr;
+    /// New forms stay in front of the windows of all programs.
+    bool NaFrente = false;
 };
 
 /// Puts a value on a stack while it lives.
