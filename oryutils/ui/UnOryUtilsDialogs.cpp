@@ -6,6 +6,7 @@
 #include "oryutils/ui/interno/FormularioDetalhe.hpp"
 #include "oryutils/ui/interno/FormularioEntrada.hpp"
 #include "oryutils/ui/interno/Medidas.hpp"
+#include "oryutils/ui/interno/RespostasLembradas.hpp"
 #include "oryutils/ui/interno/Seletores.hpp"
 #include "oryutils/ui/interno/Variantes.hpp"
 
@@ -81,6 +82,16 @@ int TOryUtilsDialogs::ConfirmacaoCustomizadaComCaixaChecagem(std::u16string_view
     AMarcada = retorno->CaixaChecagem;
     return retorno->RetornoMensagem;
 }
+
+std::unique_ptr<TOryUtilsDialogsRetornoMensagemLembradaIOP> TOryUtilsDialogs::ConfirmacaoCustomizadaLembrada(
+    const TOryUtilsDialogsFormCustomizadoLembradaIOP& AParametros) {
+    return std::make_unique<TOryUtilsDialogsRetornoMensagemLembradaIOP>(
+        ExecutarLembrada(AParametros, TextosDialogos(), FFormularios));
+}
+
+bool TOryUtilsDialogs::EsquecerResposta(std::u16string_view AChave) { return EsquecerRespostaLembrada(AChave); }
+
+void TOryUtilsDialogs::EsquecerRespostas() { EsquecerRespostasLembradas(); }
 
 int TOryUtilsDialogs::ConfirmacaoCustomizadaComDetalhes(
     const TOryUtilsDialogsFormCustomizadoComDetalhesIOP& AParametros) {

@@ -64,6 +64,19 @@ public:
                                                std::u16string_view ATextoCaixaChecagem, TPosicaoCaixaChecagem APosicao,
                                                bool& AMarcada);
 
+    /// With the check box "Não perguntar novamente" (or AParametros.TextoCaixaChecagem). An answer given with the box
+    /// checked is kept in the settings of the user, under AParametros.Chave, and is the result from then on, without
+    /// showing anything, as long as one of the buttons gives it. A cancel (mrCancel) is never remembered.
+    /// Raises Exception when AParametros misses Botoes, CaptionBotoes or Chave.
+    /// Example:  parametros.Chave = u"FecharComCaixaAberto";
+    ///           if (GOryUtilsDialogs->ConfirmacaoCustomizadaLembrada(parametros)->RetornoMensagem == mrYes) ...
+    std::unique_ptr<TOryUtilsDialogsRetornoMensagemLembradaIOP> ConfirmacaoCustomizadaLembrada(
+        const TOryUtilsDialogsFormCustomizadoLembradaIOP& AParametros);
+    /// Forgets the answer under that key: it is asked for again. False when none was remembered.
+    bool EsquecerResposta(std::u16string_view AChave);
+    /// Forgets all answers of this program.
+    void EsquecerRespostas();
+
     /// With a button "Mostrar Detalhes" / "Ocultar Detalhes" that opens and closes a memo with the detail text. Ctrl+C
     /// beeps and copies message and detail to the clipboard.
     int ConfirmacaoCustomizadaComDetalhes(const TOryUtilsDialogsFormCustomizadoComDetalhesIOP& AParametros);

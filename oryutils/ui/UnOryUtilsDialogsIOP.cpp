@@ -1,5 +1,6 @@
 #include "oryutils/ui/UnOryUtilsDialogsIOP.hpp"
 
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 
 namespace OryUtils {
@@ -9,6 +10,12 @@ void TOryUtilsDialogsFormCustomizadoBaseIOP::ValidarPropriedades() const {
     if (Botoes.empty()) throw Exception(u"TOryUtilsDialogsFormCustomizadoIOP.Botoes: preenchimento obrigatório.");
     if (CaptionBotoes.empty())
         throw Exception(u"TOryUtilsDialogsFormCustomizadoIOP.CaptionBotoes: preenchimento obrigatório.");
+}
+
+void TOryUtilsDialogsFormCustomizadoLembradaIOP::ValidarPropriedades() const {
+    TOryUtilsDialogsFormCustomizadoBaseIOP::ValidarPropriedades();
+    if (Aparar(Chave).empty())
+        throw Exception(u"TOryUtilsDialogsFormCustomizadoLembradaIOP.Chave: preenchimento obrigatório.");
 }
 
 }  // namespace OryUtils

@@ -64,6 +64,19 @@ struct TOryUtilsDialogsFormCustomizadoCaixaChecagemIOP : TOryUtilsDialogsFormCus
     bool operator==(const TOryUtilsDialogsFormCustomizadoCaixaChecagemIOP&) const = default;
 };
 
+/// A message whose answer the user may have remembered, by the check box "Não perguntar novamente".
+struct ORY_API TOryUtilsDialogsFormCustomizadoLembradaIOP : TOryUtilsDialogsFormCustomizadoCaixaChecagemIOP {
+    /// Required. Name under which the answer is remembered; it need be unique within the program alone.
+    std::u16string Chave{};
+
+    using TOryUtilsDialogsFormCustomizadoCaixaChecagemIOP::Assign;
+    void Assign(const TOryUtilsDialogsFormCustomizadoLembradaIOP& AOrigem) { *this = AOrigem; }
+    /// That of the others, and raises Exception "TOryUtilsDialogsFormCustomizadoLembradaIOP.Chave: preenchimento
+    /// obrigatório." when Chave is blank.
+    void ValidarPropriedades() const;
+    bool operator==(const TOryUtilsDialogsFormCustomizadoLembradaIOP&) const = default;
+};
+
 /// A customised message with a detail text that the user may open.
 struct ORY_API TOryUtilsDialogsFormCustomizadoComDetalhesIOP : TOryUtilsDialogsFormCustomizadoBaseIOP {
     std::int32_t ContextoAjuda = 0;
@@ -104,6 +117,16 @@ struct TOryUtilsDialogsRetornoMensagemCaixaChecagemIOP {
 
     void Assign(const TOryUtilsDialogsRetornoMensagemCaixaChecagemIOP& AOrigem) { *this = AOrigem; }
     bool operator==(const TOryUtilsDialogsRetornoMensagemCaixaChecagemIOP&) const = default;
+};
+
+/// Answer of a message that may be remembered.
+struct TOryUtilsDialogsRetornoMensagemLembradaIOP {
+    int RetornoMensagem = mrNone;  ///< modal result
+    bool FoiMostrada = false;      ///< false: the remembered answer, without asking
+    bool FoiLembrada = false;      ///< this answer is remembered, now or since before
+
+    void Assign(const TOryUtilsDialogsRetornoMensagemLembradaIOP& AOrigem) { *this = AOrigem; }
+    bool operator==(const TOryUtilsDialogsRetornoMensagemLembradaIOP&) const = default;
 };
 
 /// Layout facts of a built message form, in pixels.

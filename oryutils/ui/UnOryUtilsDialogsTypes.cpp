@@ -37,6 +37,7 @@ constexpr std::array CDadosTexto{
     TDadosTexto{tdOcultarDetalhes, u"Ocultar &Detalhes"},
     TDadosTexto{tdTodosArquivos, u"Todos"},
     TDadosTexto{tdMensagensGuardadas, u"Mensagens registradas: %s"},
+    TDadosTexto{tdNaoPerguntarNovamente, u"Não &perguntar novamente"},
 };
 static_assert(CobreEnumeracao<CDadosTexto, &TDadosTexto::Texto>());
 

@@ -58,8 +58,9 @@ enum TTextoDialogo : int {
     tdNotaFechamento,  ///< note of an auto-closing message; %s is the time
     tdMostrarDetalhes,
     tdOcultarDetalhes,
-    tdTodosArquivos,       ///< filter of the simple file picker
-    tdMensagensGuardadas,  ///< message of the notification centre; %s is how many
+    tdTodosArquivos,          ///< filter of the simple file picker
+    tdMensagensGuardadas,     ///< message of the notification centre; %s is how many
+    tdNaoPerguntarNovamente,  ///< check box of a message whose answer may be remembered
 };
 
 /// One kind of button. A new kind is an enumerator of TMsgDlgBtn and a row of CDadosBotao; every other table of buttons

@@ -90,6 +90,23 @@ TEST(Mensagem, PedeArquivosEPastas) {
     }
 }
 
+TEST(Mensagem, LembraARespostaEEsquece) {
+    TToolkitRoteirizado toolkit;
+    const std::vector<std::string> pergunta{"mensagem", "?",         "--botao",   "sim",
+                                            "--botao",  "nao=Nunca", "--lembrar", "ç"};
+    EXPECT_EQ(Rodar({"mensagem", "--esquecer-tudo"}), (TRodada{0, "", ""}));
+    toolkit.Roteiro = {[](TFormulario& AFormulario) {
+        dynamic_cast<TCaixaChecagem&>(*AFormulario.BuscarControle(u"CaixaChecagem")).AceitarMarcada(true);
+        BuscarBotao(AFormulario, u"Nunca").Clicar();
+    }};
+    EXPECT_EQ(Rodar(pergunta), (TRodada{1, "Nunca\n", ""}));
+    toolkit.HaQuemResponda = false;
+    EXPECT_EQ(Rodar(pergunta), (TRodada{1, "Nunca\n", ""})) << "remembered, nobody is needed";
+    EXPECT_EQ(toolkit.Titulos.size(), 1U);
+    EXPECT_EQ(Rodar({"mensagem", "--esquecer", "ç"}), (TRodada{0, "", ""}));
+    EXPECT_EQ(Rodar(pergunta).Status, 5) << "asked again";
+}
+
 // Without a screen and a terminal a message is told, and a question has a status of its own.
 TEST(Mensagem, SemQuemResponda) {
     TToolkitRoteirizado toolkit;

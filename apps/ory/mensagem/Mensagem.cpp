@@ -134,12 +134,15 @@ void ConferirCombinacao(const TPedidoDeMensagem& APedido) {
     if (APedido.Perguntar && (!APedido.Botoes.empty() || !APedido.Tipo.empty() || APedido.FecharEm > 0))
         throw EFalha("--valor não combina com --botao, --tipo nem --fechar-em");
     ConferirPedidos(APedido, variantes);
+    if (!APedido.Lembranca.Lembrar.empty() && variantes + APedido.Caminhos.ContarPedidos() > 0)
+        throw EFalha("--lembrar não combina com --opcao, --caixa, --detalhe, --valor nem arquivos e pastas");
     if (!APedido.Opcoes.empty() && APedido.OpcaoPadrao > APedido.Opcoes.size())
         throw EFalha("--opcao-padrao vai de 0 a " + std::to_string(APedido.Opcoes.size()));
 }
 
 // A message with one button is told without asking, also where nobody can answer.
 bool ExigeResposta(const TPedidoDeMensagem& APedido) {
+    if (!APedido.Lembranca.Lembrar.empty()) return false;  // a remembered answer needs nobody
     const bool confirma = APedido.Botoes.empty() && APedido.Tipo == "confirmacao";
     return confirma || APedido.Botoes.size() > 1 || APedido.Perguntar || APedido.Caminhos.ContarPedidos() > 0 ||
            !APedido.Opcoes.empty() || !APedido.Caixa.empty() || !APedido.Detalhe.empty();
@@ -177,6 +180,7 @@ void DescreverMensagem(TOpcoes AComando, TPedidoDeMensagem& APedido) {
     AComando.Valor("--caixa", APedido.Caixa, "texto de uma caixa de checagem");
     AComando.Marca("--caixa-abaixo", APedido.CaixaAbaixo, "caixa abaixo dos botões");
     AComando.Valor("--detalhe", APedido.Detalhe, "texto que o botão Mostrar Detalhes abre");
+    DescreverLembranca(AComando, APedido.Lembranca);
     AComando.Valor("--fechar-em", APedido.FecharEm, "segundos até fechar sem resposta");
     AComando.Marca("--mostrar-tempo", APedido.MostrarTempo,
                    "conta os segundos no botão padrão; a primeira tecla ou clique para a contagem");
@@ -204,6 +208,7 @@ void DescreverMensagem(TOpcoes AComando, TPedidoDeMensagem& APedido) {
 
 int MostrarMensagem(const TPedidoDeMensagem& APedido, TAmbiente& AAmbiente) {
     ConferirCombinacao(APedido);
+    if (Esquecer(APedido.Lembranca)) return smSim;
     const TJanelaPedida janela(APedido.Janela);
     if (ExigeResposta(APedido) && !BuscarToolkit().PodePerguntar()) return RecusarSemQuemResponda(AAmbiente);
     if (APedido.Caminhos.ContarPedidos() > 0)
@@ -232,6 +237,10 @@ int MostrarMensagem(const TPedidoDeMensagem& APedido, TAmbiente& AAmbiente) {
         const auto retorno = GOryUtilsDialogs->ConfirmacaoCustomizadaComCaixaChecagem(parametros);
         resultado = retorno->RetornoMensagem;
         respostas.push_back(retorno->CaixaChecagem ? u"1" : u"0");
+    } else if (!APedido.Lembranca.Lembrar.empty()) {
+        const auto retorno = PerguntarOuLembrar(APedido.Lembranca, base);
+        if (retorno.FoiMostrada && !BuscarToolkit().PodePerguntar()) return RecusarSemQuemResponda(AAmbiente);
+        resultado = retorno.RetornoMensagem;
     } else {
         TOryUtilsDialogsFormCustomizadoComDetalhesIOP parametros;
         parametros.Assign(base);

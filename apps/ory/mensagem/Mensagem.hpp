@@ -2,6 +2,7 @@
 
 #include "mensagem/Caminhos.hpp"
 #include "mensagem/Janela.hpp"
+#include "mensagem/Lembranca.hpp"
 #include "mensagem/Resposta.hpp"
 
 #include <string>
@@ -27,6 +28,7 @@ struct TPedidoDeMensagem {
     unsigned FecharEm = 0;  // seconds; 0 never
     bool MostrarTempo = false;
     TPedidoDeJanela Janela{};
+    TPedidoDeLembranca Lembranca{};
     bool Perguntar = false;
     std::string Valor{};
     TPedidoDeCaminhos Caminhos{};

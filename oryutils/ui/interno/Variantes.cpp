@@ -1,6 +1,9 @@
 #include "oryutils/ui/interno/Variantes.hpp"
 
 #include "oryutils/forms/Toolkit.hpp"
+#include "oryutils/ui/interno/RespostasLembradas.hpp"
+
+#include <algorithm>
 
 namespace OryUtils {
 namespace {
@@ -66,6 +69,29 @@ TOryUtilsDialogsRetornoMensagemCaixaChecagemIOP ExecutarComCaixaChecagem(
         AdicionarCaixaChecagem(formulario, AParametros.TextoCaixaChecagem, AParametros.PosicaoCaixaChecagem);
     const int resultado = formulario.ExecutarModal();
     return {.CaixaChecagem = caixa.GetMarcada(), .RetornoMensagem = resultado};
+}
+
+TOryUtilsDialogsRetornoMensagemLembradaIOP ExecutarLembrada(
+    const TOryUtilsDialogsFormCustomizadoLembradaIOP& AParametros, const TTextosDialogos& ATextos,
+    std::shared_ptr<TFormulariosVivos> AVivos) {
+    AParametros.ValidarPropriedades();
+    ExigirToolkit();
+    // What a button of this message answers, and no way of leaving it without an answer.
+    const auto serve = [&](int AResposta) {
+        return AResposta != mrNone && AResposta != mrCancel &&
+               std::ranges::any_of(AParametros.Botoes, [&](TMsgDlgBtn b) {
+                   return TMsgDlgButtons::EhConhecido(b) && CModalResults[static_cast<std::size_t>(b)] == AResposta;
+               });
+    };
+    if (const auto lembrada = BuscarRespostaLembrada(AParametros.Chave); lembrada && serve(*lembrada))
+        return {.RetornoMensagem = *lembrada, .FoiMostrada = false, .FoiLembrada = true};
+    auto parametros = AParametros;
+    if (parametros.TextoCaixaChecagem.empty()) parametros.TextoCaixaChecagem = ATextos.Buscar(tdNaoPerguntarNovamente);
+    const auto retorno = ExecutarComCaixaChecagem(parametros, ATextos, std::move(AVivos));
+    const bool lembrar = retorno.CaixaChecagem && serve(retorno.RetornoMensagem);
+    return {.RetornoMensagem = retorno.RetornoMensagem,
+            .FoiMostrada = true,
+            .FoiLembrada = lembrar && LembrarResposta(AParametros.Chave, retorno.RetornoMensagem)};
 }
 
 }  // namespace OryUtils

@@ -26,6 +26,10 @@ TOryUtilsDialogsRetornoMensagemCaixaChecagemIOP ExecutarComCaixaChecagem(
     const TOryUtilsDialogsFormCustomizadoCaixaChecagemIOP& AParametros, const TTextosDialogos& ATextos,
     std::shared_ptr<TFormulariosVivos> AVivos);
 
+TOryUtilsDialogsRetornoMensagemLembradaIOP ExecutarLembrada(
+    const TOryUtilsDialogsFormCustomizadoLembradaIOP& AParametros, const TTextosDialogos& ATextos,
+    std::shared_ptr<TFormulariosVivos> AVivos);
+
 /// Positional arguments as parameters.
 template <std::derived_from<TOryUtilsDialogsFormCustomizadoBaseIOP> T>
 T MontarParametros(std::u16string_view AMensagem, TMsgDlgType ATipo, const std::vector<TMsgDlgBtn>& ABotoes,
