@@ -66,6 +66,11 @@ if(TARGET OryUtilsQt)
           FILES_MATCHING PATTERN *.hpp REGEX "/qt/interno$" EXCLUDE)
 endif()
 
+if(WIN32)
+  install(FILES ${PROJECT_SOURCE_DIR}/packaging/windows/oryutils.manifest DESTINATION ${CMAKE_INSTALL_DATADIR}/oryutils
+          COMPONENT desenvolvimento)
+endif()
+
 configure_package_config_file(${PROJECT_SOURCE_DIR}/packaging/OryUtilsConfig.cmake.in
                               ${PROJECT_BINARY_DIR}/instalacao/OryUtilsConfig.cmake INSTALL_DESTINATION ${ORY_CMAKE}
                               NO_CHECK_REQUIRED_COMPONENTS_MACRO)

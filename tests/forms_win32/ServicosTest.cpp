@@ -136,6 +136,16 @@ TEST_F(FormsWin32, FiltroDoSeletorDeArquivos) {
     EXPECT_EQ(Interno::MontarFiltro({}), std::u16string(1, u'\0'));
 }
 
+// What the manifest of the project's programs asks for, and the system then grants.
+TEST_F(FormsWin32, OManifestoValeParaEsteProcesso) {
+    EXPECT_TRUE(::IsProcessDPIAware());
+    ACTCTX_SECTION_KEYED_DATA controles{};
+    controles.cbSize = sizeof controles;
+    EXPECT_TRUE(
+        ::FindActCtxSectionStringW(0, nullptr, ACTIVATION_CONTEXT_SECTION_DLL_REDIRECTION, L"comctl32.dll", &controles))
+        << "controls of version 6";
+}
+
 TEST_F(FormsWin32, AreaDeTransferencia) {
     FToolkit.CopiarParaAreaDeTransferencia(u"copiado: ação\n\U0001F600");
     EXPECT_EQ(LerAreaDeTransferencia(), u"copiado: ação\r\n\U0001F600");
