@@ -110,7 +110,7 @@ void EncaixarTexto(QAbstractButton& ABotao, const QString& ATexto, bool AQuebra)
     bool inteiro = true;
     if (ABotao.width() > 0 && metricas.size(Qt::TextShowMnemonic, ATexto).width() > largura) {
         const QStringList linhas = AQuebra ? Quebrar(ATexto, ABotao.font(), largura) : QStringList{ATexto};
-        const auto cabem = std::max(1, ABotao.height() / metricas.lineSpacing());
+        const auto cabem = std::max(1, (ABotao.height() - std::max(0, marca.height())) / metricas.lineSpacing());
         cabe = linhas.join(QLatin1Char('\n'));
         if (!AQuebra || linhas.size() > cabem) {
             inteiro = false;
