@@ -3,7 +3,7 @@
 //   each LogLinhas: 10,000 lines, saved (flushed) after each one, by append. UmaEscrita is the limit: one write of each
 //   line. LogReescrito: 2,000 lines in the mode that writes the whole file each time.
 #include "oryutils/files/UnOryUtilsArquivoLog.hpp"
-#include "oryutils/files/interno/AmbienteDoLog.hpp"
+#include "oryutils/files/UnOryUtilsArquivoLogAmbiente.hpp"
 #include "oryutils/platform/Fluxo.hpp"
 #include "oryutils/runtime/Formatos.hpp"
 

@@ -2,7 +2,7 @@
 
 #include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/files/OryUtilsFiles.hpp"
-#include "oryutils/files/interno/AmbienteDoLog.hpp"
+#include "oryutils/files/UnOryUtilsArquivoLogAmbiente.hpp"
 #include "oryutils/files/interno/CargaDoLog.hpp"
 #include "oryutils/files/interno/GravadorDoLog.hpp"
 #include "oryutils/files/interno/LinhasDoLog.hpp"
@@ -23,6 +23,11 @@ namespace OryUtils {
 namespace {
 
 const std::u16string CSeparador(78, u'*');
+
+TAmbienteDoLog& BuscarAmbienteDoSistema() {
+    static TAmbienteDoLog ambiente;
+    return ambiente;
+}
 
 bool EhVazio(std::u16string_view ATexto) { return Aparar(ATexto).empty(); }
 

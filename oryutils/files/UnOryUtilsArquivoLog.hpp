@@ -1,6 +1,7 @@
 #pragma once
 
 #include "oryutils/OryExport.hpp"
+#include "oryutils/files/UnOryUtilsArquivoLogAmbiente.hpp"
 #include "oryutils/files/UnOryUtilsArquivoLogEventos.hpp"
 #include "oryutils/files/UnOryUtilsArquivoLogTypes.hpp"
 #include "oryutils/runtime/DataHora.hpp"
@@ -14,7 +15,6 @@
 
 namespace OryUtils {
 
-class TAmbienteDoLog;
 class TGravadorDoLog;
 class TLinhasDoLog;
 
@@ -36,7 +36,7 @@ public:
     /// whose place ".log" comes. A blank name makes a log that lives in memory only. The process-wide formats
     /// (FormatSettings) of this moment, short date and long time, are those of every line of the log.
     explicit TOryUtilsArquivoLog(std::u16string_view AArquivoLog);
-    /// The same in a world handed in (tests), which must outlive the log.
+    /// The same in a world handed in, which must outlive the log: a host's own clock, for one.
     TOryUtilsArquivoLog(std::u16string_view AArquivoLog, TAmbienteDoLog& AAmbiente);
     ~TOryUtilsArquivoLog() override;
     TOryUtilsArquivoLog(const TOryUtilsArquivoLog&) = delete;

@@ -2,7 +2,7 @@
 
 #include "oryutils/characters/Utf.hpp"
 #include "oryutils/files/UnOryUtilsArquivoLog.hpp"
-#include "oryutils/files/interno/AmbienteDoLog.hpp"
+#include "oryutils/files/UnOryUtilsArquivoLogAmbiente.hpp"
 #include "oryutils/platform/TextoDoSistema.hpp"
 
 #include "files/ApoioArquivos.hpp"

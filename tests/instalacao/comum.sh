@@ -21,6 +21,17 @@ bloco() {
         END { exit !achou }' "$1" || falhar "$1 has no block $3 of $2 below \"${4:-}\""
 }
 
+# construir README HEADING TARGET: main.cpp becomes build/meu_programa by the lines of the README, linked with TARGET.
+construir() {
+    bloco "$1" cmake 1 "$2" | sed "s/Ory::Utils)/$3)/" > CMakeLists.txt
+    grep -qF "$3)" CMakeLists.txt || falhar "the block does not link $3"
+    local comandos=1
+    [ "$ORY_SISTEMA" = windows ] && comandos=2
+    bloco "$1" sh $((comandos + 1)) "$2" | sed "s|oryutils-fontes|$ORY_FONTES|g" > construir.sh
+    grep -q "cmake" construir.sh || falhar "the block does not build"
+    HOME=$ORY_CASA bash -euo pipefail construir.sh > saida.log 2>&1 || falhar "$(cat construir.sh saida.log)"
+}
+
 # rodar PROGRAM ARGUMENT...: as the system of the build runs it; the shared libraries are those of the prefix.
 rodar() {
     if [ "$ORY_SISTEMA" = windows ]; then

@@ -8,10 +8,5 @@ mkdir -p "$ORY_PASTA"
 cd "$ORY_PASTA"
 
 cp "$ORY_FONTES/examples/primeiro/main.cpp" .
-bloco "$leiame" cmake 1 "$titulo" | sed "s/Ory::Utils)/$alvo)/" > CMakeLists.txt
-grep -qF "$alvo)" CMakeLists.txt || falhar "the block does not link $alvo"
-if [ "$ORY_SISTEMA" = windows ]; then comandos=2; else comandos=1; fi
-bloco "$leiame" sh $((comandos + 1)) "$titulo" | sed "s|oryutils-fontes|$ORY_FONTES|g" > construir.sh
-grep -q "cmake" construir.sh || falhar "the block does not build"
-HOME=$ORY_CASA bash -euo pipefail construir.sh > saida.log 2>&1 || falhar "$(cat construir.sh saida.log)"
+construir "$leiame" "$titulo" "$alvo"
 igual "$(rodar build/meu_programa)" "$ESPERADO" "what the program prints"

@@ -2,7 +2,7 @@
 
 #include "oryutils/characters/Utf.hpp"
 #include "oryutils/files/UnOryUtilsArquivoLog.hpp"
-#include "oryutils/files/interno/AmbienteDoLog.hpp"
+#include "oryutils/files/UnOryUtilsArquivoLogAmbiente.hpp"
 #include "oryutils/platform/Fluxo.hpp"
 #include "oryutils/platform/Pastas.hpp"
 #include "oryutils/runtime/NomeDeArquivo.hpp"
@@ -118,7 +118,8 @@ void DescreverLog(TOpcoes AComando, TPedidoDeLog& APedido) {
 }
 
 int EscreverLog(const TPedidoDeLog& APedido, TAmbiente& AAmbiente) {
-    return EscreverLog(APedido, AAmbiente, BuscarAmbienteDoSistema());
+    TAmbienteDoLog mundo;
+    return EscreverLog(APedido, AAmbiente, mundo);
 }
 
 int EscreverLog(const TPedidoDeLog& APedido, TAmbiente& AAmbiente, TAmbienteDoLog& AMundo) {
