@@ -2,8 +2,10 @@
 #include "oryutils/runtime/Formatos.hpp"
 #include "oryutils/ui/UnOryUtilsDialogs.hpp"
 
+#include <chrono>
 #include <cstdio>
 #include <cstring>
+#include <thread>
 
 namespace {
 
@@ -60,6 +62,22 @@ const TTela CTelas[] = {
         auto p = Montar<TOryUtilsDialogsFormCustomizadoComDetalhesIOP>(mtError, u"Erro", u"A nota não foi autorizada.");
         p.MensagemDetalhe = u"Código: 539\r\nMotivo: duplicidade da nota, com diferença na chave de acesso.";
         GOryUtilsDialogs->ConfirmacaoCustomizadaComDetalhes(p);
+    }},
+    {"lembrada", [] {
+        auto p = Montar<TOryUtilsDialogsFormCustomizadoLembradaIOP>(mtConfirmation, u"Fechamento", u"O caixa ainda está aberto. Deseja fechá-lo?");
+        p.Chave = u"FecharComCaixaAberto";
+        GOryUtilsDialogs->ConfirmacaoCustomizadaLembrada(p);
+    }},
+    {"contagem", [] {
+        auto p = Montar<TOryUtilsDialogsFormCustomizadoIOP>(mtWarning, u"Atualização", u"O sistema será reiniciado.");
+        p.CaptionBotoes = {u"&Reiniciar agora", u"&Adiar", u"&Cancelar"};
+        p.FecharMensagemAutomaticamente = p.MostrarTempoRestante = true;
+        p.TempoFinalizacaoAutomatica = 90000;
+        GOryUtilsDialogs->ConfirmacaoCustomizada(p);
+    }},
+    {"andamento", [] {
+        const auto andamento = GOryUtilsDialogs->MostrarAndamento({.Titulo = u"Cópia de segurança"});
+        while (andamento->Atualizar(42, u"Copiando /dados/notas fiscais/2026/11/saida-000123.xml")) std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }},
     {"pergunta", [] { GOryUtilsDialogs->InputBox(u"Cadastro", u"Informe o número da inscrição:", u"São Paulo"); }},
 };

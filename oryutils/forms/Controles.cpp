@@ -2,6 +2,8 @@
 
 #include "oryutils/forms/Formulario.hpp"
 
+#include <algorithm>
+
 namespace OryUtils {
 
 std::u16string RemoverAtalho(std::u16string_view ACaption) {
@@ -117,6 +119,13 @@ void TMemorando::SetSomenteLeitura(bool ASomenteLeitura) {
     if (FSomenteLeitura == ASomenteLeitura) return;
     FSomenteLeitura = ASomenteLeitura;
     Avisar(mdEstado);
+}
+
+void TProgresso::SetPercentual(double APercentual) {
+    const double percentual = APercentual >= 0 ? std::min(APercentual, 100.0) : -1;
+    if (FPercentual == percentual) return;
+    FPercentual = percentual;
+    Avisar(mdSelecao);
 }
 
 }  // namespace OryUtils

@@ -38,7 +38,16 @@ enum TMudanca : unsigned {
     mdFoco = 32,     ///< active control
 };
 
-enum TTipoControle : int { tcRotulo, tcBotao, tcGrupoOpcoes, tcCaixaChecagem, tcCaixaEdicao, tcMemorando, tcIcone };
+enum TTipoControle : int {
+    tcRotulo,
+    tcBotao,
+    tcGrupoOpcoes,
+    tcCaixaChecagem,
+    tcCaixaEdicao,
+    tcMemorando,
+    tcIcone,
+    tcProgresso
+};
 
 /// Modal results: what a button answers and a modal run returns. 0 keeps the form open.
 enum TModalResult : int {
@@ -228,6 +237,21 @@ public:
 
 private:
     bool FSomenteLeitura = false;
+};
+
+/// How far a work is, as a bar. Its text is not drawn: it says what the bar tells of to screen readers, and on a
+/// terminal.
+class ORY_API TProgresso final : public TControleFormulario {
+public:
+    explicit TProgresso(TFormulario& AFormulario) : TControleFormulario(AFormulario, tcProgresso) {}
+    /// 0 to 100; below 0 nobody knows the share, and the bar only shows that the work goes on.
+    double GetPercentual() const noexcept { return FPercentual; }
+    /// Above 100 counts as 100, what is no number as unknown.
+    void SetPercentual(double APercentual);
+    bool PodeReceberFoco() const override { return false; }
+
+private:
+    double FPercentual = -1;
 };
 
 }  // namespace OryUtils

@@ -30,6 +30,8 @@ std::u16string BuscarNomeFalado(const TControleFormulario& AControle) {
     switch (AControle.GetTipo()) {
         case tcIcone:
             return BuscarNomeDoIcone(static_cast<const TIcone&>(AControle).GetIdIcone());
+        case tcProgresso:
+            return AControle.GetTexto();
         case tcBotao:
         case tcCaixaChecagem:
             return RemoverAtalho(AControle.GetTexto());

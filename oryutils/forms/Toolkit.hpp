@@ -62,6 +62,10 @@ public:
     virtual int ExecutarModal(TFormulario& AFormulario) = 0;
     /// Lets the message loop run once, without waiting.
     virtual void ProcessarMensagens() = 0;
+    /// Shows AFormulario, which the result keeps on the screen, and comes back: the caller lets its messages through by
+    /// ProcessarMensagens, which raises what handlers of the form raised. The other windows of this thread are disabled
+    /// meanwhile. Null where forms cannot be shown like this.
+    virtual std::shared_ptr<void> Exibir(TFormulario&) { return nullptr; }
     /// The visible windows of this thread take no input as long as the result lives. Null when there are none.
     virtual std::shared_ptr<void> DesabilitarJanelas() { return nullptr; }
 

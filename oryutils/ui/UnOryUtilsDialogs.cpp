@@ -105,6 +105,11 @@ int TOryUtilsDialogs::InformacaoDetalhada(const TOryUtilsDialogsFormDetalhesIOP&
                                      FFormularios);
 }
 
+std::unique_ptr<TOryUtilsDialogsAndamento> TOryUtilsDialogs::MostrarAndamento(
+    const TOryUtilsDialogsAndamentoIOP& AParametros) {
+    return std::make_unique<TOryUtilsDialogsAndamento>(AParametros);
+}
+
 std::unique_ptr<TFormulario> TOryUtilsDialogs::BuscarFormularioConfirmacaoCustomizado(
     const TOryUtilsDialogsFormCustomizadoBaseIOP& AParametros) {
     return std::make_unique<TFormularioMensagem>(AParametros, TextosDialogos(), FFormularios);

@@ -4,6 +4,7 @@
 #include "oryutils/forms/Formulario.hpp"
 #include "oryutils/forms/Toolkit.hpp"
 #include "oryutils/runtime/Instancia.hpp"
+#include "oryutils/ui/UnOryUtilsDialogsAndamento.hpp"
 #include "oryutils/ui/UnOryUtilsDialogsCentralNotificacoes.hpp"
 #include "oryutils/ui/UnOryUtilsDialogsEntradasIOP.hpp"
 #include "oryutils/ui/UnOryUtilsDialogsIOP.hpp"
@@ -82,6 +83,11 @@ public:
     int ConfirmacaoCustomizadaComDetalhes(const TOryUtilsDialogsFormCustomizadoComDetalhesIOP& AParametros);
     /// The same with the usual captions and the usual title of AParametros.TipoDialogo.
     int InformacaoDetalhada(const TOryUtilsDialogsFormDetalhesIOP& AParametros);
+
+    /// Shows a progress dialog, which stays as long as the result lives; see TOryUtilsDialogsAndamento.
+    /// Example:  const auto andamento = GOryUtilsDialogs->MostrarAndamento({.Titulo = u"Cópia"});
+    ///           while (Copiou() && andamento->Atualizar(BuscarPercentual(), BuscarArquivo())) {}
+    std::unique_ptr<TOryUtilsDialogsAndamento> MostrarAndamento(const TOryUtilsDialogsAndamentoIOP& AParametros);
 
     /// Builds the message form without showing it: the host may add controls, move what is there, and run it by
     /// ExecutarModal; auto-closing works there too. The k-th button, in kind order, gets the k-th caption and the modal

@@ -101,6 +101,16 @@ struct TOryUtilsDialogsFormDetalhesIOP {
     bool operator==(const TOryUtilsDialogsFormDetalhesIOP&) const = default;
 };
 
+/// A progress dialog.
+struct TOryUtilsDialogsAndamentoIOP {
+    std::u16string Titulo{};
+    std::u16string Mensagem{};    ///< the first text
+    bool PermiteCancelar = true;  ///< by a button, Esc or the window's close button
+
+    void Assign(const TOryUtilsDialogsAndamentoIOP& AOrigem) { *this = AOrigem; }
+    bool operator==(const TOryUtilsDialogsAndamentoIOP&) const = default;
+};
+
 /// Answer of a message with options.
 struct TOryUtilsDialogsRetornoMensagemOpcoesIOP {
     std::int32_t IndiceOpcao = -1;  ///< chosen option from 0; -1 for none

@@ -17,11 +17,13 @@ namespace {
 // A user who types these lines. An empty optional is silence: the clock runs until the limit.
 struct TConversaEscrita final : TConversa {
     bool Terminal = true;
+    int Colunas = 0;
     std::vector<std::optional<std::u16string>> Linhas;
     std::string Escrito;
     std::chrono::milliseconds Instante{0};
 
     bool PodeConversar() override { return Terminal; }
+    int GetColunas() override { return Colunas; }
     void Escrever(std::u16string_view ATexto) override { Escrito += ParaUtf8(ATexto); }
     std::chrono::milliseconds GetInstante() override { return Instante; }
     Interno::TLeituraDeLinha LerLinha(std::optional<std::chrono::milliseconds> ALimite,
@@ -92,6 +94,43 @@ TEST(Console, MensagemDeUmBotaoNaoEspera) {
     f.Adicionar<TBotao>().SetModalResult(mrOk);
     EXPECT_EQ(TToolkitConsole(conversa).ExecutarModal(f), mrOk);
     EXPECT_EQ(conversa.Escrito, "Aviso: CNPJ inválido. Verifique.\n");
+}
+
+TEST(Console, OAndamentoReescreveUmaLinhaOuEscreveVarias) {
+    const struct {
+        int Colunas;
+        const char* Esperado;
+    } casos[] = {
+        // Shorter lines wipe longer ones out; a line never fills the terminal.
+        {12, "Cópia\n\rLendo\rLendo 7%\rUm texto...\rUm t... 19%\ra?b 20%    \n"},
+        {0, "Cópia\nLendo\nLendo 7%\nUm texto comprido\nUm texto comprido 19%\na?b 20%\n"},
+    };
+    for (const auto& c : casos) {
+        TConversaEscrita conversa;
+        conversa.Colunas = c.Colunas;
+        TToolkitConsole toolkit(conversa);
+        TFormulario f;
+        f.SetTitulo(u"Cópia");
+        auto& barra = f.Adicionar<TProgresso>();
+        barra.SetTexto(u"Lendo");
+        auto exibicao = toolkit.Exibir(f);
+        const auto mostrar = [&](double APercentual, std::u16string_view ATexto) {
+            barra.SetPercentual(APercentual);
+            barra.SetTexto(ATexto);
+            toolkit.ProcessarMensagens();
+            toolkit.ProcessarMensagens();  // nothing new
+        };
+        mostrar(7.9, u"Lendo");
+        mostrar(-1, u"Um texto comprido");
+        mostrar(19, u"Um texto comprido");
+        mostrar(20,
+                u"a\x1B"
+                u"b");
+        exibicao.reset();
+        toolkit.ProcessarMensagens();
+        EXPECT_EQ(conversa.Escrito, c.Esperado);
+        EXPECT_EQ(f.GetJanela(), nullptr);
+    }
 }
 
 TEST(Console, OpcoesChecagemETexto) {

@@ -84,7 +84,8 @@ void Juntar(HWND APai, HWND AJanela, bool ARolado, int APixels, std::vector<TNat
         const bool vista = classe == L"TOryVistaRolavel";
         if (vista) Juntar(filho, AJanela, true, APixels, ANativos);
         const bool botao = classe == L"Button";
-        if (vista || (botao && (estilo & BS_TYPEMASK) == BS_GROUPBOX) || (classe == L"Static" && estilo & SS_ICON))
+        if (vista || classe == L"msctls_progress32" || (botao && (estilo & BS_TYPEMASK) == BS_GROUPBOX) ||
+            (classe == L"Static" && estilo & SS_ICON))
             continue;
         TNativo nativo;
         nativo.Texto = TUsuarioWin32::Texto(filho);

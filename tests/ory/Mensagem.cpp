@@ -1,3 +1,4 @@
+#include "mensagem/Andamento.hpp"
 #include "ory/Apoio.hpp"
 #include "ui/ToolkitRoteirizado.hpp"
 
@@ -105,6 +106,29 @@ TEST(Mensagem, LembraARespostaEEsquece) {
     EXPECT_EQ(toolkit.Titulos.size(), 1U);
     EXPECT_EQ(Rodar({"mensagem", "--esquecer", "ç"}), (TRodada{0, "", ""}));
     EXPECT_EQ(Rodar(pergunta).Status, 5) << "asked again";
+}
+
+TEST(Mensagem, AndamentoPelaEntrada) {
+    const std::pair<const char*, TLinhaDeAndamento> linhas[] = {
+        {"42", {42, {}}},
+        {"42%", {42, {}}},
+        {"42.5 dois textos\r", {42.5, "dois textos"}},
+        {"42,5 ", {42.5, ""}},
+        {"texto", {{}, "texto"}},
+        {"101 dálmatas", {{}, "101 dálmatas"}},
+        {"-1", {{}, "-1"}},
+        {"nan", {{}, "nan"}},
+        {"3arquivos", {{}, "3arquivos"}},
+        {"", {}},
+    };
+    for (const auto& [linha, esperada] : linhas) EXPECT_EQ(LerLinhaDeAndamento(linha), esperada) << linha;
+
+    TToolkitRoteirizado toolkit;
+    const std::vector<std::string> argumentos{"mensagem", "--andamento", "Copiando"};
+    EXPECT_EQ(Rodar(argumentos, "10\n20 b\nc"), (TRodada{0, "", ""})) << "the input ends";
+    EXPECT_EQ(Rodar(argumentos), (TRodada{0, "", ""}));
+    toolkit.AoProcessar = [&] { Teclar(*toolkit.Exibido, 27); };
+    EXPECT_EQ(Rodar(argumentos, std::string(1'000'000, '\n')), (TRodada{3, "", ""})) << "cancelled, read no further";
 }
 
 // Without a screen and a terminal a message is told, and a question has a status of its own.

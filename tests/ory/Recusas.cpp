@@ -70,6 +70,8 @@ TEST(Recusas, TerminamComUmaFraseEStatus2) {
          "valor inválido: Could not convert: --fechar-em = -1; veja ory --ajuda"},
         {{"mensagem", "?", "--lembrar", "c", "--caixa", "x"},
          "--lembrar não combina com --opcao, --caixa, --detalhe, --valor nem arquivos e pastas"},
+        {{"mensagem", "--andamento", "--botao", "ok"},
+         "--andamento só combina com TEXTO, --titulo, --dono e --na-frente"},
         {{"mensagem", "?", "--dono", "0x12z"}, "--dono espera o número de uma janela, veio 0x12z"},
         {{"mensagem", "?", "--dono", "0x12"}, "--dono não é possível neste ambiente"},
         {{"mensagem", "?", "--na-frente"}, "--na-frente não é possível neste ambiente"},

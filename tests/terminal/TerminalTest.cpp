@@ -115,6 +115,18 @@ TEST(Terminal, RespostasDigitadas) {
     }
 }
 
+// The person at the terminal types the lines that another program would send.
+TEST(Terminal, OAndamentoReescreveUmaLinha) {
+    const std::string texto = "um texto comprido que não cabe inteiro em quarenta colunas de jeito nenhum";
+    const TDialogo dialogo = Conversar({"mensagem", "--andamento", "--titulo", "Cópia", "Copiando"},
+                                       "10\n42 " + texto + "\n\x1B[2J\n\x04", 40);
+    EXPECT_EQ(dialogo.Situacao, 0) << dialogo.Tela;
+    EXPECT_EQ(dialogo.Saida, "");
+    EXPECT_NE(dialogo.Tela.find("Cópia\r\n\rCopiando"), std::string::npos) << dialogo.Tela;
+    EXPECT_NE(dialogo.Tela.find("\rCopiando 10%"), std::string::npos) << dialogo.Tela;
+    EXPECT_NE(dialogo.Tela.find("\r" + texto.substr(0, 33) + "... 42%"), std::string::npos) << dialogo.Tela;
+}
+
 TEST(Terminal, NenhumaLinhaPassaDaLarguraENenhumaPalavraSeParte) {
     std::string longa =
         "Esta mensagem, comprida, tem acentuação e passa de qualquer largura que um terminal costuma ter: ";

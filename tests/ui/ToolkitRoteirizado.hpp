@@ -29,6 +29,8 @@ public:
     std::deque<TPasso> Roteiro;
     std::vector<std::u16string> Titulos;  ///< of every form shown
     int MensagensProcessadas = 0;
+    std::function<void()> AoProcessar;
+    TFormulario* Exibido = nullptr;  ///< shown without a run of its own
     std::map<std::uintptr_t, std::pair<int, std::function<void()>>> Temporizadores;
     std::vector<TPedidoDeCaminho> Pedidos;  ///< of the pickers
     std::optional<std::u16string> Escolha;  ///< answer of the pickers
@@ -61,7 +63,14 @@ public:
         AFormulario.Fechar();
         return AFormulario.GetModalResult();
     }
-    void ProcessarMensagens() override { ++MensagensProcessadas; }
+    void ProcessarMensagens() override {
+        ++MensagensProcessadas;
+        if (AoProcessar) AoProcessar();
+    }
+    std::shared_ptr<void> Exibir(TFormulario& AFormulario) override {
+        Exibido = &AFormulario;
+        return std::make_shared<TJanelaVazia>(AFormulario);
+    }
     bool PodePerguntar() const override { return HaQuemResponda; }
     TTamanho MedirTexto(std::u16string_view ATexto, int ALarguraMaxima) const override {
         TTamanho tamanho{0, CAlturaLinha};

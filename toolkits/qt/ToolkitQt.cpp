@@ -6,6 +6,7 @@
 #include "toolkits/qt/interno/AplicacaoQt.hpp"
 #include "toolkits/qt/interno/DonaQt.hpp"
 #include "toolkits/qt/interno/EncaixeQt.hpp"
+#include "toolkits/qt/interno/ExibicaoQt.hpp"
 #include "toolkits/qt/interno/GuardaQt.hpp"
 #include "toolkits/qt/interno/JanelaQt.hpp"
 #include "toolkits/qt/interno/SeletorQt.hpp"
@@ -63,6 +64,11 @@ int TToolkitQt::ExecutarModal(TFormulario& AFormulario) {
     }
     guarda.Relancar();
     return AFormulario.GetModalResult();
+}
+
+std::shared_ptr<void> TToolkitQt::Exibir(TFormulario& AFormulario) {
+    Exigir();
+    return std::make_shared<TExibicaoQt>(AFormulario);
 }
 
 void TToolkitQt::ProcessarMensagens() {

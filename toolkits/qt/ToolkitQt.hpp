@@ -37,6 +37,7 @@ public:
     bool EhThreadDaInterface() const override;
     int ExecutarModal(TFormulario& AFormulario) override;
     void ProcessarMensagens() override;
+    std::shared_ptr<void> Exibir(TFormulario& AFormulario) override;
     std::shared_ptr<void> DesabilitarJanelas() override;
     /// On X11.
     TAtendimento SetJanelaDona(std::uintptr_t AJanela) override;

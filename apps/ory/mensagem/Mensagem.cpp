@@ -4,6 +4,7 @@
 #include "oryutils/ui/UnOryUtilsDialogs.hpp"
 
 #include "Opcoes.hpp"
+#include "mensagem/Andamento.hpp"
 
 #include <algorithm>
 #include <array>
@@ -134,6 +135,9 @@ void ConferirCombinacao(const TPedidoDeMensagem& APedido) {
     if (APedido.Perguntar && (!APedido.Botoes.empty() || !APedido.Tipo.empty() || APedido.FecharEm > 0))
         throw EFalha("--valor não combina com --botao, --tipo nem --fechar-em");
     ConferirPedidos(APedido, variantes);
+    const bool sozinho = variantes + APedido.Caminhos.ContarPedidos() == 0 && APedido.Botoes.empty() &&
+                         APedido.Tipo.empty() && APedido.FecharEm == 0 && APedido.Lembranca.Lembrar.empty();
+    if (APedido.Andamento && !sozinho) throw EFalha("--andamento só combina com TEXTO, --titulo, --dono e --na-frente");
     if (!APedido.Lembranca.Lembrar.empty() && variantes + APedido.Caminhos.ContarPedidos() > 0)
         throw EFalha("--lembrar não combina com --opcao, --caixa, --detalhe, --valor nem arquivos e pastas");
     if (!APedido.Opcoes.empty() && APedido.OpcaoPadrao > APedido.Opcoes.size())
@@ -184,6 +188,9 @@ void DescreverMensagem(TOpcoes AComando, TPedidoDeMensagem& APedido) {
     AComando.Valor("--fechar-em", APedido.FecharEm, "segundos até fechar sem resposta");
     AComando.Marca("--mostrar-tempo", APedido.MostrarTempo,
                    "conta os segundos no botão padrão; a primeira tecla ou clique para a contagem");
+    AComando.Marca("--andamento", APedido.Andamento,
+                   "mostra o andamento de um trabalho, lido da entrada: linhas \"42\", \"42 texto\" ou \"texto\",\n"
+                   "de 0 a 100; fecha no fim da entrada");
     AComando.Valor("--dono", APedido.Janela.Dona,
                    "número da janela dona da mensagem, de qualquer programa (X11, como em $WINDOWID, e Windows)");
     AComando.Marca("--na-frente", APedido.Janela.NaFrente, "na frente das janelas de todos os programas");
@@ -195,7 +202,8 @@ void DescreverMensagem(TOpcoes AComando, TPedidoDeMensagem& APedido) {
         "e não há botão cancelar), e com --opcao mais uma com a opção (vazia, ou 0 com --indice, se nenhuma),\n"
         "com --caixa mais uma com 1 ou 0. Um texto de várias linhas sai em uma só.\n"
         "Com --valor: uma linha com o texto digitado, e nada se foi cancelado.\n"
-        "Com --arquivo, --arquivos, --salvar e --pasta: um caminho completo por linha, e nada se foi cancelado.\n\n"
+        "Com --arquivo, --arquivos, --salvar e --pasta: um caminho completo por linha, e nada se foi cancelado.\n"
+        "Com --andamento: nada; cancelado, para de ler a entrada.\n\n"
         "Saída do programa: 0 sim, ok, repetir, ignorar, todos, sim-todos ou fechar; 1 nao, abortar ou nao-todos;\n"
         "2 chamada errada; 3 cancelar ou janela fechada; 4 tempo de --fechar-em esgotado;\n"
         "5 não há tela nem terminal para perguntar (nada sai; uma mensagem de um só botão não pergunta).\n\n"
@@ -203,13 +211,17 @@ void DescreverMensagem(TOpcoes AComando, TPedidoDeMensagem& APedido) {
         "  ory mensagem --tipo confirmacao \"Apagar os arquivos antigos?\" --padrao nao && apagar.sh\n"
         "  ory mensagem \"Que filial?\" --opcao Matriz --opcao \"Filial 2\" --botao ok --botao cancelar\n"
         "  ory mensagem \"Número do lote:\" --valor \"\"\n"
-        "  ory mensagem --arquivos \"Notas a enviar\" --filtro \"Notas=*.xml\" --pasta-inicial /notas");
+        "  ory mensagem --arquivos \"Notas a enviar\" --filtro \"Notas=*.xml\" --pasta-inicial /notas\n"
+        "  copiar.sh | ory mensagem --andamento --titulo Cópia \"Copiando os arquivos\"");
 }
 
 int MostrarMensagem(const TPedidoDeMensagem& APedido, TAmbiente& AAmbiente) {
     ConferirCombinacao(APedido);
     if (Esquecer(APedido.Lembranca)) return smSim;
     const TJanelaPedida janela(APedido.Janela);
+    if (APedido.Andamento)
+        return MostrarAndamento(APedido.Titulo.empty() ? u"Andamento" : DeUtf8(APedido.Titulo),
+                                JuntarLinhas(APedido.Linhas), AAmbiente);
     if (ExigeResposta(APedido) && !BuscarToolkit().PodePerguntar()) return RecusarSemQuemResponda(AAmbiente);
     if (APedido.Caminhos.ContarPedidos() > 0)
         return PedirCaminhos(APedido.Caminhos, APedido.Titulo.empty() ? JuntarTitulo(APedido.Linhas) : APedido.Titulo,

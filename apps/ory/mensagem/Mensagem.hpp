@@ -28,6 +28,7 @@ struct TPedidoDeMensagem {
     unsigned FecharEm = 0;  // seconds; 0 never
     bool MostrarTempo = false;
     TPedidoDeJanela Janela{};
+    bool Andamento = false;
     TPedidoDeLembranca Lembranca{};
     bool Perguntar = false;
     std::string Valor{};

@@ -2,6 +2,7 @@
 
 #include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/forms/console/DialogoConsole.hpp"
+#include "oryutils/forms/console/ExibicaoConsole.hpp"
 #include "oryutils/forms/console/SeletorConsole.hpp"
 #include "oryutils/forms/console/TextoDoTerminal.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
@@ -22,6 +23,19 @@ int TToolkitConsole::ExecutarModal(TFormulario& AFormulario) {
                                return BuscarEspera();
                            })
         .Executar();
+}
+
+std::shared_ptr<void> TToolkitConsole::Exibir(TFormulario& AFormulario) {
+    const auto exibicao = std::make_shared<TExibicaoConsole>(AFormulario, FConversa);
+    FExibicoes.push_back(exibicao);
+    return exibicao;
+}
+
+void TToolkitConsole::ProcessarMensagens() {
+    DispararTemporizadores();
+    std::erase_if(FExibicoes, [](const auto& e) { return e.expired(); });
+    for (const auto& exibicao : FExibicoes)
+        if (const auto viva = exibicao.lock()) viva->Atualizar();
 }
 
 // Words are moved to the next line whole; one longer than a line stays alone on its own.

@@ -11,6 +11,8 @@
 
 namespace OryUtils {
 
+class TExibicaoConsole;
+
 /// Forms as text, for batches and remote shells: a message is "Aviso: CNPJ inválido. Verifique." on stderr.
 ///
 /// A form whose only question is one button (information, warning, error) is printed and answered at once. Any other
@@ -29,7 +31,9 @@ public:
     const char* GetNome() const noexcept override { return "console"; }
     bool EhThreadDaInterface() const override { return true; }
     int ExecutarModal(TFormulario& AFormulario) override;
-    void ProcessarMensagens() override { DispararTemporizadores(); }
+    void ProcessarMensagens() override;
+    /// As TExibicaoConsole: for forms with a TProgresso.
+    std::shared_ptr<void> Exibir(TFormulario& AFormulario) override;
     bool PodePerguntar() const override { return FConversa.PodeConversar(); }
     /// In cells of a fixed font, 6 by 13.
     TTamanho MedirTexto(std::u16string_view ATexto, int ALarguraMaxima) const override;
@@ -64,6 +68,7 @@ private:
     std::mutex FTrava;
     std::vector<TTemporizador> FTemporizadores;
     std::uintptr_t FUltimoTemporizador = 0;
+    std::vector<std::weak_ptr<TExibicaoConsole>> FExibicoes;  // also under FTrava
 };
 
 }  // namespace OryUtils

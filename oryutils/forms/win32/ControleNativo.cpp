@@ -1,6 +1,7 @@
 #include "oryutils/forms/win32/interno/ControleNativo.hpp"
 
 #include "oryutils/forms/NomeFalado.hpp"
+#include "oryutils/forms/win32/interno/BarraDeProgresso.hpp"
 #include "oryutils/forms/win32/interno/Encaixe.hpp"
 #include "oryutils/forms/win32/interno/TextoNativo.hpp"
 #include "oryutils/forms/win32/interno/VistaRolavel.hpp"
@@ -30,6 +31,7 @@ constexpr TClasseNativa CClasses[] = {
     {L"EDIT",   ES_AUTOHSCROLL | WS_TABSTOP, WS_EX_CLIENTEDGE},
     {L"EDIT",   ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL | WS_VSCROLL | WS_TABSTOP, WS_EX_CLIENTEDGE},
     {L"STATIC", SS_ICON | SS_CENTERIMAGE, 0},
+    {PROGRESS_CLASSW, PBS_SMOOTH, 0},
 };
 // clang-format on
 
@@ -252,6 +254,9 @@ void TControleNativo::AtualizarSelecao() {
         case tcCaixaChecagem:
             ::SendMessageW(FJanela, BM_SETCHECK,
                            static_cast<TCaixaChecagem*>(FModelo)->GetMarcada() ? BST_CHECKED : BST_UNCHECKED, 0);
+            break;
+        case tcProgresso:
+            MostrarPercentual(FJanela, static_cast<TProgresso*>(FModelo)->GetPercentual());
             break;
         case tcCaixaEdicao:
             if (static_cast<TCaixaEdicao*>(FModelo)->GetSelecionarTudo()) ::SendMessageW(FJanela, EM_SETSEL, 0, -1);

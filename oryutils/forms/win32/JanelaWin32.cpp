@@ -165,11 +165,19 @@ int TJanelaWin32::Executar() {
         LerTudo();
     }
     // The windows below answer again by now, so that the activation passes to one of them.
-    if (FJanela) ::DestroyWindow(FJanela);
+    Destruir();
     if (::IsWindow(focoAnterior) && ::IsWindowEnabled(::GetAncestor(focoAnterior, GA_ROOT))) ::SetFocus(focoAnterior);
     if (sair) ::PostQuitMessage(codigoDeSaida);
     if (FExcecao) std::rethrow_exception(FExcecao);
     return FFormulario.GetModalResult();
+}
+
+void TJanelaWin32::RelancarErro() {
+    if (FExcecao) std::rethrow_exception(std::exchange(FExcecao, nullptr));
+}
+
+void TJanelaWin32::Destruir() {
+    if (FJanela) ::DestroyWindow(FJanela);
 }
 
 void TJanelaWin32::LerTudo() {

@@ -52,12 +52,14 @@ void TLacoDeMensagens::Bombear() {
             if (mensagem.message == WM_QUIT) {
                 // The message that ends the program must reach the loops below this one too.
                 ::PostQuitMessage(static_cast<int>(mensagem.wParam));
+                for (TJanelaWin32* janela : Exibidas) janela->Fechar();
                 break;
             }
             Despachar(mensagem);
         }
     }
     if (excecao) std::rethrow_exception(excecao);
+    for (TJanelaWin32* janela : Exibidas) janela->RelancarErro();
 }
 
 HINSTANCE BuscarModulo() noexcept {

@@ -2,6 +2,7 @@
 
 #include "oryutils/forms/win32/interno/DesabilitarJanelas.hpp"
 #include "oryutils/forms/win32/interno/Encaixe.hpp"
+#include "oryutils/forms/win32/interno/Exibicao.hpp"
 #include "oryutils/forms/win32/interno/JanelaWin32.hpp"
 #include "oryutils/forms/win32/interno/LacoDeMensagens.hpp"
 #include "oryutils/forms/win32/interno/Seletores.hpp"
@@ -50,7 +51,7 @@ struct TToolkitWin32::TPartes {
 
 TToolkitWin32::TToolkitWin32(unsigned long AThread, TBuscarTelaWin32 ATelas)
     : FThread(AThread ? AThread : ::GetCurrentThreadId()) {
-    INITCOMMONCONTROLSEX classes{sizeof classes, ICC_STANDARD_CLASSES | ICC_BAR_CLASSES};
+    INITCOMMONCONTROLSEX classes{sizeof classes, ICC_STANDARD_CLASSES | ICC_BAR_CLASSES | ICC_PROGRESS_CLASS};
     ::InitCommonControlsEx(&classes);
     FPartes = std::make_unique<TPartes>(std::move(ATelas));
 }
@@ -77,6 +78,10 @@ bool TToolkitWin32::EhThreadDaInterface() const { return ::GetCurrentThreadId() 
 int TToolkitWin32::ExecutarModal(TFormulario& AFormulario) {
     Interno::TJanelaWin32 janela(AFormulario, FPartes->Laco, FPartes->Telas);
     return janela.Executar();
+}
+
+std::shared_ptr<void> TToolkitWin32::Exibir(TFormulario& AFormulario) {
+    return std::make_shared<Interno::TExibicaoWin32>(AFormulario, FPartes->Laco, FPartes->Telas);
 }
 
 void TToolkitWin32::ProcessarMensagens() { FPartes->Laco.Bombear(); }

@@ -38,6 +38,7 @@ public:
     bool EhThreadDaInterface() const override;
     int ExecutarModal(TFormulario& AFormulario) override;
     void ProcessarMensagens() override;
+    std::shared_ptr<void> Exibir(TFormulario& AFormulario) override;
     std::shared_ptr<void> DesabilitarJanelas() override;
     TAtendimento SetJanelaDona(std::uintptr_t AJanela) override;
     TAtendimento SetNaFrente(bool ANaFrente) override;

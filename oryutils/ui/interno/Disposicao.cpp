@@ -26,12 +26,14 @@ constexpr int CBotoesDoTitulo = 100;  // icon and buttons of a title bar
 // Dialog units.
 constexpr int CMargemApertada = 2;
 constexpr int CAlturaEdicao = 14;
+constexpr int CAlturaProgresso = 8;
 constexpr int CDistanciaPergunta = 3;  // prompt to edit box
 constexpr int CAlturaCaixa = 10;
 constexpr int CAlturaDetalhe = 100;
 
 // Lines of text, and average characters of one line.
 constexpr int CLinhasParaRolar = 3;
+constexpr int CLinhasDoProgresso = 2;
 constexpr int CLetrasPorLinha = 90;
 constexpr int CMenosLetrasPorLinha = 40;
 
@@ -90,7 +92,7 @@ private:
 
     int FMargem = 0, FMargemVertical = 0, FEsquerda = 0, FLadoIcone = 0;
     int FEntreBotoes = 0, FEntreFilas = 0, FDistancia = 0, FAlturaBotao = 0, FAlturaFilas = 0;
-    int FAlturaEdicao = 0, FDistanciaEdicao = 0, FAlturaDetalhe = 0, FFolgaDoFim = 0;
+    int FAlturaEdicao = 0, FAlturaProgresso = 0, FDistanciaEdicao = 0, FAlturaDetalhe = 0, FFolgaDoFim = 0;
     int FLinha = 0, FBordasDoMemorando = 0, FAlturaMemorando = 0;
     bool FCabe = true;
     std::vector<int> FLarguras;
@@ -128,6 +130,10 @@ void TDisposicao::MedirDistancias() {
     FEsquerda = FMargem + (TemIcone() ? FLadoIcone + FMargem : 0);
     if (FPartes.Edicao) {
         FAlturaEdicao = std::max(MedirAltura(tcCaixaEdicao), FUnidades.Vertical(CAlturaEdicao));
+        FDistanciaEdicao = FUnidades.Vertical(CDistanciaPergunta);
+    }
+    if (FPartes.Progresso) {
+        FAlturaProgresso = FUnidades.Vertical(CAlturaProgresso);
         FDistanciaEdicao = FUnidades.Vertical(CDistanciaPergunta);
     }
     FLinha = std::max(1, MedirAltura(tcMemorando, u"M\r\nM") - MedirAltura(tcMemorando));
@@ -191,6 +197,7 @@ int TDisposicao::MedirGrupo() {
 bool TDisposicao::MedirMensagem() {
     int livre = FArea.Altura - 3 * FMargemVertical - FAlturaFilas;
     if (FPartes.Edicao) livre -= FDistanciaEdicao + FAlturaEdicao;
+    if (FPartes.Progresso) livre -= FDistanciaEdicao + FAlturaProgresso;
     if (FPartes.Caixa) livre -= FDistancia + FCaixa.Altura;
     if (FPartes.Detalhe) livre -= FAlturaDetalhe + FMargemVertical;
     int maxima = std::min(std::max(FArea.Largura / 2, CMenosLetrasPorLinha * FUnidades.GetCaractere().Largura),
@@ -199,6 +206,10 @@ bool TDisposicao::MedirMensagem() {
     maxima = std::max(1, std::min(maxima, FArea.Largura - FEsquerda - FMargem));
     const int minima = FBordasDoMemorando + (FNivel == 0 ? CLinhasParaRolar : 1) * FLinha;
     FTexto = MedirTextoLimitado(FToolkit, FPartes.Mensagem->GetTexto(), {maxima, std::max(livre, 1)});
+    if (FPartes.Progresso) {
+        FTexto.Largura = std::max(FTexto.Largura, maxima);
+        FTexto.Altura = std::max(FTexto.Altura, std::min(livre, CLinhasDoProgresso * FUnidades.GetCaractere().Altura));
+    }
     if (FPartes.Grupo) {
         const int menor = MedirGrupo();
         livre -= FDistancia;
@@ -241,6 +252,7 @@ void TDisposicao::MedirCliente() {
     const int mensagem = std::max(FLadoIcone, FCabe ? FTexto.Altura : FAlturaMemorando);
     FCliente.Altura = 3 * FMargemVertical + mensagem + FAlturaFilas;
     if (FPartes.Edicao) FCliente.Altura += FDistanciaEdicao + FAlturaEdicao;
+    if (FPartes.Progresso) FCliente.Altura += FDistanciaEdicao + FAlturaProgresso;
     if (FPartes.Caixa) FCliente.Altura += FCaixa.Altura + FDistancia;
     if (FPartes.Grupo) FCliente.Altura += FGrupo.Altura + FDistancia;
     FPartes.CrescimentoDoDetalhe = FPartes.Detalhe ? FAlturaDetalhe + FMargemVertical : 0;
@@ -278,6 +290,7 @@ void TDisposicao::AplicarMensagem() {
         FFormulario.ColocarAntes(*FPartes.Rolagem, **(mensagem + 1));
     }
     if (!FPartes.Rolagem) return;
+    FPartes.Rolagem->SetTexto(FPartes.Mensagem->GetTexto());
     FPartes.Rolagem->SetRetangulo({FEsquerda, FMargemVertical, FTexto.Largura, FAlturaMemorando});
     FPartes.Rolagem->SetVisivel(!FCabe);
 }
@@ -304,6 +317,11 @@ void TDisposicao::Aplicar() {
     if (FPartes.Edicao) {
         FPartes.Edicao->SetRetangulo({FMargem, y + FDistanciaEdicao, FCliente.Largura - 2 * FMargem, FAlturaEdicao});
         y += FDistanciaEdicao + FAlturaEdicao;
+    }
+    if (FPartes.Progresso) {
+        FPartes.Progresso->SetRetangulo(
+            {FMargem, y + FDistanciaEdicao, FCliente.Largura - 2 * FMargem, FAlturaProgresso});
+        y += FDistanciaEdicao + FAlturaProgresso;
     }
     y += FMargemVertical;
     if (FPartes.Grupo) {

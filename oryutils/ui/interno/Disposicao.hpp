@@ -10,6 +10,7 @@ struct TPartesDoDialogo {
     TRotulo* Mensagem = nullptr;
     TMemorando* Rolagem = nullptr;  ///< stands in for a message that does not fit; created when needed
     TCaixaEdicao* Edicao = nullptr;
+    TProgresso* Progresso = nullptr;  ///< the message above it takes the whole width, and two lines at least
     TGrupoOpcoes* Grupo = nullptr;
     TCaixaChecagem* Caixa = nullptr;
     bool CaixaAbaixo = false;  ///< of the buttons

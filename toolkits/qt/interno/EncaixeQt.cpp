@@ -96,6 +96,7 @@ QSize MedirControleQt(TTipoControle ATipo, const QString& ATexto, int ALarguraMa
             return MedirMemorando(ATexto);
         case tcRotulo:
         case tcIcone:
+        case tcProgresso:
             break;
     }
     return {};

@@ -18,7 +18,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPointer>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
 #include <QStyle>
@@ -30,8 +30,7 @@
 namespace OryUtils {
 namespace {
 
-// Tells the end of a loop by its window from the end of the application.
-constexpr int CAcordado = 0x0AC0;
+constexpr int CMaximoDaBarra = 1000;
 
 QRect DeRetangulo(const TRetangulo& ARetangulo) {
     return {ARetangulo.Left, ARetangulo.Top, ARetangulo.Width, ARetangulo.Height};
@@ -79,36 +78,6 @@ TJanelaQt::~TJanelaQt() {
     GravarMemorandos();
     FFormulario.SetJanela(nullptr);
     FControles.clear();  // what the widgets still tell while they go has no listener
-}
-
-void TJanelaQt::Executar(TGuardaQt& AGuarda) {
-    // Above the host's window, without belonging to it: the host may free that window meanwhile.
-    const QPointer<QWidget> ativa = QApplication::activeWindow();
-    winId();
-    const std::optional<TDonaQt> dona = ativa ? std::nullopt : BuscarDonaQt();
-    if (ativa && ativa->window()->windowHandle()) windowHandle()->setTransientParent(ativa->window()->windowHandle());
-    if (dona) windowHandle()->setTransientParent(dona->Janela.get());
-    FPixelsPorPolegada = qRound(screen()->logicalDotsPerInch());
-    FAreaDaTela = screen()->availableSize();
-    // Later: Qt may be making the window anew for its other screen.
-    connect(windowHandle(), &QWindow::screenChanged, this, &TJanelaQt::ConferirTela, Qt::QueuedConnection);
-    FocarInicial();
-    show();
-    activateWindow();
-    Avisar([this] { FFormulario.OnShow(&FFormulario); });
-    while (FFormulario.GetModalResult() == mrNone && !AGuarda.PossuiErro()) {
-        QEventLoop laco;
-        FLaco = &laco;
-        const bool acordado = laco.exec(QEventLoop::DialogExec) == CAcordado;
-        FLaco = nullptr;
-        if (!acordado) FFormulario.Fechar();  // the application quits
-    }
-    hide();
-    if (ativa && ativa->isVisible()) ativa->activateWindow();
-}
-
-void TJanelaQt::Acordar() {
-    if (FLaco) FLaco->exit(CAcordado);
 }
 
 void TJanelaQt::ResultadoMudou() {
@@ -188,6 +157,11 @@ QWidget* TJanelaQt::Criar(TControleFormulario& AControle) {
             });
             return caixa;
         }
+        case tcProgresso: {
+            auto* barra = new QProgressBar(this);
+            barra->setTextVisible(false);
+            return barra;
+        }
         case tcMemorando:
             break;
     }
@@ -232,6 +206,14 @@ void TJanelaQt::Aplicar(TControleFormulario& AControle, QWidget& AWidget) {
             grupo.Escolher(modelo.GetIndice());
             break;
         }
+        case tcProgresso: {
+            // Between 0 and 0 Qt shows that the work goes on.
+            const double percentual = Como<TProgresso>(AControle).GetPercentual();
+            auto& barra = static_cast<QProgressBar&>(AWidget);
+            barra.setRange(0, percentual < 0 ? 0 : CMaximoDaBarra);
+            barra.setValue(percentual < 0 ? -1 : static_cast<int>(percentual * CMaximoDaBarra / 100));
+            break;
+        }
         case tcCaixaChecagem:
             static_cast<QCheckBox&>(AWidget).setChecked(Como<TCaixaChecagem>(AControle).GetMarcada());
             break;
@@ -269,6 +251,9 @@ void TJanelaQt::AplicarTexto(const TControleFormulario& AControle, QWidget& AWid
             break;
         }
         case tcIcone:
+            break;
+        case tcProgresso:
+            AWidget.setAccessibleName(ParaQt(BuscarNomeFalado(AControle)));
             break;
     }
 }

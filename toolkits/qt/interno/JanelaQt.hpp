@@ -2,11 +2,15 @@
 
 #include "oryutils/forms/Formulario.hpp"
 
+#include "toolkits/qt/interno/DonaQt.hpp"
+
 #include <QAbstractButton>
 #include <QDialog>
 #include <QEventLoop>
+#include <QPointer>
 
 #include <functional>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -22,6 +26,9 @@ public:
 
     /// Shows the window and runs it until the form has a modal result, AGuarda an exception, or the application quits.
     void Executar(TGuardaQt& AGuarda);
+    // For a form without a loop of its own; Executar does both.
+    void Abrir();
+    void Recolher();
     /// Leaves the innermost loop of this window.
     void Acordar();
 
@@ -67,6 +74,8 @@ private:
     // A key that a control leaves alone is offered to its parents as the same event: this tells it from a new one.
     const QEvent* FTeclaTratada = nullptr;
     QEventLoop* FLaco = nullptr;
+    QPointer<QWidget> FAtivaAntes;
+    std::optional<TDonaQt> FDona;
     int FPixelsPorPolegada = 96;
     QSize FAreaDaTela;
     std::vector<TCaixaEdicao*> FSaidas;

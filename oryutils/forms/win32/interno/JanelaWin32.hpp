@@ -37,6 +37,12 @@ public:
     /// Shows the window and runs until the form has a result; raises what a handler raised.
     int Executar();
 
+    // For a form without a loop of its own; Executar does all of it.
+    void Mostrar();
+    void Fechar() { FFormulario.Fechar(); }
+    void RelancarErro();
+    void Destruir();
+
     HWND GetHandle() const noexcept { return FJanela; }
     /// A key on its way to a control of this form: true when it goes no further.
     bool TratarTecla(const MSG& AMensagem);
@@ -61,7 +67,6 @@ private:
     void Posicionar(HWND ADona);
     void ConferirTela();
     void OrdenarTabulacao();
-    void Mostrar();
     void LerTudo();
     void Focar(TControleNativo* AControle);
     void AtualizarPadrao();

@@ -19,6 +19,8 @@ public:
 
     /// The forms shown, innermost last.
     std::vector<TJanelaWin32*> Janelas;
+    /// Those of Janelas that run without a loop of their own.
+    std::vector<TJanelaWin32*> Exibidas;
     /// One place for each running loop, innermost last: it keeps the exception of an action outside of the loop's form.
     std::vector<std::exception_ptr*> Destinos;
     /// Cursor of all forms; null for each window's own.
