@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <string>
 
@@ -11,6 +12,9 @@ void DefinirVariavel(const std::string& ANome, const std::string& AValor);
 
 /// Gives this thread a message to process, where waits are woken by messages.
 void EnviarMensagemAEstaThread();
+
+/// What this process has used of the processor.
+std::chrono::milliseconds BuscarTempoDeProcessador();
 
 /// Waits until somebody creates the file, which the system tells; false when nobody does in half a minute.
 bool EsperarArquivo(const std::filesystem::path& AArquivo);

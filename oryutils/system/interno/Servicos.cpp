@@ -1,5 +1,7 @@
 #include "oryutils/system/interno/Servicos.hpp"
 
+#include "oryutils/runtime/Costura.hpp"
+
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -30,6 +32,9 @@ constexpr std::array CErrosCriacao{
                  u"Nome do serviço duplicado.\r\nO nome de exibição do serviço já existe no gerenciador de serviços do "
                  u"Windows.\r\nVerifique se existe algum serviço com nome ou nome de exibição igual ao definido."},
 };
+
+// A service may wish for no time at all between two questions; the processor is for others meanwhile.
+constexpr std::chrono::milliseconds CMenorRodada{20};
 
 // A manager that goes on for so long about a service whose process is gone will not change its mind.
 constexpr int CSegundosSemProcesso = 5;
@@ -76,12 +81,13 @@ class TCaminhada {
 public:
     TCaminhada(TServico& AServico, TSituacaoServico& ASituacao) : FServico(AServico), FSituacao(ASituacao) {}
 
-    /// Asks again after the time that the service wishes, with messages flowing. False when it does not answer, when
-    /// its check point went backwards (it has ended its way or begun another), and when its process is gone and the
-    /// manager goes on as if it were not.
+    /// Lets the application process its messages and asks again after the time that the service wishes, CMenorRodada at
+    /// least. False when it does not answer, when its check point went backwards (it has ended its way or begun
+    /// another), and when its process is gone and the manager goes on as if it were not.
     bool Avancar() {
         const TSituacaoServico anterior = FSituacao;
-        TOryUtilsSistema::Dormir(static_cast<std::uint32_t>(anterior.EsperaSugerida.count()));
+        CosturaInterface().ProcessarMensagens();
+        TOryUtilsSistema::Dormir(static_cast<std::uint32_t>(std::max(anterior.EsperaSugerida, CMenorRodada).count()));
         const auto nova = FServico.Consultar();
         if (!nova) return false;
         FSituacao = *nova;

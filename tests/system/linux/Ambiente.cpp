@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdlib>
+#include <ctime>
 #include <poll.h>
 #include <sys/inotify.h>
 #include <unistd.h>
@@ -21,6 +22,12 @@ void DefinirVariavel(const std::string& ANome, const std::string& AValor) {
 }
 
 void EnviarMensagemAEstaThread() {}
+
+std::chrono::milliseconds BuscarTempoDeProcessador() {
+    timespec gasto{};
+    ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &gasto);
+    return std::chrono::milliseconds(gasto.tv_sec * 1000 + gasto.tv_nsec / 1'000'000);
+}
 
 bool EsperarArquivo(const std::filesystem::path& AArquivo) {
     const int avisos = ::inotify_init1(IN_CLOEXEC);

@@ -17,6 +17,16 @@ void DefinirVariavel(const std::string& ANome, const std::string& AValor) {
 
 void EnviarMensagemAEstaThread() { ::PostThreadMessageW(::GetCurrentThreadId(), WM_NULL, 0, 0); }
 
+std::chrono::milliseconds BuscarTempoDeProcessador() {
+    FILETIME inicio, fim, nucleo, usuario;
+    ::GetProcessTimes(::GetCurrentProcess(), &inicio, &fim, &nucleo, &usuario);
+    const auto ler = [](const FILETIME& AInstante) {
+        return std::chrono::duration<std::int64_t, std::ratio<1, 10'000'000>>(
+            static_cast<std::int64_t>(AInstante.dwHighDateTime) << 32 | AInstante.dwLowDateTime);
+    };
+    return std::chrono::duration_cast<std::chrono::milliseconds>(ler(nucleo) + ler(usuario));
+}
+
 bool EsperarArquivo(const std::filesystem::path& AArquivo) {
     const HANDLE avisos =
         ::FindFirstChangeNotificationW(AArquivo.parent_path().c_str(), FALSE, FILE_NOTIFY_CHANGE_FILE_NAME);
