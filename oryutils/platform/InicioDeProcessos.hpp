@@ -43,8 +43,9 @@ struct TPedidoDeExecucao {
 std::optional<TProcessoIniciado> ExecutarPeloSistema(const TPedidoDeExecucao& APedido);
 
 /// Waits for the end of a process, at most ALimite.
-/// AAcordar  true: the wait also ends when the application has messages, with epMensagens. Linux cannot tell that there
-///           are some, so the wait ends every few milliseconds there.
+/// AAcordar  true: the wait also ends, with epMensagens, when the application may have messages to process: every few
+///           milliseconds, on Windows sooner for a message, but not at once, so that messages that follow one another
+///           leave the processor free.
 TEspera EsperarProcesso(const TProcessoIniciado& AProcesso, std::chrono::milliseconds ALimite, bool AAcordar);
 /// Waits for messages of the application, at most ALimite: epMensagens (see above) or epTempo.
 TEspera EsperarMensagens(std::chrono::milliseconds ALimite);
@@ -61,7 +62,7 @@ public:
     TProcessoCapturado& operator=(const TProcessoCapturado&) = delete;
 
     /// Waits at most ALimite for output and reads what is there, at most ADestino.size() bytes.
-    /// Result: lcBytes with ALidos set; lcNada when nothing came or messages wait; lcFim when no writer is left.
+    /// Result: lcBytes with ALidos set; lcNada when nothing came; lcFim when no writer is left.
     TLeitura Ler(std::span<char> ADestino, std::chrono::milliseconds ALimite, std::size_t& ALidos) noexcept;
     const TProcessoIniciado& GetProcesso() const noexcept { return FProcesso; }
 
@@ -70,7 +71,8 @@ private:
         : FProcesso(std::move(AProcesso)), FLeitura(ALeitura) {}
 
     TProcessoIniciado FProcesso;
-    std::intptr_t FLeitura;  // read end of the pipe
+    std::intptr_t FLeitura;                   // read end of the pipe
+    std::chrono::milliseconds FIntervalo{1};  // (Windows) between two looks at the pipe
 };
 
 }  // namespace OryUtils::Interno

@@ -6,8 +6,7 @@
 namespace OryUtils {
 namespace {
 
-/// Messages end each single wait; ALimite holds for all of them together. A message that nobody takes from the queue
-/// ends every wait at once.
+/// Messages end each single wait; ALimite holds for all of them together.
 void EsperarComMensagens(const Interno::TProcessoIniciado& AProcesso, std::chrono::milliseconds ALimite) {
     const Interno::TPrazo prazo(ALimite);
     std::chrono::milliseconds resta = ALimite;

@@ -116,6 +116,23 @@ TEST_F(FormsWin32, ProcessarMensagensEntregaOQueEspera) {
     EXPECT_EQ(mensagem.wParam, 7u);
 }
 
+TEST_F(FormsWin32, ProcessarMensagensVoltaQuandoCadaMensagemTrazOutra) {
+    constexpr int CMuitas = 10'000;
+    static int restam;
+    restam = CMuitas;
+    const THospede hospede;
+    ::SetWindowLongPtrW(hospede.Janela, GWLP_WNDPROC,
+                        reinterpret_cast<LONG_PTR>(+[](HWND AJanela, UINT AMensagem, WPARAM A, LPARAM B) -> LRESULT {
+                            if (AMensagem == WM_APP && --restam > 0) ::PostMessageW(AJanela, WM_APP, 0, 0);
+                            return ::DefWindowProcW(AJanela, AMensagem, A, B);
+                        }));
+    ::PostMessageW(hospede.Janela, WM_APP, 0, 0);
+    FToolkit.ProcessarMensagens();
+    EXPECT_LT(restam, CMuitas) << "the first ones are processed";
+    EXPECT_GT(restam, 0) << "who waits is called again";
+    while (restam > 0) FToolkit.ProcessarMensagens();
+}
+
 TEST_F(FormsWin32, OFimDoProgramaEncerraTodosOsLacos) {
     TFormularioCompleto fora(u"Fora"), dentro(u"Dentro");
     int resultadoDentro = -1;

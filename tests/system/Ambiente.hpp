@@ -12,6 +12,10 @@ void DefinirVariavel(const std::string& ANome, const std::string& AValor);
 
 /// Gives this thread a message to process, where waits are woken by messages.
 void EnviarMensagemAEstaThread();
+/// Tells this thread to end its message loop; who takes that message off puts it there again for the host's own loop.
+void EnviarFimDoPrograma();
+/// Takes all messages of this thread off.
+void RetirarMensagens();
 
 /// What this process has used of the processor.
 std::chrono::milliseconds BuscarTempoDeProcessador();

@@ -50,19 +50,44 @@ std::unique_ptr<TGerenciadorServicos> AbrirSemPressa(std::u16string_view, TAcess
     return std::make_unique<TGerenciadorSemPressa>();
 }
 
+bool EsperarComando() { return ExecutarComandoComRetorno(Testes::Comando(u"viver 2000")).empty(); }
+
+bool EsperarElevado() {
+    TOryUtilsSistema sistema;
+    sistema.SetAtivarExecucaoComandosModoAdministrador(false);
+    return sistema.ExecutouComandoModoAdministrador(nullptr, Testes::ProgramaAuxiliar().u16string(), u"viver 2000", u"",
+                                                    true);
+}
+
 TEST(Esperas, OProcessadorDescansaEAsMensagensFluem) {
-    const std::pair<const char*, bool (*)()> casos[] = {
+    constexpr std::pair<const char*, bool (*)()> CEsperas[] = {
+        {"command", EsperarComando},
+        {"elevated call", EsperarElevado},
         {"start of a service", [] { return IniciarServico(AbrirSemPressa, {}, {}); }},
         {"stop of a service", [] { return PararServico(AbrirSemPressa, {}, {}, 60); }},
     };
-    for (const auto& [nome, esperar] : casos) {
-        int vezes = 0;
-        const Testes::TAoProcessarMensagens aoProcessar([&] { ++vezes; });
-        const milliseconds antes = ::Testes::BuscarTempoDeProcessador();
-        EXPECT_TRUE(esperar()) << nome;
-        EXPECT_LT((::Testes::BuscarTempoDeProcessador() - antes).count(), 100) << nome;
-        EXPECT_GT(vezes, 20) << nome;
-    }
+    // What is there again whenever the messages have been processed.
+    constexpr std::pair<const char*, void (*)()> CMensagens[] = {
+        {"no message", [] {}},
+        {"the end of the program", ::Testes::EnviarFimDoPrograma},
+        {"another message", ::Testes::EnviarMensagemAEstaThread},
+    };
+    for (const auto& [espera, esperar] : CEsperas)
+        for (const auto& [mensagem, enviar] : CMensagens) {
+            int vezes = 0;
+            const Testes::TAoProcessarMensagens aoProcessar([&] {
+                ++vezes;
+                ::Testes::RetirarMensagens();
+                enviar();
+            });
+            enviar();
+            const milliseconds antes = ::Testes::BuscarTempoDeProcessador();
+            EXPECT_TRUE(esperar()) << espera;
+            const milliseconds gasto = ::Testes::BuscarTempoDeProcessador() - antes;
+            ::Testes::RetirarMensagens();
+            EXPECT_LT(gasto.count(), 100) << espera << ", " << mensagem;
+            EXPECT_GT(vezes, 10) << espera << ", " << mensagem;
+        }
 }
 
 }  // namespace

@@ -44,11 +44,14 @@ void TLacoDeMensagens::Despachar(MSG& AMensagem) {
 }
 
 void TLacoDeMensagens::Bombear() {
+    // A window may answer each message by another one to itself: the queue is then never empty.
+    constexpr int CMaximo = 100;
     std::exception_ptr excecao;
     {
         const TNaPilha<std::exception_ptr*> destino(Destinos, &excecao);
         MSG mensagem;
-        while (!excecao && ::PeekMessageW(&mensagem, nullptr, 0, 0, PM_REMOVE)) {
+        for (int vez = 0; vez < CMaximo && !excecao; ++vez) {
+            if (!::PeekMessageW(&mensagem, nullptr, 0, 0, PM_REMOVE)) break;
             if (mensagem.message == WM_QUIT) {
                 // The message that ends the program must reach the loops below this one too.
                 ::PostQuitMessage(static_cast<int>(mensagem.wParam));

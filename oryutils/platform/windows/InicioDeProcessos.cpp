@@ -9,15 +9,31 @@
 namespace OryUtils::Interno {
 namespace {
 
-// A pipe has no signal to wait on together with messages: it is looked at so often, more often when output flows.
-constexpr DWORD CMaiorIntervalo = 10;
+// A pipe has no signal to wait on: it is looked at so often, more often when output flows.
+constexpr std::chrono::milliseconds CMenorIntervalo{1}, CMaiorIntervalo{10};
 
-/// Waits for a handle or a message. A message that is told is an old one from then on, also where the system would wake
-/// every further wait by it: an application that leaves it in the queue must not keep the processor busy.
+// The application processes its messages between two waits, and the next wait takes no notice of them for this long:
+// messages that bring others, or that nobody takes, must not keep the processor busy.
+constexpr DWORD CDescanso = 10;
+// A wait with messages ends this soon also without any: who processes messages may have left some in the queue, which
+// would not wake a wait again.
+constexpr DWORD CFatia = 20;
+
+DWORD EsperarAlcas(DWORD AQuantidade, const HANDLE* AAlca, DWORD ALimite) {
+    if (AQuantidade > 0) return ::WaitForMultipleObjects(AQuantidade, AAlca, FALSE, ALimite);
+    ::Sleep(ALimite);
+    return WAIT_TIMEOUT;
+}
+
+/// Waits for a handle or a message, at most ALimite.
+/// Result: that of the system's wait; WAIT_OBJECT_0 + AQuantidade for a message, and after CFatia without one.
 DWORD EsperarAlcaOuMensagem(DWORD AQuantidade, const HANDLE* AAlca, DWORD ALimite) {
-    const DWORD situacao = ::MsgWaitForMultipleObjects(AQuantidade, AAlca, FALSE, ALimite, QS_ALLINPUT);
-    if (situacao == WAIT_OBJECT_0 + AQuantidade) ::GetQueueStatus(QS_ALLINPUT);
-    return situacao;
+    const DWORD situacao = EsperarAlcas(AQuantidade, AAlca, std::min(CDescanso, ALimite));
+    if (situacao != WAIT_TIMEOUT || ALimite <= CDescanso) return situacao;
+    const DWORD resto = ALimite - CDescanso;
+    const DWORD acordado =
+        ::MsgWaitForMultipleObjects(AQuantidade, AAlca, FALSE, std::min(CFatia - CDescanso, resto), QS_ALLINPUT);
+    return acordado == WAIT_TIMEOUT && resto > CFatia - CDescanso ? WAIT_OBJECT_0 + AQuantidade : acordado;
 }
 
 HANDLE AlcaDe(const TAlcaDeProcesso& AAlca) { return reinterpret_cast<HANDLE>(AAlca.Get()); }
@@ -115,17 +131,18 @@ TProcessoCapturado::TLeitura TProcessoCapturado::Ler(std::span<char> ADestino, s
     const auto leitura = reinterpret_cast<HANDLE>(FLeitura);
     HANDLE processo = AlcaDe(FProcesso.Processo);
     DWORD prontos = 0;
-    DWORD intervalo = 1;
-    for (DWORD passou = 0;; passou += intervalo, intervalo = std::min(intervalo * 2, CMaiorIntervalo)) {
+    std::chrono::milliseconds passou{0};
+    while (true) {
         if (!::PeekNamedPipe(leitura, nullptr, 0, nullptr, &prontos, nullptr)) return lcFim;
         if (prontos > 0) break;
-        if (passou >= ALimite.count()) return lcNada;
+        if (passou >= ALimite) return lcNada;
         // The end of the process is most often the end of the output: it is not slept through.
         const bool vivo = ::WaitForSingleObject(processo, 0) == WAIT_TIMEOUT;
-        const DWORD quantidade = vivo ? 1 : 0;
-        const DWORD situacao = EsperarAlcaOuMensagem(quantidade, &processo, intervalo);
-        if (situacao == WAIT_OBJECT_0 + quantidade) return lcNada;
+        EsperarAlcas(vivo ? 1 : 0, &processo, static_cast<DWORD>(FIntervalo.count()));
+        passou += FIntervalo;
+        FIntervalo = std::min(FIntervalo * 2, CMaiorIntervalo);
     }
+    FIntervalo = CMenorIntervalo;
     DWORD lidos = 0;
     const DWORD maximo = static_cast<DWORD>(std::min<std::size_t>(ADestino.size(), prontos));
     if (!::ReadFile(leitura, ADestino.data(), maximo, &lidos, nullptr) || lidos == 0) return lcFim;

@@ -22,6 +22,8 @@ void DefinirVariavel(const std::string& ANome, const std::string& AValor) {
 }
 
 void EnviarMensagemAEstaThread() {}
+void EnviarFimDoPrograma() {}
+void RetirarMensagens() {}
 
 std::chrono::milliseconds BuscarTempoDeProcessador() {
     timespec gasto{};

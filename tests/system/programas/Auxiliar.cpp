@@ -6,12 +6,14 @@
 //   morrer              prints a word and is killed
 //   criar NOME          makes a file
 //   parar A B           prints "a", makes the file A, waits until the file B exists, prints "b"
+//   viver N             lives for so many milliseconds
 //   dormir NOME         makes a file when it is up and lives for a minute
 // While the variable ORY_PROGRAMAS_FALSOS names a folder it stands for a command of the system, under whatever name it
 // was copied to: it writes how it was called, a line each time and "|" between the arguments, to "chamadas" in that
 // folder, and prints the file "<name>.<how often called>".
 #include "Sistema.hpp"
 
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
@@ -82,6 +84,9 @@ int main(int AQuantidade, char** AArgumentos) {
         std::ofstream(argumentos[1]) << "feito";
         while (!Existe(argumentos[2])) Sistema::EsperarUmPouco();
         Escrever("b\n");
+    } else if (acao == "viver") {
+        const auto fim = std::chrono::steady_clock::now() + std::chrono::milliseconds(std::stoi(argumentos[1]));
+        while (std::chrono::steady_clock::now() < fim) Sistema::EsperarUmPouco();
     } else if (acao == "dormir") {
         std::ofstream(argumentos[1]) << "feito";
         for (const std::time_t fim = std::time(nullptr) + 60; std::time(nullptr) < fim;) Sistema::EsperarUmPouco();

@@ -17,6 +17,13 @@ void DefinirVariavel(const std::string& ANome, const std::string& AValor) {
 
 void EnviarMensagemAEstaThread() { ::PostThreadMessageW(::GetCurrentThreadId(), WM_NULL, 0, 0); }
 
+void EnviarFimDoPrograma() { ::PostQuitMessage(0); }
+
+void RetirarMensagens() {
+    MSG mensagem;
+    while (::PeekMessageW(&mensagem, nullptr, 0, 0, PM_REMOVE)) continue;
+}
+
 std::chrono::milliseconds BuscarTempoDeProcessador() {
     FILETIME inicio, fim, nucleo, usuario;
     ::GetProcessTimes(::GetCurrentProcess(), &inicio, &fim, &nucleo, &usuario);
