@@ -31,8 +31,9 @@ public:
     // Commands.
 
     /// Runs a console command hidden, without a shell, and appends what it prints to ASaida, standard error included;
-    /// the command reads the caller's standard input. Returns when the command has ended and nobody, a program that it
-    /// left behind included, can write any more. A command that cannot be started leaves ASaida as it is.
+    /// the command reads the caller's standard input and inherits nothing else. Returns when the command has ended and
+    /// nobody, a program that it left behind included, can write any more. A command that cannot be started leaves
+    /// ASaida as it is.
     ///
     /// The output is taken in chunks of 255 bytes, the last one before a pause or the end being shorter. Each chunk is
     /// cut at its first zero byte, turned into text by itself (the ANSI code page of Windows, the code set of the

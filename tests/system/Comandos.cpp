@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <cstdio>
 
 namespace OryUtils {
 namespace {
@@ -45,6 +46,31 @@ TEST(Comandos, CadaSaidaComoOComandoATermina) {
     const std::u16string herdado = ExecutarComandoComRetorno(Comando(u"herdar"));
     EXPECT_TRUE(herdado.starts_with(u"pai")) << "of the command itself";
     EXPECT_TRUE(herdado.ends_with(u"filho")) << "printed after the command had ended, by what inherited the output";
+}
+
+TEST(Comandos, OComandoHerdaAEntradaESoEla) {
+    // The port is free again while the command lives.
+    const TPastaTemporaria pasta;
+    auto escuta = std::make_unique<::Testes::TEscuta>(0);
+    const std::uint16_t porta = escuta->GetPorta();
+    ASSERT_NE(porta, 0);
+    std::uint16_t novaPorta = 0;
+    {
+        const TAoProcessarMensagens aoProcessar([&] {
+            if (!escuta || !std::filesystem::exists(pasta / "a")) return;
+            escuta.reset();
+            novaPorta = ::Testes::TEscuta(porta).GetPorta();
+            std::ofstream(pasta / "siga") << "sim";
+        });
+        Executar(Comando(u"parar " + EntreAspas(pasta / "a") + u" " + EntreAspas(pasta / "siga")));
+    }
+    EXPECT_EQ(novaPorta, porta);
+
+    pasta.Gravar(u"entrada", "lida");
+    ASSERT_TRUE(std::freopen((pasta / "entrada").string().c_str(), "r", stdin));
+    EXPECT_EQ(Executar(Comando(u"ler")), TLinhas{u"lida"});
+    ASSERT_TRUE(std::freopen(::Testes::CArquivoVazio, "r", stdin));
+    EXPECT_EQ(Executar(Comando(u"ler")), TLinhas{});
 }
 
 TEST(Comandos, OQueNaoIniciaDeixaALista) {

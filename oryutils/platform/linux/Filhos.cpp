@@ -63,7 +63,7 @@ public:
             if (descritores[destino] == CNenhumFluxo)
                 ::posix_spawn_file_actions_addopen(&FAcoes, destino, "/dev/null", O_RDWR, 0);
         }
-        if (APedido.FecharDescritores) ::posix_spawn_file_actions_addclosefrom_np(&FAcoes, 3);
+        ::posix_spawn_file_actions_addclosefrom_np(&FAcoes, 3);
         if (!APedido.Pasta.empty()) ::posix_spawn_file_actions_addchdir_np(&FAcoes, APedido.Pasta.c_str());
     }
     ~TAcoes() { ::posix_spawn_file_actions_destroy(&FAcoes); }

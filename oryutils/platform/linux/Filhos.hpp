@@ -17,11 +17,11 @@ struct TPedidoDeFilho {
     int Entrada = -1;                       // descriptors to become 0, 1 and 2; -1 keeps the caller's; or CNenhumFluxo
     int Saida = -1;
     int Erro = -1;
-    bool SessaoPropria = true;       // without it, the caller's group and terminal
-    bool FecharDescritores = false;  // nothing beyond 0, 1 and 2 is inherited
+    bool SessaoPropria = true;  // without it, the caller's group and terminal
 };
 
-/// Starts a child without copying the memory of this process (posix_spawn). The result is its number, or the negated
+/// Starts a child without copying the memory of this process (posix_spawn). It inherits the descriptors 0, 1 and 2 and
+/// no others. The result is its number, or the negated
 /// error of the system when it cannot be started. EsperarFilho clears the ended child away; ColherFilhos does so for
 /// children that nobody waits for.
 pid_t GerarFilho(const TPedidoDeFilho& APedido);

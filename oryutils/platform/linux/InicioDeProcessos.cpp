@@ -43,7 +43,7 @@ TProcessoIniciado Iniciado(pid_t APid) {
 }  // namespace
 
 std::optional<TProcessoIniciado> CriarProcesso(std::u16string_view ALinhaDeComando, bool AExibir) {
-    TPedidoDeFilho pedido{.Argumentos = SepararComando(ALinhaDeComando), .FecharDescritores = true};
+    TPedidoDeFilho pedido{.Argumentos = SepararComando(ALinhaDeComando)};
     pedido.Entrada = CNenhumFluxo;
     if (!AExibir) pedido.Saida = pedido.Erro = CNenhumFluxo;
     const pid_t pid = GerarFilho(pedido);
@@ -54,8 +54,7 @@ std::optional<TProcessoIniciado> CriarProcesso(std::u16string_view ALinhaDeComan
 std::optional<TProcessoIniciado> ExecutarPeloSistema(const TPedidoDeExecucao& APedido) {
     TPedidoDeFilho pedido{.Argumentos = ConverterArgumentos(SepararArgumentos(APedido.Parametros)),
                           .Pasta = ParaUtf8(APedido.Pasta),
-                          .SessaoPropria = false,
-                          .FecharDescritores = true};
+                          .SessaoPropria = false};
     pedido.Argumentos.insert(pedido.Argumentos.begin(), ParaUtf8(APedido.Aplicacao));
     if (APedido.Elevar && ::geteuid() != 0) {
         const std::vector<std::string> elevador = BuscarElevador(!pedido.Pasta.empty());

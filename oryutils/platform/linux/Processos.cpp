@@ -225,7 +225,7 @@ void AbrirConfiguracaoDeDataHora() {
                                                              {"cinnamon-settings", "calendar"},
                                                              {"time-admin"}}};
     for (const std::vector<std::string>& programa : programas)
-        if (GerarFilho({.Argumentos = programa, .FecharDescritores = true}) > 0) return;
+        if (GerarFilho({.Argumentos = programa}) > 0) return;
 }
 
 }  // namespace OryUtils::Interno

@@ -17,11 +17,8 @@ namespace {
 /// Starts a program that nobody waits for, in a session of its own and away from the streams of this one. The error of
 /// the system; 0 when the program has started.
 int Disparar(std::vector<std::string> AComando) {
-    const pid_t pid = GerarFilho({.Argumentos = std::move(AComando),
-                                  .Entrada = CNenhumFluxo,
-                                  .Saida = CNenhumFluxo,
-                                  .Erro = CNenhumFluxo,
-                                  .FecharDescritores = true});
+    const pid_t pid = GerarFilho(
+        {.Argumentos = std::move(AComando), .Entrada = CNenhumFluxo, .Saida = CNenhumFluxo, .Erro = CNenhumFluxo});
     return pid < 0 ? -pid : 0;
 }
 

@@ -4,7 +4,10 @@
 
 #include <algorithm>
 #include <chrono>
+#include <initializer_list>
+#include <iterator>
 #include <shellapi.h>
+#include <vector>
 
 namespace OryUtils::Interno {
 namespace {
@@ -57,6 +60,43 @@ std::optional<TProcessoIniciado> Criar(std::u16string_view ALinha, STARTUPINFOW&
     return TProcessoIniciado{Assumir(dados.hProcess), Assumir(dados.hThread), dados.dwProcessId, dados.dwThreadId};
 }
 
+struct TFecharAlca {
+    void operator()(HANDLE AAlca) const noexcept { ::CloseHandle(AAlca); }
+};
+using TAlca = std::unique_ptr<void, TFecharAlca>;
+
+/// This program's standard input for a child to inherit; none where there is none.
+TAlca DuplicarEntradaPadrao() {
+    const HANDLE entrada = ::GetStdHandle(STD_INPUT_HANDLE);
+    if (entrada == INVALID_HANDLE_VALUE) return nullptr;
+    HANDLE copia = nullptr;
+    ::DuplicateHandle(::GetCurrentProcess(), entrada, ::GetCurrentProcess(), &copia, 0, TRUE, DUPLICATE_SAME_ACCESS);
+    return TAlca(copia);
+}
+
+/// The handles that a child inherits. It gets no others, whatever is inheritable at that moment, so that threads that
+/// start children at the same time do not meet.
+class TListaDeHeranca {
+public:
+    explicit TListaDeHeranca(std::initializer_list<HANDLE> AAlcas) {
+        std::ranges::copy_if(AAlcas, std::back_inserter(FAlcas), [](HANDLE AAlca) { return AAlca != nullptr; });
+        SIZE_T tamanho = 0;
+        ::InitializeProcThreadAttributeList(nullptr, 1, 0, &tamanho);
+        FMemoria.resize(tamanho);
+        ::InitializeProcThreadAttributeList(Get(), 1, 0, &tamanho);
+        ::UpdateProcThreadAttribute(Get(), 0, PROC_THREAD_ATTRIBUTE_HANDLE_LIST, FAlcas.data(),
+                                    FAlcas.size() * sizeof(HANDLE), nullptr, nullptr);
+    }
+    ~TListaDeHeranca() { ::DeleteProcThreadAttributeList(Get()); }
+    TListaDeHeranca(const TListaDeHeranca&) = delete;
+    TListaDeHeranca& operator=(const TListaDeHeranca&) = delete;
+    LPPROC_THREAD_ATTRIBUTE_LIST Get() { return reinterpret_cast<LPPROC_THREAD_ATTRIBUTE_LIST>(FMemoria.data()); }
+
+private:
+    std::vector<HANDLE> FAlcas;
+    std::vector<std::byte> FMemoria;
+};
+
 }  // namespace
 
 std::optional<TProcessoIniciado> CriarProcesso(std::u16string_view ALinhaDeComando, bool AExibir) {
@@ -102,26 +142,25 @@ TEspera EsperarMensagens(std::chrono::milliseconds ALimite) {
 }
 
 std::unique_ptr<TProcessoCapturado> TProcessoCapturado::Iniciar(std::u16string_view ALinhaDeComando) {
-    SECURITY_ATTRIBUTES herdavel{.nLength = sizeof(herdavel), .lpSecurityDescriptor = nullptr, .bInheritHandle = TRUE};
     constexpr DWORD CCapacidade = 1 << 20;
-    HANDLE leitura = nullptr;
-    HANDLE escrita = nullptr;
-    if (!::CreatePipe(&leitura, &escrita, &herdavel, CCapacidade)) return nullptr;
-    // A child that held the read end would keep its own children writing to nobody.
-    ::SetHandleInformation(leitura, HANDLE_FLAG_INHERIT, 0);
-    STARTUPINFOW inicio = BuscarDadosDeInicio(false);
-    inicio.dwFlags |= STARTF_USESTDHANDLES;
-    inicio.hStdInput = ::GetStdHandle(STD_INPUT_HANDLE);
-    inicio.hStdOutput = escrita;
-    inicio.hStdError = escrita;
-    std::optional<TProcessoIniciado> processo = Criar(ALinhaDeComando, inicio, true, 0);
-    ::CloseHandle(escrita);
-    if (!processo) {
-        ::CloseHandle(leitura);
-        return nullptr;
-    }
+    HANDLE pontas[2]{};
+    if (!::CreatePipe(&pontas[0], &pontas[1], nullptr, CCapacidade)) return nullptr;
+    TAlca leitura(pontas[0]);
+    const TAlca escrita(pontas[1]);
+    ::SetHandleInformation(escrita.get(), HANDLE_FLAG_INHERIT, HANDLE_FLAG_INHERIT);
+    const TAlca entrada = DuplicarEntradaPadrao();
+    TListaDeHeranca herdadas{entrada.get(), escrita.get()};
+    STARTUPINFOEXW inicio{.StartupInfo = BuscarDadosDeInicio(false), .lpAttributeList = herdadas.Get()};
+    inicio.StartupInfo.cb = sizeof(inicio);
+    inicio.StartupInfo.dwFlags |= STARTF_USESTDHANDLES;
+    inicio.StartupInfo.hStdInput = entrada.get();
+    inicio.StartupInfo.hStdOutput = escrita.get();
+    inicio.StartupInfo.hStdError = escrita.get();
+    std::optional<TProcessoIniciado> processo =
+        Criar(ALinhaDeComando, inicio.StartupInfo, true, EXTENDED_STARTUPINFO_PRESENT);
+    if (!processo) return nullptr;
     return std::unique_ptr<TProcessoCapturado>(
-        new TProcessoCapturado(std::move(*processo), reinterpret_cast<std::intptr_t>(leitura)));
+        new TProcessoCapturado(std::move(*processo), reinterpret_cast<std::intptr_t>(leitura.release())));
 }
 
 TProcessoCapturado::~TProcessoCapturado() { ::CloseHandle(reinterpret_cast<HANDLE>(FLeitura)); }

@@ -3,11 +3,15 @@
 #include <array>
 #include <cstdlib>
 #include <ctime>
+#include <netinet/in.h>
 #include <poll.h>
 #include <sys/inotify.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
 namespace Testes {
+
+const char* const CArquivoVazio = "/dev/null";
 
 std::string BuscarVariavel(const std::string& ANome) {
     const char* valor = std::getenv(ANome.c_str());
@@ -41,5 +45,19 @@ bool EsperarArquivo(const std::filesystem::path& AArquivo) {
     ::close(avisos);
     return std::filesystem::exists(AArquivo);
 }
+
+TEscuta::TEscuta(std::uint16_t APorta) : FSocket(::socket(AF_INET, SOCK_STREAM, 0)) {
+    sockaddr_in endereco{};
+    endereco.sin_family = AF_INET;
+    endereco.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    endereco.sin_port = htons(APorta);
+    auto* const generico = reinterpret_cast<sockaddr*>(&endereco);
+    socklen_t tamanho = sizeof endereco;
+    const auto alca = static_cast<int>(FSocket);
+    if (::bind(alca, generico, tamanho) != 0 || ::listen(alca, 1) != 0) return;
+    if (::getsockname(alca, generico, &tamanho) == 0) FPorta = ntohs(endereco.sin_port);
+}
+
+TEscuta::~TEscuta() { ::close(static_cast<int>(FSocket)); }
 
 }  // namespace Testes

@@ -1,6 +1,7 @@
 // The program that the tests of commands and processes start. It does what its first argument says:
 //   argumentos ...      prints each of the others on a line
 //   arquivo NOME        prints the bytes of a file
+//   ler                 prints what comes from standard input
 //   erro TEXTO          prints to standard error
 //   herdar              leaves behind a copy that prints when this one is gone
 //   morrer              prints a word and is killed
@@ -66,6 +67,8 @@ int main(int AQuantidade, char** AArgumentos) {
         for (std::size_t i = 1; i < argumentos.size(); ++i) Escrever('[' + argumentos[i] + "]\n");
     } else if (acao == "arquivo") {
         EscreverArquivo(argumentos[1]);
+    } else if (acao == "ler") {
+        for (int byte = std::getchar(); byte != EOF; byte = std::getchar()) std::putchar(byte);
     } else if (acao == "erro") {
         std::fputs(argumentos[1].c_str(), stderr);
     } else if (acao == "herdar") {

@@ -3,8 +3,11 @@
 #include "oryutils/platform/windows/Windows.hpp"
 
 #include <vector>
+#include <winsock2.h>
 
 namespace Testes {
+
+const char* const CArquivoVazio = "NUL";
 
 std::string BuscarVariavel(const std::string& ANome) {
     std::vector<char> valor(32768);
@@ -41,6 +44,33 @@ bool EsperarArquivo(const std::filesystem::path& AArquivo) {
         ::FindNextChangeNotification(avisos);
     ::FindCloseChangeNotification(avisos);
     return std::filesystem::exists(AArquivo);
+}
+
+namespace {
+
+std::intptr_t AbrirSocket() {
+    WSADATA dados;
+    ::WSAStartup(MAKEWORD(2, 2), &dados);
+    return static_cast<std::intptr_t>(::socket(AF_INET, SOCK_STREAM, 0));
+}
+
+}  // namespace
+
+TEscuta::TEscuta(std::uint16_t APorta) : FSocket(AbrirSocket()) {
+    sockaddr_in endereco{};
+    endereco.sin_family = AF_INET;
+    endereco.sin_addr.s_addr = ::htonl(INADDR_LOOPBACK);
+    endereco.sin_port = ::htons(APorta);
+    auto* const generico = reinterpret_cast<sockaddr*>(&endereco);
+    int tamanho = sizeof endereco;
+    const auto alca = static_cast<SOCKET>(FSocket);
+    if (::bind(alca, generico, tamanho) != 0 || ::listen(alca, 1) != 0) return;
+    if (::getsockname(alca, generico, &tamanho) == 0) FPorta = ::ntohs(endereco.sin_port);
+}
+
+TEscuta::~TEscuta() {
+    ::closesocket(static_cast<SOCKET>(FSocket));
+    ::WSACleanup();
 }
 
 }  // namespace Testes
