@@ -17,7 +17,8 @@ struct TSituacaoServico {
     std::uint32_t PontoDeVerificacao = 0;
     /// The time that the service wishes to pass before the next question.
     std::chrono::milliseconds EsperaSugerida{0};
-    /// False when there is certainly no process behind the service now.
+    /// False when the service's process has certainly ended. A service that waits for those that it depends on has
+    /// none yet.
     bool TemProcesso = true;
 };
 
@@ -37,6 +38,8 @@ public:
     virtual std::optional<TSituacaoServico> Consultar() = 0;
     /// The id of the service's process, 0 when there is none or it cannot be told.
     virtual std::uint32_t BuscarIDProcesso() = 0;
+    /// False for a service of another machine: the id of its process means nothing here.
+    virtual bool EhDestaMaquina() const noexcept { return true; }
 
 protected:
     TServico() = default;

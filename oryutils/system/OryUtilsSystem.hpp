@@ -214,6 +214,9 @@ public:
 
     /// Installs a service that starts with the machine. A name refused by the system's manager may come back as
     /// success: confirm with BuscarStatusServico.
+    /// AExecutavel  path of the program, arguments behind it. One with blanks belongs in quotes: the system starts
+    ///              u"C:\Minha pasta\x.exe" as "C:\Minha.exe" where there is such a program.
+    /// Example:  InstalouServico(u"Ory", u"Ory Eventos", u"\"C:\\Minha pasta\\x.exe\" -porta 80");
     static TResultStatus InstalouServico(std::u16string_view AServico, std::u16string_view ANomeExibicao,
                                          std::u16string_view AExecutavel);
     /// Stops and removes a service. Only a manager that cannot be opened is a failure.
@@ -221,7 +224,8 @@ public:
     /// Starts a service and waits, with messages flowing. True when it runs.
     static bool IniciarServico(std::u16string_view AMaquina, std::u16string_view AServico);
     /// Stops a service and waits, with messages flowing. True when it stopped.
-    /// ATempoLimite  seconds of waiting hints after which the service's process is ended
+    /// ATempoLimite  seconds of waiting hints after which the service's process is ended. That of another machine
+    ///               cannot be: the wait for it ends then, after five seconds at the soonest.
     static bool PararServico(std::u16string_view AMaquina, std::u16string_view AServico, int ATempoLimite);
     /// State of a service; sswErro when it cannot be told. Texts: CVetorStatusServicoWindows.
     static TStatusServicoWindows BuscarStatusServico(std::u16string_view AMaquina, std::u16string_view AServico);

@@ -1,7 +1,9 @@
 #include "oryutils/platform/Servicos.hpp"
 
+#include "oryutils/characters/Caixa.hpp"
 #include "oryutils/platform/windows/Windows.hpp"
 
+#include <algorithm>
 #include <type_traits>
 
 namespace OryUtils::Interno {
@@ -25,9 +27,9 @@ constexpr DWORD DireitosDe(TAcessoServico AAcesso) noexcept {
     }
 }
 
-/// False when no process has that id any more.
+/// False when the process of that id has ended. 0 is no id: nothing is known.
 bool VivoOuDesconhecido(DWORD AID) {
-    if (AID == 0) return false;
+    if (AID == 0) return true;
     const HANDLE processo = OpenProcess(SYNCHRONIZE, FALSE, AID);
     if (!processo) return GetLastError() != ERROR_INVALID_PARAMETER;
     const bool vivo = WaitForSingleObject(processo, 0) == WAIT_TIMEOUT;
@@ -35,9 +37,32 @@ bool VivoOuDesconhecido(DWORD AID) {
     return vivo;
 }
 
+std::u16string BuscarNome(COMPUTER_NAME_FORMAT AFormato) {
+    wchar_t nome[256];
+    DWORD tamanho = 256;
+    return ::GetComputerNameExW(AFormato, nome, &tamanho) ? DeWide({nome, tamanho}) : std::u16string();
+}
+
+/// True when AMaquina, with or without the "\\" in front, names the machine that the program runs on.
+bool EhEstaMaquina(std::u16string_view AMaquina) {
+    if (AMaquina.starts_with(u"\\\\")) AMaquina.remove_prefix(2);
+    const std::u16string nomes[] = {
+        u"",
+        u".",
+        u"localhost",
+        u"127.0.0.1",
+        BuscarNome(ComputerNameNetBIOS),
+        BuscarNome(ComputerNameDnsHostname),
+        BuscarNome(ComputerNameDnsFullyQualified),
+    };
+    return std::ranges::any_of(nomes,
+                               [&](const std::u16string& ANome) { return IguaisIgnorandoCaixa(ANome, AMaquina); });
+}
+
 class TServicoWindows final : public TServico {
 public:
-    explicit TServicoWindows(TIdentificador AServico) : FServico(std::move(AServico)) {}
+    TServicoWindows(TIdentificador AServico, bool ADestaMaquina)
+        : FServico(std::move(AServico)), FDestaMaquina(ADestaMaquina) {}
 
     bool Iniciar() override { return StartServiceW(FServico.get(), 0, nullptr) != 0; }
     bool Parar() override {
@@ -49,7 +74,8 @@ public:
         SERVICE_STATUS situacao{};
         if (!QueryServiceStatus(FServico.get(), &situacao)) return std::nullopt;
         return TSituacaoServico{situacao.dwCurrentState, situacao.dwCheckPoint,
-                                std::chrono::milliseconds(situacao.dwWaitHint), VivoOuDesconhecido(BuscarIDProcesso())};
+                                std::chrono::milliseconds(situacao.dwWaitHint),
+                                !FDestaMaquina || VivoOuDesconhecido(BuscarIDProcesso())};
     }
     std::uint32_t BuscarIDProcesso() override {
         SERVICE_STATUS_PROCESS situacao{};
@@ -59,19 +85,22 @@ public:
             return 0;
         return situacao.dwProcessId;
     }
+    bool EhDestaMaquina() const noexcept override { return FDestaMaquina; }
 
 private:
     TIdentificador FServico;
+    bool FDestaMaquina;
 };
 
 class TGerenciadorWindows final : public TGerenciadorServicos {
 public:
-    explicit TGerenciadorWindows(TIdentificador AGerenciador) : FGerenciador(std::move(AGerenciador)) {}
+    TGerenciadorWindows(TIdentificador AGerenciador, bool ADestaMaquina)
+        : FGerenciador(std::move(AGerenciador)), FDestaMaquina(ADestaMaquina) {}
 
     std::unique_ptr<TServico> AbrirServico(std::u16string_view ANome, TAcessoServico AAcesso) override {
         const std::u16string nome(ANome);
         TIdentificador servico(OpenServiceW(FGerenciador.get(), ParaWide(nome), DireitosDe(AAcesso)));
-        return servico ? std::make_unique<TServicoWindows>(std::move(servico)) : nullptr;
+        return servico ? std::make_unique<TServicoWindows>(std::move(servico), FDestaMaquina) : nullptr;
     }
     std::uintptr_t CriarServico(std::u16string_view ANome, std::u16string_view ANomeExibicao,
                                 std::u16string_view AExecutavel) override {
@@ -85,6 +114,7 @@ public:
 
 private:
     TIdentificador FGerenciador;
+    bool FDestaMaquina;
 };
 
 }  // namespace
@@ -94,7 +124,8 @@ std::unique_ptr<TGerenciadorServicos> AbrirGerenciadorServicos(std::u16string_vi
     const std::u16string maquina(AMaquina);
     TIdentificador gerenciador(OpenSCManagerW(maquina.empty() ? nullptr : ParaWide(maquina), nullptr,
                                               AAcesso == agTotal ? SC_MANAGER_ALL_ACCESS : SC_MANAGER_CONNECT));
-    return gerenciador ? std::make_unique<TGerenciadorWindows>(std::move(gerenciador)) : nullptr;
+    return gerenciador ? std::make_unique<TGerenciadorWindows>(std::move(gerenciador), EhEstaMaquina(AMaquina))
+                       : nullptr;
 }
 
 }  // namespace OryUtils::Interno

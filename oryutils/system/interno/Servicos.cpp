@@ -39,6 +39,9 @@ constexpr std::chrono::milliseconds CMenorRodada{20};
 // A manager that goes on for so long about a service whose process is gone will not change its mind.
 constexpr int CSegundosSemProcesso = 5;
 
+// A service of another machine that does not stop can only be waited for: so long at least.
+constexpr int CMenorLimiteDeOutraMaquina = 5;
+
 TResultStatus Falha(std::u16string_view AMensagem) { return {false, std::u16string(AMensagem)}; }
 
 /// A service together with the manager that it was opened by.
@@ -142,13 +145,15 @@ bool PararServico(const TAbrirGerenciador& AAbrir, std::u16string_view AMaquina,
     const bool parou = servico->Parar();
     auto situacao = servico->Consultar();
     if (!situacao) return false;
-    TLimiteDeEspera limite(ATempoLimite);
+    const bool aqui = servico->EhDestaMaquina();
+    TLimiteDeEspera limite(aqui ? ATempoLimite : std::max(ATempoLimite, CMenorLimiteDeOutraMaquina));
     TCaminhada caminhada(*servico.Servico, *situacao);
     while (parou && situacao->Estado != sswServicoParado) {
         const std::chrono::milliseconds espera = situacao->EsperaSugerida;
         if (!caminhada.Avancar()) break;
-        if (situacao->Estado != sswServicoParado && limite.Esgotou(espera))
-            if (const std::uint32_t id = servico->BuscarIDProcesso()) TOryUtilsSistema::FinalizouProcessoPeloPID(id);
+        if (situacao->Estado == sswServicoParado || !limite.Esgotou(espera)) continue;
+        if (!aqui) break;
+        if (const std::uint32_t id = servico->BuscarIDProcesso()) TOryUtilsSistema::FinalizouProcessoPeloPID(id);
     }
     return situacao->Estado == sswServicoParado;
 }

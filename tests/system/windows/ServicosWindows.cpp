@@ -1,4 +1,5 @@
 // The library's operations on a real service of the real service manager.
+#include "oryutils/platform/Servicos.hpp"
 #include "oryutils/platform/windows/Windows.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 
@@ -96,9 +97,32 @@ TEST_F(ServicosWindows, QuemNaoParaEhTerminado) {
     ASSERT_TRUE(S::IniciarServico(u"", CServico));
     const HANDLE processo = OpenProcess(SYNCHRONIZE, FALSE, S::BuscarIDProcessoServico(u"", CServico));
     ASSERT_NE(processo, nullptr);
-    S::PararServico(u"", CServico, 1);
+    S::PararServico(u"\\\\" + S::BuscarNomeComputador(), CServico, 1);  // this machine by its name
     EXPECT_EQ(WaitForSingleObject(processo, 0), DWORD{WAIT_OBJECT_0}) << "its process has ended";
     CloseHandle(processo);
+}
+
+// Wine takes every name for this machine, which makes its process one that the name does not vouch for.
+TEST_F(ServicosWindows, OProcessoDeOutraMaquinaFicaEmPaz) {
+    constexpr char16_t COutra[] = u"\\\\ory-outra-maquina";
+    Instalar(u"teimoso");
+    ASSERT_TRUE(S::IniciarServico(u"", CServico));
+    const HANDLE processo = OpenProcess(SYNCHRONIZE, FALSE, S::BuscarIDProcessoServico(u"", CServico));
+    ASSERT_NE(processo, nullptr);
+    EXPECT_FALSE(S::PararServico(COutra, CServico, 0));
+    EXPECT_EQ(WaitForSingleObject(processo, 0), DWORD{WAIT_TIMEOUT}) << "it lives";
+    // It has heard the stop already, and takes no other one.
+    S::FinalizouProcessoPeloPID(S::BuscarIDProcessoServico(u"", CServico));
+    EXPECT_EQ(WaitForSingleObject(processo, INFINITE), DWORD{WAIT_OBJECT_0});
+    CloseHandle(processo);
+}
+
+TEST_F(ServicosWindows, SemNumeroDeProcessoNinguemMorreu) {
+    Instalar(u"rapido");
+    const auto gerenciador = Interno::AbrirGerenciadorServicos({}, Interno::agConectar);
+    const auto situacao = gerenciador->AbrirServico(CServico, Interno::asConsultar)->Consultar();
+    ASSERT_TRUE(situacao);
+    EXPECT_TRUE(situacao->TemProcesso) << "it may wait for the services that it depends on";
 }
 
 TEST_F(ServicosWindows, QuemMorreNoInicioNaoPrendeOChamador) {
