@@ -6,6 +6,8 @@
 #include "oryutils/system/OryUtilsSystem.hpp"
 #include "oryutils/system/interno/RegrasDePastas.hpp"
 
+#include <cstdint>
+
 namespace OryUtils {
 namespace {
 
@@ -14,10 +16,13 @@ std::u16string MontarVizinha(std::u16string_view ANome) {
                                        Interno::BuscarSeparadorDePastas());
 }
 
-// A text of the machine's settings; empty when it is missing, of another kind or may not be read.
-std::u16string LerDaMaquina(std::u16string_view AChave, std::u16string_view AValor) {
+/// KEY_READ | KEY_WOW64_32KEY: what 32-bit programs see.
+constexpr std::uint32_t CLeituraDe32Bits = 0x20219;
+
+/// A text of the machine's settings; empty when it is missing, of another kind or may not be read.
+std::u16string LerDaMaquina(std::u16string_view AChave, std::u16string_view AValor, std::uint32_t AAcesso = arLeitura) {
     try {
-        TRegistry registro(arLeitura);
+        TRegistry registro(AAcesso);
         registro.SetRootKey(crLocalMachine);
         return registro.OpenKey(AChave, false) ? registro.ReadString(AValor) : std::u16string();
     } catch (const ERegistryException&) {
@@ -72,7 +77,10 @@ std::u16string TOryUtilsSistema::BuscarUnidadeInstalacaoWindows() { return Inter
 
 std::u16string TOryUtilsSistema::BuscarPastaInstalacaoVelmar(TVersaoVelmar AVersao) {
     if (AVersao != VdVelmarXE) return {};
-    return LerDaMaquina(u"Software\\Embarcadero\\BDS\\8.0", u"RootDir");
+    // The development environment is a program of 32 bits.
+    constexpr std::u16string_view CChave = u"Software\\Embarcadero\\BDS\\8.0";
+    std::u16string pasta = LerDaMaquina(CChave, u"RootDir");
+    return pasta.empty() ? LerDaMaquina(CChave, u"RootDir", CLeituraDe32Bits) : pasta;
 }
 
 TInformacoesVelmar TOryUtilsSistema::BuscarInformacoesVelmar(TVersaoVelmar AVersao) {

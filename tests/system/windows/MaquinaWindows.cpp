@@ -52,6 +52,21 @@ TEST(MaquinaWindows, Discos) {
     EXPECT_EQ(unidades, esperadas);
 }
 
+TEST(MaquinaWindows, InstalacaoDe32Bits) {
+    constexpr wchar_t CChave[] = L"Software\\Embarcadero\\BDS\\8.0";
+    if (!GetPastaInstalacaoVelmar(VdVelmarXE).empty()) GTEST_SKIP() << "there is one on this machine";
+    HKEY chave = nullptr;
+    if (::RegCreateKeyExW(HKEY_LOCAL_MACHINE, CChave, 0, nullptr, 0, KEY_WRITE | KEY_WOW64_32KEY, nullptr, &chave,
+                          nullptr) != ERROR_SUCCESS)
+        GTEST_SKIP() << "only an administrator writes there";
+    constexpr wchar_t CPasta[] = L"C:\\Velmar";
+    ::RegSetValueExW(chave, L"RootDir", 0, REG_SZ, reinterpret_cast<const BYTE*>(CPasta), sizeof CPasta);
+    EXPECT_EQ(GetInformacoesVelmar(VdVelmarXE).PastaBin, u"C:\\Velmar\\bin");
+    ::RegDeleteValueW(chave, L"RootDir");
+    ::RegCloseKey(chave);
+    ::RegDeleteKeyExW(HKEY_LOCAL_MACHINE, CChave, KEY_WOW64_32KEY, 0);
+}
+
 TEST(MaquinaWindows, Pastas) {
     const auto doSistema = [](auto AFuncao) {
         wchar_t texto[MAX_PATH + 1];
