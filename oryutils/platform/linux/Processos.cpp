@@ -77,9 +77,22 @@ std::string LerCaminho(pid_t APid) {
     return caminho;
 }
 
-// Of other users' programs the system tells the short name only.
-std::string NomeDe(const std::string& ACaminho, const std::string& ANomeCurto) {
-    return ACaminho.empty() ? ANomeCurto : ACaminho.substr(ACaminho.rfind('/') + 1);
+std::string_view SemPasta(std::string_view ACaminho) { return ACaminho.substr(ACaminho.rfind('/') + 1); }
+
+/// The file name of the executable. Of other users' programs the system tells 15 bytes of it: the whole name is the
+/// argument that begins with them, the first one, or the second one of a script.
+std::string BuscarNome(pid_t APid, const std::string& ACaminho, const std::string& ANomeCurto) {
+    constexpr std::size_t CMaiorNomeCurto = 15;
+    if (!ACaminho.empty()) return std::string(SemPasta(ACaminho));
+    if (ANomeCurto.size() < CMaiorNomeCurto) return ANomeCurto;
+    const std::string linha = LerArquivo(DeUtf8(CaminhoDe(APid, "cmdline"))).value_or("");
+    std::string_view resto = linha;
+    for (int argumento = 0; argumento < 2; ++argumento) {
+        const std::string_view nome = SemPasta(resto.substr(0, resto.find('\0')));
+        if (nome.starts_with(ANomeCurto)) return std::string(nome);
+        resto.remove_prefix(std::min(resto.find('\0') + 1, resto.size()));
+    }
+    return ANomeCurto;
 }
 
 std::string BuscarNomeDoUsuario(uid_t AUsuario) {
@@ -146,7 +159,7 @@ std::vector<TProcessoDoSistema> ListarProcessos(const std::function<bool(std::u1
         if (!usuario->second.Quer) return true;
         const std::string caminho = LerCaminho(APid);
         processos.push_back({.ID = static_cast<std::uint32_t>(APid),
-                             .Nome = DeUtf8(NomeDe(caminho, situacao->Nome)),
+                             .Nome = DeUtf8(BuscarNome(APid, caminho, situacao->Nome)),
                              .Usuario = usuario->second.Nome,
                              .Caminho = DeUtf8(caminho),
                              .Alca = AbrirComReserva(APid, maiorAlca),
@@ -170,7 +183,8 @@ TAlcaDeProcesso AbrirProcesso(const std::function<bool(std::u16string_view)>& AQ
     TAlcaDeProcesso alca;
     PercorrerProcessos([&](pid_t APid) {
         const std::optional<TSituacao> situacao = LerSituacao(APid);
-        if (!situacao || situacao->Terminado || !AQuer(DeUtf8(NomeDe(LerCaminho(APid), situacao->Nome)))) return true;
+        if (!situacao || situacao->Terminado || !AQuer(DeUtf8(BuscarNome(APid, LerCaminho(APid), situacao->Nome))))
+            return true;
         alca = TAlcaDeProcesso(AbrirPidfd(APid));
         return !alca;
     });
@@ -201,7 +215,8 @@ int TerminarProcessos(const std::function<bool(std::u16string_view)>& AQuer) {
     PercorrerProcessos([&](pid_t APid) {
         const TAlcaDeProcesso alca(AbrirPidfd(APid));  // before the name: the number cannot change hands in between
         const std::optional<TSituacao> situacao = LerSituacao(APid);
-        if (!situacao || situacao->Terminado || !AQuer(DeUtf8(NomeDe(LerCaminho(APid), situacao->Nome)))) return true;
+        if (!situacao || situacao->Terminado || !AQuer(DeUtf8(BuscarNome(APid, LerCaminho(APid), situacao->Nome))))
+            return true;
         if (EnviarMorte(alca, APid)) ++terminados;
         return true;
     });

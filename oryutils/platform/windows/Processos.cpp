@@ -2,7 +2,8 @@
 
 #include "oryutils/platform/BibliotecaDinamica.hpp"
 #include "oryutils/platform/ErroDoSistema.hpp"
-#include "oryutils/platform/windows/Windows.hpp"
+#include "oryutils/platform/windows/Contas.hpp"
+#include "oryutils/platform/windows/FotoDeProcessos.hpp"
 
 #include <optional>
 #include <psapi.h>
@@ -35,7 +36,7 @@ TAlcaDeProcesso AbrirComTodosOsDireitos(DWORD AID) {
 // AAcao answers whether to go on.
 template <typename TAcao>
 void PercorrerProcessos(DWORD AConteudo, TAcao AAcao) {
-    const TAlca foto(::CreateToolhelp32Snapshot(AConteudo, 0));
+    const TAlca foto(Fotografar([&] { return ::CreateToolhelp32Snapshot(AConteudo, 0); }));
     if (!foto) return;
     PROCESSENTRY32W entrada{};
     entrada.dwSize = sizeof(entrada);
@@ -43,14 +44,27 @@ void PercorrerProcessos(DWORD AConteudo, TAcao AAcao) {
         if (!AAcao(entrada)) return;
 }
 
+TDonoDeProcesso BuscarDono(DWORD AID, TContas& AContas) {
+    const TAlca processo(::OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, AID));
+    HANDLE alca = nullptr;
+    if (!processo || !::OpenProcessToken(processo.Get(), TOKEN_QUERY, &alca)) return {};
+    const TAlca ficha(alca);
+    DWORD tamanho = 0;
+    ::GetTokenInformation(alca, TokenUser, nullptr, 0, &tamanho);
+    std::vector<std::uint64_t> memoria(tamanho / sizeof(std::uint64_t) + 1);  // aligned for what it holds
+    if (!::GetTokenInformation(alca, TokenUser, memoria.data(), tamanho, &tamanho)) return {};
+    return AContas.Buscar(reinterpret_cast<const TOKEN_USER*>(memoria.data())->User.Sid);
+}
+
 std::u16string SemPasta(std::u16string ANome) { return ANome.substr(ANome.find_last_of(u"\\/:") + 1); }
 
 }  // namespace
 
 std::vector<TProcessoDoSistema> ListarProcessos(const std::function<bool(std::u16string_view)>& AQuer) {
+    TContas contas;
     std::vector<TProcessoDoSistema> processos;
     PercorrerProcessos(TH32CS_SNAPALL, [&](const PROCESSENTRY32W& AEntrada) {
-        TDonoDeProcesso dono = BuscarDonoDoProcesso(AEntrada.th32ProcessID);
+        TDonoDeProcesso dono = BuscarDono(AEntrada.th32ProcessID, contas);
         if (!AQuer(dono.Usuario)) return true;
         TProcessoDoSistema processo;
         processo.ID = AEntrada.th32ProcessID;
@@ -66,22 +80,18 @@ std::vector<TProcessoDoSistema> ListarProcessos(const std::function<bool(std::u1
 }
 
 TDonoDeProcesso BuscarDonoDoProcesso(std::uint32_t AID) {
-    const TAlca processo(::OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, AID));
-    HANDLE alca = nullptr;
-    if (!processo || !::OpenProcessToken(processo.Get(), TOKEN_QUERY, &alca)) return {};
-    const TAlca ficha(alca);
-    DWORD tamanho = 0;
-    ::GetTokenInformation(alca, TokenUser, nullptr, 0, &tamanho);
-    std::vector<std::uint64_t> memoria(tamanho / sizeof(std::uint64_t) + 1);  // aligned for what it holds
-    if (!::GetTokenInformation(alca, TokenUser, memoria.data(), tamanho, &tamanho)) return {};
-    const PSID conta = reinterpret_cast<const TOKEN_USER*>(memoria.data())->User.Sid;
+    TContas contas;
+    return BuscarDono(AID, contas);
+}
+
+TDonoDeProcesso ConsultarConta(PSID AConta) {
     DWORD tamanhoUsuario = 0;
     DWORD tamanhoDominio = 0;
     SID_NAME_USE uso{};
-    ::LookupAccountSidW(nullptr, conta, nullptr, &tamanhoUsuario, nullptr, &tamanhoDominio, &uso);
+    ::LookupAccountSidW(nullptr, AConta, nullptr, &tamanhoUsuario, nullptr, &tamanhoDominio, &uso);
     std::u16string usuario(tamanhoUsuario, u'\0');
     std::u16string dominio(tamanhoDominio, u'\0');
-    if (!::LookupAccountSidW(nullptr, conta, ParaWide(usuario.data()), &tamanhoUsuario, ParaWide(dominio.data()),
+    if (!::LookupAccountSidW(nullptr, AConta, ParaWide(usuario.data()), &tamanhoUsuario, ParaWide(dominio.data()),
                              &tamanhoDominio, &uso))
         return {};
     usuario.resize(tamanhoUsuario);
