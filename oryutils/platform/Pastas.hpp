@@ -8,7 +8,8 @@ namespace OryUtils::Interno {
 /// a name with the character of code 0.
 bool ExistePasta(std::u16string_view APasta);
 
-/// Creates the folder with those above it; true when it is there at the end. Never throws.
+/// Creates the folder, with those above it that are missing; true when it is there at the end. Never throws. A path may
+/// pass 260 characters; a name longer than the system allows answers false.
 bool CriarPasta(std::u16string_view APasta);
 
 /// What parts the folders of a path: "\" on Windows, "/" on Linux.

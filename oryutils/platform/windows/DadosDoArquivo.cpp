@@ -1,5 +1,6 @@
 #include "oryutils/platform/DadosDoArquivo.hpp"
 
+#include "oryutils/platform/windows/CaminhoDoSistema.hpp"
 #include "oryutils/platform/windows/InstanteUtc.hpp"
 
 namespace OryUtils::Interno {
@@ -7,7 +8,7 @@ namespace {
 
 DWORD BuscarAtributos(std::u16string_view AArquivo) {
     if (AArquivo.find(u'\0') != AArquivo.npos) return INVALID_FILE_ATTRIBUTES;
-    return ::GetFileAttributesW(ParaWide(std::u16string(AArquivo)));
+    return ::GetFileAttributesW(CaminhoDoSistema(AArquivo).c_str());
 }
 
 }  // namespace
@@ -15,7 +16,7 @@ DWORD BuscarAtributos(std::u16string_view AArquivo) {
 std::optional<TDadosDoArquivo> ProcurarArquivo(std::u16string_view AArquivo) {
     if (AArquivo.find(u'\0') != AArquivo.npos) return {};
     WIN32_FIND_DATAW dados{};
-    const HANDLE busca = ::FindFirstFileW(ParaWide(std::u16string(AArquivo)), &dados);
+    const HANDLE busca = ::FindFirstFileW(CaminhoDoSistema(AArquivo).c_str(), &dados);
     if (busca == INVALID_HANDLE_VALUE) return {};
     ::FindClose(busca);
     const bool pasta = (dados.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
@@ -34,7 +35,7 @@ bool ExisteArquivo(std::u16string_view AArquivo) {
 
 bool AlterarUltimaGravacao(std::u16string_view AArquivo, TInstanteUtc AInstante) {
     if (AInstante < -CMilissegundosDe1601A1970 || AArquivo.find(u'\0') != AArquivo.npos) return false;
-    const HANDLE arquivo = ::CreateFileW(ParaWide(std::u16string(AArquivo)), FILE_WRITE_ATTRIBUTES,
+    const HANDLE arquivo = ::CreateFileW(CaminhoDoSistema(AArquivo).c_str(), FILE_WRITE_ATTRIBUTES,
                                          FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
                                          FILE_ATTRIBUTE_NORMAL, nullptr);
     if (arquivo == INVALID_HANDLE_VALUE) return false;

@@ -1,6 +1,7 @@
 #include "oryutils/platform/Fluxo.hpp"
 
 #include "oryutils/characters/Utf.hpp"
+#include "oryutils/platform/windows/CaminhoDoSistema.hpp"
 #include "oryutils/platform/windows/InstanteUtc.hpp"
 
 #include <algorithm>
@@ -13,7 +14,7 @@ HANDLE Alca(std::intptr_t AAlca) { return reinterpret_cast<HANDLE>(AAlca); }
 std::intptr_t Numero(HANDLE AAlca) { return reinterpret_cast<std::intptr_t>(AAlca); }
 
 bool EhPasta(const std::u16string& ANome) {
-    const DWORD atributos = ::GetFileAttributesW(ParaWide(ANome));
+    const DWORD atributos = ::GetFileAttributesW(CaminhoDoSistema(ANome).c_str());
     return atributos != INVALID_FILE_ATTRIBUTES && (atributos & FILE_ATTRIBUTE_DIRECTORY);
 }
 
@@ -53,8 +54,8 @@ TErroFluxo TFluxo::Assumir(std::intptr_t AAlca) noexcept {
 TErroFluxo TFluxo::AbrirParaLer(const std::string& ANome) {
     Fechar();
     const std::u16string nome = DeUtf8(ANome);
-    const TErroFluxo erro = Assumir(Numero(::CreateFileW(ParaWide(nome), GENERIC_READ, CPartilhaTudo, nullptr,
-                                                         OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr)));
+    const TErroFluxo erro = Assumir(Numero(::CreateFileW(CaminhoDoSistema(nome).c_str(), GENERIC_READ, CPartilhaTudo,
+                                                         nullptr, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr)));
     return erro != efNenhum && EhPasta(nome) ? efEhPasta : erro;
 }
 
@@ -62,7 +63,7 @@ TErroFluxo TFluxo::AbrirArquivoParaLer(std::u16string_view AArquivo) {
     Fechar();
     if (AArquivo.find(u'\0') != AArquivo.npos) return efNaoExiste;
     const TErroFluxo erro =
-        Assumir(Numero(::CreateFileW(ParaWide(std::u16string(AArquivo)), GENERIC_READ, CPartilhaTudo, nullptr,
+        Assumir(Numero(::CreateFileW(CaminhoDoSistema(AArquivo).c_str(), GENERIC_READ, CPartilhaTudo, nullptr,
                                      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr)));
     if (erro != efNenhum || BuscarTamanho()) return erro;
     Fechar();
@@ -71,8 +72,8 @@ TErroFluxo TFluxo::AbrirArquivoParaLer(std::u16string_view AArquivo) {
 
 TErroFluxo TFluxo::CriarNovo(const std::string& ANome, const std::string&) {
     Fechar();
-    return Assumir(Numero(::CreateFileW(ParaWide(DeUtf8(ANome)), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_NEW,
-                                        FILE_ATTRIBUTE_NORMAL, nullptr)));
+    return Assumir(Numero(::CreateFileW(CaminhoDoSistema(DeUtf8(ANome)).c_str(), GENERIC_WRITE, FILE_SHARE_READ,
+                                        nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr)));
 }
 
 TErroFluxo TFluxo::AbrirParaReescrever(const std::string& ANome) {
@@ -80,8 +81,8 @@ TErroFluxo TFluxo::AbrirParaReescrever(const std::string& ANome) {
     const std::u16string nome = DeUtf8(ANome);
     // Without FILE_SHARE_WRITE a file that a log keeps open for appending would be refused.
     constexpr DWORD CPartilha = FILE_SHARE_READ | FILE_SHARE_WRITE;
-    const TErroFluxo erro = Assumir(Numero(
-        ::CreateFileW(ParaWide(nome), GENERIC_WRITE, CPartilha, nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr)));
+    const TErroFluxo erro = Assumir(Numero(::CreateFileW(CaminhoDoSistema(nome).c_str(), GENERIC_WRITE, CPartilha,
+                                                         nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr)));
     return erro != efNenhum && EhPasta(nome) ? efEhPasta : erro;
 }
 
@@ -92,8 +93,9 @@ TErroFluxo TFluxo::CortarAqui() noexcept {
 
 TErroFluxo TFluxo::AbrirParaAcrescentar(const std::string& ANome) {
     Fechar();
-    return Assumir(Numero(::CreateFileW(ParaWide(DeUtf8(ANome)), FILE_APPEND_DATA | FILE_READ_ATTRIBUTES | SYNCHRONIZE,
-                                        CPartilhaTudo, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr)));
+    return Assumir(Numero(::CreateFileW(CaminhoDoSistema(DeUtf8(ANome)).c_str(),
+                                        FILE_APPEND_DATA | FILE_READ_ATTRIBUTES | SYNCHRONIZE, CPartilhaTudo, nullptr,
+                                        OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr)));
 }
 
 TErroFluxo TFluxo::Fechar() noexcept {

@@ -1,22 +1,22 @@
 #include "oryutils/platform/Pastas.hpp"
 
-#include "oryutils/platform/windows/Windows.hpp"
+#include "oryutils/platform/windows/CaminhoDoSistema.hpp"
+#include "oryutils/platform/windows/CriacaoDePastas.hpp"
 
 namespace OryUtils::Interno {
 
 bool ExistePasta(std::u16string_view APasta) {
     if (APasta.find(u'\0') != APasta.npos) return false;
-    const DWORD atributos = ::GetFileAttributesW(ParaWide(std::u16string(APasta)));
+    const DWORD atributos = ::GetFileAttributesW(CaminhoDoSistema(APasta).c_str());
     return atributos != INVALID_FILE_ATTRIBUTES && (atributos & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
 bool CriarPasta(std::u16string_view APasta) {
     if (APasta.find(u'\0') != APasta.npos) return false;
-    constexpr std::u16string_view CSeparadores = u"\\/";
-    for (std::size_t fim = APasta.find_first_of(CSeparadores, 1); fim != APasta.npos;
-         fim = APasta.find_first_of(CSeparadores, fim + 1))
-        ::CreateDirectoryW(ParaWide(std::u16string(APasta.substr(0, fim))), nullptr);
-    ::CreateDirectoryW(ParaWide(std::u16string(APasta)), nullptr);
+    if (ExistePasta(APasta)) return true;
+    CriarComAsDeCima(APasta, [](std::u16string_view AUma) {
+        return ::CreateDirectoryW(CaminhoDoSistema(AUma).c_str(), nullptr) ? DWORD{ERROR_SUCCESS} : ::GetLastError();
+    });
     return ExistePasta(APasta);
 }
 
