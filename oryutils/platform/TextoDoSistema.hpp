@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -9,7 +10,8 @@ namespace OryUtils::Interno {
 /// Linux. A character that a code page lacks becomes "?"; in UTF-8 a lone surrogate becomes U+FFFD. Never throws.
 std::string ParaTextoDoSistema(std::u16string_view ATexto);
 /// The reverse. What is malformed becomes the system's mark for it; never throws.
-std::u16string DeTextoDoSistema(std::string_view ATexto);
+/// APagina  (Windows) the code page instead of the default one; one that the system has
+std::u16string DeTextoDoSistema(std::string_view ATexto, std::uint32_t APagina = 0);
 
 /// What ends a line of a text file: CR LF on Windows, LF on Linux.
 std::u16string_view BuscarQuebraDeLinha() noexcept;

@@ -47,6 +47,13 @@ public:
     static void ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando, std::vector<std::u16string>& ASaida);
     /// The same output as one text: the lines with CR LF between them. Empty when the command cannot be started.
     static std::u16string ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando);
+    /// ExecutarComandoComRetorno that tells whether the command ran, and that reads its output by any code page.
+    /// APagina  number of the code page: CPaginaAnsi, CPaginaOem, CPaginaUtf8 or another one that the system knows
+    /// Result: false, with ASaida as it is, when the command cannot be started or the code page is not known; a command
+    /// that prints nothing answers true.
+    /// Example:  if (!ExecutouComandoComRetorno(u"ipconfig", linhas, CPaginaOem)) ...
+    static bool ExecutouComandoComRetorno(std::u16string_view ALinhaDeComando, std::vector<std::u16string>& ASaida,
+                                          std::uint32_t APagina = CPaginaAnsi);
 
     /// Starts a process in a console of its own (Linux: in a session of its own) and tells
     /// MetodoRetornoCriacaoProcesso. With AguardarProcesso waits for its end, at most TempoLimiteProcesso milliseconds

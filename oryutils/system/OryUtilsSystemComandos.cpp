@@ -8,6 +8,7 @@
 
 #include <chrono>
 #include <memory>
+#include <optional>
 
 namespace OryUtils {
 namespace {
@@ -40,12 +41,14 @@ void LerSaida(TProcessoCapturado& AProcesso, Interno::TSaidaDeComando& ASaida) {
     }
 }
 
-/// The output of a command line; nothing when the command cannot be started.
-Interno::TSaidaDeComando Executar(std::u16string_view ALinhaDeComando) {
-    const auto decodificador = std::make_shared<Interno::TDecodificadorAnsi>();
+/// The output of a command line; none when the command cannot be started or the code page is not known.
+std::optional<Interno::TSaidaDeComando> Executar(std::u16string_view ALinhaDeComando,
+                                                 std::uint32_t APagina = CPaginaAnsi) {
+    const auto decodificador = std::make_shared<Interno::TDecodificadorAnsi>(APagina);
+    if (!decodificador->ConhecePagina()) return std::nullopt;
     Interno::TSaidaDeComando saida([=](std::string_view ABytes) { return decodificador->Decodificar(ABytes); });
     const std::unique_ptr<TProcessoCapturado> processo = TProcessoCapturado::Iniciar(ALinhaDeComando);
-    if (!processo) return saida;
+    if (!processo) return std::nullopt;
     LerSaida(*processo, saida);
     while (Interno::EsperarProcesso(processo->GetProcesso(), Interno::CEsperaSemLimite, true) != Interno::epTerminou)
         ProcessarMensagens();
@@ -56,11 +59,19 @@ Interno::TSaidaDeComando Executar(std::u16string_view ALinhaDeComando) {
 
 void TOryUtilsSistema::ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando,
                                                  std::vector<std::u16string>& ASaida) {
-    Executar(ALinhaDeComando).ContinuarLista(ASaida);
+    ExecutouComandoComRetorno(ALinhaDeComando, ASaida);
 }
 
 std::u16string TOryUtilsSistema::ExecutarComandoComRetorno(std::u16string_view ALinhaDeComando) {
-    return Executar(ALinhaDeComando).RetirarTexto();
+    auto saida = Executar(ALinhaDeComando);
+    return saida ? saida->RetirarTexto() : std::u16string();
+}
+
+bool TOryUtilsSistema::ExecutouComandoComRetorno(std::u16string_view ALinhaDeComando,
+                                                 std::vector<std::u16string>& ASaida, std::uint32_t APagina) {
+    auto saida = Executar(ALinhaDeComando, APagina);
+    if (saida) saida->ContinuarLista(ASaida);
+    return saida.has_value();
 }
 
 std::unique_ptr<TOryUtilsSystemDadosRetornoProcessoIOP> TOryUtilsSistema::CriarProcesso(

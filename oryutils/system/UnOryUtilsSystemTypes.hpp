@@ -43,6 +43,12 @@ struct TInformacoesVelmar {
     bool operator==(const TInformacoesVelmar&) const = default;
 };
 
+/// Numbers of code pages for TOryUtilsSistema::ExecutouComandoComRetorno; another one is the system's number (850).
+/// (Linux) CPaginaAnsi and CPaginaOem are the code set of the locale.
+inline constexpr std::uint32_t CPaginaAnsi = 0;
+inline constexpr std::uint32_t CPaginaOem = 1;  // what most console programs of Windows write
+inline constexpr std::uint32_t CPaginaUtf8 = 65001;
+
 /// State of a service; the ordinals are the state numbers of the Service Control Manager.
 enum TStatusServicoWindows : int {
     sswErro = 0,

@@ -85,6 +85,33 @@ TEST(Comandos, OQueNaoIniciaDeixaALista) {
     }
 }
 
+TEST(Comandos, UmComandoMudoNaoEhUmQueNaoInicia) {
+    TLinhas linhas{u"ja havia"};
+    EXPECT_FALSE(TOryUtilsSistema::ExecutouComandoComRetorno(u"este-programa-nao-existe", linhas));
+    EXPECT_TRUE(TOryUtilsSistema::ExecutouComandoComRetorno(Comando(u"nada"), linhas));
+    const TPastaTemporaria pasta;
+    EXPECT_FALSE(
+        TOryUtilsSistema::ExecutouComandoComRetorno(Comando(u"criar " + EntreAspas(pasta / "a")), linhas, 4242))
+        << "no such code page";
+    EXPECT_FALSE(std::filesystem::exists(pasta / "a")) << "nothing ran";
+    EXPECT_EQ(linhas, TLinhas{u"ja havia"});
+}
+
+TEST(Comandos, ASaidaPorOutraPaginaDeCodigo) {
+    const std::tuple<std::uint32_t, std::string_view, std::u16string> casos[] = {
+        {850, "a\x87\xC6o", u"ação"},  {437, "a\x87\xE0", u"açα"},
+        {1252, "a\xE7\xE3o", u"ação"}, {CPaginaUtf8, "a\xC3\xA7\xC3\xA3o", u"ação"},
+        {CPaginaOem, "cao", u"cao"},
+    };
+    const TPastaTemporaria pasta;
+    for (const auto& [pagina, bytes, texto] : casos) {
+        TLinhas linhas;
+        const std::u16string comando = Comando(u"arquivo " + EntreAspas(pasta.Gravar(u"saida", bytes)));
+        EXPECT_TRUE(TOryUtilsSistema::ExecutouComandoComRetorno(comando, linhas, pagina)) << pagina;
+        EXPECT_EQ(linhas, TLinhas{texto}) << pagina;
+    }
+}
+
 // The program prints at once, so the chunks are those of the bytes; broken letters are decoded chunk by chunk.
 TEST(Comandos, CemMegabytes) {
     std::string bytes;

@@ -88,12 +88,23 @@ TDecodificadorAnsi::~TDecodificadorAnsi() {
     if (FConversor) ::iconv_close(FConversor);
 }
 
+void TDecodificadorAnsi::Perguntar() {
+    constexpr std::uint32_t CConsole = 1, CUtf8 = 65001;
+    if (FTipo != tdNaoPerguntado) return;
+    std::string codificacao = FPagina <= CConsole ? BuscarCodificacao() : "CP" + std::to_string(FPagina);
+    if (FPagina == CUtf8) codificacao = "UTF-8";
+    if (codificacao != "UTF-8") FConversor = AbrirConversor(codificacao);
+    FTipo = FConversor ? tdOutro : tdUtf8;
+    FConhece = FConversor || codificacao == "UTF-8" || FPagina <= CConsole;
+}
+
+bool TDecodificadorAnsi::ConhecePagina() {
+    Perguntar();
+    return FConhece;
+}
+
 std::u16string TDecodificadorAnsi::Decodificar(std::string_view ABytes) {
-    if (FTipo == tdNaoPerguntado) {
-        const std::string codificacao = BuscarCodificacao();
-        if (codificacao != "UTF-8") FConversor = AbrirConversor(codificacao);
-        FTipo = FConversor ? tdOutro : tdUtf8;
-    }
+    Perguntar();
     return FTipo == tdUtf8 ? DeUtf8(ABytes) : Converter(FConversor, ABytes);
 }
 

@@ -48,13 +48,13 @@ std::string ParaTextoDoSistema(std::u16string_view ATexto) {
     return resultado;
 }
 
-std::u16string DeTextoDoSistema(std::string_view ATexto) {
-    if (::GetACP() == CP_UTF8) return DeUtf8(ATexto);
+std::u16string DeTextoDoSistema(std::string_view ATexto, std::uint32_t APagina) {
+    if (APagina == CP_UTF8 || (APagina == CP_ACP && ::GetACP() == CP_UTF8)) return DeUtf8(ATexto);
     std::u16string resultado;
     for (; !ATexto.empty(); ATexto.remove_prefix(std::min(ATexto.size(), CMaiorParte))) {
         const auto bytes = static_cast<int>(std::min(ATexto.size(), CMaiorParte));
         const auto converter = [&](wchar_t* ADestino, int ATamanho) {
-            return ::MultiByteToWideChar(CP_ACP, 0, ATexto.data(), bytes, ADestino, ATamanho);
+            return ::MultiByteToWideChar(APagina, 0, ATexto.data(), bytes, ADestino, ATamanho);
         };
         const std::size_t antes = resultado.size();
         const int unidades = converter(nullptr, 0);
