@@ -282,6 +282,32 @@ void EscreverJson(std::string& ASaida, const OryTypes::TResultStatus& AValor) {
     ASaida += '}';
 }
 
+void EscreverJson(std::string& ASaida, const OryUtils::TDescricaoDocumento& AValor) {
+    const std::pair<const char*, const std::u16string&> campos[]{
+        {"nome", AValor.Nome},   {"titulo", AValor.Titulo},    {"palavras", AValor.Palavras},
+        {"forma", AValor.Forma}, {"mascara", AValor.Mascara},  {"regra", AValor.Regra},
+        {"fonte", AValor.Fonte}, {"contexto", AValor.Contexto}};
+    for (char inicio = '{'; const auto& [nome, valor] : campos) {
+        ASaida += std::exchange(inicio, ',');
+        ASaida += std::string("\"") + nome + "\":";
+        EscreverJson(ASaida, valor);
+    }
+    ASaida += '}';
+}
+
+void EscreverJson(std::string& ASaida, const std::vector<OryUtils::TFatoDocumento>& AValor) {
+    ASaida += '[';
+    for (const OryUtils::TFatoDocumento& fato : AValor) {
+        if (&fato != AValor.data()) ASaida += ',';
+        ASaida += R"({"nome":)";
+        EscreverJson(ASaida, fato.Nome);
+        ASaida += R"(,"texto":)";
+        EscreverJson(ASaida, fato.Texto);
+        ASaida += '}';
+    }
+    ASaida += ']';
+}
+
 namespace {
 
 struct TEscritorDeVariante {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "oryutils/characters/Caracteres.hpp"
+#include "oryutils/registry_numbers/OryUtilsDocumentos.hpp"
 #include "oryutils/runtime/DataHora.hpp"
 #include "oryutils/runtime/NumeroTexto.hpp"
 #include "oryutils/runtime/Variante.hpp"
@@ -59,6 +60,8 @@ void EscreverJson(std::string& ASaida, const std::vector<int>& AValor);
 void EscreverJson(std::string& ASaida, const std::optional<TListaDeTextos>& AValor);
 void EscreverJson(std::string& ASaida, const OryTypes::TResultStatus& AValor);
 void EscreverJson(std::string& ASaida, const Variant& AValor);
+void EscreverJson(std::string& ASaida, const OryUtils::TDescricaoDocumento& AValor);
+void EscreverJson(std::string& ASaida, const std::vector<OryUtils::TFatoDocumento>& AValor);
 
 template <typename T>
 struct TTipoJson;
@@ -218,6 +221,16 @@ struct TTipoJson<const TListaDeTextos*> : TTipoJson<std::optional<TListaDeTextos
 template <>
 struct TTipoJson<OryTypes::TResultStatus> {
     static constexpr std::string_view Nome = "TResultStatus";
+};
+
+template <>
+struct TTipoJson<OryUtils::TDescricaoDocumento> {
+    static constexpr std::string_view Nome = "TDescricaoDocumento";
+};
+
+template <>
+struct TTipoJson<std::vector<OryUtils::TFatoDocumento>> {
+    static constexpr std::string_view Nome = "lista de TFatoDocumento";
 };
 
 }  // namespace Ory

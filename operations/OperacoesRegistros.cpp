@@ -1,3 +1,4 @@
+#include "oryutils/registry_numbers/OryUtilsDocumentos.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 #include "oryutils/registry_numbers/UnOryUtilsValidacoesClasseIE.hpp"
 
@@ -8,6 +9,7 @@ namespace {
 
 using C = OryUtils::TOryUtilsValidacoes;
 using CIE = OryUtils::TOryUtilsValidacoesIE;
+using D = OryUtils::TOryUtilsDocumentos;
 
 /// A chain of callbacks of which each answers the value given for it.
 bool EncadearResultados(const std::vector<bool>& AResultados, OryUtils::TTipoValidacaoResultadoMetodoRetorno ATipo) {
@@ -65,6 +67,17 @@ constexpr auto COperacoes = Ordenar(std::array{
     Operacao<C::ValidouCaractereControle>("ValidouCaractereControle"),
     Operacao<EncadearResultados>("ValidouMetodosRetorno"),
     Operacao<C::Iif>("Iif"),
+
+    // The kinds of documents in force, by name.
+    Operacao<D::ValidouDocumento>("ValidouDocumento"),
+    Operacao<D::BuscarMotivoRecusa>("BuscarMotivoRecusa"),
+    Operacao<D::BuscarTextoMotivoRecusa>("BuscarTextoMotivoRecusa"),
+    Operacao<D::FormatarDocumento>("FormatarDocumento"),
+    Operacao<D::LimparDocumento>("LimparDocumento"),
+    Operacao<D::GerarDocumento>("GerarDocumento"),
+    Operacao<D::InterpretarDocumento>("InterpretarDocumento"),
+    Operacao<D::BuscarTiposDocumento>("BuscarTiposDocumento"),
+    Operacao<D::BuscarDescricaoDocumento>("BuscarDescricaoDocumento"),
 
     // Of an IE object: what gives a value without the steps before it.
     Operacao<EhIsenta>("Isenta"),

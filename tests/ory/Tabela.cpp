@@ -18,6 +18,7 @@ constexpr const char* CCabecalhos[] = {
     "text/OryUtilsStrings.hpp",
     "text/UnOryUtilsMatematica.hpp",
     "dates/OryUtilsDatas.hpp",
+    "registry_numbers/OryUtilsDocumentos.hpp",
     "registry_numbers/OryUtilsValidacoes.hpp",
     "registry_numbers/UnOryUtilsValidacoesClasseIE.hpp",
     "files/OryUtilsFiles.hpp",
@@ -42,7 +43,7 @@ constexpr const char* CForaDaTabela[][2] = {
      "ExcluiuValorVariavelAmbiente AlterouCotaLimiteObjetosGDI BuscarValorCotaLimiteObjetosGDI "
      "AtualizouTimeoutInicializacaoServico"},
     {"works on a control of a form",
-     "ValidouCampo ValidarCampo TratarResultadoValidacao ValidouDocumento ValidarDocumento ValidarIE "
+     "ValidouCampo ValidarCampo TratarResultadoValidacao ValidarDocumento ValidarNumeroDocumento ValidarIE "
      "ValidarString ValidarCodigoCadastral ValidarCampoNumerico ValidarCampoSomenteNumeros "
      "ValidarCampoSomenteCaracteresEspeciais ValidarCRC ValidarEmail ValidarListaEmail ValidarData "
      "ValidarIPAddress ValidarDataInicioFim ValidarDiretorio ValidarCampoNomeArquivo "

@@ -1,8 +1,8 @@
 #include "oryutils/platform/Pastas.hpp"
+#include "oryutils/registry_numbers/MotivoRecusa.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 #include "oryutils/registry_numbers/UnOryUtilsValidacoesClasseCRC.hpp"
 #include "oryutils/registry_numbers/interno/Enderecos.hpp"
-#include "oryutils/registry_numbers/interno/MotivoRecusa.hpp"
 #include "oryutils/runtime/Formatos.hpp"
 
 #include "registry_numbers/Frame.hpp"

@@ -1,8 +1,8 @@
 #include "oryutils/registry_numbers/UnOryUtilsValidacoesClasseIE.hpp"
 
 #include "oryutils/characters/Utf.hpp"
+#include "oryutils/registry_numbers/MotivoRecusa.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
-#include "oryutils/registry_numbers/interno/MotivoRecusa.hpp"
 
 #include "comum/Casos.hpp"
 

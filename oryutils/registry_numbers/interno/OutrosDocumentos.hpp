@@ -1,6 +1,6 @@
 #pragma once
 
-#include "oryutils/registry_numbers/interno/MotivoRecusa.hpp"
+#include "oryutils/registry_numbers/MotivoRecusa.hpp"
 
 #include <string_view>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "oryutils/registry_numbers/interno/MotivoRecusa.hpp"
+#include "oryutils/registry_numbers/MotivoRecusa.hpp"
 
 #include <algorithm>
 #include <array>
@@ -117,7 +117,7 @@ struct TExigencia {
         int De = 0, Ate = 0;
     };
     std::size_t Lugar = 1, Largura = 0;
-    std::array<TFaixa, 4> Faixas{};
+    std::array<TFaixa, 20> Faixas{};
     std::size_t Quantas = 0;
 
     constexpr TExigencia() = default;
