@@ -13,7 +13,7 @@ namespace OryUtils::Interno {
 
 /// The trees of the registry; the values are those of the system's predefined handles, their low 32 bits.
 /// (Linux) crClassesRoot is the key Software/Classes of crLocalMachine and crCurrentConfig its key
-/// System/CurrentControlSet/Hardware Profiles/Current; there is no crUsers: its keys do not open (erAlcaInvalida).
+/// System/CurrentControlSet/Hardware Profiles/Current; crUsers has a file of its own, in which ".DEFAULT" is born.
 enum TChaveRaiz : std::uint32_t {
     crClassesRoot = 0x80000000,
     crCurrentUser = 0x80000001,
@@ -49,8 +49,8 @@ ORY_API std::u16string BuscarTextoDoErroRegistro(TErroRegistro AErro);
 
 /// An open key of the registry: of Windows', or of the settings store that takes its place on Linux (docs/ajustes.md).
 /// Nothing here throws, short of memory. Names and paths are compared ignoring case; "\" parts the keys of a path.
-/// A name holds no character of code 0, 10 or 13 and at most 16383 characters, that of a key 255: erNomeInvalido.
-/// Several processes and threads may write at once: each call is whole or has not happened.
+/// A name holds no character of code 0, on Linux none of code 10 or 13 either, and at most 16383 characters, that of a
+/// key 255: erNomeInvalido. Several processes and threads may write at once: each call is whole or has not happened.
 class ORY_API TChaveRegistro {
 public:
     TChaveRegistro();

@@ -48,8 +48,9 @@ bool LeuValor(TCursorReg& ACursor, TChaveReg& AChave) {
     auto dado = apagado ? std::nullopt : LerDadoReg(ACursor);
     if ((!apagado && !dado) || !ACursor.SoRestaComentario()) return false;
     ACursor.LerLinha();
+    // A file that the library wrote has the names in order: each comes behind the last one.
     if (dado)
-        AChave.Valores.insert_or_assign(*nome, *std::move(dado));
+        AChave.Valores.insert_or_assign(AChave.Valores.end(), *nome, *std::move(dado));
     else
         AChave.Valores.erase(*nome);
     return true;
@@ -80,8 +81,10 @@ void AnexarChave(std::u16string& ATexto, const TChaveReg& AChave, std::u16string
 }  // namespace
 
 bool TOrdemSemCaixa::operator()(std::u16string_view AUm, std::u16string_view AOutro) const noexcept {
-    return std::ranges::lexicographical_compare(
-        AUm, AOutro, [](char16_t AEste, char16_t AAquele) { return MinusculaDe(AEste) < MinusculaDe(AAquele); });
+    const auto igual = [](char16_t a, char16_t b) { return a == b || MinusculaDe(a) == MinusculaDe(b); };
+    const auto [um, outro] = std::ranges::mismatch(AUm, AOutro, igual);
+    if (um == AUm.end() || outro == AOutro.end()) return outro != AOutro.end();
+    return MinusculaDe(*um) < MinusculaDe(*outro);
 }
 
 TChaveReg* TChaveReg::Buscar(std::u16string_view ACaminho) noexcept {

@@ -13,8 +13,9 @@ inline constexpr std::size_t CMaiorNomeDeChave = 255;
 inline constexpr std::size_t CMaiorNomeDeValor = 16383;
 inline constexpr std::size_t CMaiorProfundidade = 512;
 
-/// Characters that no line of an exported registry file can show in a name.
+/// Characters that no line of an exported registry file can show in a name, and those that no name of Windows has.
 inline constexpr std::u16string_view CProibidosEmNome{u"\0\r\n", 3};
+inline constexpr std::u16string_view CProibidosNoWindows{u"\0", 1};
 
 /// ACaminho without empty parts: "\Software\\Empresa\" is "Software\Empresa".
 inline std::u16string NormalizarCaminho(std::u16string_view ACaminho) {
@@ -27,8 +28,8 @@ inline std::u16string NormalizarCaminho(std::u16string_view ACaminho) {
 }
 
 /// For a path without empty parts.
-inline bool EhCaminhoValido(std::u16string_view ACaminho) noexcept {
-    if (ACaminho.find_first_of(CProibidosEmNome) != ACaminho.npos) return false;
+inline bool EhCaminhoValido(std::u16string_view ACaminho, std::u16string_view AProibidos = CProibidosEmNome) noexcept {
+    if (ACaminho.find_first_of(AProibidos) != ACaminho.npos) return false;
     std::size_t niveis = 0;
     while (!ACaminho.empty()) {
         const std::size_t fim = ACaminho.find(u'\\');
@@ -39,12 +40,13 @@ inline bool EhCaminhoValido(std::u16string_view ACaminho) noexcept {
 }
 
 /// One part of a path.
-inline bool EhNomeDeSubchaveValido(std::u16string_view ANome) noexcept {
-    return !ANome.empty() && ANome.find(u'\\') == ANome.npos && EhCaminhoValido(ANome);
+inline bool EhNomeDeSubchaveValido(std::u16string_view ANome,
+                                   std::u16string_view AProibidos = CProibidosEmNome) noexcept {
+    return !ANome.empty() && ANome.find(u'\\') == ANome.npos && EhCaminhoValido(ANome, AProibidos);
 }
 
-inline bool EhNomeDeValorValido(std::u16string_view ANome) noexcept {
-    return ANome.size() <= CMaiorNomeDeValor && ANome.find_first_of(CProibidosEmNome) == ANome.npos;
+inline bool EhNomeDeValorValido(std::u16string_view ANome, std::u16string_view AProibidos = CProibidosEmNome) noexcept {
+    return ANome.size() <= CMaiorNomeDeValor && ANome.find_first_of(AProibidos) == ANome.npos;
 }
 
 }  // namespace OryUtils::Interno

@@ -12,8 +12,8 @@ namespace {
 using Interno::TDadoRegistro;
 using Interno::TErroRegistro;
 
-[[noreturn]] void Falhar(std::u16string_view AAntes, std::u16string_view ANome, std::u16string_view ADepois) {
-    throw ERegistryException(std::u16string(AAntes).append(ANome).append(ADepois));
+[[noreturn]] void RecusarTipo(std::u16string_view AValor) {
+    throw ERegistryException(u"Tipo de dado inválido para '" + std::u16string(AValor) + u"'");
 }
 
 // Little-endian bytes of an integer, and back.
@@ -33,8 +33,19 @@ T DeBytes(std::string_view ABytes) {
 }  // namespace
 
 bool TRegistry::Deu(TErroRegistro AErro) const noexcept {
-    if (AErro != Interno::erNenhum) FUltimoErro = AErro;
-    return AErro == Interno::erNenhum;
+    if (AErro == Interno::erNenhum) return true;
+    FUltimoErro = AErro;
+    const bool naoAbriu = AErro == Interno::erAlcaInvalida && FErroAoAbrir != Interno::erNenhum;
+    FMotivo = naoAbriu ? FErroAoAbrir : AErro;
+    return false;
+}
+
+std::u16string TRegistry::BuscarMotivoDaFalha() const { return Interno::BuscarTextoDoErroRegistro(FMotivo); }
+
+void TRegistry::Falhar(std::u16string_view AAntes, std::u16string_view ANome, std::u16string_view ADepois) const {
+    std::u16string mensagem = std::u16string(AAntes).append(ANome).append(ADepois);
+    if (const std::u16string motivo = BuscarMotivoDaFalha(); !motivo.empty()) mensagem += u": " + motivo;
+    throw ERegistryException(mensagem);
 }
 
 // Below the root key.
@@ -50,7 +61,9 @@ void TRegistry::SetRootKey(TChaveRaiz ARaiz) {
 
 bool TRegistry::OpenKey(std::u16string_view AChave, bool ACriar) {
     std::u16string caminho = BuscarCaminhoCompleto(AChave);
-    if (!Deu(FChave.Abrir(FRaiz, caminho, FAcesso, ACriar))) return false;
+    const TErroRegistro erro = FChave.Abrir(FRaiz, caminho, FAcesso, ACriar);
+    FErroAoAbrir = EstahAberta() ? Interno::erNenhum : erro;
+    if (!Deu(erro)) return false;
     FCaminho = std::move(caminho);
     return true;
 }
@@ -58,6 +71,7 @@ bool TRegistry::OpenKey(std::u16string_view AChave, bool ACriar) {
 void TRegistry::CloseKey() noexcept {
     FChave.Fechar();
     FCaminho.clear();
+    FErroAoAbrir = Interno::erNenhum;
 }
 
 void TRegistry::CreateKey(std::u16string_view AChave) {
@@ -108,8 +122,7 @@ std::vector<std::u16string> TRegistry::GetValueNames() const {
 std::u16string TRegistry::ReadString(std::u16string_view AValor) const {
     TDadoRegistro dado;
     if (!LerDado(AValor, dado)) return {};
-    if (dado.Tipo != Interno::tdrTexto && dado.Tipo != Interno::tdrTextoExpansivel)
-        Falhar(u"Tipo de dado inválido para '", AValor, u"'");
+    if (dado.Tipo != Interno::tdrTexto && dado.Tipo != Interno::tdrTextoExpansivel) RecusarTipo(AValor);
     std::u16string texto = Interno::UnidadesDeBytes(dado.Bytes);
     if (const std::size_t fim = texto.find(u'\0'); fim != texto.npos) texto.resize(fim);
     return texto;
@@ -118,16 +131,14 @@ std::u16string TRegistry::ReadString(std::u16string_view AValor) const {
 std::int32_t TRegistry::ReadInteger(std::u16string_view AValor) const {
     TDadoRegistro dado;
     if (!LerDado(AValor, dado)) Falhar(u"Falha ao obter dados de '", AValor, u"'");
-    if (dado.Tipo != Interno::tdrInteiro || dado.Bytes.size() != sizeof(std::int32_t))
-        Falhar(u"Tipo de dado inválido para '", AValor, u"'");
+    if (dado.Tipo != Interno::tdrInteiro || dado.Bytes.size() != sizeof(std::int32_t)) RecusarTipo(AValor);
     return static_cast<std::int32_t>(DeBytes<std::uint32_t>(dado.Bytes));
 }
 
 double TRegistry::ReadFloat(std::u16string_view AValor) const {
     TDadoRegistro dado;
     if (!LerDado(AValor, dado)) Falhar(u"Falha ao obter dados de '", AValor, u"'");
-    if (dado.Tipo != Interno::tdrBinario || dado.Bytes.size() != sizeof(double))
-        Falhar(u"Tipo de dado inválido para '", AValor, u"'");
+    if (dado.Tipo != Interno::tdrBinario || dado.Bytes.size() != sizeof(double)) RecusarTipo(AValor);
     return std::bit_cast<double>(DeBytes<std::uint64_t>(dado.Bytes));
 }
 

@@ -27,8 +27,9 @@ public:
 /// (docs/ajustes.md). A path that starts with "\" counts from the root key, another one from the current key, or from
 /// the root key while none is open. Not for use by two threads at once.
 ///
-/// What fails answers false or raises ERegistryException, as each operation says; GetUltimoErro tells the system's
-/// reason. While no key is open every value is missing and nothing can be written.
+/// What fails answers false or raises ERegistryException, as each operation says; a message ends with ": " and the
+/// system's reason, and so do GetUltimoErro and BuscarMotivoDaFalha tell it. While no key is open every value is
+/// missing and nothing can be written.
 /// Example:  TRegistry registro(arLeitura);
 ///           if (registro.OpenKey(u"Software\\Empresa", false)) pasta = registro.ReadString(u"Pasta");
 class ORY_API TRegistry {
@@ -50,7 +51,7 @@ public:
     void CloseKey() noexcept;
 
     /// Creates the key, with the keys above it; one that is there is no error. The current key stays.
-    /// Raises "Falha ao criar a chave %s".
+    /// Raises "Falha ao criar a chave %s: reason".
     void CreateKey(std::u16string_view AChave);
     bool KeyExists(std::u16string_view AChave) const;
     /// Deletes the key and all below it. False when it is missing or may not be deleted, and for the current key ("").
@@ -65,12 +66,12 @@ public:
     /// The text of a value, up to its first character of code 0; variables in an expandable one stay as they are.
     /// Empty when the value is missing. Raises "Tipo de dado inválido para '%s'" for a value that is no text.
     std::u16string ReadString(std::u16string_view AValor) const;
-    /// The readers of numbers raise "Falha ao obter dados de '%s'" when the value is missing and "Tipo de dado inválido
-    /// para '%s'" when it is of another kind.
+    /// The readers of numbers raise "Falha ao obter dados de '%s': reason" when the value is missing and "Tipo de dado
+    /// inválido para '%s'" when it is of another kind.
     std::int32_t ReadInteger(std::u16string_view AValor) const;
     double ReadFloat(std::u16string_view AValor) const;
 
-    /// The writers raise "Falha ao definir dados para '%s'".
+    /// The writers raise "Falha ao definir dados para '%s': reason".
     void WriteString(std::u16string_view AValor, std::u16string_view ATexto);
     /// As a 32-bit integer.
     void WriteInteger(std::u16string_view AValor, std::int32_t AInteiro);
@@ -79,10 +80,13 @@ public:
 
     /// Of the last operation that failed, until the next that fails; erNenhum before.
     Interno::TErroRegistro GetUltimoErro() const noexcept { return FUltimoErro; }
+    /// The system's words for it; where no key was open, for why it did not open.
+    std::u16string BuscarMotivoDaFalha() const;
 
 private:
     bool Deu(Interno::TErroRegistro AErro) const noexcept;
     std::u16string BuscarCaminhoCompleto(std::u16string_view AChave) const;
+    [[noreturn]] void Falhar(std::u16string_view AAntes, std::u16string_view ANome, std::u16string_view ADepois) const;
     bool LerDado(std::u16string_view AValor, Interno::TDadoRegistro& ADado) const;
     void Gravar(std::u16string_view AValor, const Interno::TDadoRegistro& ADado);
 
@@ -90,7 +94,9 @@ private:
     std::uint32_t FAcesso;
     Interno::TChaveRegistro FChave{};
     std::u16string FCaminho{};
+    Interno::TErroRegistro FErroAoAbrir = Interno::erNenhum;  // while no key is open
     mutable Interno::TErroRegistro FUltimoErro = Interno::erNenhum;
+    mutable Interno::TErroRegistro FMotivo = Interno::erNenhum;
 };
 
 }  // namespace OryUtils

@@ -32,14 +32,24 @@ private:
     static Variant Converter(const T& AValor) {
         if constexpr (std::is_enum_v<T>)
             return {};
-        else if constexpr (std::same_as<T, char16_t> || std::same_as<T, char>)
-            return std::u16string(1, static_cast<std::make_unsigned_t<T>>(AValor));
+        else if constexpr (std::same_as<T, char>)
+            return TextoDoCaractere(static_cast<unsigned char>(AValor));
+        else if constexpr (std::same_as<T, char8_t> || std::same_as<T, char16_t> || std::same_as<T, char32_t> ||
+                           std::same_as<T, wchar_t>)
+            return TextoDoCaractere(static_cast<char32_t>(AValor));
         else if constexpr (std::integral<T> && !std::same_as<T, bool>)
             return static_cast<std::int64_t>(AValor);
         else if constexpr (std::floating_point<T>)
             return Extended{AValor};
         else
             return AValor;
+    }
+
+    static std::u16string TextoDoCaractere(char32_t ACaractere) {
+        if (ACaractere > 0x10FFFF) return u"\uFFFD";
+        if (ACaractere <= 0xFFFF) return std::u16string(1, static_cast<char16_t>(ACaractere));
+        const char32_t resto = ACaractere - 0x10000;
+        return {static_cast<char16_t>(0xD800 + (resto >> 10)), static_cast<char16_t>(0xDC00 + (resto & 0x3FF))};
     }
 
     Variant FValor;
@@ -55,8 +65,9 @@ private:
 /// can be written. Every operation closes the key, except GetChave.
 ///
 /// No operation raises, except the readers (GetValorRegistro, BuscarValor...) for a value of another kind. Those that
-/// return a TResultStatus answer success with an empty message, or failure and the message they name. One instance is
-/// not for two threads at once.
+/// return a TResultStatus answer success with an empty message, or failure and the message they name;
+/// BuscarMotivoDaFalha tells the system's reason also where that message has no place for it. One instance is not for
+/// two threads at once.
 class ORY_API TOryUtilsRegistro {
 public:
     // Values and keys.
@@ -66,6 +77,9 @@ public:
     /// Inicializar, then the accessor itself with the key left open. It belongs to this object, and the next operation
     /// moves it to another key.
     TRegistry& GetChave(TChaveRaiz ARaiz, std::u16string_view AChave);
+
+    /// The system's words for why the last operation that failed did so: "Acesso negado".
+    std::u16string BuscarMotivoDaFalha() const { return FRegistro.BuscarMotivoDaFalha(); }
 
     /// The text of a value; empty when the value or the key is missing. An expandable text comes unexpanded.
     /// Raises ERegistryException ("Tipo de dado inválido para '%s'") for a value that is no text.
@@ -113,7 +127,8 @@ public:
     /// Empty when there is no such variable. Raises as GetValorRegistro does.
     std::u16string BuscarValorVariavelAmbiente(std::u16string_view AVariavel);
     /// Appends ";" and the item, as it is, for each of AItens that is not blank; also to an empty list, and also when
-    /// the item is there already. The variable becomes a text that is not expandable.
+    /// the item is there already. The variable becomes a text that is not expandable: Windows then takes a
+    /// "%SystemRoot%" in it as it stands, and its folders are no longer found.
     /// Failure:  that of AdicionouValor; for a variable that is no text with the items as the content.
     /// Example:  {u"C:\\x", u"  ", u"C:\\y"} makes "A;C:\x;C:\y" of "A".
     TResultStatus AdicionouValorVariavelAmbiente(std::u16string_view AVariavel,
@@ -133,8 +148,8 @@ public:
     /// Writes a valid quota; Windows takes it at its next start.
     /// Failure:  that of the check, or of AdicionouValor.
     TResultStatus AlterouCotaLimiteObjetosGDI(int AValor);
-    /// The quota in decimal digits. Raises ERegistryException ("Falha ao obter dados de 'GDIProcessHandleQuota'") when
-    /// none is set.
+    /// The quota in decimal digits. Raises ERegistryException ("Falha ao obter dados de 'GDIProcessHandleQuota':
+    /// reason") when none is set.
     std::u16string BuscarValorCotaLimiteObjetosGDI();
 
     // Services.

@@ -1,4 +1,5 @@
 // The settings of the registry: what is written is read back without the library (LerDoSistema).
+#include "oryutils/characters/Utf.hpp"
 #include "oryutils/runtime/Formatos.hpp"
 #include "oryutils/system/interno/CotaObjetosGDI.hpp"
 
@@ -26,6 +27,8 @@ void Falhou(const TResultStatus& AResultado, const std::u16string& AMensagem, co
     EXPECT_EQ(AResultado, (TResultStatus{false, AMensagem})) << APorque;
 }
 
+std::u16string MotivoDe(Interno::TErroRegistro AErro) { return u": " + Interno::BuscarTextoDoErroRegistro(AErro); }
+
 std::string MensagemDe(const auto& AAcao) { return Testes::MensagemDe<ERegistryException>(AAcao); }
 
 TEST_F(TRegistro, EscreveCadaTipoComoOSistemaOLe) {
@@ -46,6 +49,11 @@ TEST_F(TRegistro, EscreveCadaTipoComoOSistemaOLe) {
         {u"%PATH%;São João \xD83D\xDE00", u"\"%PATH%;São João \xD83D\xDE00\"", "never expandable"},
         {u'ç', u"\"ç\"", "character"},
         {'x', u"\"x\"", "8-bit character"},
+        {u8'x', u"\"x\"", "8-bit character of UTF-8"},
+        {L'ç', u"\"ç\"", "wide character"},
+        {U'ç', u"\"ç\"", "32-bit character"},
+        {U'\U0001F600', u"\"\xD83D\xDE00\"", "a character of two units"},
+        {char32_t{0x110000}, u"\"\xFFFD\"", "none"},
         {true, u"", "a Boolean is not written"},
         {cAzul, u"", "an enumeration is not written"},
         {TForma::Redonda, u"", "a scoped one neither"},
@@ -81,7 +89,8 @@ TEST_F(TRegistro, LeDeVoltaORecusaOutroTipo) {
     EXPECT_EQ(MensagemDe([&] { acessor.ReadString(u"i"); }), "Tipo de dado inválido para 'i'");
     EXPECT_EQ(MensagemDe([&] { acessor.ReadInteger(u"s"); }), "Tipo de dado inválido para 's'");
     EXPECT_EQ(MensagemDe([&] { acessor.ReadFloat(u"i"); }), "Tipo de dado inválido para 'i'");
-    EXPECT_EQ(MensagemDe([&] { acessor.ReadInteger(u"falta"); }), "Falha ao obter dados de 'falta'");
+    const std::string motivo = ParaUtf8(MotivoDe(Interno::erNaoExiste));
+    EXPECT_EQ(MensagemDe([&] { acessor.ReadInteger(u"falta"); }), "Falha ao obter dados de 'falta'" + motivo);
     EXPECT_EQ(MensagemDe([&] { Registro.GetValorRegistro(crLocalMachine, CChave, u"i"); }),
               "Tipo de dado inválido para 'i'");
     EXPECT_FALSE(Registro.GetChave(crLocalMachine, u"").GetCurrentPath().size()) << "the root itself opens";
@@ -97,7 +106,8 @@ TEST_F(TRegistro, FalhasDizemChaveEValor) {
     for (const auto& [valor, texto] : casos)
         Falhou(Registro.AdicionouValor(crLocalMachine, u"Software\\Nao\\Existe", valor, u"Nome"),
                u"Erro ao adicionar valor no registro do Windows.\r\nChave: Software\\Nao\\Existe\r\nValor: " +
-                   std::u16string(texto) + u"\r\n\r\nErro ocorrido: \r\n\r\nFalha ao definir dados para 'Nome'",
+                   std::u16string(texto) + u"\r\n\r\nErro ocorrido: \r\n\r\nFalha ao definir dados para 'Nome'" +
+                   MotivoDe(Interno::erNaoExiste),
                "a missing key is not created, and Valor is the content");
     EXPECT_EQ(Registro.AdicionouValor(crLocalMachine, u"Software\\Nao\\Existe", true, u"Nome"), TResultStatus());
     EXPECT_FALSE(Registro.ExisteChave(crLocalMachine, u"Software", u"Nao"));
@@ -107,6 +117,7 @@ TEST_F(TRegistro, FalhasDizemChaveEValor) {
            "a missing value");
     const std::u16string motivo = Interno::BuscarTextoDoErroRegistro(Interno::erNaoExiste);
     EXPECT_FALSE(motivo.empty());
+    EXPECT_EQ(Registro.BuscarMotivoDaFalha(), motivo) << "what the message has no place for";
     Falhou(Registro.ExcluiuChave(crLocalMachine, CChave, u"Sub"),
            u"Não foi possível excluir a chave/valor << Sub >>.\r\nErro ocorrido: \r\n\r\n" + motivo, "a missing key");
     Falhou(Registro.ExcluiuProgramaInicializacaoWindows(u"OryUtils %s Teste"),
@@ -118,7 +129,7 @@ TEST_F(TRegistro, FalhasDizemChaveEValor) {
     Falhou(Registro.AdicionouProgramaInicializacaoWindows(longo, u"x.exe"),
            u"Não foi possível configurar aplicação para iniciar automaticamente com o Windows.\r\n\r\nAplicação: " +
                longo + u" \r\n\r\nErro ocorrido: \r\n\r\nFalha ao definir dados para '" + longo + u"'" +
-               std::u16string(CConselho),
+               MotivoDe(Interno::erNomeInvalido) + std::u16string(CConselho),
            "a name that the registry does not take");
 }
 
@@ -237,7 +248,7 @@ TEST_F(TRegistro, CotaDeObjetosGDI) {
     Falhou(Registro.AlterouCotaLimiteObjetosGDI(255), mensagem(u"65536"), "nothing is written");
     EXPECT_EQ(LerDoSistema(CGDI, u"GDIProcessHandleQuota"), u"");
     EXPECT_EQ(MensagemDe([&] { Registro.BuscarValorCotaLimiteObjetosGDI(); }),
-              "Falha ao obter dados de 'GDIProcessHandleQuota'");
+              "Falha ao obter dados de 'GDIProcessHandleQuota'" + ParaUtf8(MotivoDe(Interno::erNaoExiste)));
     EXPECT_EQ(Registro.AlterouCotaLimiteObjetosGDI(65536), TResultStatus());
     EXPECT_EQ(LerDoSistema(CGDI, u"GDIProcessHandleQuota"), u"dword:00010000");
     EXPECT_EQ(Registro.BuscarValorCotaLimiteObjetosGDI(), u"65536");

@@ -83,6 +83,10 @@ void CriarArmazemNovo(TChaveReg& ATopo, std::string_view ARaiz) {
         for (const char16_t* chave : CChavesDoUsuario) ATopo.Criar(chave);
         return;
     }
+    if (ARaiz == "HKEY_USERS") {
+        ATopo.Criar(u"HKEY_USERS\\.DEFAULT");
+        return;
+    }
     for (const char16_t* chave : CChavesDaMaquina) ATopo.Criar(chave);
     ATopo.Criar(CChaveDosProgramas).Valores[u"ProgramFilesDir"] = {
         tdrTexto, BytesDeUnidades(BuscarPastaDeProgramasPadrao() + u'\0')};
@@ -139,7 +143,7 @@ bool Travar(const TDescritor& ATrava) {
 TLocalDoArmazem BuscarLocalDoArmazem(TChaveRaiz ARaiz) {
     const bool doUsuario = ARaiz == crCurrentUser;
     TLocalDoArmazem local;
-    local.Raiz = doUsuario ? "HKEY_CURRENT_USER" : "HKEY_LOCAL_MACHINE";
+    local.Raiz = doUsuario ? "HKEY_CURRENT_USER" : ARaiz == crUsers ? "HKEY_USERS" : "HKEY_LOCAL_MACHINE";
     local.ModoDaPasta = doUsuario ? 0700 : 0755;
     local.ModoDoArquivo = doUsuario ? 0600 : 0644;
     local.Pasta = BuscarVariavelDeAmbiente(CVariavelDaPasta);

@@ -8,8 +8,8 @@
 #include <string>
 #include <string_view>
 
-// The settings store: one exported registry file for each root key, HKEY_LOCAL_MACHINE.reg in a folder of the system
-// and HKEY_CURRENT_USER.reg in one of the user (docs/ajustes.md).
+// The settings store: one exported registry file for each root key, HKEY_LOCAL_MACHINE.reg and HKEY_USERS.reg in a
+// folder of the system and HKEY_CURRENT_USER.reg in one of the user (docs/ajustes.md).
 namespace OryUtils::Interno {
 
 /// Where the file of a root key is and who may read it.
@@ -22,7 +22,7 @@ struct TLocalDoArmazem {
     std::string BuscarArquivo() const { return Pasta + "/" + std::string(Raiz) + ".reg"; }
 };
 
-/// ARaiz: crLocalMachine or crCurrentUser.
+/// ARaiz: any root; those that are keys of the machine live in its file.
 TLocalDoArmazem BuscarLocalDoArmazem(TChaveRaiz ARaiz);
 
 /// True when this process may replace the file; folders that are missing count as what they would be created in.

@@ -35,7 +35,7 @@ constexpr std::array CTextosDosErros{
     TTextoDoErro{erChaveExcluida, u"A chave foi excluída"},
 };
 
-// The roots that are keys of the machine.
+// The roots as keys of the files.
 struct TApelidoDeRaiz {
     TChaveRaiz Raiz;
     std::u16string_view Chave;
@@ -45,6 +45,7 @@ constexpr std::array CApelidos{
     TApelidoDeRaiz{crClassesRoot, u"HKEY_LOCAL_MACHINE\\Software\\Classes"},
     TApelidoDeRaiz{crCurrentConfig, u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Hardware Profiles\\Current"},
     TApelidoDeRaiz{crCurrentUser, u"HKEY_CURRENT_USER"},
+    TApelidoDeRaiz{crUsers, u"HKEY_USERS"},
 };
 
 TErroRegistro ListarNomes(const auto& AMapa, std::vector<std::u16string>& ANomes) {

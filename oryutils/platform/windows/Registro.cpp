@@ -57,7 +57,7 @@ TChaveRegistro& TChaveRegistro::operator=(TChaveRegistro&& AOutra) noexcept = de
 TErroRegistro TChaveRegistro::Abrir(TChaveRaiz ARaiz, std::u16string_view ACaminho, std::uint32_t AAcesso,
                                     bool ACriar) {
     const std::u16string caminho = Interno::NormalizarCaminho(ACaminho);
-    if (!Interno::EhCaminhoValido(caminho)) return erNomeInvalido;
+    if (!Interno::EhCaminhoValido(caminho, CProibidosNoWindows)) return erNomeInvalido;
     auto dados = std::make_unique<TDados>();
     const LSTATUS erro = ACriar && !caminho.empty()
                              ? ::RegCreateKeyExW(Alca(ARaiz), ParaWide(caminho), 0, nullptr, REG_OPTION_NON_VOLATILE,
@@ -94,7 +94,7 @@ TErroRegistro TChaveRegistro::Ler(std::u16string_view AValor, TDadoRegistro& ADa
 
 TErroRegistro TChaveRegistro::Gravar(std::u16string_view AValor, const TDadoRegistro& ADado) {
     if (!FDados) return erAlcaInvalida;
-    if (!Interno::EhNomeDeValorValido(AValor)) return erNomeInvalido;
+    if (!Interno::EhNomeDeValorValido(AValor, CProibidosNoWindows)) return erNomeInvalido;
     // The system may look for a terminator behind a text that has none.
     const std::string bytes = ADado.Bytes + std::string(sizeof(wchar_t), '\0');
     return De(::RegSetValueExW(FDados->Chave, ParaWide(std::u16string(AValor)), 0, ADado.Tipo,
@@ -109,7 +109,7 @@ TErroRegistro TChaveRegistro::ExcluirValor(std::u16string_view AValor) {
 
 TErroRegistro TChaveRegistro::ExcluirSubchave(std::u16string_view ASubchave) {
     if (!FDados) return erAlcaInvalida;
-    if (!Interno::EhNomeDeSubchaveValido(ASubchave)) return erNomeInvalido;
+    if (!Interno::EhNomeDeSubchaveValido(ASubchave, CProibidosNoWindows)) return erNomeInvalido;
     return De(::RegDeleteTreeW(FDados->Chave, ParaWide(std::u16string(ASubchave))));
 }
 

@@ -184,11 +184,13 @@ TEST_F(TArmazem, QuemNaoPodeGravarSoLe) {
     const auto motivo = completo.GetUltimoErro();
     const auto resultado = Registro.AdicionouValor(crLocalMachine, CChave, 1, u"x");
     const auto tempo = Registro.AtualizouTimeoutInicializacaoServico(1);
+    const auto motivoDoTempo = Registro.BuscarMotivoDaFalha();
     ASSERT_EQ(::seteuid(0), 0);
     EXPECT_TRUE(le);
     EXPECT_FALSE(abre) << "all rights are not to be had, as on Windows";
     EXPECT_EQ(motivo, Interno::erAcessoNegado);
-    EXPECT_FALSE(resultado.Status);
+    EXPECT_TRUE(resultado.Mensagem.ends_with(u"Falha ao definir dados para 'x': Acesso negado"));
+    EXPECT_EQ(motivoDoTempo, u"Acesso negado");
     EXPECT_EQ(tempo.Mensagem,
               u"Não foi possível atualizar a configuração de timeout de inicialização de serviços ServicesPipeTimeout" +
                   std::u16string(Teste::CConselho));
@@ -201,7 +203,8 @@ TEST_F(TArmazem, ArquivoEstragadoFicaComoEsta) {
         acessor.SetRootKey(crLocalMachine);
         EXPECT_FALSE(acessor.OpenKey(CChave, true));
         EXPECT_EQ(acessor.GetUltimoErro(), Interno::erCorrompido);
-        EXPECT_FALSE(Registro.AdicionouValor(crLocalMachine, CChave, 1, u"x").Status);
+        EXPECT_TRUE(Registro.AdicionouValor(crLocalMachine, CChave, 1, u"x")
+                        .Mensagem.ends_with(u": " + Interno::BuscarTextoDoErroRegistro(Interno::erCorrompido)));
         EXPECT_FALSE(Registro.ExcluiuChave(crLocalMachine, u"Software", u"OryUtilsTeste").Status);
         EXPECT_EQ(Registro.GetValorRegistro(crLocalMachine, CChave, u"x"), u"");
         EXPECT_EQ(LerArquivo(), bytes);
@@ -239,7 +242,10 @@ TEST_F(TArmazem, ArmazemNasceComAsChavesDeTodoWindows) {
     acessor.SetRootKey(crLocalMachine);
     EXPECT_TRUE(acessor.KeyExists(u"Software\\Classes\\.ory"));
     acessor.SetRootKey(crUsers);
-    EXPECT_FALSE(acessor.OpenKey(u"", false)) << "there are no other users' keys";
+    ASSERT_TRUE(acessor.OpenKey(u".DEFAULT", false)) << "who has no settings yet";
+    acessor.WriteInteger(u"x", 7);
+    EXPECT_EQ(acessor.ReadInteger(u"x"), 7);
+    EXPECT_TRUE(std::filesystem::exists(Isolado.Pasta + "/HKEY_USERS.reg"));
 }
 
 TEST_F(TArmazem, ChaveExcluidaPorOutroNaoVolta) {

@@ -71,4 +71,15 @@ TEST_F(TRegistro, EditorDoSistemaImportaEExporta) {
     }
 }
 
+// The system takes any character but that of code 0.
+TEST_F(TRegistro, NomesComQuebraDeLinha) {
+    const std::u16string chave = std::u16string(Teste::CChave) + u"\\duas\r\nlinhas";
+    Registro.CriarChave(crLocalMachine, Teste::CChave, u"duas\r\nlinhas");
+    EXPECT_EQ(Registro.AdicionouValor(crLocalMachine, chave, 7, u"a\nb"), TResultStatus());
+    EXPECT_EQ(Teste::LerDoSistema(chave, u"a\nb"), u"dword:00000007");
+    EXPECT_EQ(Registro.ExcluiuValor(crLocalMachine, chave, u"A\nB"), TResultStatus());
+    EXPECT_EQ(Registro.ExcluiuChave(crLocalMachine, Teste::CChave, u"duas\r\nlinhas"), TResultStatus());
+    EXPECT_FALSE(Registro.AdicionouValor(crLocalMachine, Teste::CChave, 7, std::u16string_view(u"a\0b", 3)).Status);
+}
+
 }  // namespace
