@@ -26,7 +26,7 @@ void TOryUtilsControleAlteracoes::Executar() {
         const TDadosControleAlteracaoIOP& dados = *FListaControle[i];
         if (BuscarVersaoAtualAlteracao() >= dados.Versao) return ValidarStatusExecucao(CNadaMais);
         ValidarStatusExecucao(std::u16string(CExecutando) + dados.Versao);
-        if (ExecutouMetodo(dados.Metodo)) OnExecutarMetodoAlteracao(this, dados.Versao);
+        ExecutarPasso(dados);
     }
 }
 
@@ -40,11 +40,12 @@ void TOryUtilsControleAlteracoes::ValidarStatusExecucao(std::u16string_view ASta
     OnStatusExecucao(this, AStatus);
 }
 
-bool TOryUtilsControleAlteracoes::ExecutouMetodo(const TMetodoControleAlteracao& AMetodo) {
+void TOryUtilsControleAlteracoes::ExecutarPasso(const TDadosControleAlteracaoIOP& ADados) {
     std::u16string erro;
     try {
-        AMetodo();
-        return true;
+        ADados.Metodo();
+        // A step that could not be recorded has failed, too.
+        return OnExecutarMetodoAlteracao(this, ADados.Versao);
     } catch (const Exception& excecao) {
         erro = excecao.GetMensagem();
     } catch (const std::exception& excecao) {
@@ -53,7 +54,6 @@ bool TOryUtilsControleAlteracoes::ExecutouMetodo(const TMetodoControleAlteracao&
         erro = CErroSemTexto;
     }
     OnErroExecutarMetodoAlteracao(this, erro);
-    return false;
 }
 
 }  // namespace OryUtils

@@ -40,15 +40,16 @@ public:
     /// step's version or a later one, OnStatusExecucao gets "Não existem mais métodos para executar." and the run ends.
     /// Otherwise OnStatusExecucao gets "Executando alterações referente a versão: " and the version, and the step runs.
     /// A step that raises anything, EAbort included, does not end the run: its message goes to
-    /// OnErroExecutarMetodoAlteracao and the next step follows. An empty closure counts as a step that raises. An
-    /// exception of an event reaches the caller.
+    /// OnErroExecutarMetodoAlteracao and the next step follows. An empty closure counts as a step that raises, and so
+    /// does one whose OnExecutarMetodoAlteracao raises: what it did could not be recorded. An exception of any other
+    /// event reaches the caller.
     void Executar();
 
     /// Fills in the version of the store. Without this event the version is empty, so every step with a version runs.
     TEventoBuscarVersaoAlteracao OnBuscarVersaoAtualAlteracao{};
-    /// Gets the message of a step that raised.
+    /// Gets the message of a step that raised, or whose recording did.
     TEventoStatusExecucao OnErroExecutarMetodoAlteracao{};
-    /// Tells that a step ended without an error.
+    /// Tells that a step ended without an error: the place to record its version.
     TEventoExecutarMetodoAlteracao OnExecutarMetodoAlteracao{};
     /// Gets the texts of Executar.
     TEventoStatusExecucao OnStatusExecucao{};
@@ -56,7 +57,7 @@ public:
 private:
     std::u16string BuscarVersaoAtualAlteracao();
     void ValidarStatusExecucao(std::u16string_view AStatus);
-    bool ExecutouMetodo(const TMetodoControleAlteracao& AMetodo);
+    void ExecutarPasso(const TDadosControleAlteracaoIOP& ADados);
 
     std::u16string FVersaoMaxima;
     std::vector<std::unique_ptr<const TDadosControleAlteracaoIOP>> FListaControle{};

@@ -47,6 +47,8 @@ void AnexarArvore(std::u16string& ASaida, const TOryUtilsFiltroSql& ARaiz, const
             ASaida.append(AJuncao).append(u"( ");
             abertos.push_back({&ANo, antes, ASaida.size()});
         } else if (Interno::EstahCompleta(ANo) && ATabelas.Quer(ANo.GetTabela())) {
+            if (ARaiz.GetExigirValor() && Interno::FaltaValor(ANo))
+                throw Exception(u"A condição sobre " + ANo.GetTabela() + u"." + ANo.GetCampo() + u" não tem valor.");
             Interno::AnexarCondicao(ASaida.append(AJuncao), ANo);
         }
     };

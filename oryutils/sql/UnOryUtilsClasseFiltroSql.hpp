@@ -100,6 +100,12 @@ public:
     const Variant& GetValor() const noexcept { return FValor; }
     void SetValor(Variant AValor) noexcept { FValor = std::move(AValor); }
 
+    /// Whether the BuscarSQL family of this node refuses a condition whose Valor was never given, anywhere below it:
+    /// Exception "A condição sobre f.nome não tem valor.". False at first: cfContem then finds every row, LIKE '%%'.
+    /// A null or an empty text is a value. Assign does not copy this property.
+    bool GetExigirValor() const noexcept { return FExigirValor; }
+    void SetExigirValor(bool AValor) noexcept { FExigirValor = AValor; }
+
     /// "=", "STARTING WITH", ...; empty for cfNenhum.
     std::u16string BuscarCondicaoStr() const;
     /// " AND " or " OR ".
@@ -114,9 +120,10 @@ public:
     /// cfNotIn count elements in 8 bits: an array of N gives its first ((N - 1) mod 256) + 1, so 300 give 44. cfBetween
     /// takes one value as both limits.
     /// Raises Exception "Erro na geração do SQL com cláusula IN ou NOT IN." for an array that is empty or holds an
-    /// array, "Número de parâmetros incorreto para a pesquisa com BETWEEN." for an array of any size but two, and
-    /// EVariantTypeCastError for an array in other conditions. cfTerminaCom and cfContem search u"%" + Valor, which
-    /// raises EVariantTypeCastError unless Valor is a text, null (which makes the whole text empty) or unassigned.
+    /// array (want of memory stays std::bad_alloc), "Número de parâmetros incorreto para a pesquisa com BETWEEN." for
+    /// an array of any size but two, and EVariantTypeCastError for an array in other conditions. cfTerminaCom and
+    /// cfContem search u"%" + Valor, which raises EVariantTypeCastError unless Valor is a text, null (which makes the
+    /// whole text empty) or unassigned.
     std::u16string BuscarSQL(const std::vector<std::u16string>& ATabelas) const;
     std::u16string BuscarSQL() const;
 
@@ -136,6 +143,7 @@ private:
     TOperadorFiltro FOperador;
     bool FQuoteStr = false;
     bool FUsarUpperCase = false;
+    bool FExigirValor = false;
     std::u16string FTabela{};
     std::u16string FCampo{};
     Variant FValor{};

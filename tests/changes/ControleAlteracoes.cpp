@@ -93,12 +93,23 @@ TEST(ControleAlteracoes, PassoQueFalhaInformaESegue) {
     }
 }
 
+TEST(ControleAlteracoes, PassoQueNaoPodeSerRegistradoFalhou) {
+    TDeposito deposito{.Recusa = "gravar"};
+    TOryUtilsControleAlteracoes controle(u"");
+    deposito.Ligar(controle);
+    for (const std::u16string_view versao : {u"1", u"2"}) controle.Adicionar(versao, [] {});
+    EXPECT_NO_THROW(controle.Executar());
+    const std::vector<std::string> esperado{ParaUtf8(CExecutando) + "1", "erro do ouvinte", ParaUtf8(CExecutando) + "2",
+                                            "erro do ouvinte"};
+    EXPECT_EQ(deposito.Diario, esperado);
+}
+
 TEST(ControleAlteracoes, ErroDeUmEventoChegaAoChamador) {
     const struct {
         const char* Recusa;
         bool PassoFalha;
         int Rodaram;
-    } casos[] = {{"ler", false, 0}, {"status", false, 0}, {"erro", true, 1}, {"gravar", false, 1}};
+    } casos[] = {{"ler", false, 0}, {"status", false, 0}, {"erro", true, 1}};
     for (const auto& caso : casos) {
         SCOPED_TRACE(caso.Recusa);
         TDeposito deposito{.Recusa = caso.Recusa};

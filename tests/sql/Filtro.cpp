@@ -102,6 +102,28 @@ TEST(FiltroSql, Recusas) {
     });
 }
 
+TEST(FiltroSql, ExigirValorRecusaOQueNuncaFoiDado) {
+    for (int condicao = cfIgual; condicao <= cfDiferente; ++condicao) {
+        SCOPED_TRACE(condicao);
+        TFiltro raiz(ofAnd);
+        TFiltro& folha = raiz.Add(ofAnd).Add(ofAnd);
+        Preencher(folha, {u"nome", static_cast<TCondicaoFiltro>(condicao)});
+        EXPECT_NO_THROW(raiz.BuscarSQL());
+        raiz.SetExigirValor(true);
+        const bool semValor = condicao == cfIsNull || condicao == cfIsNotNull;
+        const auto montar = [&] { return Testes::MensagemDe<Exception>([&] { raiz.BuscarSQLWhere(); }); };
+        if (semValor)
+            EXPECT_NO_THROW(raiz.BuscarSQL());
+        else
+            EXPECT_EQ(montar(), "A condição sobre f.nome não tem valor.");
+        EXPECT_EQ(raiz.BuscarSQL({u"outra"}), u"") << "a condition that is left out needs none";
+        for (const Variant& valor : {Variant(TNulo{}), Variant(u"")}) {
+            folha.SetValor(valor);
+            EXPECT_NO_THROW(raiz.BuscarSQL());
+        }
+    }
+}
+
 TEST(FiltroSql, GruposETabelas) {
     TFiltro raiz(ofAnd);
     EXPECT_EQ(raiz.BuscarSQLWhere(), u"") << "no WHERE without a condition";

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstdint>
+#include <new>
 
 namespace OryUtils::Interno {
 namespace {
@@ -62,6 +63,8 @@ void AnexarLista(std::u16string& ASaida, const Variant& AValor, bool AEntreAspas
         if (i) ASaida += u',';
         AnexarValor(ASaida, itens->at(i), AEntreAspas);
     }
+} catch (const std::bad_alloc&) {
+    throw;
 } catch (const std::exception&) {
     throw Exception(u"Erro na geração do SQL com cláusula IN ou NOT IN.");
 }
@@ -91,6 +94,10 @@ std::u16string_view BuscarPalavra(TCondicaoFiltro ACondicao) noexcept {
 bool EstahCompleta(const TOryUtilsFiltroSql& ACondicao) noexcept {
     return !ACondicao.GetTabela().empty() && !ACondicao.GetCampo().empty() &&
            !BuscarPalavra(ACondicao.GetCondicao()).empty();
+}
+
+bool FaltaValor(const TOryUtilsFiltroSql& ACondicao) noexcept {
+    return CPalavras[ACondicao.GetCondicao()].Forma != fvNenhum && ACondicao.GetValor() == Variant();
 }
 
 void AnexarCondicao(std::u16string& ASaida, const TOryUtilsFiltroSql& ACondicao) {

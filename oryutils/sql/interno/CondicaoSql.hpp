@@ -13,6 +13,9 @@ std::u16string_view BuscarPalavra(TCondicaoFiltro ACondicao) noexcept;
 /// True when ACondicao names a table, a column and a condition.
 bool EstahCompleta(const TOryUtilsFiltroSql& ACondicao) noexcept;
 
+/// True when a complete condition compares with a value that was never given.
+bool FaltaValor(const TOryUtilsFiltroSql& ACondicao) noexcept;
+
 /// Appends the text of one complete condition to ASaida.
 void AnexarCondicao(std::u16string& ASaida, const TOryUtilsFiltroSql& ACondicao);
 
