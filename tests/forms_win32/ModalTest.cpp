@@ -4,6 +4,9 @@
 
 #include "Auxiliares.hpp"
 
+#include <commctrl.h>
+#include <set>
+
 namespace OryUtils {
 namespace {
 
@@ -29,6 +32,31 @@ private:
                                  nullptr);
     }
 };
+
+TEST_F(FormsWin32, ABarraDeUmaParteDesconhecidaAnda) {
+    TFormulario formulario;
+    auto& barra = formulario.Adicionar<TProgresso>();
+    barra.SetRetangulo({10, 10, 200, 16});
+    const auto exibicao = FToolkit.Exibir(formulario);
+    const HWND janela = Filhos(BuscarFormulario()).front();
+    // Where the block begins.
+    const auto verBloco = [&] {
+        const HDC tela = ::GetDC(janela);
+        int x = 0;
+        while (x < 200 && ::GetPixel(tela, x, 8) != ::GetSysColor(COLOR_HIGHLIGHT)) ++x;
+        ::ReleaseDC(janela, tela);
+        return x;
+    };
+    std::set<int> lugares;
+    for (const DWORD fim = ::GetTickCount() + 5000; lugares.size() < 4 && ::GetTickCount() < fim; ::Sleep(20)) {
+        FToolkit.ProcessarMensagens();
+        if (const int x = verBloco(); x < 200) lugares.insert(x);
+    }
+    EXPECT_EQ(lugares.size(), 4U);
+    barra.SetPercentual(25);
+    FToolkit.ProcessarMensagens();
+    EXPECT_EQ(::SendMessageW(janela, PBM_GETPOS, 0, 0), 250);
+}
 
 TEST_F(FormsWin32, UmaJanelaPedidaEhADonaEOFormularioFicaNaFrente) {
     const THospede dona;

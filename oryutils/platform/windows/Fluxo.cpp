@@ -181,7 +181,7 @@ bool TFluxo::LerEsperaria() const noexcept {
             return ::PeekNamedPipe(Alca(FAlca), nullptr, 0, nullptr, &prontos, nullptr) && prontos == 0;
         }
         case FILE_TYPE_CHAR:
-            return true;  // a console: somebody has to type
+            return EhTerminal();  // somebody has to type; NUL has ended already
         default:
             return false;
     }
