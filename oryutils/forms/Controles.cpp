@@ -115,6 +115,11 @@ void TCaixaEdicao::SelecionarTudo() {
     Avisar(mdSelecao);
 }
 
+void TCaixaEdicao::SetCampo(TField& ACampo) {
+    FCampo = &ACampo;
+    FFormatos = &FormatSettings();
+}
+
 void TMemorando::SetSomenteLeitura(bool ASomenteLeitura) {
     if (FSomenteLeitura == ASomenteLeitura) return;
     FSomenteLeitura = ASomenteLeitura;
@@ -125,6 +130,23 @@ void TProgresso::SetPercentual(double APercentual) {
     const double percentual = APercentual >= 0 ? std::min(APercentual, 100.0) : -1;
     if (FPercentual == percentual) return;
     FPercentual = percentual;
+    Avisar(mdSelecao);
+}
+
+void TListaEscolha::SetItens(std::vector<std::u16string> AItens) {
+    FItens = std::move(AItens);
+    FEscolhidos.clear();
+    Avisar(mdItens);
+}
+
+void TListaEscolha::SetEscolhidos(std::vector<int> AEscolhidos) {
+    const int total = static_cast<int>(FItens.size());
+    std::erase_if(AEscolhidos, [&](int i) { return i < 0 || i >= total; });
+    std::ranges::sort(AEscolhidos);
+    AEscolhidos.erase(std::ranges::unique(AEscolhidos).begin(), AEscolhidos.end());
+    if (!FVarios && AEscolhidos.size() > 1) AEscolhidos.resize(1);
+    if (FEscolhidos == AEscolhidos) return;
+    FEscolhidos = std::move(AEscolhidos);
     Avisar(mdSelecao);
 }
 

@@ -3,14 +3,17 @@
 #include "oryutils/OryExport.hpp"
 #include "oryutils/runtime/Controle.hpp"
 #include "oryutils/runtime/Evento.hpp"
+#include "oryutils/runtime/Formatos.hpp"
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 // A change of a class or of an enumeration in this header counts CVersaoDoModelo up: see forms/interno/FabricaQt.hpp.
 namespace OryUtils {
 
+class TField;
 class TFormulario;
 
 /// Position inside the form's client area, in pixels.
@@ -33,8 +36,8 @@ enum TMudanca : unsigned {
     mdPosicao = 1,   ///< rectangle
     mdTexto = 2,     ///< caption or text
     mdEstado = 4,    ///< visible, enabled, read-only
-    mdItens = 8,     ///< options of a radio group
-    mdSelecao = 16,  ///< chosen option, checked state, selected text
+    mdItens = 8,     ///< options of a radio group, items of a list
+    mdSelecao = 16,  ///< chosen options or items, checked state, selected text
     mdFoco = 32,     ///< active control
 };
 
@@ -46,7 +49,8 @@ enum TTipoControle : int {
     tcCaixaEdicao,
     tcMemorando,
     tcIcone,
-    tcProgresso
+    tcProgresso,
+    tcListaEscolha,
 };
 
 /// Modal results: what a button answers and a modal run returns. 0 keeps the form open.
@@ -219,6 +223,19 @@ public:
     /// Selects the whole text (when shown, or as soon as it is).
     void SelecionarTudo();
     bool GetSelecionarTudo() const noexcept { return FSelecionarTudo; }
+    // These three are set before the form is shown.
+    /// What is typed shows as dots and cannot be copied.
+    bool GetSenha() const noexcept { return FSenha; }
+    void SetSenha(bool ASenha) noexcept { FSenha = ASenha; }
+    /// The box edits as one that is bound to ACampo does (see TEditorDeCampo), in its mask or as a number. ACampo must
+    /// outlive the form. The text of the box remains what stands in it; a conversation takes any.
+    TField* GetCampo() const noexcept { return FCampo; }
+    void SetCampo(TField& ACampo);
+    /// The formats of the program whose form this is; a toolkit loaded at run time may have others of its own.
+    const TFormatSettings& GetFormatos() const noexcept { return *FFormatos; }
+    /// The box helps with another control and is no question of its own: a conversation leaves it out.
+    bool GetAuxiliar() const noexcept { return FAuxiliar; }
+    void SetAuxiliar(bool AAuxiliar) noexcept { FAuxiliar = AAuxiliar; }
     /// Fired after the user changed the text.
     TEvento<TObjeto*> OnMudar;
     /// Fired when the focus leaves the box. EAbort raised here is swallowed.
@@ -226,6 +243,10 @@ public:
 
 private:
     bool FSelecionarTudo = false;
+    bool FSenha = false;
+    bool FAuxiliar = false;
+    TField* FCampo = nullptr;
+    const TFormatSettings* FFormatos = nullptr;
 };
 
 /// Lines of text with a vertical scroll bar.
@@ -252,6 +273,31 @@ public:
 
 private:
     double FPercentual = -1;
+};
+
+/// Items in one column that scrolls, of which the user chooses one, or several (SetVarios).
+class ORY_API TListaEscolha final : public TControleFormulario {
+public:
+    explicit TListaEscolha(TFormulario& AFormulario) : TControleFormulario(AFormulario, tcListaEscolha) {}
+    const std::vector<std::u16string>& GetItens() const noexcept { return FItens; }
+    /// Other items, none of them chosen.
+    void SetItens(std::vector<std::u16string> AItens);
+    /// Set before the form is shown. The space bar and a click choose and let go each item by itself.
+    bool GetVarios() const noexcept { return FVarios; }
+    void SetVarios(bool AVarios) noexcept { FVarios = AVarios; }
+    /// Chosen items from 0, ascending. Numbers outside the items are dropped, and all but the first where one is
+    /// chosen.
+    const std::vector<int>& GetEscolhidos() const noexcept { return FEscolhidos; }
+    void SetEscolhidos(std::vector<int> AEscolhidos);
+    void AceitarEscolhidos(std::vector<int> AEscolhidos) { FEscolhidos = std::move(AEscolhidos); }
+    /// Fired after the user chose.
+    TEvento<TObjeto*> OnEscolher;
+    TEvento<TObjeto*> OnDuploClique;
+
+private:
+    std::vector<std::u16string> FItens;
+    std::vector<int> FEscolhidos;
+    bool FVarios = false;
 };
 
 }  // namespace OryUtils

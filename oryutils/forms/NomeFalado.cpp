@@ -36,6 +36,7 @@ std::u16string BuscarNomeFalado(const TControleFormulario& AControle) {
         case tcCaixaChecagem:
             return RemoverAtalho(AControle.GetTexto());
         case tcCaixaEdicao:
+        case tcListaEscolha:
         case tcMemorando: {
             if (AControle.GetNome() == CNomeDaRolagem) return AControle.GetFormulario().GetTitulo();
             const TControleFormulario* anterior = BuscarAnterior(AControle);

@@ -13,7 +13,7 @@ TToolkit* GInstalado = nullptr;
 constexpr int CPixelsPorPolegadaBase = 96;
 
 // What a control takes besides its text, in pixels at 96 per inch, in the order of TTipoControle.
-constexpr TTamanho CFolgas[] = {{0, 0}, {12, 8}, {22, 2}, {22, 2}, {12, 8}, {28, 8}, {0, 0}, {0, 0}};
+constexpr TTamanho CFolgas[] = {{0, 0}, {12, 8}, {22, 2}, {22, 2}, {12, 8}, {28, 8}, {0, 0}, {0, 0}, {28, 8}};
 
 }  // namespace
 

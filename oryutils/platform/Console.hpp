@@ -20,6 +20,9 @@ ORY_API int BuscarColunasDoTerminal();
 /// ignored.
 ORY_API void EscreverNoErroPadrao(std::u16string_view ATexto);
 
+/// Whether stdin's terminal shows what is typed, for passwords. Where there is none nothing happens.
+ORY_API void MostrarDigitado(bool AMostrar);
+
 enum TLeituraDeLinha : int { llLinha, llFim, llTempo };
 
 /// Waits for a line typed on stdin's terminal, at most ALimite (none: without end).

@@ -10,6 +10,7 @@
 #include "oryutils/ui/UnOryUtilsDialogsIOP.hpp"
 #include "oryutils/ui/UnOryUtilsDialogsTypes.hpp"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -124,6 +125,22 @@ public:
                                             const std::vector<std::u16string>& AMascaras);
     /// The system's folder browser: the chosen folder, empty when cancelled.
     std::u16string BuscarPastaSelecionada(std::u16string_view ATitulo, std::u16string_view APastaInicial);
+
+    /// Ask for a text, several lines, items of a list. True when OK was chosen; what cannot be answered is refused with
+    /// a warning then, and stays in its box. Raise Exception from a thread that may not show forms, and PedirTexto
+    /// EConvertError for a broken mask.
+    /// AValor  in: the text offered, empty where it is none of that kind; out: as TTipoTexto says, unchanged when
+    ///         cancelled
+    /// Example:  std::u16string cpf;
+    ///           if (GOryUtilsDialogs->PedirTexto({.Titulo = u"Cliente", .Pergunta = u"CPF:", .Tipo = ttCPF}, cpf)) ...
+    bool PedirTexto(const TOryUtilsDialogsPedidoTextoIOP& AParametros, std::u16string& AValor);
+    /// ASenha  out: what was typed; nothing is offered
+    bool PedirSenha(std::u16string_view ATitulo, std::u16string_view APergunta, std::u16string& ASenha);
+    /// Enter starts a line, Ctrl+Enter is OK. Lines end with "\r\n".
+    bool PedirLinhas(const TOryUtilsDialogsPedidoLinhasIOP& AParametros, std::u16string& AValor);
+    /// What is typed into the box above the list leaves the items that have it in them, case and accents aside.
+    /// AIndices  in: the items chosen beforehand, from 0; out: those chosen, ascending, unchanged when cancelled
+    bool PedirEscolha(const TOryUtilsDialogsPedidoEscolhaIOP& AParametros, std::vector<std::int32_t>& AIndices);
 
     /// The pickers with a title, a start folder and filters of the caller's: full paths, empty when cancelled. On Win32
     /// they are the system's own, in its language.

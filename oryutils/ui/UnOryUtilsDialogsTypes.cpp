@@ -38,6 +38,9 @@ constexpr std::array CDadosTexto{
     TDadosTexto{tdTodosArquivos, u"Todos"},
     TDadosTexto{tdMensagensGuardadas, u"Mensagens registradas: %s"},
     TDadosTexto{tdNaoPerguntarNovamente, u"Não &perguntar novamente"},
+    TDadosTexto{tdLocalizar, u"Localizar:"},
+    TDadosTexto{tdPreenchimento, u"Preenchimento obrigatório. Verifique."},
+    TDadosTexto{tdEscolha, u"Escolha um item da lista."},
 };
 static_assert(CobreEnumeracao<CDadosTexto, &TDadosTexto::Texto>());
 

@@ -61,6 +61,9 @@ enum TTextoDialogo : int {
     tdTodosArquivos,          ///< filter of the simple file picker
     tdMensagensGuardadas,     ///< message of the notification centre; %s is how many
     tdNaoPerguntarNovamente,  ///< check box of a message whose answer may be remembered
+    tdLocalizar,              ///< label of the box that finds items of a list
+    tdPreenchimento,          ///< refuses a blank text
+    tdEscolha,                ///< refuses no item
 };
 
 /// One kind of button. A new kind is an enumerator of TMsgDlgBtn and a row of CDadosBotao; every other table of buttons

@@ -1,4 +1,5 @@
 #include "oryutils/characters/Utf.hpp"
+#include "oryutils/forms/console/RespostaDeLista.hpp"
 #include "oryutils/forms/console/TextoDoTerminal.hpp"
 #include "oryutils/forms/console/ToolkitConsole.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
@@ -21,11 +22,14 @@ struct TConversaEscrita final : TConversa {
     std::vector<std::optional<std::u16string>> Linhas;
     std::string Escrito;
     std::chrono::milliseconds Instante{0};
+    bool Eco = true;
+    int SemEco = 0;  ///< lines typed unseen
 
     bool PodeConversar() override { return Terminal; }
     int GetColunas() override { return Colunas; }
     void Escrever(std::u16string_view ATexto) override { Escrito += ParaUtf8(ATexto); }
     std::chrono::milliseconds GetInstante() override { return Instante; }
+    void MostrarDigitado(bool AMostrar) override { Eco = AMostrar; }
     Interno::TLeituraDeLinha LerLinha(std::optional<std::chrono::milliseconds> ALimite,
                                       std::u16string& ALinha) override {
         if (Linhas.empty()) return Interno::llFim;
@@ -36,6 +40,7 @@ struct TConversaEscrita final : TConversa {
             return Interno::llTempo;
         }
         ALinha = *linha;
+        SemEco += !Eco;
         return Interno::llLinha;
     }
 };
@@ -149,6 +154,82 @@ TEST(Console, OpcoesChecagemETexto) {
     EXPECT_EQ(grupo.GetIndice(), 1);
     EXPECT_TRUE(caixa.GetMarcada());
     EXPECT_EQ(edicao.GetTexto(), u"São Paulo");
+}
+
+TEST(Console, SenhaLinhasELista) {
+    TConversaEscrita conversa;
+    TPergunta f;
+    auto& auxiliar = f.Adicionar<TCaixaEdicao>();
+    auxiliar.SetAuxiliar(true);
+    auto& senha = f.Adicionar<TCaixaEdicao>();
+    senha.SetSenha(true);
+    senha.SetTexto(u"oculta");
+    auto& linhas = f.Adicionar<TMemorando>();
+    auto& mantidas = f.Adicionar<TMemorando>();
+    mantidas.SetTexto(u"ficam");
+    auto& lido = f.Adicionar<TMemorando>();
+    lido.SetSomenteLeitura(true);
+    auto& lista = f.Adicionar<TListaEscolha>();
+    lista.SetItens({u"Santos", u"Bauru"});
+    conversa.Linhas = {u" s1 ", u"um", u"", u" dois", u".", u".", u"bau", u"s"};
+    EXPECT_EQ(TToolkitConsole(conversa).ExecutarModal(f), mrYes);
+    EXPECT_EQ(senha.GetTexto(), u" s1 ") << "blanks count";
+    EXPECT_EQ(conversa.SemEco, 1) << "one line was typed unseen";
+    EXPECT_EQ(conversa.Escrito.find("oculta"), std::string::npos);
+    EXPECT_EQ(linhas.GetTexto(), u"um\r\n\r\n dois");
+    EXPECT_EQ(mantidas.GetTexto(), u"ficam");
+    EXPECT_EQ(lista.GetEscolhidos(), std::vector{1});
+    EXPECT_NE(conversa.Escrito.find("  1. Santos\n  2. Bauru\n"), std::string::npos);
+}
+
+TEST(Console, OQueUmBotaoRecusaEhPerguntadoDeNovo) {
+    TConversaEscrita conversa;
+    TPergunta f;
+    auto& caixa = f.Adicionar<TCaixaEdicao>();
+    struct TRecusa {
+        TCaixaEdicao& Caixa;
+        void Conferir(TObjeto*) {
+            if (Caixa.GetTexto() == u"bom") return;
+            Caixa.ReceberFoco();
+            Abort();
+        }
+    } recusa{caixa};
+    f.Sim.OnClick = TEvento<TObjeto*>::De<&TRecusa::Conferir>(recusa);
+    conversa.Linhas = {u"mau", u"s", u"bom", u"s"};
+    EXPECT_EQ(TToolkitConsole(conversa).ExecutarModal(f), mrYes);
+    EXPECT_NE(conversa.Escrito.find("[mau] (Enter mantém, \"\" esvazia) > "), std::string::npos) << conversa.Escrito;
+}
+
+TEST(Console, RespostasDeUmaLista) {
+    const std::vector<std::u16string> itens{u"São Paulo", u"Santos", u"Ribeirão, do Sul", u"10", u"Santo", u"Rio"};
+    const struct {
+        bool Varios;
+        const char16_t* Resposta;
+        std::vector<int> Esperado;  ///< empty: asked again
+        const char* Porque;
+    } casos[] = {
+        {false, u"2", {1}, "by its number"},
+        {false, u"10", {3}, "no such number, but such a text"},
+        {false, u"0", {3}, "a part of one text alone"},
+        {false, u"sao", {0}, "case and accents aside"},
+        {false, u"SANTO", {4}, "the whole text goes before a part of another"},
+        {false, u"sant", {}, "a part of two"},
+        {false, u"lua", {}, ""},
+        {false, u"1,2", {}, "only one"},
+        {false, u"ribeirão, do sul", {2}, ""},
+        {true, u"ribeirão, do sul", {2}, "the comma is the item's own"},
+        {true, u"6, sao ,2", {0, 1, 5}, "several, in the order of the list"},
+        {true, u"2-4,1", {0, 1, 2, 3}, "a row of them"},
+        {true, u"4-2", {}, ""},
+        {true, u"2,lua", {}, "nothing is taken in part"},
+    };
+    for (const auto& c : casos) {
+        const auto lida = Interno::LerRespostaDeLista(itens, c.Varios, c.Resposta);
+        EXPECT_EQ(lida.Escolhidos, c.Esperado) << ParaUtf8(c.Resposta) << ' ' << c.Porque;
+        EXPECT_EQ(lida.Recusa.empty(), !c.Esperado.empty()) << ParaUtf8(lida.Recusa);
+    }
+    EXPECT_EQ(ParaUtf8(Interno::LerRespostaDeLista(itens, false, u"sant").Recusa),
+              "Há mais de um:\n  2. Santos\n  5. Santo\n");
 }
 
 TEST(Console, EscolhaDeArquivosEPastas) {

@@ -53,6 +53,11 @@ const TCasoFalado CFalados[] = {
     {[](auto& d) { d.Confirmacao(u"Excluir?", btNo); },
      {"alert Confirmação: Excluir?", "graphic Pergunta", "Excluir?", "Sim", "Não"}},
     {[](auto& d) { d.InputBox(u"T", u"CNPJ:", u"1"); }, {"T", "CNPJ:", "edit CNPJ:", "OK", "Cancelar"}},
+    {[](auto& d) {
+         std::vector<std::int32_t> escolhidos;
+         d.PedirEscolha({.Titulo = u"T", .Pergunta = u"Cidade?", .Itens = {u"Santos"}}, escolhidos);
+     },
+     {"T", "Cidade?", "Localizar:", "edit Localizar:", "Opções: ", "Opções: ", "OK", "Cancelar"}},
     {[](auto&) {
          TFormulario f;
          f.SetTitulo(u"T");

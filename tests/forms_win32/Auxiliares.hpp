@@ -88,6 +88,11 @@ public:
     TFoco VerFoco() override {
         const HWND focado = ::GetFocus();
         TFoco foco{RemoverAtalho(Texto(focado)), ::SendMessageW(focado, BM_GETCHECK, 0, 0) == BST_CHECKED};
+        if (const auto item = ::SendMessageW(focado, LB_GETCARETINDEX, 0, 0); EhLista(focado) && item >= 0) {
+            wchar_t texto[80]{};
+            ::SendMessageW(focado, LB_GETTEXT, static_cast<WPARAM>(item), reinterpret_cast<LPARAM>(texto));
+            foco = {Interno::DeWide(texto), ::SendMessageW(focado, LB_GETSEL, static_cast<WPARAM>(item), 0) > 0};
+        }
         for (const HWND filho : Filhos(::GetActiveWindow()))
             if ((::GetWindowLongPtrW(filho, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON && EhBotao(filho))
                 foco.BotaoPadrao += RemoverAtalho(Texto(filho));
@@ -200,10 +205,12 @@ public:
     static void Escrever(const wchar_t* ATexto) {
         for (; *ATexto; ++ATexto) ::PostMessageW(::GetFocus(), WM_CHAR, *ATexto, 1);
     }
-    static bool EhBotao(HWND AJanela) {
-        wchar_t classe[16]{};
-        ::GetClassNameW(AJanela, classe, 16);
-        return std::wstring_view(classe) == L"Button";
+    static bool EhBotao(HWND AJanela) { return BuscarClasse(AJanela) == L"Button"; }
+    static bool EhLista(HWND AJanela) { return BuscarClasse(AJanela) == L"ListBox"; }
+    static std::wstring BuscarClasse(HWND AJanela) {
+        wchar_t classe[32]{};
+        ::GetClassNameW(AJanela, classe, 32);
+        return classe;
     }
     static void SoltarTeclas() {
         Digitar(VK_CONTROL, false);

@@ -16,12 +16,6 @@ std::vector<TTelaWin32> MontarTelas() {
     return telas;
 }
 
-std::wstring BuscarClasse(HWND AJanela) {
-    wchar_t classe[32]{};
-    ::GetClassNameW(AJanela, classe, 32);
-    return classe;
-}
-
 std::u16string BuscarDica(HWND AControle) {
     HWND dicas = nullptr;
     while ((dicas = ::FindWindowExW(nullptr, dicas, TOOLTIPS_CLASSW, nullptr)) != nullptr) {
@@ -57,7 +51,7 @@ bool Cabe(HWND AJanela, int APixelsPorPolegada) {
     RECT r{};
     ::GetClientRect(AJanela, &r);
     const LONG_PTR estilo = ::GetWindowLongPtrW(AJanela, GWL_STYLE);
-    const std::wstring classe = BuscarClasse(AJanela);
+    const std::wstring classe = TUsuarioWin32::BuscarClasse(AJanela);
     if (classe == L"Edit") {
         const LONG linha = MedirTexto(AJanela, 0, DT_SINGLELINE).cy;
         if (!(estilo & ES_MULTILINE)) return r.bottom >= linha;
@@ -65,6 +59,7 @@ bool Cabe(HWND AJanela, int APixelsPorPolegada) {
         // It scrolls; its last line is not cut.
         return r.bottom - r.top >= linha && (r.bottom - r.top) % linha <= linha / 2;
     }
+    if (classe == L"ListBox") return r.bottom >= MedirTexto(AJanela, 0, DT_SINGLELINE).cy;  // it scrolls
     if (classe == L"Static") {
         const SIZE texto = MedirTexto(AJanela, static_cast<int>(r.right), DT_WORDBREAK | DT_EDITCONTROL | DT_NOPREFIX);
         return texto.cx <= r.right && texto.cy <= r.bottom;
@@ -80,7 +75,7 @@ void Juntar(HWND APai, HWND AJanela, bool ARolado, int APixels, std::vector<TNat
     for (HWND filho = ::GetWindow(APai, GW_CHILD); filho; filho = ::GetWindow(filho, GW_HWNDNEXT)) {
         if (!::IsWindowVisible(filho)) continue;
         const LONG_PTR estilo = ::GetWindowLongPtrW(filho, GWL_STYLE);
-        const std::wstring classe = BuscarClasse(filho);
+        const std::wstring classe = TUsuarioWin32::BuscarClasse(filho);
         const bool vista = classe == L"TOryVistaRolavel";
         if (vista) Juntar(filho, AJanela, true, APixels, ANativos);
         const bool botao = classe == L"Button";

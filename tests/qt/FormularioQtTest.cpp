@@ -11,6 +11,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -65,6 +66,10 @@ TFoco TUsuarioQt::VerFoco() {
         foco.Marcado = botao->isChecked();
     }
     if (caixa) foco.Texto = caixa->text().toStdU16String();
+    if (const auto* lista = qobject_cast<const QListWidget*>(focado); lista && lista->currentItem()) {
+        foco.Texto = lista->currentItem()->text().toStdU16String();
+        foco.Marcado = lista->currentItem()->isSelected();
+    }
     if (memorando) foco.Texto = memorando->toPlainText().toStdU16String();
     for (const QPushButton* botao : BuscarDialogo()->findChildren<QPushButton*>())
         if (botao->isDefault()) foco.BotaoPadrao += RemoverAtalho(botao->text().toStdU16String());
@@ -112,7 +117,13 @@ void Ouvir(QAccessibleInterface* AObjeto, QStringList& AOuvido) {
             AOuvido += "text " + nome;
             break;
         case QAccessible::EditableText:
-            AOuvido += "edit " + nome;
+            AOuvido += (AObjeto->state().passwordEdit ? "password " : "edit ") + nome;
+            break;
+        case QAccessible::List:
+            AOuvido += "list " + nome;
+            break;
+        case QAccessible::ListItem:
+            AOuvido += (AObjeto->state().selected ? "*item " : "item ") + nome;
             break;
         case QAccessible::RadioButton:
             AOuvido += "option " + nome;
@@ -140,6 +151,19 @@ const TCasoFalado CFalados[] = {
     {[](auto& d) { d.Erro(u"Falhou."); }, "alert Erro: Falhou.|graphic Erro|text Falhou.|button OK", ""},
     {[](auto&) { OryMsg::InputBox(u"T", u"CNPJ:", u"1"); }, "text CNPJ:|edit CNPJ:|button OK|button Cancelar",
      "a box is called as the label before it"},
+    {[](auto& d) {
+         std::vector<std::int32_t> escolhidos{1};
+         d.PedirEscolha({.Titulo = u"T", .Pergunta = u"Cidade?", .Itens = {u"Santos", u"Bauru"}}, escolhidos);
+     },
+     "text Cidade?|text Localizar:|edit Localizar:|text Opções: |list Opções: |item Santos|*item Bauru|button "
+     "OK|button "
+     "Cancelar",
+     "so is a list"},
+    {[](auto& d) {
+         std::u16string senha;
+         d.PedirSenha(u"T", u"Senha:", senha);
+     },
+     "text Senha:|password Senha:|button OK|button Cancelar", "a password is told to be one"},
     {[](auto&) {
          TFormulario f;
          auto& memorando = f.Adicionar<TMemorando>();

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -30,6 +31,8 @@ bool Cabe(const QWidget& AWidget) {
         const int altura = memorando->viewport()->height() - 2 * qRound(memorando->document()->documentMargin());
         return altura >= linha && altura % linha <= linha / 2;
     }
+    if (const auto* lista = qobject_cast<const QListWidget*>(&AWidget))  // it scrolls
+        return lista->viewport()->height() >= lista->fontMetrics().height();
     if (qobject_cast<const QLineEdit*>(&AWidget)) return AWidget.sizeHint().height() <= AWidget.height();
     return AWidget.sizeHint().width() <= AWidget.width() && AWidget.sizeHint().height() <= AWidget.height();
 }
@@ -44,7 +47,7 @@ QString BuscarTexto(const QWidget& AWidget) {
 bool EhControle(const QWidget& AWidget) {
     if (const auto* rotulo = qobject_cast<const QLabel*>(&AWidget)) return rotulo->pixmap().isNull();
     return qobject_cast<const QAbstractButton*>(&AWidget) || qobject_cast<const QLineEdit*>(&AWidget) ||
-           qobject_cast<const QPlainTextEdit*>(&AWidget);
+           qobject_cast<const QPlainTextEdit*>(&AWidget) || qobject_cast<const QListWidget*>(&AWidget);
 }
 
 /// The view in which AWidget scrolls; null for none.

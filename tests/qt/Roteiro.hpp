@@ -64,12 +64,13 @@ public:
     }
 
     int Executar(TFormulario& AFormulario, TPassos APassos) override {
-        Seguir(std::make_shared<TPassos>(std::move(APassos)));
+        // A form inside of another has its own steps; the outer one's wait.
+        Seguir(std::make_shared<TPassos>(std::move(APassos)), false);
         return AFormulario.ExecutarModal();
     }
     void Conduzir(TPassos APassos, const std::function<void()>& AMostrar) override {
         const auto passos = std::make_shared<TPassos>(std::move(APassos));
-        Seguir(passos);
+        Seguir(passos, true);
         AMostrar();
         passos->clear();
     }
@@ -84,7 +85,9 @@ public:
                                                     [](const auto* ABotao) { return ABotao->isDown(); });
         }));
     }
-    void TeclarComCtrl(char ALetra) override { DarTecla(static_cast<Qt::Key>(ALetra), Qt::ControlModifier); }
+    void TeclarComCtrl(char ALetra) override {
+        DarTecla(BuscarTecla(static_cast<std::uint16_t>(ALetra)), Qt::ControlModifier);
+    }
     void TeclarComShift(std::uint16_t ATecla) override {
         DarTecla(ATecla == CTab ? Qt::Key_Backtab : BuscarTecla(ATecla), Qt::ShiftModifier);
     }
@@ -124,14 +127,27 @@ public:
     }
 
 private:
-    static void Seguir(const std::shared_ptr<TPassos>& APassos) {
+    /// AEmTodos  the steps go on in a dialog that one of them brings up, before that step has come to its end.
+    static void Seguir(const std::shared_ptr<TPassos>& APassos, bool AEmTodos) {
         if (APassos->empty()) return;
-        QuandoMostrar([APassos] {
+        QuandoMostrar([APassos, AEmTodos] {
             if (APassos->empty()) return;
             const auto passo = std::move(APassos->front());
             APassos->pop_front();
+            const auto acabou = std::make_shared<bool>(false);
+            if (AEmTodos) SeguirNoProximo(APassos, BuscarDialogo(), acabou);
             passo();
-            Seguir(APassos);
+            if (!std::exchange(*acabou, true)) Seguir(APassos, AEmTodos);
+        });
+    }
+    /// Until the step has come to its end, for which Seguir waits.
+    static void SeguirNoProximo(const std::shared_ptr<TPassos>& APassos, const QDialog* AAnterior,
+                                const std::shared_ptr<bool>& AAcabou) {
+        QTimer::singleShot(0, qApp, [=] {
+            if (*AAcabou) return;
+            if (!BuscarDialogo() || BuscarDialogo() == AAnterior) return SeguirNoProximo(APassos, AAnterior, AAcabou);
+            *AAcabou = true;
+            Seguir(APassos, true);
         });
     }
     static QAbstractButton* BuscarBotao(std::u16string_view ACaption) {

@@ -12,6 +12,7 @@ public:
                                       std::u16string& ALinha) override {
         return Interno::LerLinhaDoTerminal(ALimite, ALinha);
     }
+    void MostrarDigitado(bool AMostrar) override { Interno::MostrarDigitado(AMostrar); }
     std::chrono::milliseconds GetInstante() override {
         return std::chrono::duration_cast<std::chrono::milliseconds>(
             std::chrono::steady_clock::now().time_since_epoch());

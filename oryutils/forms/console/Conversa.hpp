@@ -21,6 +21,8 @@ public:
     /// As Interno::LerLinhaDoTerminal.
     virtual Interno::TLeituraDeLinha LerLinha(std::optional<std::chrono::milliseconds> ALimite,
                                               std::u16string& ALinha) = 0;
+    /// Whether the terminal shows what is typed; it does at first.
+    virtual void MostrarDigitado(bool) {}
     /// Time of a clock that never goes back.
     virtual std::chrono::milliseconds GetInstante() = 0;
 };

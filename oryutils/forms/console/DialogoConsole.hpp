@@ -27,17 +27,22 @@ private:
     void Imprimir();
     void ImprimirControle(const TControleFormulario& AControle);
     void PerguntarControles();
+    void PerguntarControle(TControleFormulario& AControle);
     void PerguntarOpcao(TGrupoOpcoes& AGrupo);
     void PerguntarChecagem(TCaixaChecagem& ACaixa);
     void PerguntarTexto(TCaixaEdicao& ACaixa);
+    void PerguntarItens(TListaEscolha& ALista);
+    void PerguntarLinhas(TMemorando& AMemorando);
     void PerguntarBotao(const std::vector<TBotao*>& ABotoes);
     /// A line of the user; none when the form has meanwhile been closed. End of input closes it.
-    std::optional<std::u16string> Ler(std::u16string_view APergunta);
+    enum TLinhaLida { lsAparada, lsComBrancos, lsSenha };
+    std::optional<std::u16string> Ler(std::u16string_view APergunta, TLinhaLida AComo = lsAparada);
 
     TFormulario& FFormulario;
     TConversa& FConversa;
     TEspera FEspera;
     std::vector<const TControleFormulario*> FReaparecidos;
+    TControleFormulario* FFocado = nullptr;  // by what the last button did
 };
 
 }  // namespace OryUtils

@@ -17,6 +17,7 @@ class TExibicaoConsole;
 ///
 /// A form whose only question is one button (information, warning, error) is printed and answered at once. Any other
 /// one asks when stdin and stderr are terminals: options by their number, check boxes by "s" or "n", edits by a line,
+/// that of a password unseen, memos by lines up to one with a point alone, lists by numbers, texts or parts of texts,
 /// the buttons by caption, accents and case aside, or by the letter marked in it; an empty line keeps what stands, or
 /// presses the button that has the focus, which the question names; "" empties an edit. Lines break between words at
 /// the width of the terminal, and no text commands it. What is not understood is asked again; end of input cancels.

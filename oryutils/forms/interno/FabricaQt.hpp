@@ -12,7 +12,7 @@ namespace OryUtils {
 ///   - changes the ordinals of an enumeration there, or what one of them means;
 ///   - changes the layout of Exception or of a descendant, since exceptions cross, too.
 /// A toolkit of another version is refused, and dialogs fall back to the console.
-inline constexpr int CVersaoDoModelo = 7;
+inline constexpr int CVersaoDoModelo = 8;
 
 /// Name and type of the function that the Qt library exports.
 inline constexpr const char* CFabricaQt = "OryUtilsToolkitQt";

@@ -3,6 +3,7 @@
 #include "oryutils/forms/NomeFalado.hpp"
 #include "oryutils/forms/win32/interno/BarraDeProgresso.hpp"
 #include "oryutils/forms/win32/interno/Encaixe.hpp"
+#include "oryutils/forms/win32/interno/ListaNativa.hpp"
 #include "oryutils/forms/win32/interno/TextoNativo.hpp"
 #include "oryutils/forms/win32/interno/VistaRolavel.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
@@ -32,6 +33,7 @@ constexpr TClasseNativa CClasses[] = {
     {L"EDIT",   ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL | WS_VSCROLL | WS_TABSTOP, WS_EX_CLIENTEDGE},
     {L"STATIC", SS_ICON | SS_CENTERIMAGE, 0},
     {PROGRESS_CLASSW, PBS_SMOOTH, 0},
+    {L"LISTBOX", LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_HSCROLL | WS_TABSTOP, WS_EX_CLIENTEDGE},
 };
 // clang-format on
 
@@ -55,6 +57,10 @@ TControleNativo::TControleNativo(TControleFormulario& AModelo, HWND AFormulario,
     const TClasseNativa& classe = CClasses[AModelo.GetTipo()];
     DWORD estilo = classe.Estilo | (AIniciaGrupo ? WS_GROUP : 0);
     if (AModelo.GetTipo() == tcRotulo) estilo |= EstiloDoRotulo(AModelo);
+    const auto* caixa = AModelo.GetTipo() == tcCaixaEdicao ? static_cast<TCaixaEdicao*>(&AModelo) : nullptr;
+    if (caixa && caixa->GetSenha()) estilo |= ES_PASSWORD;
+    if (AModelo.GetTipo() == tcListaEscolha && static_cast<TListaEscolha&>(AModelo).GetVarios())
+        estilo |= LBS_MULTIPLESEL;
     FJanela = Criar(classe.Classe, estilo, classe.EstiloEstendido, AId);
     if (AModelo.GetTipo() == tcCaixaEdicao || AModelo.GetTipo() == tcMemorando)
         ::SendMessageW(FJanela, EM_SETLIMITTEXT, 0, 0);
@@ -63,6 +69,7 @@ TControleNativo::TControleNativo(TControleFormulario& AModelo, HWND AFormulario,
         ::SendMessageW(FJanela, STM_SETICON, reinterpret_cast<WPARAM>(::LoadIconW(nullptr, MAKEINTRESOURCEW(id))), 0);
     }
     Atualizar(mdTexto | mdItens | mdPosicao | mdEstado | mdSelecao);
+    if (caixa && caixa->GetCampo()) FEditor = std::make_unique<TEdicaoMascaradaWin32>(FJanela, *caixa->GetCampo());
 }
 
 HWND TControleNativo::Criar(const wchar_t* AClasse, DWORD AEstilo, DWORD AEstiloEstendido, int AId) const {
@@ -125,6 +132,7 @@ void TControleNativo::MudarFonte(const TFonteDialogo& AFonte) {
     FFonte = &AFonte;
     for (HWND janela : GetTodas())
         ::SendMessageW(janela, WM_SETFONT, reinterpret_cast<WPARAM>(FFonte->GetHandle()), TRUE);
+    if (FModelo->GetTipo() == tcListaEscolha) AjustarItens(FJanela, *FFonte);
     Atualizar(mdPosicao);
 }
 
@@ -138,6 +146,8 @@ void TControleNativo::Atualizar(unsigned AMudancas) {
         FTextoMudou = false;
     }
     if (AMudancas & mdItens && FModelo->GetTipo() == tcGrupoOpcoes) CriarOpcoes();
+    if (AMudancas & mdItens && FModelo->GetTipo() == tcListaEscolha)
+        MostrarItens(FJanela, static_cast<const TListaEscolha&>(*FModelo), *FFonte);
     if (AMudancas & mdPosicao) {
         const TRetangulo& r = FModelo->GetRetangulo();
         ::SetWindowPos(FJanela, nullptr, r.Left, r.Top, r.Width, r.Height, SWP_NOZORDER | SWP_NOACTIVATE);
@@ -261,6 +271,9 @@ void TControleNativo::AtualizarSelecao() {
         case tcCaixaEdicao:
             if (static_cast<TCaixaEdicao*>(FModelo)->GetSelecionarTudo()) ::SendMessageW(FJanela, EM_SETSEL, 0, -1);
             break;
+        case tcListaEscolha:
+            MostrarEscolhidos(FJanela, static_cast<TListaEscolha&>(*FModelo));
+            break;
         default:
             break;
     }
@@ -285,6 +298,11 @@ void TControleNativo::Ler() {
             if (FTextoMudou) FModelo->AceitarTexto(DeNativo(LerTexto(FJanela), FModelo->GetTexto()));
             FTextoMudou = false;
             break;
+        case tcListaEscolha: {
+            auto& lista = static_cast<TListaEscolha&>(*FModelo);
+            lista.AceitarEscolhidos(LerItensEscolhidos(FJanela, lista.GetVarios()));
+            break;
+        }
         default:
             break;
     }

@@ -184,6 +184,14 @@ void TJanelaWin32::LerTudo() {
     for (const auto& nativo : FNativos) nativo->Ler();
 }
 
+void TJanelaWin32::LerEscolha(TControleNativo& AControle) {
+    if (AControle.GetModelo().GetTipo() != tcListaEscolha) return;
+    auto& lista = static_cast<TListaEscolha&>(AControle.GetModelo());
+    const std::vector<int> antes = lista.GetEscolhidos();
+    AControle.Ler();
+    if (lista.GetEscolhidos() != antes) Proteger(FExcecao, [&] { lista.OnEscolher(&lista); });
+}
+
 TControleNativo* TJanelaWin32::BuscarNativo(HWND AJanela) const noexcept {
     const auto achado =
         std::find_if(FNativos.begin(), FNativos.end(), [&](const auto& n) { return n->Possui(AJanela); });
@@ -245,6 +253,8 @@ void TJanelaWin32::AtualizarPadrao() {
 bool TJanelaWin32::TratarTecla(const MSG& AMensagem) {
     if (AMensagem.message != WM_KEYDOWN && AMensagem.message != WM_SYSKEYDOWN) return false;
     AcompanharFoco();
+    // Not every system tells of a choice by the space bar.
+    for (const auto& nativo : FNativos) LerEscolha(*nativo);
     LerTudo();
     constexpr LPARAM CAltPressionada = 1 << 29;
     TTecla tecla;
@@ -407,6 +417,9 @@ void TJanelaWin32::AoComandar(WORD ANotificacao, HWND AControle) {
         if (modelo.GetTipo() != tcCaixaEdicao) return;
         nativo->Ler();
         static_cast<TCaixaEdicao&>(modelo).OnMudar(&modelo);
+    } else if (modelo.GetTipo() == tcListaEscolha) {
+        LerEscolha(*nativo);
+        if (ANotificacao == LBN_DBLCLK) static_cast<TListaEscolha&>(modelo).OnDuploClique(&modelo);
     } else if (ANotificacao == BN_CLICKED) {
         AoClicar(*nativo);
     }
@@ -415,6 +428,7 @@ void TJanelaWin32::AoComandar(WORD ANotificacao, HWND AControle) {
 void TJanelaWin32::AoClicar(TControleNativo& AControle) {
     // Reached by its Alt letter, a button is clicked in the same turn that the focus leaves another control.
     if (!AcompanharFoco()) return;
+    for (const auto& nativo : FNativos) LerEscolha(*nativo);
     LerTudo();
     if (EhBotao(&AControle.GetModelo())) static_cast<TBotao&>(AControle.GetModelo()).Clicar();
 }

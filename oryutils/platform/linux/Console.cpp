@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <poll.h>
 #include <sys/ioctl.h>
+#include <termios.h>
 #include <unistd.h>
 
 namespace OryUtils::Interno {
@@ -21,6 +22,16 @@ int BuscarColunasDoTerminal() {
 }
 
 void EscreverNoErroPadrao(std::u16string_view ATexto) { TFluxo::ErroPadrao().Escrever(CodificarAnsi(ATexto)); }
+
+void MostrarDigitado(bool AMostrar) {
+    termios modos{};
+    if (::tcgetattr(STDIN_FILENO, &modos) != 0) return;
+    if (AMostrar)
+        modos.c_lflag |= ECHO;
+    else
+        modos.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+    ::tcsetattr(STDIN_FILENO, TCSADRAIN, &modos);
+}
 
 TLeituraDeLinha LerLinhaDoTerminal(std::optional<std::chrono::milliseconds> ALimite, std::u16string& ALinha) {
     using TRelogio = std::chrono::steady_clock;

@@ -46,6 +46,14 @@ void EscreverNoErroPadrao(std::u16string_view ATexto) {
     }
 }
 
+void MostrarDigitado(bool AMostrar) {
+    const HANDLE entrada = ::GetStdHandle(STD_INPUT_HANDLE);
+    DWORD modo = 0;
+    if (!::GetConsoleMode(entrada, &modo)) return;
+    constexpr DWORD CEco = ENABLE_ECHO_INPUT;
+    ::SetConsoleMode(entrada, AMostrar ? modo | CEco : modo & ~CEco);
+}
+
 TLeituraDeLinha LerLinhaDoTerminal(std::optional<std::chrono::milliseconds> ALimite, std::u16string& ALinha) {
     using TRelogio = std::chrono::steady_clock;
     const HANDLE entrada = ::GetStdHandle(STD_INPUT_HANDLE);

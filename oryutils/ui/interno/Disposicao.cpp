@@ -67,6 +67,8 @@ public:
 private:
     bool EstahApertado() const { return FNivel >= CNivelApertado; }
     bool TemIcone() const { return FPartes.Icone && FNivel < CNivelSemIcone; }
+    // The labels of boxes go with the icon; screen readers still tell them.
+    bool TemRotulos() const { return FNivel < CNivelSemIcone; }
     bool TemAdicao() const { return FPartes.Grupo || FPartes.Caixa; }
     int MedirAltura(TTipoControle ATipo, std::u16string_view ATexto = u"Mg") const {
         return FToolkit.MedirControle(ATipo, ATexto, 0).Altura;
@@ -80,6 +82,7 @@ private:
     bool MedirMensagem();
     void MedirCliente();
     void AplicarMensagem();
+    int AplicarEntrada(int ATopo);
     int AplicarFilas(int ATopo);
 
     TFormulario& FFormulario;
@@ -93,6 +96,7 @@ private:
     int FMargem = 0, FMargemVertical = 0, FEsquerda = 0, FLadoIcone = 0;
     int FEntreBotoes = 0, FEntreFilas = 0, FDistancia = 0, FAlturaBotao = 0, FAlturaFilas = 0;
     int FAlturaEdicao = 0, FAlturaProgresso = 0, FDistanciaEdicao = 0, FAlturaDetalhe = 0, FFolgaDoFim = 0;
+    int FDistanciaCorpo = 0, FAlturaCorpo = 0;
     int FLinha = 0, FBordasDoMemorando = 0, FAlturaMemorando = 0;
     bool FCabe = true;
     std::vector<int> FLarguras;
@@ -136,8 +140,12 @@ void TDisposicao::MedirDistancias() {
         FAlturaProgresso = FUnidades.Vertical(CAlturaProgresso);
         FDistanciaEdicao = FUnidades.Vertical(CDistanciaPergunta);
     }
+    if (TemRotulos() && FPartes.RotuloDaEdicao) FAlturaEdicao += MedirAltura(tcRotulo) + FDistanciaEdicao;
     FLinha = std::max(1, MedirAltura(tcMemorando, u"M\r\nM") - MedirAltura(tcMemorando));
     FBordasDoMemorando = MedirAltura(tcMemorando) - FLinha;
+    if (FPartes.Corpo) FDistanciaCorpo = FUnidades.Vertical(CDistanciaPergunta);
+    if (TemRotulos() && FPartes.RotuloDoCorpo)
+        FDistanciaCorpo += MedirAltura(tcRotulo) + FUnidades.Vertical(CDistanciaPergunta);
 }
 
 void TDisposicao::MedirFilas() {
@@ -205,6 +213,7 @@ bool TDisposicao::MedirMensagem() {
     if (FPartes.TextoNaLargura) maxima = FUnidades.Horizontal(FPartes.LarguraMinima) - 2 * FMargem;
     maxima = std::max(1, std::min(maxima, FArea.Largura - FEsquerda - FMargem));
     const int minima = FBordasDoMemorando + (FNivel == 0 ? CLinhasParaRolar : 1) * FLinha;
+    livre -= FDistanciaCorpo;
     FTexto = MedirTextoLimitado(FToolkit, FPartes.Mensagem->GetTexto(), {maxima, std::max(livre, 1)});
     if (FPartes.Progresso) {
         FTexto.Largura = std::max(FTexto.Largura, maxima);
@@ -216,6 +225,11 @@ bool TDisposicao::MedirMensagem() {
         const int daMensagem = std::min(FTexto.Altura, std::max(livre / 2, minima));
         FGrupo.Altura = std::min(FGrupo.Altura, std::max(livre - daMensagem, menor));
         livre -= FGrupo.Altura;
+    }
+    if (FPartes.Corpo) {
+        const int daMensagem = std::min(FTexto.Altura, std::max(livre / 2, minima));
+        FAlturaCorpo = std::clamp(livre - daMensagem, minima, FBordasDoMemorando + FPartes.LinhasDoCorpo * FLinha);
+        livre -= FAlturaCorpo;
     }
     FCabe = FTexto.Largura <= maxima && FTexto.Altura <= livre;
     if (FCabe) return true;
@@ -253,6 +267,7 @@ void TDisposicao::MedirCliente() {
     FCliente.Altura = 3 * FMargemVertical + mensagem + FAlturaFilas;
     if (FPartes.Edicao) FCliente.Altura += FDistanciaEdicao + FAlturaEdicao;
     if (FPartes.Progresso) FCliente.Altura += FDistanciaEdicao + FAlturaProgresso;
+    FCliente.Altura += FDistanciaCorpo + FAlturaCorpo;
     if (FPartes.Caixa) FCliente.Altura += FCaixa.Altura + FDistancia;
     if (FPartes.Grupo) FCliente.Altura += FGrupo.Altura + FDistancia;
     FPartes.CrescimentoDoDetalhe = FPartes.Detalhe ? FAlturaDetalhe + FMargemVertical : 0;
@@ -311,18 +326,33 @@ int TDisposicao::AplicarFilas(int ATopo) {
     return ATopo + FAlturaFilas;
 }
 
+// The boxes below the message, each below its label; returns where they end.
+int TDisposicao::AplicarEntrada(int ATopo) {
+    const int largura = FCliente.Largura - 2 * FMargem;
+    const int rotulo = MedirAltura(tcRotulo);
+    const int distancia = FUnidades.Vertical(CDistanciaPergunta);
+    int y = ATopo;
+    const auto por = [&](TControleFormulario* ARotulo, TControleFormulario& AControle, int AAltura) {
+        y += distancia;
+        if (ARotulo) ARotulo->SetVisivel(TemRotulos());
+        if (ARotulo && TemRotulos()) {
+            ARotulo->SetRetangulo({FMargem, y, largura, rotulo});
+            y += rotulo + distancia;
+            AAltura -= rotulo + distancia;
+        }
+        AControle.SetRetangulo({FMargem, y, largura, AAltura});
+        y += AAltura;
+    };
+    if (FPartes.Edicao) por(FPartes.RotuloDaEdicao, *FPartes.Edicao, FAlturaEdicao);
+    if (FPartes.Progresso) por(nullptr, *FPartes.Progresso, FAlturaProgresso);
+    if (FPartes.Corpo) por(FPartes.RotuloDoCorpo, *FPartes.Corpo, FAlturaCorpo + FDistanciaCorpo - distancia);
+    return y;
+}
+
 void TDisposicao::Aplicar() {
     AplicarMensagem();
     int y = FMargemVertical + std::max(FLadoIcone, FCabe ? FTexto.Altura : FAlturaMemorando);
-    if (FPartes.Edicao) {
-        FPartes.Edicao->SetRetangulo({FMargem, y + FDistanciaEdicao, FCliente.Largura - 2 * FMargem, FAlturaEdicao});
-        y += FDistanciaEdicao + FAlturaEdicao;
-    }
-    if (FPartes.Progresso) {
-        FPartes.Progresso->SetRetangulo(
-            {FMargem, y + FDistanciaEdicao, FCliente.Largura - 2 * FMargem, FAlturaProgresso});
-        y += FDistanciaEdicao + FAlturaProgresso;
-    }
+    y = AplicarEntrada(y);
     y += FMargemVertical;
     if (FPartes.Grupo) {
         FPartes.Grupo->SetRetangulo({FEsquerda, y, FGrupo.Largura, FGrupo.Altura});

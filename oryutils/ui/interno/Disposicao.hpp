@@ -9,8 +9,12 @@ struct TPartesDoDialogo {
     TIcone* Icone = nullptr;
     TRotulo* Mensagem = nullptr;
     TMemorando* Rolagem = nullptr;  ///< stands in for a message that does not fit; created when needed
+    TRotulo* RotuloDaEdicao = nullptr;
     TCaixaEdicao* Edicao = nullptr;
     TProgresso* Progresso = nullptr;  ///< the message above it takes the whole width, and two lines at least
+    TRotulo* RotuloDoCorpo = nullptr;
+    TControleFormulario* Corpo = nullptr;  ///< a memo or a list, which scrolls where it gets less room
+    int LinhasDoCorpo = 0;
     TGrupoOpcoes* Grupo = nullptr;
     TCaixaChecagem* Caixa = nullptr;
     bool CaixaAbaixo = false;  ///< of the buttons

@@ -45,13 +45,14 @@ private:
 };
 
 struct TDialogo {
-    enum TTipo { tdCustomizado, tdOpcoes, tdCaixa, tdDetalhe, tdEntrada } Tipo{};
+    enum TTipo { tdCustomizado, tdOpcoes, tdCaixa, tdDetalhe, tdEntrada, tdLinhas, tdEscolha } Tipo{};
+    bool TemBotoesProprios() const { return Tipo < tdEntrada; }
     TOryUtilsDialogsFormCustomizadoComOpcoesIOP Parametros;
     std::u16string Outro;  ///< caption of the check box, detail
 
     std::vector<std::u16string> BuscarTextos() const {
         std::vector<std::u16string> textos{Parametros.Mensagem};
-        if (Tipo != tdEntrada) {
+        if (TemBotoesProprios()) {
             const auto quantos = TMsgDlgButtons(Parametros.Botoes).GetQuantidade();
             for (std::size_t i = 0; i < quantos; ++i) textos.push_back(Parametros.CaptionBotoes[i]);
         }
@@ -64,7 +65,7 @@ struct TDialogo {
 
 TDialogo Sortear(TSorteio& ASorteio) {
     TDialogo dialogo;
-    dialogo.Tipo = static_cast<TDialogo::TTipo>(ASorteio.Ate(4));
+    dialogo.Tipo = static_cast<TDialogo::TTipo>(ASorteio.Ate(6));
     auto& p = dialogo.Parametros;
     p.TipoDialogo = static_cast<TMsgDlgType>(ASorteio.Ate(4));
     p.Titulo = ASorteio.Texto(60, false);
@@ -107,6 +108,18 @@ void Mostrar(TOryUtilsDialogs& ADialogos, const TDialogo& ADialogo) {
         case TDialogo::tdEntrada:
             ADialogos.InputQuery(p.Titulo, p.Mensagem, valor);
             break;
+        case TDialogo::tdLinhas:
+            ADialogos.PedirLinhas({.Titulo = p.Titulo, .Pergunta = p.Mensagem}, valor);
+            break;
+        case TDialogo::tdEscolha: {
+            std::vector<std::int32_t> escolhidos;
+            ADialogos.PedirEscolha({.Titulo = p.Titulo,
+                                    .Pergunta = p.Mensagem,
+                                    .Itens = p.OpcoesMensagem,
+                                    .Varios = p.OpcoesMensagem.size() % 2 == 0},
+                                   escolhidos);
+            break;
+        }
     }
 }
 

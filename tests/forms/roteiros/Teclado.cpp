@@ -1,5 +1,6 @@
 // Walks through every dialog by the keyboard alone.
 #include "oryutils/characters/Utf.hpp"
+#include "oryutils/runtime/Formatos.hpp"
 #include "oryutils/ui/UnOryUtilsDialogs.hpp"
 
 #include "forms/roteiros/Roteiros.hpp"
@@ -19,7 +20,7 @@ void Dar(TUsuario& AUsuario, const std::string& ATecla) {
     if (ATecla.starts_with("Alt+"))
         AUsuario.TeclarComAlt(tecla[0]);
     else if (ATecla.starts_with("Ctrl+"))
-        AUsuario.TeclarComCtrl(tecla[0]);
+        AUsuario.TeclarComCtrl(tecla == "Enter" ? static_cast<char>(CEnter) : tecla[0]);
     else if (ATecla.starts_with("Shift+"))
         AUsuario.TeclarComShift(teclas.at(tecla));
     else if (const auto achada = teclas.find(tecla); achada != teclas.end())
@@ -29,7 +30,8 @@ void Dar(TUsuario& AUsuario, const std::string& ATecla) {
 }
 
 /// "*Uma [Sim]": the option Uma has the focus and is chosen, Enter presses Sim.
-std::string Descrever(const TFoco& AFoco) {
+std::string Descrever(TFoco AFoco) {
+    std::erase(AFoco.Texto, u'\r');
     return (AFoco.Marcado ? "*" : "") + ParaUtf8(AFoco.Texto) + " [" + ParaUtf8(AFoco.BotaoPadrao) + "]";
 }
 
@@ -83,6 +85,43 @@ int ComEntrada(TOryUtilsDialogs& ADialogos) {
     std::u16string valor = u"velho";
     if (!ADialogos.InputQuery(u"Título", u"Valor:", valor)) return -1;
     return valor == u"ci" ? 1 : 0;
+}
+
+// The answer of a request, as the walks compare answers.
+template <typename T>
+int Comparar(bool AConfirmou, const T& AValor, const T& AEsperado) {
+    if (!AConfirmou) return -1;
+    EXPECT_EQ(AValor, AEsperado);
+    return 1;
+}
+
+template <TTipoTexto VTipo>
+int ComTexto(TOryUtilsDialogs& ADialogos, const char16_t* AProposto, const char16_t* AEsperado) {
+    std::u16string valor = AProposto;
+    const TOryUtilsDialogsPedidoTextoIOP parametros{
+        .Titulo = u"Título", .Pergunta = u"Valor:", .Tipo = VTipo, .Obrigatorio = true};
+    return Comparar(ADialogos.PedirTexto(parametros, valor), valor, std::u16string(AEsperado));
+}
+
+int ComSenha(TOryUtilsDialogs& ADialogos) {
+    std::u16string senha = u"antes";
+    return Comparar(ADialogos.PedirSenha(u"Título", u"Senha:", senha), senha, std::u16string(u" s1"));
+}
+
+int ComLinhas(TOryUtilsDialogs& ADialogos) {
+    std::u16string valor = u"a\nb";
+    const bool confirmou = ADialogos.PedirLinhas({.Titulo = u"Título", .Pergunta = u"Texto:"}, valor);
+    return Comparar(confirmou, valor, std::u16string(u"um\r\ndois"));
+}
+
+template <bool VVarios>
+int ComLista(TOryUtilsDialogs& ADialogos, std::vector<std::int32_t> AEscolhidos, std::vector<std::int32_t> AEsperado) {
+    const bool confirmou = ADialogos.PedirEscolha({.Titulo = u"Título",
+                                                   .Pergunta = u"Cidade:",
+                                                   .Itens = {u"Santos", u"Rio & Cia", u"São Paulo", u"Salvador"},
+                                                   .Varios = VVarios},
+                                                  AEscolhidos);
+    return Comparar(confirmou, AEscolhidos, AEsperado);
 }
 
 const TCasoDePasseio CPasseios[] = {
@@ -156,9 +195,100 @@ const TCasoDePasseio CPasseios[] = {
       {"Shift+Tab", "OK [OK]"},
       {"k", nullptr}},
      1},
+    {"a CPF, first a wrong one, which stays in its box",
+     [](auto& d) { return ComTexto<ttCPF>(d, u"1", u"52998224725"); },
+     "   .   .   -   [OK]",
+     {{"x", "   .   .   -   [OK]"},
+      {"52998224726", "529.982.247-26 [OK]"},
+      {"Enter", "OK [OK]"},
+      {"Enter", "529.982.247-26 [OK]"},
+      {"Tab", "OK [OK]"},
+      {"Space", "OK [OK]"},
+      {"Enter", "529.982.247-26 [OK]"},
+      {"52998224725", "529.982.247-25 [OK]"},
+      {"Enter", nullptr}},
+     1},
+    {"a number, read by its marks",
+     [](auto& d) { return ComTexto<ttNumero>(d, u"1,5", u"1234,5"); },
+     "1,5 [OK]",
+     {{"1.234,50x", "1.234,50 [OK]"}, {"Enter", nullptr}},
+     1},
+    {"a date, left by Esc",
+     [](auto& d) { return ComTexto<ttData>(d, u"31/12/2024", u""); },
+     "31/12/2024 [OK]",
+     {{"5/3/24", "5_/3_/24__ [OK]"}, {"Esc", nullptr}},
+     -1},
+    {"a required text, then the answer",
+     [](auto& d) { return ComTexto<ttLivre>(d, u"", u"a"); },
+     " [OK]",
+     {{"Enter", "OK [OK]"}, {"Enter", " [OK]"}, {"a", "a [OK]"}, {"Enter", nullptr}},
+     1},
+    {"a password, blanks and all",
+     ComSenha,
+     " [OK]",
+     {{" s1", " s1 [OK]"},
+      {"Tab", "OK [OK]"},
+      {"Tab", "Cancelar [Cancelar]"},
+      {"Shift+Tab", "OK [OK]"},
+      {"k", nullptr}},
+     1},
+    {"lines",
+     ComLinhas,
+     "a\nb [OK]",
+     {{"Ctrl+A", "a\nb [OK]"},
+      {"um", "um [OK]"},
+      {"Enter", "um\n [OK]"},
+      {"dois", "um\ndois [OK]"},
+      {"Tab", "OK [OK]"},
+      {"Shift+Tab", "um\ndois [OK]"},
+      {"Ctrl+Enter", nullptr}},
+     1},
+    {"an item of a list, found by typing",
+     [](auto& d) { return ComLista<false>(d, {}, {3}); },
+     " [OK]",
+     {{"sa", "sa [OK]"},
+      {"Down", "*Santos [OK]"},
+      {"Down", "*São Paulo [OK]"},
+      {"Down", "*Salvador [OK]"},
+      {"Up", "*São Paulo [OK]"},
+      {"Down", "*Salvador [OK]"},
+      {"Tab", "OK [OK]"},
+      {"Shift+Tab", "*Salvador [OK]"},
+      {"Enter", nullptr}},
+     1},
+    {"the item that typing leaves first, by Enter at once",
+     [](auto& d) { return ComLista<false>(d, {0}, {1}); },
+     " [OK]",
+     {{"CIA", "CIA [OK]"}, {"Enter", nullptr}},
+     1},
+    {"no item of a list",
+     [](auto& d) { return ComLista<false>(d, {}, {}); },
+     " [OK]",
+     {{"Enter", "OK [OK]"}, {"Enter", "Santos [OK]"}, {"Esc", nullptr}},
+     -1},
+    {"several items, chosen under two searches",
+     [](auto& d) {
+         return ComLista<true>(d, {0}, {0, 1, 3});
+     },
+     " [OK]",
+     {{"rio", "rio [OK]"},
+      {"Down", "Rio & Cia [OK]"},
+      {"Space", "*Rio & Cia [OK]"},
+      {"Shift+Tab", "rio [OK]"},
+      {"Ctrl+A", "rio [OK]"},
+      {"s", "s [OK]"},
+      {"Down", "*Santos [OK]"},
+      {"Down", "São Paulo [OK]"},
+      {"Space", "*São Paulo [OK]"},
+      {"Space", "São Paulo [OK]"},
+      {"Down", "Salvador [OK]"},
+      {"Space", "*Salvador [OK]"},
+      {"Enter", nullptr}},
+     1},
 };
 
 TEST_F(Roteiro, PasseiosPeloTeclado) {
+    const TFormatosTemporarios formatos(BuscarFormatosBrasileiros());
     for (const TCasoDePasseio& c : CPasseios) {
         SCOPED_TRACE(c.Dialogo);
         TPassos passos{[&] { EXPECT_EQ(Descrever(FUsuario->VerFoco()), c.NoInicio); }};

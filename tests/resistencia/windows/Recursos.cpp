@@ -50,11 +50,17 @@ long MaiorObjetoDeUsuario() {
     return maior;
 }
 
-/// The number of the next graphic handle: a system that reuses the freed ones hands out low numbers for ever.
-long ProximoObjetoGrafico() {
-    const HGDIOBJ objeto = ::CreateSolidBrush(RGB(1, 2, 3));
-    ::DeleteObject(objeto);
-    return LOWORD(reinterpret_cast<std::uintptr_t>(objeto));
+/// The highest number of some new brushes, likewise: which of the freed numbers comes first depends on what was painted
+/// last.
+long MaiorObjetoGrafico() {
+    std::array<HBRUSH, 64> pinceis{};
+    std::ranges::generate(pinceis, [] { return ::CreateSolidBrush(RGB(1, 2, 3)); });
+    long maior = 0;
+    for (const HBRUSH pincel : pinceis) {
+        maior = std::max(maior, static_cast<long>(LOWORD(reinterpret_cast<std::uintptr_t>(pincel))));
+        ::DeleteObject(pincel);
+    }
+    return maior;
 }
 
 }  // namespace
@@ -65,7 +71,7 @@ TRecursos BuscarRecursos() {
             {"USER objects", static_cast<long>(::GetGuiResources(::GetCurrentProcess(), GR_USEROBJECTS))},
             {"windows", ContarJanelas()},
             {CNumeroDeTodos, MaiorObjetoDeUsuario()},
-            {"next graphic handle", ProximoObjetoGrafico()}};
+            {"highest graphic handle", MaiorObjetoGrafico()}};
 }
 
 long BuscarMemoriaKiB() {

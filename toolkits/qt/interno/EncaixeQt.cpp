@@ -97,6 +97,7 @@ QSize MedirControleQt(TTipoControle ATipo, const QString& ATexto, int ALarguraMa
         case tcRotulo:
         case tcIcone:
         case tcProgresso:
+        case tcListaEscolha:
             break;
     }
     return {};

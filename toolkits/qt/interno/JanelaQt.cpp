@@ -8,8 +8,7 @@
 #include "toolkits/qt/interno/EncaixeQt.hpp"
 #include "toolkits/qt/interno/GrupoOpcoesQt.hpp"
 #include "toolkits/qt/interno/GuardaQt.hpp"
-#include "toolkits/qt/interno/NavegacaoQt.hpp"
-#include "toolkits/qt/interno/TeclasQt.hpp"
+#include "toolkits/qt/interno/ListaEscolhaQt.hpp"
 #include "toolkits/qt/interno/TextoQt.hpp"
 
 #include <QApplication>
@@ -95,6 +94,8 @@ void TJanelaQt::Mudou(TControleFormulario& AControle, TMudanca AMudanca) {
     if (AMudanca == mdPosicao) widget->setGeometry(DeRetangulo(AControle.GetRetangulo()));
     if (AMudanca == mdTexto || (AMudanca == mdPosicao && legenda)) AplicarTexto(AControle, *widget);
     if (AMudanca == mdFoco) return Focar(AControle);
+    if (AMudanca == mdItens && AControle.GetTipo() == tcListaEscolha)
+        static_cast<TListaEscolhaQt*>(widget)->MostrarItens(Como<TListaEscolha>(AControle));
     Aplicar(AControle, *widget);
     if (AMudanca == mdItens) OrdenarTabulacao();
     if (AMudanca == mdSelecao && AControle.GetTipo() == tcCaixaEdicao) static_cast<QLineEdit*>(widget)->selectAll();
@@ -149,13 +150,18 @@ QWidget* TJanelaQt::Criar(TControleFormulario& AControle) {
                     [&AControle](bool AMarcada) { Como<TCaixaChecagem>(AControle).AceitarMarcada(AMarcada); });
             return caixa;
         }
-        case tcCaixaEdicao: {
-            auto* caixa = new QLineEdit(this);
-            connect(caixa, &QLineEdit::textEdited, this, [this, &AControle](const QString& ATexto) {
-                AControle.AceitarTexto(DeQt(ATexto));
-                Avisar([&] { Como<TCaixaEdicao>(AControle).OnMudar(&AControle); });
+        case tcCaixaEdicao:
+            return CriarCaixa(Como<TCaixaEdicao>(AControle));
+        case tcListaEscolha: {
+            auto& modelo = Como<TListaEscolha>(AControle);
+            auto* lista = new TListaEscolhaQt(this, modelo.GetVarios(), [this, &modelo](std::vector<int> AEscolhidos) {
+                modelo.AceitarEscolhidos(std::move(AEscolhidos));
+                Avisar([&] { modelo.OnEscolher(&modelo); });
             });
-            return caixa;
+            connect(lista, &QListWidget::itemDoubleClicked, this,
+                    [this, &modelo] { Avisar([&] { modelo.OnDuploClique(&modelo); }); });
+            lista->MostrarItens(modelo);
+            return lista;
         }
         case tcProgresso: {
             auto* barra = new QProgressBar(this);
@@ -171,6 +177,24 @@ QWidget* TJanelaQt::Criar(TControleFormulario& AControle) {
     memorando->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     memorando->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // lines wrap
     return memorando;
+}
+
+QWidget* TJanelaQt::CriarCaixa(TCaixaEdicao& AModelo) {
+    auto* caixa = new QLineEdit(this);
+    if (AModelo.GetSenha()) caixa->setEchoMode(QLineEdit::Password);
+    const auto aceitar = [this, &AModelo](const QString& ATexto) {
+        AModelo.AceitarTexto(DeQt(ATexto));
+        Avisar([&] { AModelo.OnMudar(&AModelo); });
+    };
+    if (!AModelo.GetCampo()) {
+        connect(caixa, &QLineEdit::textEdited, this, aceitar);
+        return caixa;
+    }
+    // A program that carries the library statically has formats of its own.
+    if (&FormatSettings() != &AModelo.GetFormatos()) DefinirFormatSettings(AModelo.GetFormatos());
+    FEditores.push_back(std::make_unique<TEdicaoMascaradaQt>(caixa, *AModelo.GetCampo()));
+    connect(caixa, &QLineEdit::textChanged, this, aceitar);
+    return caixa;
 }
 
 // Keys and focus of a control pass through eventFilter.
@@ -219,6 +243,9 @@ void TJanelaQt::Aplicar(TControleFormulario& AControle, QWidget& AWidget) {
             break;
         case tcCaixaEdicao:
             break;
+        case tcListaEscolha:
+            static_cast<TListaEscolhaQt&>(AWidget).MostrarEscolhidos(Como<TListaEscolha>(AControle));
+            break;
         case tcMemorando:
             static_cast<QPlainTextEdit&>(AWidget).setReadOnly(Como<TMemorando>(AControle).GetSomenteLeitura());
             break;
@@ -251,6 +278,7 @@ void TJanelaQt::AplicarTexto(const TControleFormulario& AControle, QWidget& AWid
             break;
         }
         case tcIcone:
+        case tcListaEscolha:
             break;
         case tcProgresso:
             AWidget.setAccessibleName(ParaQt(BuscarNomeFalado(AControle)));
@@ -380,47 +408,6 @@ bool TJanelaQt::eventFilter(QObject* AObjeto, QEvent* AEvento) {
             break;
     }
     return QDialog::eventFilter(AObjeto, AEvento);
-}
-
-bool TJanelaQt::TratarTeclaQt(const QKeyEvent& AEvento) {
-    if (FTeclaTratada == &AEvento) return false;
-    FTeclaTratada = &AEvento;
-    TTecla tecla = DeEventoQt(AEvento);
-    tecla.ComSelecao = HaTextoSelecionado(*this);
-    bool tratada = tecla.Codigo != 0;  // also when a handler raised
-    if (tratada) Avisar([&] { tratada = FFormulario.TratarTecla(tecla); });
-    return tratada || CopiarDoRotulo(*this, AEvento) || Navegar(AEvento);
-}
-
-bool TJanelaQt::Navegar(const QKeyEvent& AEvento) const {
-    const auto focado = FControles.find(focusWidget());
-    const TControleFormulario* controle = focado == FControles.end() ? nullptr : focado->second;
-    if (controle && (controle->GetTipo() == tcCaixaEdicao || controle->GetTipo() == tcMemorando)) return false;
-    return PressionarLetra(BuscarBotoes(), AEvento) || (controle && AndarComSetas(BuscarVizinhos(*controle), AEvento));
-}
-
-// In the order of Tab.
-QList<QAbstractButton*> TJanelaQt::BuscarBotoes() const {
-    QList<QAbstractButton*> botoes;
-    for (const auto& controle : FFormulario.GetControles()) botoes += BuscarBotoesDe(*controle, Buscar(*controle));
-    return botoes;
-}
-
-// The arrows walk inside a run of controls of one kind; each group of options is a run of its own.
-QList<QAbstractButton*> TJanelaQt::BuscarVizinhos(const TControleFormulario& AControle) const {
-    QList<QAbstractButton*> vizinhos;
-    bool passou = false;
-    for (const auto& controle : FFormulario.GetControles()) {
-        const bool mesmo = controle.get() == &AControle;
-        if (controle->GetTipo() != AControle.GetTipo() || (AControle.GetTipo() == tcGrupoOpcoes && !mesmo)) {
-            if (passou) break;
-            vizinhos.clear();
-            continue;
-        }
-        passou = passou || mesmo;
-        vizinhos += BuscarBotoesDe(*controle, Buscar(*controle));
-    }
-    return vizinhos;
 }
 
 }  // namespace OryUtils

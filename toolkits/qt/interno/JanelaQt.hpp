@@ -2,6 +2,7 @@
 
 #include "oryutils/forms/Formulario.hpp"
 
+#include "toolkits/qt/EdicaoMascaradaQt.hpp"
 #include "toolkits/qt/interno/DonaQt.hpp"
 
 #include <QAbstractButton>
@@ -10,6 +11,7 @@
 #include <QPointer>
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <unordered_map>
 #include <vector>
@@ -50,6 +52,7 @@ private:
     QWidget* Buscar(const TControleFormulario& AControle) const;
     void Realizar(TControleFormulario& AControle);
     QWidget* Criar(TControleFormulario& AControle);
+    QWidget* CriarCaixa(TCaixaEdicao& AModelo);
     void Vigiar(QWidget& AWidget, TControleFormulario& AControle);
     void Aplicar(TControleFormulario& AControle, QWidget& AWidget);
     void AplicarTexto(const TControleFormulario& AControle, QWidget& AWidget);
@@ -80,6 +83,7 @@ private:
     QSize FAreaDaTela;
     std::vector<TCaixaEdicao*> FSaidas;
     bool FAvisandoSaidas = false;
+    std::vector<std::unique_ptr<TEdicaoMascaradaQt>> FEditores;  // of the boxes that are bound to fields
 };
 
 }  // namespace OryUtils

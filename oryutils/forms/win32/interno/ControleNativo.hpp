@@ -1,10 +1,12 @@
 #pragma once
 
 #include "oryutils/forms/Controles.hpp"
+#include "oryutils/forms/win32/EdicaoMascaradaWin32.hpp"
 #include "oryutils/forms/win32/interno/FonteDialogo.hpp"
 #include "oryutils/forms/win32/interno/LeitorDeTela.hpp"
 #include "oryutils/platform/windows/Windows.hpp"
 
+#include <memory>
 #include <vector>
 
 namespace OryUtils::Interno {
@@ -54,6 +56,7 @@ private:
     std::vector<HWND> FOpcoes;
     HWND FVista = nullptr;  // holds the options while they do not all fit
     bool FTextoMudou = false;
+    std::unique_ptr<TEdicaoMascaradaWin32> FEditor;  // of a box that is bound to a field
 };
 
 }  // namespace OryUtils::Interno

@@ -68,6 +68,8 @@ private:
     void ConferirTela();
     void OrdenarTabulacao();
     void LerTudo();
+    /// Tells of another choice in a list.
+    void LerEscolha(TControleNativo& AControle);
     void Focar(TControleNativo* AControle);
     void AtualizarPadrao();
     TControleNativo* BuscarNativo(HWND AJanela) const noexcept;
