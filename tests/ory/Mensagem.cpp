@@ -62,6 +62,53 @@ TEST(Mensagem, RespondeOQueFoiEscolhido) {
     Rodar({"mensagem", "--tipo", "aviso", "linha 1", "linha 2"});
 }
 
+TEST(Mensagem, PedeTextosEItens) {
+    TToolkitRoteirizado toolkit;
+    const auto responder = [](std::u16string ATexto, std::vector<int> AItens = {}) {
+        return [=](TFormulario& AFormulario) {
+            auto* valor = AFormulario.BuscarControle(u"Valor");
+            if (valor && ATexto != u"mesmo") valor->AceitarTexto(ATexto);
+            if (auto* lista = dynamic_cast<TListaEscolha*>(AFormulario.BuscarControle(u"Lista"));
+                lista && ATexto != u"mesmo") {
+                lista->AceitarEscolhidos(AItens);
+                lista->OnEscolher(lista);
+            }
+            try {
+                Teclar(AFormulario, 13, valor && valor->GetTipo() == tcMemorando);
+            } catch (const EAbort&) {
+                AFormulario.Fechar();  // refused; a toolkit would go on
+            }
+        };
+    };
+    const struct {
+        std::vector<std::string> Argumentos;
+        TToolkitRoteirizado::TPasso Passo;
+        int Status;
+        const char *Saida, *Porque;
+    } casos[] = {
+        {{"CPF?", "--entrada", "cpf"}, responder(u"529.982.247-25"), 0, "52998224725\n", "without marks"},
+        {{"CPF?", "--entrada", "cpf"}, responder(u"529.982.247-26"), 3, "", "refused, then given up"},
+        {{"CPF?", "--entrada", "cpf"}, responder(u""), 0, "\n", "blank"},
+        {{"CPF?", "--entrada", "cpf", "--obrigatorio"}, responder(u""), 3, "", "not blank"},
+        {{"?", "--entrada", "numero", "--valor", "1234.5"}, responder(u"mesmo"), 0, "1234,5\n", "offered"},
+        {{"?", "--mascara", ">LLL0A00;0;_"}, responder(u"abc1d23"), 0, "ABC1D23\n", "a mask"},
+        {{"?", "--senha"}, responder(u" s "), 0, " s \n", "a password"},
+        {{"?", "--obrigatorio"}, responder(u"a"), 0, "a\n", "any text, not blank"},
+        {{"?", "--linhas"}, responder(u"um\ndois"), 0, "um\ndois\n", "each line"},
+        {{"?", "--lista", "a", "--lista", "b & c"}, responder(u"", {1}), 0, "b & c\n", "an item"},
+        {{"?", "--lista", "a", "--lista", "b", "--valor", "b"}, responder(u"mesmo"), 0, "b\n", "chosen beforehand"},
+        {{"?", "--lista", "a"}, responder(u""), 3, "", "no item, refused"},
+        {{"?", "--lista", "a", "--lista", "b", "--varios", "--indice"}, responder(u"", {0, 1}), 0, "1\n2\n", "numbers"},
+        {{"?", "--lista", "a", "--varios"}, responder(u""), 0, "", "no item"},
+    };
+    for (const auto& caso : casos) {
+        toolkit.Roteiro = {caso.Passo};
+        std::vector<std::string> argumentos{"mensagem"};
+        argumentos.insert(argumentos.end(), caso.Argumentos.begin(), caso.Argumentos.end());
+        EXPECT_EQ(Rodar(argumentos), (TRodada{caso.Status, caso.Saida, ""})) << caso.Porque;
+    }
+}
+
 TEST(Mensagem, PedeArquivosEPastas) {
     const struct {
         std::vector<std::string> Argumentos;

@@ -130,10 +130,13 @@ void ConferirPedidos(const TPedidoDeMensagem& APedido, int AVariantes) {
 
 void ConferirCombinacao(const TPedidoDeMensagem& APedido) {
     const int variantes =
-        !APedido.Opcoes.empty() + !APedido.Caixa.empty() + !APedido.Detalhe.empty() + (APedido.Perguntar ? 1 : 0);
+        !APedido.Opcoes.empty() + !APedido.Caixa.empty() + !APedido.Detalhe.empty() + (APedido.EhPergunta() ? 1 : 0);
     if (variantes > 1) throw EFalha("só um de --opcao, --caixa, --detalhe e --valor por mensagem");
-    if (APedido.Perguntar && (!APedido.Botoes.empty() || !APedido.Tipo.empty() || APedido.FecharEm > 0))
-        throw EFalha("--valor não combina com --botao, --tipo nem --fechar-em");
+    ConferirEntrada(APedido.Entrada);
+    if (APedido.EhPergunta() && (!APedido.Botoes.empty() || !APedido.Tipo.empty() || APedido.FecharEm > 0)) {
+        const std::string opcao(APedido.Entrada.BuscarOpcao());
+        throw EFalha((opcao.empty() ? "--valor" : opcao) + " não combina com --botao, --tipo nem --fechar-em");
+    }
     ConferirPedidos(APedido, variantes);
     const bool sozinho = variantes + APedido.Caminhos.ContarPedidos() == 0 && APedido.Botoes.empty() &&
                          APedido.Tipo.empty() && APedido.FecharEm == 0 && APedido.Lembranca.Lembrar.empty();
@@ -148,7 +151,7 @@ void ConferirCombinacao(const TPedidoDeMensagem& APedido) {
 bool ExigeResposta(const TPedidoDeMensagem& APedido) {
     if (!APedido.Lembranca.Lembrar.empty()) return false;  // a remembered answer needs nobody
     const bool confirma = APedido.Botoes.empty() && APedido.Tipo == "confirmacao";
-    return confirma || APedido.Botoes.size() > 1 || APedido.Perguntar || APedido.Caminhos.ContarPedidos() > 0 ||
+    return confirma || APedido.Botoes.size() > 1 || APedido.EhPergunta() || APedido.Caminhos.ContarPedidos() > 0 ||
            !APedido.Opcoes.empty() || !APedido.Caixa.empty() || !APedido.Detalhe.empty();
 }
 
@@ -157,13 +160,6 @@ std::u16string ResponderOpcao(const TPedidoDeMensagem& APedido, int AIndice) {
     if (APedido.Indice) return DeUtf8(std::to_string(AIndice + 1));
     const auto indice = static_cast<std::size_t>(AIndice);
     return indice < APedido.Opcoes.size() ? DeUtf8(APedido.Opcoes[indice]) : u"";
-}
-
-int Perguntar(const TPedidoDeMensagem& APedido, TAmbiente& AAmbiente) {
-    std::u16string valor = DeUtf8(APedido.Valor);
-    if (!GOryUtilsDialogs->InputQuery(DeUtf8(APedido.Titulo), JuntarLinhas(APedido.Linhas), valor)) return smCancelada;
-    EscreverLinha(AAmbiente, valor);
-    return smSim;
 }
 
 }  // namespace
@@ -194,14 +190,20 @@ void DescreverMensagem(TOpcoes AComando, TPedidoDeMensagem& APedido) {
     AComando.Valor("--dono", APedido.Janela.Dona,
                    "número da janela dona da mensagem, de qualquer programa (X11, como em $WINDOWID, e Windows)");
     AComando.Marca("--na-frente", APedido.Janela.NaFrente, "na frente das janelas de todos os programas");
-    AComando.Valor("--valor", APedido.Valor, "em vez de botões pergunta um texto, com este já escrito (pode ser \"\")")
+    AComando
+        .Valor("--valor", APedido.Valor,
+               "em vez de botões pergunta um texto, com este já escrito (pode ser \"\"); com\n--lista, o item já "
+               "escolhido")
         .AoLer([&APedido] { APedido.Perguntar = true; });
+    DescreverEntradas(AComando, APedido.Entrada);
     DescreverCaminhos(AComando, APedido.Caminhos);
     AComando.Rodape(
         "Na saída: uma linha com o texto do botão escolhido (vazia se a janela foi fechada\n"
         "e não há botão cancelar), e com --opcao mais uma com a opção (vazia, ou 0 com --indice, se nenhuma),\n"
         "com --caixa mais uma com 1 ou 0. Um texto de várias linhas sai em uma só.\n"
-        "Com --valor: uma linha com o texto digitado, e nada se foi cancelado.\n"
+        "Com --valor, --entrada, --mascara e --senha: uma linha com o texto digitado; com --linhas e --lista, uma para "
+        "cada\nlinha ou item (o número do item com --indice). Nada se foi cancelado. Números de cadastro saem sem\n"
+        "pontuação, números como 1234,5 e datas como 31/12/2024.\n"
         "Com --arquivo, --arquivos, --salvar e --pasta: um caminho completo por linha, e nada se foi cancelado.\n"
         "Com --andamento: nada; cancelado, para de ler a entrada.\n\n"
         "Saída do programa: 0 sim, ok, repetir, ignorar, todos, sim-todos ou fechar; 1 nao, abortar ou nao-todos;\n"
@@ -211,6 +213,8 @@ void DescreverMensagem(TOpcoes AComando, TPedidoDeMensagem& APedido) {
         "  ory mensagem --tipo confirmacao \"Apagar os arquivos antigos?\" --padrao nao && apagar.sh\n"
         "  ory mensagem \"Que filial?\" --opcao Matriz --opcao \"Filial 2\" --botao ok --botao cancelar\n"
         "  ory mensagem \"Número do lote:\" --valor \"\"\n"
+        "  cpf=$(ory mensagem \"CPF do cliente:\" --entrada cpf --obrigatorio) || exit\n"
+        "  ory mensagem \"Que filiais?\" --lista Matriz --lista \"Filial 2\" --lista \"Filial 3\" --varios\n"
         "  ory mensagem --arquivos \"Notas a enviar\" --filtro \"Notas=*.xml\" --pasta-inicial /notas\n"
         "  copiar.sh | ory mensagem --andamento --titulo Cópia \"Copiando os arquivos\"");
 }
@@ -228,7 +232,11 @@ int MostrarMensagem(const TPedidoDeMensagem& APedido, TAmbiente& AAmbiente) {
                              AAmbiente)
                    ? smSim
                    : smCancelada;
-    if (APedido.Perguntar) return Perguntar(APedido, AAmbiente);
+    if (APedido.EhPergunta())
+        return PedirEntrada(APedido.Entrada, APedido.Titulo, JuntarLinhas(APedido.Linhas), APedido.Valor,
+                            APedido.Indice, AAmbiente)
+                   ? smSim
+                   : smCancelada;
 
     const auto base = LerParametros(APedido);
     int resultado = mrNone;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mensagem/Caminhos.hpp"
+#include "mensagem/Entradas.hpp"
 #include "mensagem/Janela.hpp"
 #include "mensagem/Lembranca.hpp"
 #include "mensagem/Resposta.hpp"
@@ -32,7 +33,10 @@ struct TPedidoDeMensagem {
     TPedidoDeLembranca Lembranca{};
     bool Perguntar = false;
     std::string Valor{};
+    TPedidoDeEntrada Entrada{};
     TPedidoDeCaminhos Caminhos{};
+
+    bool EhPergunta() const { return Perguntar || Entrada.Obrigatorio || !Entrada.BuscarOpcao().empty(); }
 };
 
 /// The options and the help of the sub-command.
