@@ -12,6 +12,7 @@
 #include <string>
 #include <sys/ioctl.h>
 #include <sys/wait.h>
+#include <termios.h>
 #include <unistd.h>
 #include <vector>
 
@@ -21,9 +22,11 @@ struct TDialogo {
     std::string Tela;   ///< what the terminal showed, the typed echo included
     std::string Saida;  ///< standard output
     int Situacao = -1;
+    bool ComEco = false;  ///< in the end the terminal shows what is typed
 };
 
-std::string LerTudo(int ADescritor, std::chrono::seconds ALimite) {
+/// Up to the end, or up to AAte.
+std::string LerTudo(int ADescritor, std::chrono::seconds ALimite, const std::string& AAte = {}) {
     std::string texto;
     char bloco[4096];
     const auto fim = std::chrono::steady_clock::now() + ALimite;
@@ -33,12 +36,15 @@ std::string LerTudo(int ADescritor, std::chrono::seconds ALimite) {
         const ssize_t lidos = ::read(ADescritor, bloco, sizeof bloco);
         if (lidos <= 0) break;  // a closed pseudo-terminal answers an error
         texto.append(bloco, static_cast<std::size_t>(lidos));
+        if (!AAte.empty() && texto.find(AAte) != std::string::npos) break;
     }
     return texto;
 }
 
-// Runs ory with stdin and stderr on a terminal of its own, where ADigitado stands typed from the start.
-TDialogo Conversar(std::vector<std::string> AArgumentos, const std::string& ADigitado, unsigned short AColunas = 80) {
+// Runs ory with stdin and stderr on a terminal of its own, where ADigitado stands typed from the start, or from when
+// the terminal shows AQuando on.
+TDialogo Conversar(std::vector<std::string> AArgumentos, const std::string& ADigitado, unsigned short AColunas = 80,
+                   const std::string& AQuando = {}) {
     TDialogo dialogo;
     const int mestre = ::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
     const bool temPar = mestre >= 0 && ::grantpt(mestre) == 0 && ::unlockpt(mestre) == 0;
@@ -69,12 +75,15 @@ TDialogo Conversar(std::vector<std::string> AArgumentos, const std::string& ADig
     }
     ::close(escravo);
     ::close(saida[1]);
+    if (!AQuando.empty()) dialogo.Tela = LerTudo(mestre, std::chrono::seconds(30), AQuando);
     EXPECT_EQ(::write(mestre, ADigitado.data(), ADigitado.size()), static_cast<ssize_t>(ADigitado.size()));
-    dialogo.Tela = LerTudo(mestre, std::chrono::seconds(60));
+    dialogo.Tela += LerTudo(mestre, std::chrono::seconds(60));
     dialogo.Saida = LerTudo(saida[0], std::chrono::seconds(5));
     int situacao = 0;
     ::waitpid(filho, &situacao, 0);
     dialogo.Situacao = WIFEXITED(situacao) ? WEXITSTATUS(situacao) : -1;
+    termios modos{};
+    dialogo.ComEco = ::tcgetattr(mestre, &modos) == 0 && (modos.c_lflag & ECHO);
     ::close(mestre);
     ::close(saida[0]);
     return dialogo;
@@ -125,6 +134,56 @@ TEST(Terminal, OAndamentoReescreveUmaLinha) {
     EXPECT_NE(dialogo.Tela.find("Cópia\r\n\rCopiando"), std::string::npos) << dialogo.Tela;
     EXPECT_NE(dialogo.Tela.find("\rCopiando 10%"), std::string::npos) << dialogo.Tela;
     EXPECT_NE(dialogo.Tela.find("\r" + texto.substr(0, 33) + "... 42%"), std::string::npos) << dialogo.Tela;
+}
+
+TEST(Terminal, PedidosDigitados) {
+    const std::string pasta = testing::TempDir();
+    std::ofstream(pasta + "/ory-velho.txt") << "1";
+    const struct {
+        std::vector<std::string> Argumentos;
+        const char* Digitado;
+        std::string Saida;
+        int Situacao;
+        const char *NaTela, *Porque;
+    } casos[] = {
+        {{"CPF?", "--entrada", "cpf"},
+         "1\n\n529.982.247-25\n\n",
+         "52998224725\n",
+         0,
+         "CPF inválido. Verifique.",
+         "told, and asked again"},
+        {{"CPF?", "--entrada", "cpf", "--obrigatorio"},
+         "\n\n\nc\n",
+         "",
+         3,
+         "Preenchimento obrigatório. Verifique.",
+         "cancelled at last"},
+        {{"Filiais?", "--lista", "Matriz", "--lista", "Filial 2", "--lista", "Filial 3", "--varios"},
+         "filial\n3,matriz\n\n",
+         "Matriz\nFilial 3\n",
+         0,
+         "Há mais de um:",
+         "by number and text"},
+        {{"Texto?", "--linhas", "--valor", "velho"}, "um\n dois\n.\n\n", "um\n dois\n", 0, "velho", "lines"},
+        {{"--salvar", "ory-velho.txt", "--pasta-inicial", pasta},
+         "\ns\n",
+         pasta + "ory-velho.txt\n",
+         0,
+         "ory-velho.txt já existe.",
+         "asked before"},
+    };
+    for (const auto& c : casos) {
+        auto argumentos = c.Argumentos;
+        argumentos.insert(argumentos.begin(), "mensagem");
+        const TDialogo dialogo = Conversar(argumentos, c.Digitado);
+        EXPECT_EQ(dialogo.Saida, c.Saida) << c.Porque;
+        EXPECT_EQ(dialogo.Situacao, c.Situacao) << c.Porque;
+        EXPECT_NE(dialogo.Tela.find(c.NaTela), std::string::npos) << c.Porque << '\n' << dialogo.Tela;
+    }
+    const TDialogo senha = Conversar({"mensagem", "Senha:", "--senha"}, "segredo\n\n", 80, "> ");
+    EXPECT_EQ(senha.Saida, "segredo\n");
+    EXPECT_EQ(senha.Tela.find("segredo"), std::string::npos) << senha.Tela;
+    EXPECT_TRUE(senha.ComEco) << "what follows shows again";
 }
 
 TEST(Terminal, NenhumaLinhaPassaDaLarguraENenhumaPalavraSeParte) {
