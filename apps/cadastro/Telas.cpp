@@ -79,6 +79,29 @@ const TTela CTelas[] = {
         const auto andamento = GOryUtilsDialogs->MostrarAndamento({.Titulo = u"Cópia de segurança"});
         while (andamento->Atualizar(42, u"Copiando /dados/notas fiscais/2026/11/saida-000123.xml")) std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }},
+    {"pedido-cpf", [] {
+        std::u16string cpf = u"52998224725";
+        GOryUtilsDialogs->PedirTexto({.Titulo = u"Cliente", .Pergunta = u"CPF do titular:", .Tipo = ttCPF}, cpf);
+    }},
+    {"pedido-senha", [] {
+        std::u16string senha = u"segredo";
+        GOryUtilsDialogs->PedirTexto({.Titulo = u"Acesso", .Pergunta = u"Senha do administrador:", .Senha = true}, senha);
+    }},
+    {"pedido-linhas", [] {
+        std::u16string texto = u"Entregar pela manhã.\r\nPortão lateral, falar com São João & Filhos.";
+        GOryUtilsDialogs->PedirLinhas({.Titulo = u"Nota", .Pergunta = u"Informações complementares:"}, texto);
+    }},
+    {"pedido-escolha", [] {
+        std::vector<std::int32_t> escolhidos{2};
+        GOryUtilsDialogs->PedirEscolha({.Titulo = u"Transporte", .Pergunta = u"Que transportadora leva a carga?", .Itens = {u"Ágil Cargas Ltda.", u"Expresso São Paulo", u"Rápido & Certo Transportes Rodoviários", u"Veloz"}}, escolhidos);
+    }},
+    {"pedido-varios", [] {
+        std::vector<std::int32_t> escolhidos{0, 2};
+        GOryUtilsDialogs->PedirEscolha({.Titulo = u"Filiais", .Pergunta = u"Que filiais entram no relatório?", .Itens = {u"Matriz", u"Filial 2 - Bauru", u"Filial 3 - Santos", u"Filial 4 - Marília", u"Filial 5 - Araçatuba"}, .Varios = true}, escolhidos);
+    }},
+    {"salvar", [] {
+        GOryUtilsDialogs->EscolherArquivoParaSalvar({.PastaInicial = u"/usr/share", .Filtros = {{u"Notas", u"*.xml"}, {u"Todos", u"*.*"}}, .NomeSugerido = u"nota 539.xml", .ExtensaoPadrao = u"xml"});
+    }},
     {"pergunta", [] { GOryUtilsDialogs->InputBox(u"Cadastro", u"Informe o número da inscrição:", u"São Paulo"); }},
 };
 // clang-format on

@@ -13,6 +13,7 @@ TListaEscolhaQt::TListaEscolhaQt(QWidget* APai, bool AVarios, std::function<void
     setSelectionMode(AVarios ? MultiSelection : SingleSelection);
     setEditTriggers(NoEditTriggers);
     setUniformItemSizes(true);
+    setVerticalScrollMode(ScrollPerPixel);
     QObject::connect(this, &QListWidget::itemSelectionChanged, this,
                      [this, escolheu = std::move(AEscolheu)] { escolheu(LerEscolhidos()); });
 }

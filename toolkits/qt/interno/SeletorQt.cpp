@@ -8,8 +8,10 @@
 #include <QDateTime>
 #include <QFileDialog>
 #include <QFileSystemModel>
+#include <QHeaderView>
 #include <QIdentityProxyModel>
 #include <QLocale>
+#include <QTreeView>
 
 namespace OryUtils {
 namespace {
@@ -49,6 +51,8 @@ QString BuscarTitulo(const TPedidoDeCaminho& APedido) {
     return APedido.Selecao == scSalvar ? QStringLiteral("Salvar como") : QStringLiteral("Abrir");
 }
 
+constexpr int CColunaDaData = 3;
+
 // In the order of TSelecaoDeCaminho.
 constexpr QFileDialog::FileMode CModos[] = {QFileDialog::ExistingFile, QFileDialog::ExistingFiles, QFileDialog::AnyFile,
                                             QFileDialog::Directory};
@@ -71,6 +75,9 @@ std::vector<std::u16string> EscolherCaminhosQt(const TPedidoDeCaminho& APedido) 
         dialogo.setDefaultSuffix(ParaQt(APedido.ExtensaoPadrao));
         if (!APedido.NomeSugerido.empty()) dialogo.selectFile(ParaQt(APedido.NomeSugerido));
     }
+    // Dates are told in full.
+    for (const QTreeView* lista : dialogo.findChildren<QTreeView*>())
+        lista->header()->setSectionResizeMode(CColunaDaData, QHeaderView::ResizeToContents);
     dialogo.setAttribute(Qt::WA_QuitOnClose, false);
     dialogo.setWindowFlag(Qt::WindowStaysOnTopHint, EstahNaFrenteQt());
     const auto dona = dialogo.parentWidget() ? std::nullopt : BuscarDonaQt();
