@@ -44,8 +44,9 @@ void TLacoDeMensagens::Despachar(MSG& AMensagem) {
 }
 
 void TLacoDeMensagens::Bombear() {
-    // A window may answer each message by another one to itself: the queue is then never empty.
-    constexpr int CMaximo = 100;
+    // A window may answer each message by another one to itself: the queue is then never empty. So few at a time leave
+    // the processor free while a wait processes messages a hundred times in a second.
+    constexpr int CMaximo = 20;
     std::exception_ptr excecao;
     {
         const TNaPilha<std::exception_ptr*> destino(Destinos, &excecao);

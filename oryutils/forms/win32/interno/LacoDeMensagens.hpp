@@ -14,7 +14,7 @@ class TLacoDeMensagens {
 public:
     /// One message: to the form that it belongs to, with the keyboard of dialogs, or to any other window.
     void Despachar(MSG& AMensagem);
-    /// The messages that wait, up to a hundred; what is left comes with the next call. Raises what a timer's action
+    /// Some of the messages that wait; what is left comes with the next call. Raises what a timer's action
     /// raised meanwhile.
     void Bombear();
 
