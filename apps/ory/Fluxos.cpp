@@ -18,6 +18,8 @@ std::string_view DescreverErro(TErroFluxo AErro) {
             return "o disco está cheio";
         case efFechado:
             return "a outra ponta foi fechada";
+        case efNomeComprido:
+            return "o nome do arquivo é comprido demais";
         default:
             return "erro de entrada ou saída";
     }

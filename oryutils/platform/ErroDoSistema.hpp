@@ -13,7 +13,8 @@ enum TErroFluxo : int {
     efSemPermissao,
     efEhPasta,
     efDiscoCheio,
-    efFechado,  // nobody reads the other end
+    efFechado,       // nobody reads the other end
+    efNomeComprido,  // longer than the system allows
     efOutro,
 };
 

@@ -220,7 +220,7 @@ TEST(Terminal, EmLatin1) {
     EXPECT_EQ(dialogo.Situacao, 1);
 }
 
-// What a shell does to a log: a limit of size, a pipe in the place of the file.
+// What a shell does to a log: a limit of size, a pipe in the place of the file, a name that no file can have.
 TEST(Terminal, LogSemEspacoOuEmCano) {
     const std::string pasta = testing::TempDir() + "/log_no_limite";
     const auto rodar = [&](const std::string& AComando) {
@@ -232,10 +232,16 @@ TEST(Terminal, LogSemEspacoOuEmCano) {
     EXPECT_EQ(rodar("ulimit -f 1; yes linha | head -n 100 | " + ory + " log cheio"), 2)
         << "told, not killed by a signal";
     EXPECT_EQ(rodar("mkfifo cano.log; echo linha | timeout 20 " + ory + " log cano --existente"), 2);
-    std::ifstream erro(pasta + "/erro");
-    std::string linha;
-    std::getline(erro, linha);
-    EXPECT_EQ(linha, "ory: não é um arquivo: cano.log");
+    const auto lerErro = [&] {
+        std::ifstream erro(pasta + "/erro");
+        std::string linha;
+        std::getline(erro, linha);
+        return linha;
+    };
+    EXPECT_EQ(lerErro(), "ory: não é um arquivo: cano.log");
+    const std::string comprido(300, 'n');
+    EXPECT_EQ(rodar("echo linha | " + ory + " log " + comprido), 2);
+    EXPECT_EQ(lerErro(), "ory: não foi possível gravar " + comprido + ".log: o nome do arquivo é comprido demais");
 }
 
 }  // namespace

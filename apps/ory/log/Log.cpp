@@ -7,6 +7,7 @@
 #include "oryutils/platform/Pastas.hpp"
 #include "oryutils/runtime/NomeDeArquivo.hpp"
 
+#include "Fluxos.hpp"
 #include "Leitura.hpp"
 #include "Opcoes.hpp"
 #include "conferir/Codificacao.hpp"
@@ -127,9 +128,12 @@ int EscreverLog(const TPedidoDeLog& APedido, TAmbiente& AAmbiente, TAmbienteDoLo
     log.SetTipoPeriodicidade(APedido.Diario ? tplDiario : tplUnico);
     if (log.GetArquivoLog().empty()) throw EFalha("não há nome de arquivo em '" + APedido.Arquivo + "'");
     OryUtils::Interno::TFluxo fluxo;
+    const auto erroDeAbertura = fluxo.AbrirArquivoParaLer(log.GetArquivoLog());
+    if (erroDeAbertura == OryUtils::Interno::efNomeComprido)
+        throw EFalha("não foi possível gravar " + ParaUtf8(log.GetArquivoLog()) + ": " +
+                     std::string(DescreverErro(erroDeAbertura)));
     // A pipe would keep the log waiting for a reader, or lose what was said before there was one.
-    if (fluxo.AbrirArquivoParaLer(log.GetArquivoLog()) == OryUtils::Interno::efOutro &&
-        !OryUtils::Interno::ExistePasta(log.GetArquivoLog()))
+    if (erroDeAbertura == OryUtils::Interno::efOutro && !OryUtils::Interno::ExistePasta(log.GetArquivoLog()))
         throw EFalha("não é um arquivo: " + ParaUtf8(log.GetArquivoLog()));
     log.SetFormatoMensagem(APedido.SomenteTexto ? tfmSomenteTexto : tfmComDataHora);
     log.SetUsarArquivoLogExistente(APedido.Existente);

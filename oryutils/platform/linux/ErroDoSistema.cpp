@@ -28,6 +28,8 @@ TErroFluxo ClassificarErroDoSistema(std::uint32_t ACodigo) noexcept {
             return efDiscoCheio;
         case EPIPE:
             return efFechado;
+        case ENAMETOOLONG:
+            return efNomeComprido;
         default:
             return efOutro;
     }

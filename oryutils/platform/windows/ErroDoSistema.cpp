@@ -28,6 +28,8 @@ TErroFluxo ClassificarErroDoSistema(std::uint32_t ACodigo) noexcept {
         case ERROR_BROKEN_PIPE:
         case ERROR_NO_DATA:
             return efFechado;
+        case ERROR_FILENAME_EXCED_RANGE:
+            return efNomeComprido;
         default:
             return efOutro;
     }
