@@ -45,6 +45,7 @@ TEST(Mensagem, RespondeOQueFoiEscolhido) {
         {{"?", "--caixa", "mais"}, enter, 0, "OK\n0\n", "check box"},
         {{"?", "--detalhe", "d", "--fechar-em", "5"}, esperar, 4, "\n", "nobody answered"},
         {{"?", "--fechar-em", "5"}, fechar, 3, "\n", "closed before its time"},
+        {{"?", "--botao", "ok", "--botao", "cancelar", "--fechar-em", "5"}, esperar, 4, "Cancelar\n", "also with one"},
         {{"Nome:", "--valor", ""}, digitar, 0, "São João\n", "a text"},
         {{"Nome:", "--valor", "x"}, fechar, 3, "", "no text"},
         {{"?", "--botao", "sim", "--botao", "nao", "--fechar-em", "1", "--mostrar-tempo"}, esperar, 4, "\n", "counted"},

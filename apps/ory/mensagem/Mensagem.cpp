@@ -272,14 +272,15 @@ int MostrarMensagem(const TPedidoDeMensagem& APedido, TAmbiente& AAmbiente) {
 
     const auto escolhido = std::find_if(base.Botoes.begin(), base.Botoes.end(),
                                         [&](TMsgDlgBtn b) { return BuscarResultado(b) == resultado; });
-    TStatusMensagem status = GOryUtilsDialogs->GetFechadaPorTempo() ? smTempoEsgotado : smCancelada;
+    TStatusMensagem status = smCancelada;
     std::u16string caption;
     if (escolhido != base.Botoes.end()) {
         caption = RemoverAtalho(base.CaptionBotoes[static_cast<std::size_t>(escolhido - base.Botoes.begin())]);
         status =
             std::find_if(CBotoes.begin(), CBotoes.end(), [&](const auto& b) { return b.Tipo == *escolhido; })->Status;
     }
-    // A cancel button and the window's close button give the same result: both print the button's caption.
+    if (resultado == mrCancel && GOryUtilsDialogs->GetFechadaPorTempo()) status = smTempoEsgotado;
+    // A cancel button, the window's close button and the end of the time give the same result: all print its caption.
     EscreverLinha(AAmbiente, caption);
     for (const auto& resposta : respostas) EscreverLinha(AAmbiente, resposta);
     return status;

@@ -23,11 +23,13 @@ TEST_F(Roteiro, AContagemParaComAPrimeiraTeclaOuClique) {
     parametros.FecharMensagemAutomaticamente = true;
     parametros.MostrarTempoRestante = true;
     parametros.TempoFinalizacaoAutomatica = 900'000;
+    const auto telas = FUsuario->BuscarTelas();
     for (const auto& gesto : gestos) {
+        FUsuario->AbrirEm(static_cast<std::size_t>(&gesto - gestos) * 10 % telas.size());
         TOryUtilsDialogs dialogos;
         const auto contar = [&] {
-            EXPECT_TRUE(FUsuario->VerFoco().BotaoPadrao.starts_with(u"Sim ("))
-                << ParaUtf8(FUsuario->VerFoco().BotaoPadrao);
+            const std::u16string padrao = FUsuario->VerFoco().BotaoPadrao;
+            EXPECT_TRUE(padrao.starts_with(u"Sim (") && padrao.ends_with(u")")) << ParaUtf8(padrao);
         };
         const auto conferir = [&] {
             EXPECT_FALSE(dialogos.GetTemporizadorLigado());

@@ -173,6 +173,21 @@ const TCasoDePasseio CPasseios[] = {
       {"Alt+N", "*Não perguntar [Imprimir]"},
       {"Enter", nullptr}},
      mrYes * 100 + 1},
+    {"a check box that would have the answer remembered",
+     [](auto& d) {
+         auto parametros = Montar<TOryUtilsDialogsFormCustomizadoLembradaIOP>();
+         parametros.Chave = u"Teclado";
+         return d.ConfirmacaoCustomizadaLembrada(parametros)->RetornoMensagem;
+     },
+     "Imprimir [Imprimir]",
+     {{"Shift+Tab", "Não perguntar novamente [Imprimir]"},
+      {"Space", "*Não perguntar novamente [Imprimir]"},
+      {"Tab", "Imprimir [Imprimir]"},
+      {"Tab", "Cancelar [Cancelar]"},
+      {"Alt+P", "Não perguntar novamente [Imprimir]"},
+      {"Alt+P", "*Não perguntar novamente [Imprimir]"},
+      {"Esc", nullptr}},
+     mrCancel},
     {"details",
      ComDetalhes,
      "Imprimir [Imprimir]",
