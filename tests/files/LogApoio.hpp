@@ -4,6 +4,7 @@
 #include "oryutils/files/UnOryUtilsArquivoLog.hpp"
 #include "oryutils/files/UnOryUtilsArquivoLogAmbiente.hpp"
 #include "oryutils/platform/TextoDoSistema.hpp"
+#include "oryutils/runtime/NumeroTexto.hpp"
 
 #include "files/ApoioArquivos.hpp"
 
@@ -11,6 +12,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <cstdlib>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -99,6 +101,27 @@ inline std::u16string JuntarTexto(const TLinhas& ALinhas) {
 inline TLinhas Somar(TLinhas ALinhas, const TLinhas& AMais) {
     ALinhas.insert(ALinhas.end(), AMais.begin(), AMais.end());
     return ALinhas;
+}
+
+/// What a process does that will be killed: adds lines for ever, and confirms each that is saved.
+[[noreturn]] inline void GravarAteMorrer(const std::filesystem::path& AArquivo, OryUtils::TModoGravacao AModo,
+                                         const std::function<void(int)>& AConfirmar) {
+    TAmbienteDeTeste ambiente;
+    TLogDeTeste log(AArquivo.u16string(), ambiente, AModo);
+    log.SetSalvarAutomaticamente(true);
+    for (int i = 0;; ++i) {
+        log.Adicionar(u"linha " + OryUtils::InteiroParaTexto(i) + u" " + std::u16string(2000, u'x'), OryUtils::clBlue);
+        if (!log.EstahSalvo()) std::abort();
+        AConfirmar(i);
+    }
+}
+
+/// It was killed after it had confirmed AUltima: that line and all before it are in the file.
+inline void ConferirLinhasConfirmadas(const std::filesystem::path& AArquivo, int AUltima) {
+    const std::string texto = LerBytes(AArquivo);
+    for (int i = 0; i <= AUltima; ++i)
+        ASSERT_NE(texto.find("linha " + std::to_string(i) + " x"), std::string::npos)
+            << "line " << i << " of " << AUltima << ", " << texto.size() << " bytes";
 }
 
 /// An existing log of AArquivo that ASoltar makes readable, and nothing else, is continued as soon as it can be read,
