@@ -99,9 +99,6 @@ const TTela CTelas[] = {
         std::vector<std::int32_t> escolhidos{0, 2};
         GOryUtilsDialogs->PedirEscolha({.Titulo = u"Filiais", .Pergunta = u"Que filiais entram no relatório?", .Itens = {u"Matriz", u"Filial 2 - Bauru", u"Filial 3 - Santos", u"Filial 4 - Marília", u"Filial 5 - Araçatuba"}, .Varios = true}, escolhidos);
     }},
-    {"salvar", [] {
-        GOryUtilsDialogs->EscolherArquivoParaSalvar({.PastaInicial = u"/usr/share", .Filtros = {{u"Notas", u"*.xml"}, {u"Todos", u"*.*"}}, .NomeSugerido = u"nota 539.xml", .ExtensaoPadrao = u"xml"});
-    }},
     {"pergunta", [] { GOryUtilsDialogs->InputBox(u"Cadastro", u"Informe o número da inscrição:", u"São Paulo"); }},
 };
 // clang-format on
