@@ -87,11 +87,13 @@ void DescreverConferir(TOpcoes AComando, TOpcoesDeConferir& AOpcoes) {
         .SemMaisValores();
     AComando.Valor("--uf", pedido.Opcoes.Uf, "UF das inscrições estaduais de todo o arquivo");
     AComando.Valor("--codificacao", AOpcoes.Codificacao, "utf-8 ou windows-1252 (padrão: detecta)");
-    AComando.Valor("--delimitador", AOpcoes.Delimitador, "um caractere ou tab (padrão: detecta ; ou ,)");
+    AComando.Valor("--delimitador", AOpcoes.Delimitador, "um caractere ou tab (padrão: detecta ; , | ou tab)");
     AComando.Marca("--sem-cabecalho", pedido.Opcoes.SemCabecalho,
                    "a primeira linha já é dado; as colunas vão pela posição: --coluna 2=cnpj");
     AComando.Valor("--saida", pedido.Saida,
-                   "grava o arquivo de novo com veredito e número formatado de cada coluna conferida");
+                   "grava o arquivo de novo com veredito e número formatado de cada coluna conferida;\n"
+                   "\"-\": na saída padrão, e o resumo na saída de erros");
+    AComando.Marca("--vazio-ok", pedido.Opcoes.VazioVale, "um arquivo sem registros não é uma falha");
     AComando.Valor("--log", pedido.Log, "escreve um log da conferência; a extensão passa a ser .log");
     AComando.Marca("--json", pedido.Json, "resumo em JSON");
     AComando.Valor("--mostrar", pedido.Opcoes.Mostrar, "quantos inválidos mostrar por coluna (padrão: 5)");
@@ -99,7 +101,7 @@ void DescreverConferir(TOpcoes AComando, TOpcoesDeConferir& AOpcoes) {
                    "tipo: em vez de CSV lê um número por linha e escreve 1 (válido) ou 0 por linha");
     AComando.Valor("--cores", AOpcoes.Cores, "nunca ou auto (padrão: auto, só em terminal e sem NO_COLOR)");
     AComando.Rodape(
-        "Saída do programa: 0 tudo válido, 1 há inválidos, 2 não foi possível ler ou gravar.\n"
+        "Saída do programa: 0 tudo válido, 1 há inválidos, 2 não foi possível ler ou gravar, ou não há registros.\n"
         "Um registro pode ter até 16 MiB. --saida pode ser o próprio ARQUIVO: ele só é trocado no fim.\n\n"
         "Exemplos:\n"
         "  ory conferir clientes.csv\n"

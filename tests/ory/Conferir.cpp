@@ -143,6 +143,45 @@ TEST(Conferir, ReconheceAsColunasPeloCabecalho) {
     EXPECT_EQ(Resumir("nome;codigo\n", {"--coluna", "02=cnpj"})["colunas"][0]["nome"], "codigo") << "by position";
 }
 
+struct TCasoDeArquivo {
+    std::string_view Texto;
+    const char *Delimitador, *NaoConferidas;
+    std::size_t Registros;
+    int Status;
+    const char* Porque;
+};
+const TCasoDeArquivo CArquivos[] = {
+    {"cpf\tcnpj\n52998224725\t11222333000181\n", "\t", "[]", 1, 0, "tabs"},
+    {"cpf|nome, completo\n52998224725|Ana, Maria\n", "|", R"(["nome, completo"])", 1, 0,
+     "a comma in the names is no delimiter"},
+    {"sep=,\r\ncpf,nome;x\r\n52998224724,Ana\r\n", ",", R"(["nome;x"])", 1, 1, "a spreadsheet's first line"},
+    {"cpf;nome\r52998224725;Ana\r52998224725;Bia\r", ";", R"(["nome"])", 2, 0, "CR alone"},
+    {"cpf;nome\n", ";", R"(["nome"])", 0, 2, "no records"},
+};
+
+TEST(Conferir, ArquivosDePlanilhas) {
+    for (const TCasoDeArquivo& c : CArquivos) {
+        const TRodada rodada = Rodar({"conferir", "-", "--json"}, c.Texto);
+        ASSERT_EQ(rodada.Status, c.Status) << c.Porque << rodada.Erro;
+        const json resumo = json::parse(rodada.Saida);
+        EXPECT_EQ(resumo["delimitador"], c.Delimitador) << c.Porque;
+        EXPECT_EQ(resumo["nao_conferidas"], json::parse(c.NaoConferidas)) << c.Porque;
+        EXPECT_EQ(resumo["registros"], c.Registros) << c.Porque;
+        EXPECT_EQ(resumo["valido"], c.Status == 0) << c.Porque;
+    }
+    EXPECT_EQ(Rodar({"conferir", "-", "--vazio-ok"}, "cpf;nome\n").Status, 0);
+    EXPECT_NE(Rodar({"conferir", "-"}, "cpf;nome\n").Saida.find("Não há registros."), std::string::npos);
+    const std::string relatorio = Rodar({"conferir", "-"}, "cpf;nome;cargo\n52998224725;a;b\n").Saida;
+    EXPECT_NE(relatorio.find("\nColunas não conferidas: nome, cargo\n"), std::string::npos) << relatorio;
+    EXPECT_NE(relatorio.find("\nTudo válido nas colunas conferidas.\n"), std::string::npos) << relatorio;
+    const TRodada recusada = Rodar({"conferir", "-", "--delimitador", ";"}, "cpf\tcnpj\n");
+    EXPECT_EQ(recusada.Status, 2);
+    EXPECT_NE(recusada.Erro.find("--delimitador tab"), std::string::npos) << recusada.Erro;
+    const TRodada saida = Rodar({"conferir", "-", "--saida", "-"}, "sep=,\ncpf,b\n52998224725,x\n");
+    EXPECT_EQ(saida.Saida, "sep=,\ncpf,b,cpf_veredito,cpf_formatado\n52998224725,x,valido,529.982.247-25\n");
+    EXPECT_NE(saida.Erro.find("1 registro"), std::string::npos) << saida.Erro;
+}
+
 TEST(Conferir, ContaEMostraOsPrimeiros) {
     std::string texto = "cnpj;nome\r\n";
     for (int i = 0; i < 7; ++i) texto += "123;\"a\r\nb\"\r\n";

@@ -10,6 +10,8 @@ using TRegistros = std::vector<std::vector<std::string>>;
 inline TRegistros LerDevagar(const std::string& ATexto, char ADelimitador, bool& AAbertas) {
     TRegistros registros;
     AAbertas = false;
+    const bool semLf = ATexto.find('\n') == ATexto.npos;
+    const char quebra = semLf ? '\r' : '\n';
     std::size_t i = 0;
     while (i < ATexto.size()) {
         std::vector<std::string> campos;
@@ -29,9 +31,9 @@ inline TRegistros LerDevagar(const std::string& ATexto, char ADelimitador, bool&
                 ++i;
             }
             std::string solto;
-            for (; i < ATexto.size() && ATexto[i] != ADelimitador && ATexto[i] != '\n'; ++i) solto += ATexto[i];
-            fim = i >= ATexto.size() || ATexto[i] == '\n';
-            if (fim && i < ATexto.size() && solto.ends_with('\r')) solto.pop_back();
+            for (; i < ATexto.size() && ATexto[i] != ADelimitador && ATexto[i] != quebra; ++i) solto += ATexto[i];
+            fim = i >= ATexto.size() || ATexto[i] == quebra;
+            if (fim && i < ATexto.size() && !semLf && solto.ends_with('\r')) solto.pop_back();
             ++i;
             campos.push_back(campo + solto);
         }

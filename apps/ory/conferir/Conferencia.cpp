@@ -50,7 +50,20 @@ std::string JuntarNomes(const std::vector<std::string>& ANomes) {
     return ANomes.size() > CMaisNomes ? lista + ", ..." : lista;
 }
 
+/// Control characters in a header tell that the delimiter is another one, or that the file is no text. Line ends may
+/// stand in quotes.
+void RecusarControles(const std::vector<std::string>& ACabecalho) {
+    const auto ehControle = [](char c) { return c >= 0 && c < ' ' && c != '\r' && c != '\n'; };
+    for (const std::string& nome : ACabecalho)
+        if (std::ranges::any_of(nome, ehControle))
+            throw EFalha("o cabeçalho tem caracteres de controle" +
+                         std::string(nome.find('\t') == nome.npos
+                                         ? "; o arquivo é um texto?"
+                                         : "; se as colunas se separam por tabulação, --delimitador tab"));
+}
+
 TPlano Planejar(const std::vector<std::string>& ACabecalho, const TOpcoesDeConferencia& AOpcoes) {
+    if (!AOpcoes.SemCabecalho) RecusarControles(ACabecalho);
     std::vector<TPapelDaColuna> papeis(ACabecalho.size());
     if (!AOpcoes.SemCabecalho) std::ranges::transform(ACabecalho, papeis.begin(), ReconhecerCabecalho);
     for (const auto& [nome, papel] : AOpcoes.Colunas)
@@ -100,6 +113,7 @@ public:
         if (!ASaida) return;
         FSaida.emplace(*ASaida);
         if (FLeitor.PossuiMarcaUtf8()) FSaida->GetTexto() += "\xEF\xBB\xBF";
+        FSaida->GetTexto() += FLeitor.GetLinhaDoDelimitador();
     }
 
     void LerCabecalho() {
@@ -198,7 +212,7 @@ private:
 }  // namespace
 
 bool TResumo::EstahTudoValido() const noexcept {
-    return std::ranges::all_of(Colunas, [](const TResumoDeColuna& c) { return c.Invalidos == 0; });
+    return !EstahVazio() && std::ranges::all_of(Colunas, [](const TResumoDeColuna& c) { return c.Invalidos == 0; });
 }
 
 TResumo ConferirCsv(TEntrada& AEntrada, TSaida* ASaida, const TOpcoesDeConferencia& AOpcoes) {
@@ -209,11 +223,16 @@ TResumo ConferirCsv(TEntrada& AEntrada, TSaida* ASaida, const TOpcoesDeConferenc
 
     TResumo resumo{.PossuiMarcaUtf8 = leitor.PossuiMarcaUtf8(),
                    .Delimitador = leitor.GetDelimitador(),
-                   .Campos = leitor.GetTotalDeCampos()};
-    for (const TColunaConferida& coluna : plano.Colunas)
-        resumo.Colunas.push_back({.Nome = AOpcoes.SemCabecalho ? std::to_string(coluna.Posicao + 1)
-                                                               : DecodificarParaUtf8(coluna.Nome, AOpcoes.Codificacao),
-                                  .Tipo = coluna.Tipo});
+                   .Campos = leitor.GetTotalDeCampos(),
+                   .VazioVale = AOpcoes.VazioVale};
+    for (std::size_t i = 0, proxima = 0; i < leitor.GetCampos().size(); ++i) {
+        const std::string nome = AOpcoes.SemCabecalho ? std::to_string(i + 1)
+                                                      : DecodificarParaUtf8(leitor.GetCampos()[i], AOpcoes.Codificacao);
+        if (proxima < plano.Colunas.size() && plano.Colunas[proxima].Posicao == i)
+            resumo.Colunas.push_back({.Nome = nome, .Tipo = plano.Colunas[proxima++].Tipo});
+        else if (plano.PosicaoDaUf != i)
+            resumo.NaoConferidas.push_back(nome);
+    }
     TConferente conferente(plano, leitor, ASaida, AOpcoes.Mostrar, resumo);
     if (AOpcoes.SemCabecalho) {
         conferente.ConferirRegistro();

@@ -22,6 +22,7 @@ struct TOpcoesDeConferencia {
     std::vector<std::pair<std::string, TPapelDaColuna>> Colunas{};
     std::string Uf{};         // for state registrations in a file without a column for it
     std::size_t Mostrar = 5;  // offenders kept for each column
+    bool VazioVale = false;   // a file without records is no failure
     TLimites Limites{};
     /// Called now and then with the bytes read so far.
     std::function<void(std::uint64_t)> AoProgredir{};
@@ -57,7 +58,11 @@ struct TResumo {
     std::vector<TResumoDeColuna> Colunas{};
     std::uint64_t Desiguais = 0;  // records with another number of fields than Campos
     std::vector<TRegistroDesigual> PrimeirosDesiguais{};
+    std::vector<std::string> NaoConferidas{};  // names of the other columns, UTF-8
+    bool VazioVale = false;                    // a file without records is no failure
 
+    bool EstahVazio() const noexcept { return Registros == 0 && !VazioVale; }
+    /// Of what was checked; false where nothing was.
     bool EstahTudoValido() const noexcept;
 };
 

@@ -9,6 +9,7 @@
 #include "log/Log.hpp"
 
 #include <exception>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -20,24 +21,34 @@ using namespace OryUtils::Interno;
 
 constexpr int CLarguraDoLog = 100;
 
+/// The file at the end of the links that start with ANome.
+std::string SeguirAtalhos(const std::string& ANome) {
+    std::filesystem::path caminho(std::u8string(ANome.begin(), ANome.end()));
+    std::error_code erro;
+    for (int i = 0; i < 40 && std::filesystem::is_symlink(caminho, erro); ++i)
+        caminho = caminho.parent_path() / std::filesystem::read_symlink(caminho, erro);
+    const std::u8string nome = caminho.u8string();
+    return {nome.begin(), nome.end()};
+}
+
 /// The file that takes the place of ANome when it is finished, and goes when it is not. A device or a pipe of that name
-/// is written to as it stands.
+/// is written to as it stands; a link stays, and the file that it leads to is replaced.
 class TArquivoNovo {
 public:
-    explicit TArquivoNovo(const std::string& ANome) : FNome(ANome) {
+    explicit TArquivoNovo(const std::string& ANome) : FNome(SeguirAtalhos(ANome)) {
         constexpr int CTentativas = 100;
         TFluxo fluxo;
-        if (fluxo.AbrirParaAcrescentar(ANome) == efNenhum && !fluxo.BuscarTamanho()) {
-            FSaida = std::make_unique<TSaidaDeFluxo>(std::move(fluxo), ANome);
+        if (fluxo.AbrirParaAcrescentar(FNome) == efNenhum && !fluxo.BuscarTamanho()) {
+            FSaida = std::make_unique<TSaidaDeFluxo>(std::move(fluxo), FNome);
             return;
         }
         TErroFluxo erro = efJaExiste;
         for (int i = 0; i < CTentativas && erro == efJaExiste; ++i) {
-            FNomeProvisorio = ANome + ".parte" + (i ? std::to_string(i) : "");
-            erro = fluxo.CriarNovo(FNomeProvisorio, ANome);
+            FNomeProvisorio = FNome + ".parte" + (i ? std::to_string(i) : "");
+            erro = fluxo.CriarNovo(FNomeProvisorio, FNome);
         }
-        if (erro != efNenhum) throw EFalha("não foi possível criar " + ANome + ": " + std::string(DescreverErro(erro)));
-        FSaida = std::make_unique<TSaidaDeFluxo>(std::move(fluxo), ANome);
+        if (erro != efNenhum) throw EFalha("não foi possível criar " + FNome + ": " + std::string(DescreverErro(erro)));
+        FSaida = std::make_unique<TSaidaDeFluxo>(std::move(fluxo), FNome);
     }
     TArquivoNovo(const TArquivoNovo&) = delete;
     TArquivoNovo& operator=(const TArquivoNovo&) = delete;
@@ -122,18 +133,22 @@ TStatus ConferirComLog(const TPedidoDeConferencia& APedido, TAmbiente& AAmbiente
         return resumo.Outros ? stInvalido : stTudoCerto;
     }
 
+    const bool saidaPadrao = APedido.Saida == "-";
     std::optional<TArquivoNovo> saida;
-    if (!APedido.Saida.empty()) saida.emplace(APedido.Saida);
-    const TResumo resumo = ConferirCsv(entrada, saida ? &saida->GetSaida() : nullptr, opcoes);
+    if (!APedido.Saida.empty() && !saidaPadrao) saida.emplace(APedido.Saida);
+    TSaida* const destino = saidaPadrao ? &AAmbiente.Saida : saida ? &saida->GetSaida() : nullptr;
+    const TResumo resumo = ConferirCsv(entrada, destino, opcoes);
     progresso.Apagar();
     arquivo.reset();  // the output may be about to take its name
     if (saida) saida->Concluir();
 
     const std::string nome = entradaPadrao ? "entrada padrão" : APedido.Arquivo;
     if (!APedido.Log.empty()) ALog.Adicionar(EscreverRelatorio(resumo, nome, CLarguraDoLog, false));
-    const bool cores = AAmbiente.Cores && !APedido.SemCores;
-    AAmbiente.Saida.Escrever(APedido.Json ? EscreverRelatorioJson(resumo, nome)
-                                          : EscreverRelatorio(resumo, nome, AAmbiente.Largura, cores));
+    const bool cores = AAmbiente.Cores && !APedido.SemCores && !saidaPadrao;
+    TSaida& relatorio = saidaPadrao ? AAmbiente.Erro : AAmbiente.Saida;
+    relatorio.Escrever(APedido.Json ? EscreverRelatorioJson(resumo, nome)
+                                    : EscreverRelatorio(resumo, nome, AAmbiente.Largura, cores));
+    if (resumo.EstahVazio()) return stFalha;
     return resumo.EstahTudoValido() ? stTudoCerto : stInvalido;
 }
 

@@ -1,6 +1,8 @@
 #include "conferir/Csv.hpp"
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace Ory {
 
@@ -20,18 +22,31 @@ bool PularMarcaDeCodificacao(TBytesLidos& ABytes) {
     return utf8;
 }
 
-char DetectarDelimitador(std::string_view AInicio) noexcept {
-    std::size_t virgulas = 0;
-    std::size_t pontosEVirgulas = 0;
+char DetectarDelimitador(std::string_view AInicio, char AQuebra) noexcept {
+    constexpr std::size_t CRegistros = 6;
+    constexpr std::size_t CCandidatos = 4;
+    // Where two would do alike: a comma stands in names and amounts, too.
+    constexpr std::string_view CDelimitadores = ";\t|,";
+    std::array<std::array<std::size_t, CCandidatos>, CRegistros> contados{};
+    std::size_t inteiros = 0;
     bool entreAspas = false;
     for (const char c : AInicio) {
         if (c == '"') entreAspas = !entreAspas;
         if (entreAspas) continue;
-        if (c == '\n') break;
-        virgulas += c == ',';
-        pontosEVirgulas += c == ';';
+        if (c == AQuebra && ++inteiros == CRegistros) break;
+        const std::size_t candidato = CDelimitadores.find(c);
+        if (candidato != CDelimitadores.npos) ++contados[inteiros][candidato];
     }
-    return virgulas > pontosEVirgulas ? ',' : ';';
+    std::size_t melhor = 0;
+    std::pair<std::size_t, std::size_t> maior{};  // records that agree with the first, how often in the first
+    for (std::size_t k = 0; k < CCandidatos; ++k) {
+        std::size_t iguais = 0;
+        for (std::size_t i = 1; i < inteiros; ++i) iguais += contados[i][k] == contados[0][k];
+        if (contados[0][k] == 0 || std::pair(iguais, contados[0][k]) <= maior) continue;
+        maior = {iguais, contados[0][k]};
+        melhor = k;
+    }
+    return CDelimitadores[melhor];
 }
 
 TLeitorDeRegistros::TLeitorDeRegistros(TEntrada& AEntrada, char ADelimitador, std::size_t AMaximoDeCampos,
@@ -39,7 +54,28 @@ TLeitorDeRegistros::TLeitorDeRegistros(TEntrada& AEntrada, char ADelimitador, st
     : FBytes(AEntrada), FDelimitador(ADelimitador), FMaximoDeCampos(AMaximoDeCampos), FLimites(ALimites) {
     FPossuiMarcaUtf8 = PularMarcaDeCodificacao(FBytes);
     LerBloco(FLimites.Bloco);
-    if (!FDelimitador) FDelimitador = DetectarDelimitador(FBytes.Get());
+    DetectarQuebra();
+    LerLinhaDoDelimitador();
+    if (!FDelimitador) FDelimitador = DetectarDelimitador(FBytes.Get(), FQuebra);
+}
+
+// In a file of LFs a CR alone is data, so it takes as many bytes as a record may have to know that there is none.
+void TLeitorDeRegistros::DetectarQuebra() {
+    const auto tem = [&](char c) { return FBytes.Get().find(c) != std::string_view::npos; };
+    while (!tem('\n') && !FBytes.EstahNoFim() && FBytes.Get().size() <= FLimites.Registro)
+        LerBloco(std::max(FLimites.Bloco, FBytes.Get().size()));
+    if (tem('\r') && !tem('\n')) FQuebra = '\r';
+}
+
+void TLeitorDeRegistros::LerLinhaDoDelimitador() {
+    constexpr std::string_view CInicio = "sep=";
+    const std::string_view bytes = FBytes.Get();
+    const std::size_t fim = bytes.find_first_of("\r\n");
+    if (!bytes.starts_with(CInicio) || fim != CInicio.size() + 1 || bytes[CInicio.size()] == '"') return;
+    FLinhaDoDelimitador = bytes.substr(0, fim + (bytes.substr(fim).starts_with("\r\n") ? 2 : 1));
+    if (!FDelimitador) FDelimitador = bytes[CInicio.size()];
+    FBytes.Usar(FLinhaDoDelimitador.size());
+    ++FLinha;
 }
 
 bool TLeitorDeRegistros::Proximo() {
@@ -79,13 +115,13 @@ bool TLeitorDeRegistros::Dividir(std::string_view ABytes) {
             i = BuscarFimDoCampo(ABytes, i);
             campo = ABytes.substr(inicio, i - inicio);
         }
-        fim = i == ABytes.size() || ABytes[i] == '\n';
+        fim = i == ABytes.size() || ABytes[i] == FQuebra;
         if (fim && i < ABytes.size() && campo.ends_with('\r') && ABytes[i - 1] == '\r') campo.remove_suffix(1);
         if (FTotalDeCampos++ < FMaximoDeCampos) FCampos.push_back(campo);
     }
     i = std::min(i, ABytes.size());
     const std::string_view registro = ABytes.substr(0, i);
-    const std::size_t fimDeLinha = registro.ends_with("\r\n") ? 2 : registro.ends_with('\n') ? 1 : 0;
+    const std::size_t fimDeLinha = registro.ends_with("\r\n") ? 2 : registro.ends_with(FQuebra) ? 1 : 0;
     FTexto = registro.substr(0, i - fimDeLinha);
     FFimDeLinha = registro.substr(i - fimDeLinha);
     FQuebras += fimDeLinha > 0;
@@ -107,7 +143,7 @@ std::size_t TLeitorDeRegistros::LerCampoEntreAspas(std::string_view ABytes, std:
         ++i;
     }
     i = std::min(i, ABytes.size());
-    FQuebras += static_cast<std::uint64_t>(std::ranges::count(ABytes.substr(AInicio, i - AInicio), '\n'));
+    FQuebras += static_cast<std::uint64_t>(std::ranges::count(ABytes.substr(AInicio, i - AInicio), FQuebra));
     const std::size_t fim = BuscarFimDoCampo(ABytes, i);
     valor += ABytes.substr(i, fim - i);
     ACampo = FDesdobrados.emplace_back(std::move(valor));
@@ -115,7 +151,7 @@ std::size_t TLeitorDeRegistros::LerCampoEntreAspas(std::string_view ABytes, std:
 }
 
 std::size_t TLeitorDeRegistros::BuscarFimDoCampo(std::string_view ABytes, std::size_t AInicio) const noexcept {
-    while (AInicio < ABytes.size() && ABytes[AInicio] != FDelimitador && ABytes[AInicio] != '\n') ++AInicio;
+    while (AInicio < ABytes.size() && ABytes[AInicio] != FDelimitador && ABytes[AInicio] != FQuebra) ++AInicio;
     return AInicio;
 }
 

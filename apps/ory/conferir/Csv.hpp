@@ -11,7 +11,8 @@
 #include <vector>
 
 // The CSV of the command: RFC 4180, read with indulgence.
-//   - A record ends at LF or CR LF outside quotes; a CR alone is data.
+//   - A record ends at LF or CR LF outside quotes; a CR alone is data, but in a file without any LF it ends a record.
+//   - A first line "sep=;", as spreadsheets write it, tells the delimiter and is no record.
 //   - A field is quoted when its first character is a quote. Inside the quotes two quotes stand for one. The text
 //     between the closing quote and the delimiter is added to the value. A quote elsewhere is data.
 
@@ -29,8 +30,9 @@ struct TLimites {
 /// UTF-16.
 bool PularMarcaDeCodificacao(TBytesLidos& ABytes);
 
-/// "," when there are more of them than ";" in the first record, else ";". Quoted ones do not count.
-char DetectarDelimitador(std::string_view AInicio) noexcept;
+/// Of ";", ",", tab and "|" the one that the first record has and that the next ones have as often; ";" when there is
+/// none. Quoted ones do not count.
+char DetectarDelimitador(std::string_view AInicio, char AQuebra = '\n') noexcept;
 
 /// Reads the records of an input.
 class TLeitorDeRegistros {
@@ -55,10 +57,14 @@ public:
     std::uint64_t GetLinha() const noexcept { return FLinha; }
 
     char GetDelimitador() const noexcept { return FDelimitador; }
+    /// The line "sep=;" that stood before the first record, with its end; empty when there was none.
+    const std::string& GetLinhaDoDelimitador() const noexcept { return FLinhaDoDelimitador; }
     bool PossuiMarcaUtf8() const noexcept { return FPossuiMarcaUtf8; }
     std::uint64_t GetBytesLidos() const noexcept { return FBytes.GetTotal(); }
 
 private:
+    void DetectarQuebra();
+    void LerLinhaDoDelimitador();
     void LerBloco(std::size_t AQuantos);
     bool Dividir(std::string_view ABytes);
     std::size_t LerCampoEntreAspas(std::string_view ABytes, std::size_t AInicio, std::string_view& ACampo);
@@ -69,13 +75,15 @@ private:
     std::size_t FMaximoDeCampos;
     TLimites FLimites;
     bool FPossuiMarcaUtf8 = false;
+    char FQuebra = '\n';
+    std::string FLinhaDoDelimitador{};
 
     std::vector<std::string_view> FCampos{};
     std::size_t FTotalDeCampos = 0;
     std::string_view FTexto{};
     std::string_view FFimDeLinha{};
     std::uint64_t FLinha = 1;
-    std::uint64_t FQuebras = 0;              // LFs in the record, its line end included
+    std::uint64_t FQuebras = 0;              // lines that end in the record, its own end included
     bool FFaltaAspa = false;                 // the last field read never closes its quotes
     std::deque<std::string> FDesdobrados{};  // values that are not a part of the text
 };

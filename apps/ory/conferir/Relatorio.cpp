@@ -54,6 +54,23 @@ void EscreverDesiguais(std::string& ASaida, const TResumo& AResumo) {
         ASaida += "  e mais " + EscreverQuantidade(AResumo.Desiguais - AResumo.PrimeirosDesiguais.size()) + "\n";
 }
 
+void EscreverNaoConferidas(std::string& ASaida, const TResumo& AResumo) {
+    constexpr std::size_t CMaisNomes = 20;
+    constexpr std::size_t CMaiorNome = 40;
+    ASaida += "\nColunas não conferidas: ";
+    for (std::size_t i = 0; i < std::min(AResumo.NaoConferidas.size(), CMaisNomes); ++i)
+        ASaida += (i ? ", " : "") + Mostrar(AResumo.NaoConferidas[i], coUtf8, CMaiorNome);
+    if (AResumo.NaoConferidas.size() > CMaisNomes)
+        ASaida += " e mais " + EscreverQuantidade(AResumo.NaoConferidas.size() - CMaisNomes);
+    ASaida += '\n';
+}
+
+std::string_view Concluir(const TResumo& AResumo) {
+    if (AResumo.EstahVazio()) return "Não há registros.";
+    if (!AResumo.EstahTudoValido()) return "Há valores inválidos.";
+    return AResumo.NaoConferidas.empty() ? "Tudo válido." : "Tudo válido nas colunas conferidas.";
+}
+
 }  // namespace
 
 std::string EscreverQuantidade(std::uint64_t AValor) {
@@ -102,9 +119,10 @@ std::string EscreverRelatorio(const TResumo& AResumo, std::string_view AArquivo,
     }
     if (AResumo.Desiguais) EscreverDesiguais(saida, AResumo);
     if (AResumo.LinhasEmBranco) saida += "\nLinhas em branco: " + EscreverQuantidade(AResumo.LinhasEmBranco) + "\n";
+    if (!AResumo.NaoConferidas.empty()) EscreverNaoConferidas(saida, AResumo);
     saida += '\n';
     saida += cor(AResumo.EstahTudoValido() ? CVerde : CVermelho);
-    saida += AResumo.EstahTudoValido() ? "Tudo válido." : "Há valores inválidos.";
+    saida += Concluir(AResumo);
     saida += cor(CNormal);
     saida += '\n';
     return saida;
@@ -139,6 +157,11 @@ std::string EscreverRelatorioJson(const TResumo& AResumo, std::string_view AArqu
             saida += '}';
         }
         saida += "]}";
+    }
+    saida += R"(],"nao_conferidas":[)";
+    for (std::size_t i = 0; i < AResumo.NaoConferidas.size(); ++i) {
+        if (i) saida += ',';
+        EscreverTextoJson(saida, AResumo.NaoConferidas[i]);
     }
     saida += R"(],"desiguais":{"total":)" + std::to_string(AResumo.Desiguais);
     saida += R"(,"esperados":)" + std::to_string(AResumo.Campos) + R"(,"primeiros":[)";
