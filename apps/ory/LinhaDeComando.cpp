@@ -5,6 +5,7 @@
 #include "Opcoes.hpp"
 #include "chamar/Chamadas.hpp"
 #include "conferir/Conferir.hpp"
+#include "documento/Documento.hpp"
 #include "log/Log.hpp"
 #include "mensagem/Mensagem.hpp"
 #include "numeros/Numeros.hpp"
@@ -188,6 +189,8 @@ int ExecutarLinhaDeComando(std::span<const std::string> AArgumentos, TAmbiente& 
     aplicativo.Opcoes().Marca("--versao,--version", versao, "mostra a versão");
     TComandos comandos(aplicativo, AAmbiente);
     comandos.Incluir("conferir", "confere os números de um arquivo CSV", DescreverConferir, ExecutarConferir);
+    comandos.Incluir("documento", "diz o que é um número, se é válido e por quê", DescreverDocumento, MostrarDocumento);
+    comandos.Incluir("gerar", "gera números válidos inventados, para testes", DescreverGeracao, GerarNumeros);
     comandos.Incluir("chamar", "chama uma operação da biblioteca", DescreverChamar, ExecutarChamar);
     comandos.Incluir("operacoes", "lista o que chamar pode chamar", DescreverOperacoes, ExecutarOperacoes);
     comandos.Incluir("mensagem", "mostra uma mensagem e responde o que foi escolhido", DescreverMensagem,
