@@ -107,8 +107,8 @@ TEST(Console, OAndamentoReescreveUmaLinhaOuEscreveVarias) {
         const char* Esperado;
     } casos[] = {
         // Shorter lines wipe longer ones out; a line never fills the terminal.
-        {12, "Cópia\n\rLendo\rLendo 7%\rUm texto...\rUm t... 19%\ra?b 20%    \n"},
-        {0, "Cópia\nLendo\nLendo 7%\nUm texto comprido\nUm texto comprido 19%\na?b 20%\n"},
+        {12, "Cópia\n\rLendo\rLendo 7%\rUm texto...\rUm t... 19%\ra?b 20%    \ra?b 30%\n"},
+        {0, "Cópia\nLendo\nLendo 7%\nUm texto comprido\nUm texto comprido 19%\na?b 20%\na?b 30%\n"},
     };
     for (const auto& c : casos) {
         TConversaEscrita conversa;
@@ -131,6 +131,7 @@ TEST(Console, OAndamentoReescreveUmaLinhaOuEscreveVarias) {
         mostrar(20,
                 u"a\x1B"
                 u"b");
+        barra.SetPercentual(30);  // the last state stays
         exibicao.reset();
         toolkit.ProcessarMensagens();
         EXPECT_EQ(conversa.Escrito, c.Esperado);

@@ -26,6 +26,7 @@ TExibicaoConsole::TExibicaoConsole(TFormulario& AFormulario, TConversa& AConvers
 }
 
 TExibicaoConsole::~TExibicaoConsole() {
+    Atualizar();
     FFormulario.SetJanela(nullptr);
     if (FConversa.GetColunas() > 0 && !FLinha.empty()) FConversa.Escrever(u"\n");
 }

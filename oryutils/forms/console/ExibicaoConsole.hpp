@@ -13,7 +13,7 @@ namespace OryUtils {
 class TExibicaoConsole final : private TJanela {
 public:
     TExibicaoConsole(TFormulario& AFormulario, TConversa& AConversa);
-    /// Ends the line.
+    /// Writes what is new, and ends the line.
     ~TExibicaoConsole() override;
     TExibicaoConsole(const TExibicaoConsole&) = delete;
     TExibicaoConsole& operator=(const TExibicaoConsole&) = delete;

@@ -69,7 +69,11 @@ TFormularioAndamento::TFormularioAndamento(const TOryUtilsDialogsAndamentoIOP& A
     if (!FExibicao) throw Exception(u"Este ambiente não mostra andamento.");
 }
 
-TFormularioAndamento::~TFormularioAndamento() = default;
+// What was noted last is what a terminal, or a log, keeps.
+TFormularioAndamento::~TFormularioAndamento() {
+    FPartes.Progresso->SetPercentual(FPercentual);
+    FPartes.Progresso->SetTexto(FTexto);
+}
 
 void TFormularioAndamento::Atualizar() {
     if (!FToolkit.EhThreadDaInterface())
