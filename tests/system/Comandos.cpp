@@ -1,5 +1,6 @@
 #include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/platform/CodificacaoAnsi.hpp"
+#include "oryutils/platform/InicioDeProcessos.hpp"
 #include "oryutils/system/OryUtilsSystem.hpp"
 #include "oryutils/system/interno/Executor.hpp"
 
@@ -8,8 +9,11 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <chrono>
 #include <cstdio>
+#include <functional>
+#include <thread>
 
 namespace OryUtils {
 namespace {
@@ -71,6 +75,34 @@ TEST(Comandos, OComandoHerdaAEntradaESoEla) {
     EXPECT_EQ(Executar(Comando(u"ler")), TLinhas{u"lida"});
     ASSERT_TRUE(std::freopen(::Testes::CArquivoVazio, "r", stdin));
     EXPECT_EQ(Executar(Comando(u"ler")), TLinhas{});
+}
+
+// A pipe that a command of another thread had inherited would have a writer as long as that one lives.
+TEST(Comandos, ThreadsQueIniciamComandosNaoSeEncontram) {
+    using Interno::TProcessoCapturado;
+    const TPastaTemporaria pasta;
+    const std::u16string longo = Comando(u"parar " + EntreAspas(pasta / "a") + u" " + EntreAspas(pasta / "siga"));
+    std::vector<std::unique_ptr<TProcessoCapturado>> longos(20), curtos(20);
+    {
+        const auto iniciar = [](std::vector<std::unique_ptr<TProcessoCapturado>>& AProcessos,
+                                const std::u16string& ALinha) {
+            for (auto& processo : AProcessos) processo = TProcessoCapturado::Iniciar(ALinha);
+        };
+        const std::jthread deLongos(iniciar, std::ref(longos), longo);
+        const std::jthread deCurtos(iniciar, std::ref(curtos), Comando(u"nada"));
+    }
+    int abertos = 0;
+    for (const auto& curto : curtos) {
+        ASSERT_TRUE(curto);
+        Interno::EsperarProcesso(curto->GetProcesso(), Interno::CEsperaSemLimite, false);
+        std::array<char, 16> bloco{};
+        std::size_t lidos = 0;
+        abertos += curto->Ler(bloco, std::chrono::milliseconds(0), lidos) != TProcessoCapturado::lcFim;
+    }
+    EXPECT_EQ(abertos, 0);
+    std::ofstream(pasta / "siga") << "sim";
+    for (const auto& processo : longos)
+        Interno::EsperarProcesso(processo->GetProcesso(), Interno::CEsperaSemLimite, false);
 }
 
 TEST(Comandos, OQueNaoIniciaDeixaALista) {
