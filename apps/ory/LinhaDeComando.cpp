@@ -127,6 +127,11 @@ void DescreverChamar(TOpcoes AComando, TOpcoesDeChamar& AOpcoes) {
 
 void DescreverOperacoes(TOpcoes AComando, TOpcoesDeOperacoes& AOpcoes) {
     AComando.Marca("--json", AOpcoes.Json, "lista em JSON");
+    AComando.Rodape(
+        "Saída do programa: 0 certo, 2 chamada errada.\n\n"
+        "Exemplos:\n"
+        "  ory operacoes | grep Validou\n"
+        "  ory operacoes --json");
 }
 
 /// The sub-commands, each with what was asked of it and what runs it.

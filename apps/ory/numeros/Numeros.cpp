@@ -1,6 +1,7 @@
 #include "numeros/Numeros.hpp"
 
 #include "oryutils/characters/Utf.hpp"
+#include "oryutils/fields/interno/NumeroDigitado.hpp"
 #include "oryutils/runtime/Excecoes.hpp"
 #include "oryutils/text/OryUtilsFormulas.hpp"
 #include "oryutils/text/UnOryUtilsMatematica.hpp"
@@ -14,14 +15,13 @@
 namespace Ory {
 namespace {
 
-/// "1.234,56" and "1234,56" as written here, "1234.56" as other programs write it.
+/// An amount as people write it in Brazil: "1.234,56", "1234,56", "R$ 10", and "1234.56" where the point can part no
+/// thousands. "1.000" is a thousand.
 OryUtils::Extended LerValor(std::string_view ATexto) {
-    std::u16string texto = OryUtils::DeUtf8(ATexto);
-    if (texto.find(u',') != std::u16string::npos)
-        std::erase(texto, u'.');
-    else
-        std::replace(texto.begin(), texto.end(), u'.', u',');
-    return OryUtils::TextoParaExtended(texto, OryUtils::BuscarFormatosBrasileiros());
+    const auto formatos = OryUtils::BuscarFormatosBrasileiros();
+    const auto numero = OryUtils::Interno::LerNumeroDigitado(OryUtils::DeUtf8(ATexto), formatos, false);
+    // The exception quotes what was written.
+    return OryUtils::TextoParaExtended(numero ? *numero : OryUtils::DeUtf8(ATexto), formatos);
 }
 
 bool EscreverExtenso(std::string_view AValor, TAmbiente& AAmbiente) {
@@ -43,6 +43,11 @@ void DescreverFormula(TOpcoes AComando, TPedidoDeFormula& APedido) {
     AComando.Valor("NOME=VALOR", APedido.Variaveis, "as variáveis");
     AComando.Valor("--ajuste", APedido.Ajuste, "ajuste de cada resultado: nenhum, matematico, truncamento");
     AComando.Valor("--casas", APedido.Casas, "casas decimais do ajuste");
+    AComando.Rodape(
+        "Saída do programa: 0 certo, 1 a fórmula está errada, 2 chamada errada.\n\n"
+        "Exemplos:\n"
+        "  ory formula \"salario*0,11\" salario=1.234,56\n"
+        "  ory formula \"MAX(a;b)/3\" a=10 b=2,5 --ajuste matematico --casas 4");
 }
 
 int MostrarFormula(const TPedidoDeFormula& APedido, TAmbiente& AAmbiente) {
@@ -71,7 +76,12 @@ int MostrarFormula(const TPedidoDeFormula& APedido, TAmbiente& AAmbiente) {
 }
 
 void DescreverExtenso(TOpcoes AComando, TPedidoDeExtenso& APedido) {
-    AComando.Valor("VALOR", APedido.Valores, "1234,56 ou 1234.56; sem nenhum, lê um valor por linha");
+    AComando.Valor("VALOR", APedido.Valores, "1.234,56 ou 1234,56 (1.000 é mil); sem nenhum, lê um valor por linha");
+    AComando.Rodape(
+        "Saída do programa: 0 certo, 1 algum valor não é um número, 2 chamada errada.\n\n"
+        "Exemplos:\n"
+        "  ory extenso 1.234,56\n"
+        "  cut -d';' -f2 valores.csv | ory extenso");
 }
 
 int MostrarExtenso(const TPedidoDeExtenso& APedido, TAmbiente& AAmbiente) {
