@@ -1,5 +1,7 @@
 #include "Fluxos.hpp"
 
+#include <filesystem>
+
 namespace Ory {
 
 using namespace OryUtils::Interno;
@@ -23,6 +25,13 @@ std::string_view DescreverErro(TErroFluxo AErro) {
         default:
             return "erro de entrada ou saída";
     }
+}
+
+std::string_view DescreverErro(TErroFluxo AErro, const std::string& ANome) {
+    const std::filesystem::path pasta = std::filesystem::path(std::u8string(ANome.begin(), ANome.end())).parent_path();
+    std::error_code erro;
+    if (AErro == efNaoExiste && !pasta.empty() && !std::filesystem::exists(pasta, erro)) return "a pasta não existe";
+    return DescreverErro(AErro);
 }
 
 std::size_t TEntradaDeFluxo::Ler(std::span<char> ADestino) {

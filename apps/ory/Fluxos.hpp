@@ -23,6 +23,8 @@ struct ESaidaFechada : std::runtime_error {
 
 /// Why a file could not be used, as the end of a sentence: "o arquivo não existe".
 std::string_view DescreverErro(OryUtils::Interno::TErroFluxo AErro);
+/// The same of the file ANome: where its folder is missing, that is the reason.
+std::string_view DescreverErro(OryUtils::Interno::TErroFluxo AErro, const std::string& ANome);
 
 /// Bytes to read.
 class TEntrada {

@@ -1,6 +1,7 @@
 #include "Opcoes.hpp"
 
 #include "Ambiente.hpp"
+#include "Sugestao.hpp"
 
 #include <CLI/CLI.hpp>
 
@@ -30,11 +31,37 @@ void PorAjuda(CLI::App& AAplicativo) {
     AAplicativo.set_help_flag("-h,--ajuda,--help", "mostra esta ajuda")->group("Opções");
 }
 
+/// The command that was written, or the whole when none was.
+const CLI::App& BuscarEscrito(const CLI::App& AAplicativo) {
+    for (const CLI::App* comando : AAplicativo.get_subcommands())
+        if (comando->parsed()) return BuscarEscrito(*comando);
+    return AAplicativo;
+}
+
+std::string SugerirArgumento(const std::string& AEscrito, const CLI::App& AAplicativo) {
+    std::vector<std::string> nomes;
+    if (AEscrito.starts_with('-'))
+        for (const CLI::Option* opcao : BuscarEscrito(AAplicativo).get_options())
+            for (const std::string& nome : opcao->get_lnames()) nomes.push_back("--" + nome);
+    else
+        for (const CLI::App* comando : AAplicativo.get_subcommands({})) nomes.push_back(comando->get_name());
+    return Sugerir(AEscrito, nomes);
+}
+
+/// CLI11 takes "-1" for a huge number.
+CLI::Option& ExigirNumero(CLI::Option& AOpcao) {
+    return *AOpcao.check([](const std::string& AValor) {
+        const bool numero = !AValor.empty() && AValor.find_first_not_of("0123456789") == std::string::npos;
+        return numero ? std::string() : "espera um número inteiro, veio " + AValor;
+    });
+}
+
 std::string DescreverErroDeUso(const CLI::ParseError& AErro, const CLI::App& AAplicativo) {
     if (dynamic_cast<const CLI::ExtrasError*>(&AErro)) {
         std::string sobra;
-        for (const std::string& argumento : AAplicativo.remaining(true)) sobra += " " + argumento;
-        return "argumento desconhecido:" + sobra;
+        const std::vector<std::string> argumentos = AAplicativo.remaining(true);
+        for (const std::string& argumento : argumentos) sobra += " " + argumento;
+        return "argumento desconhecido:" + sobra + SugerirArgumento(argumentos.front(), AAplicativo);
     }
     std::string mensagem = AErro.what();
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&AErro)) {
@@ -48,7 +75,12 @@ std::string DescreverErroDeUso(const CLI::ParseError& AErro, const CLI::App& AAp
                    ? "falta o comando"
                    : "falta " + mensagem.substr(0, mensagem.size() - falta.size());
     }
-    if (dynamic_cast<const CLI::ConversionError*>(&AErro)) return "valor inválido: " + mensagem;
+    constexpr std::string_view conversao = "Could not convert: ";
+    if (mensagem.starts_with(conversao)) return "valor inválido: " + mensagem.substr(conversao.size());
+    // "--mostrar: espera ..."
+    const std::size_t doisPontos = mensagem.find(": espera");
+    if (dynamic_cast<const CLI::ValidationError*>(&AErro) && doisPontos != std::string::npos)
+        mensagem.erase(doisPontos, 1);
     return mensagem;
 }
 
@@ -79,11 +111,11 @@ TOpcao TOpcoes::Valor(const std::string& ANome, std::string& ADestino, const std
 }
 
 TOpcao TOpcoes::Valor(const std::string& ANome, unsigned& ADestino, const std::string& ADescricao) {
-    return TOpcao(*FComando->add_option(ANome, ADestino, ADescricao));
+    return TOpcao(ExigirNumero(*FComando->add_option(ANome, ADestino, ADescricao)));
 }
 
 TOpcao TOpcoes::Valor(const std::string& ANome, std::size_t& ADestino, const std::string& ADescricao) {
-    return TOpcao(*FComando->add_option(ANome, ADestino, ADescricao));
+    return TOpcao(ExigirNumero(*FComando->add_option(ANome, ADestino, ADescricao)));
 }
 
 TOpcao TOpcoes::Valor(const std::string& ANome, std::vector<std::string>& ADestino, const std::string& ADescricao) {

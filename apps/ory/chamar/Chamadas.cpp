@@ -1,6 +1,7 @@
 #include "chamar/Chamadas.hpp"
 
 #include "Leitura.hpp"
+#include "Sugestao.hpp"
 #include "operations/Json.hpp"
 #include "operations/Operacoes.hpp"
 
@@ -23,6 +24,13 @@ void EscreverParaPessoas(std::string& ASaida, const TJson& AValor) {
         ASaida += AValor.dump();
 }
 
+std::string SugerirOperacao(const std::string& AEscrita) {
+    std::vector<std::string> nomes;
+    for (const auto tabela : BuscarOperacoes())
+        for (const TOperacao& operacao : tabela) nomes.emplace_back(operacao.Nome);
+    return Sugerir(AEscrita, nomes);
+}
+
 }  // namespace
 
 TStatus ChamarUma(const std::string& AOperacao, std::span<const std::string> AArgumentos, bool AJson,
@@ -35,7 +43,8 @@ TStatus ChamarUma(const std::string& AOperacao, std::span<const std::string> AAr
         const auto& classe = lida.at("classe").get_ref<const std::string&>();
         status = classe == "EOperacaoDesconhecida" || classe == "EArgumento" ? stFalha : stInvalido;
         if (!AJson) {
-            AAmbiente.Erro.Escrever("ory: " + erro->get_ref<const std::string&>() + "\n");
+            const std::string sugestao = classe == "EOperacaoDesconhecida" ? SugerirOperacao(AOperacao) : "";
+            AAmbiente.Erro.Escrever("ory: " + erro->get_ref<const std::string&>() + sugestao + "\n");
             return status;
         }
     }

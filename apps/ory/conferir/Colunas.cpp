@@ -12,9 +12,11 @@
 #include "oryutils/text/OryUtilsStrings.hpp"
 
 #include "Fluxos.hpp"
+#include "Sugestao.hpp"
 #include "conferir/Codificacao.hpp"
 
 #include <algorithm>
+#include <vector>
 
 namespace Ory {
 namespace {
@@ -222,12 +224,23 @@ std::u16string TCampo::Decodificar() const { return Ory::Decodificar(Bytes); }
 
 std::span<const TTipoColuna> BuscarTipos() noexcept { return CTipos; }
 
+namespace {
+
+std::string SugerirPapel(std::string_view ANome) {
+    std::vector<std::string> nomes{std::string(CUf), std::string(CNenhum)};
+    for (const TTipoColuna& tipo : CTipos) nomes.emplace_back(tipo.Nome);
+    return Sugerir(ANome, nomes);
+}
+
+}  // namespace
+
 TPapelDaColuna BuscarPapel(std::string_view ANome) {
     if (ANome == CUf) return {.EhUf = true};
     if (ANome == CNenhum) return {};
     const auto* tipo = std::ranges::find(CTipos, ANome, &TTipoColuna::Nome);
     if (tipo == std::end(CTipos))
-        throw EFalha("tipo desconhecido: " + std::string(ANome) + " (os tipos são " + ListarPapeis() + ")");
+        throw EFalha("tipo desconhecido: " + std::string(ANome) + " (os tipos são " + ListarPapeis() + ")" +
+                     SugerirPapel(ANome));
     return {.Tipo = tipo};
 }
 

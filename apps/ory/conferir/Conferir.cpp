@@ -47,7 +47,8 @@ public:
             FNomeProvisorio = FNome + ".parte" + (i ? std::to_string(i) : "");
             erro = fluxo.CriarNovo(FNomeProvisorio, FNome);
         }
-        if (erro != efNenhum) throw EFalha("não foi possível criar " + FNome + ": " + std::string(DescreverErro(erro)));
+        if (erro != efNenhum)
+            throw EFalha("não foi possível criar " + FNome + ": " + std::string(DescreverErro(erro, FNome)));
         FSaida = std::make_unique<TSaidaDeFluxo>(std::move(fluxo), FNome);
     }
     TArquivoNovo(const TArquivoNovo&) = delete;
@@ -114,7 +115,8 @@ TStatus ConferirComLog(const TPedidoDeConferencia& APedido, TAmbiente& AAmbiente
         TFluxo fluxo;
         const TErroFluxo erro = fluxo.AbrirParaLer(APedido.Arquivo);
         if (erro != efNenhum)
-            throw EFalha("não foi possível ler " + APedido.Arquivo + ": " + std::string(DescreverErro(erro)));
+            throw EFalha("não foi possível ler " + APedido.Arquivo + ": " +
+                         std::string(DescreverErro(erro, APedido.Arquivo)));
         tamanho = fluxo.BuscarTamanho();
         arquivo = std::make_unique<TEntradaDeFluxo>(std::move(fluxo), APedido.Arquivo);
     }
