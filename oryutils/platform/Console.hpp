@@ -20,7 +20,8 @@ ORY_API int BuscarColunasDoTerminal();
 /// ignored.
 ORY_API void EscreverNoErroPadrao(std::u16string_view ATexto);
 
-/// Whether stdin's terminal shows what is typed, for passwords. Where there is none nothing happens.
+/// Whether stdin's terminal shows what is typed, for passwords. Where there is none nothing happens. A program that is
+/// ended from outside meanwhile, by Ctrl+C too, leaves a terminal that shows what is typed.
 ORY_API void MostrarDigitado(bool AMostrar);
 
 enum TLeituraDeLinha : int { llLinha, llFim, llTempo };

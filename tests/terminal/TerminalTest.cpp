@@ -184,6 +184,9 @@ TEST(Terminal, PedidosDigitados) {
     EXPECT_EQ(senha.Saida, "segredo\n");
     EXPECT_EQ(senha.Tela.find("segredo"), std::string::npos) << senha.Tela;
     EXPECT_TRUE(senha.ComEco) << "what follows shows again";
+    const TDialogo interrompida = Conversar({"mensagem", "Senha:", "--senha"}, "seg\x03", 80, "> ");
+    EXPECT_TRUE(interrompida.ComEco) << "after Ctrl+C, too";
+    EXPECT_EQ(interrompida.Situacao, -1) << "ended by the signal";
 }
 
 TEST(Terminal, NenhumaLinhaPassaDaLarguraENenhumaPalavraSeParte) {

@@ -7,12 +7,44 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <poll.h>
 #include <sys/ioctl.h>
 #include <termios.h>
 #include <unistd.h>
 
 namespace OryUtils::Interno {
+
+namespace {
+
+void LigarEco(bool ALigado) noexcept {
+    termios modos{};
+    if (::tcgetattr(STDIN_FILENO, &modos) != 0) return;
+    if (ALigado)
+        modos.c_lflag |= ECHO;
+    else
+        modos.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+    ::tcsetattr(STDIN_FILENO, ALigado ? TCSANOW : TCSADRAIN, &modos);
+}
+
+// What ends a program from outside while a password is typed: the terminal would stay without echo for the next one.
+constexpr int CSinaisDeFim[]{SIGINT, SIGTERM, SIGHUP, SIGQUIT};
+
+void AoSerEncerrado(int ASinal) {
+    LigarEco(true);
+    ::signal(ASinal, SIG_DFL);
+    ::raise(ASinal);
+}
+
+/// AQuem takes the place of ADe; a host's own handler stays.
+void TrocarTratador(void (*ADe)(int), void (*AQuem)(int)) noexcept {
+    for (const int sinal : CSinaisDeFim) {
+        struct sigaction atual {};
+        if (::sigaction(sinal, nullptr, &atual) == 0 && atual.sa_handler == ADe) ::signal(sinal, AQuem);
+    }
+}
+
+}  // namespace
 
 bool PodeConversar() { return TFluxo::EntradaPadrao().EhTerminal() && TFluxo::ErroPadrao().EhTerminal(); }
 
@@ -24,13 +56,9 @@ int BuscarColunasDoTerminal() {
 void EscreverNoErroPadrao(std::u16string_view ATexto) { TFluxo::ErroPadrao().Escrever(CodificarAnsi(ATexto)); }
 
 void MostrarDigitado(bool AMostrar) {
-    termios modos{};
-    if (::tcgetattr(STDIN_FILENO, &modos) != 0) return;
-    if (AMostrar)
-        modos.c_lflag |= ECHO;
-    else
-        modos.c_lflag &= ~static_cast<tcflag_t>(ECHO);
-    ::tcsetattr(STDIN_FILENO, TCSADRAIN, &modos);
+    if (!AMostrar) TrocarTratador(SIG_DFL, &AoSerEncerrado);
+    LigarEco(AMostrar);
+    if (AMostrar) TrocarTratador(&AoSerEncerrado, SIG_DFL);
 }
 
 TLeituraDeLinha LerLinhaDoTerminal(std::optional<std::chrono::milliseconds> ALimite, std::u16string& ALinha) {
