@@ -1,6 +1,7 @@
 // What a text must be, told by a table: what is answered, or the sentence that refuses it.
 #include "oryutils/characters/Utf.hpp"
 #include "oryutils/fields/Mascara.hpp"
+#include "oryutils/registry_numbers/UnOryUtilsFormatacoes.hpp"
 
 #include "ui/ToolkitRoteirizado.hpp"
 
@@ -8,6 +9,10 @@ namespace OryUtils {
 namespace {
 
 class Pedidos : public TesteDialogos {
+public:
+    Pedidos() { GOryUtilsFormatacoes.Criar(); }
+    ~Pedidos() override { GOryUtilsFormatacoes.Liberar(); }
+
 protected:
     /// Writes ATexto into the box and presses OK: "=answer", the sentence of the warning, or nothing when it stays.
     std::string Responder(const TOryUtilsDialogsPedidoTextoIOP& AParametros, std::u16string_view AProposto,
