@@ -27,6 +27,12 @@ void Devolver(void* AMemoria) noexcept {
     GMaximo = std::max(GMaximo, GEmUso += ATamanho);
     return static_cast<char*>(inicio) + CPrefixo;
 }
+// The sanitizers have one of their own, whose memory this delete would not know.
+[[gnu::noinline]] void* operator new(std::size_t ATamanho, const std::nothrow_t&) noexcept try {
+    return ::operator new(ATamanho);
+} catch (const std::bad_alloc&) {
+    return nullptr;
+}
 [[gnu::noinline]] void operator delete(void* AMemoria) noexcept { Devolver(AMemoria); }
 [[gnu::noinline]] void operator delete(void* AMemoria, std::size_t) noexcept { Devolver(AMemoria); }
 

@@ -17,6 +17,12 @@ std::size_t GMaiorPedaco = SIZE_MAX;
         if (void* memoria = std::malloc(ATamanho)) return memoria;
     throw std::bad_alloc();
 }
+// The sanitizers have one of their own, whose memory this delete would not know.
+[[gnu::noinline]] void* operator new(std::size_t ATamanho, const std::nothrow_t&) noexcept try {
+    return ::operator new(ATamanho);
+} catch (const std::bad_alloc&) {
+    return nullptr;
+}
 [[gnu::noinline]] void operator delete(void* AMemoria) noexcept { std::free(AMemoria); }
 [[gnu::noinline]] void operator delete(void* AMemoria, std::size_t) noexcept { std::free(AMemoria); }
 
