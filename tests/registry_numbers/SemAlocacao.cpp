@@ -1,4 +1,5 @@
 #include "oryutils/characters/Utf.hpp"
+#include "oryutils/registry_numbers/OryUtilsDocumentos.hpp"
 #include "oryutils/registry_numbers/OryUtilsValidacoes.hpp"
 #include "oryutils/runtime/Formatos.hpp"
 
@@ -33,6 +34,10 @@ TEST(SemAlocacao, NasRegras) {
         "0 529.982.247-25 11.222.333/0001-81 12ABC34501DE35 12345678919 115830024985 3550308 1E3 isento P011004243002 "
         "2243658792 12345678901234567890123456789 1E4000");
     for (std::string texto; curtos >> texto;) textos.push_back(DeUtf8(texto));
+    const auto tipos = TOryUtilsDocumentos::BuscarTiposDocumento();
+    // These get as far as a rule goes.
+    std::vector<std::u16string> gerados = textos;
+    for (const std::u16string& tipo : tipos) gerados.push_back(TOryUtilsDocumentos::GerarDocumento(tipo, 7, u"SP"));
     const long antes = GAlocacoes;
     int validos = 0;
     for (const std::u16string_view texto : textos) {
@@ -45,8 +50,10 @@ TEST(SemAlocacao, NasRegras) {
         for (const std::u16string_view uf : {u"AC", u"BA", u"MT", u"RS", u"SP", u"TO", u"XX"})
             validos += R::ValidouIE(texto, uf);
     }
+    for (const std::u16string_view texto : gerados)
+        for (const std::u16string& tipo : tipos) validos += ValidouDocumento(tipo, texto, u"SP");
     EXPECT_EQ(GAlocacoes, antes);
-    EXPECT_GT(validos, 10);
+    EXPECT_GT(validos, 40);
 }
 
 }  // namespace
