@@ -1,8 +1,10 @@
 #include "operations/Conversao.hpp"
 
+#include "oryutils/characters/Ascii.hpp"
 #include "oryutils/characters/Utf.hpp"
 #include "oryutils/runtime/Formatos.hpp"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -153,6 +155,16 @@ std::int64_t LerInteiro(const TJson& AValor, std::string_view ATipo, std::int64_
     const auto valor = AValor.get<std::int64_t>();
     if (valor < AMenor || valor > AMaior) recusar();
     return valor;
+}
+
+std::int64_t LerNomeDeValor(const TJson& AValor, std::string_view ATipo, std::span<const TValorDeEnumeracao> AValores) {
+    const auto& nome = AValor.get_ref<const std::string&>();
+    const auto maiuscula = [](char c) { return OryUtils::Interno::MaiusculaAscii(c); };
+    for (const TValorDeEnumeracao& valor : AValores)
+        if (std::ranges::equal(nome, valor.Nome, {}, maiuscula, maiuscula)) return valor.Valor;
+    std::string nomes;
+    for (const TValorDeEnumeracao& valor : AValores) nomes += (nomes.empty() ? "" : ", ") + std::string(valor.Nome);
+    RecusarArgumento(std::string(ATipo) + " (um número, ou " + nomes + ")", AValor);
 }
 
 Extended LerDecimal(const TJson& AValor) {

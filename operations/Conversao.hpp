@@ -7,6 +7,7 @@
 #include "oryutils/runtime/Variante.hpp"
 #include "oryutils/types/OryTypesSistema.hpp"
 
+#include "operations/Enumeracao.hpp"
 #include "operations/Json.hpp"
 
 #include <cstdint>
@@ -44,6 +45,8 @@ char16_t LerCaractere(const TJson& AValor);
 std::u16string LerCaracteres(const TJson& AValor);
 bool LerLogico(const TJson& AValor);
 std::int64_t LerInteiro(const TJson& AValor, std::string_view ATipo, std::int64_t AMenor, std::int64_t AMaior);
+/// The value of that name, whatever its letter case; a refusal names the choices.
+std::int64_t LerNomeDeValor(const TJson& AValor, std::string_view ATipo, std::span<const TValorDeEnumeracao> AValores);
 Extended LerDecimal(const TJson& AValor);
 TDateTime LerDataHora(const TJson& AValor);
 TListaDeTextos LerLista(const TJson& AValor, std::string_view ATipo);
@@ -90,6 +93,7 @@ struct TTipoJson<T> : TPorValor<T> {
     // Any ordinal that the type holds, also without a name: operations say what others mean to them.
     using TLimites = std::numeric_limits<std::underlying_type_t<T>>;
     static T Ler(const TJson& AValor) {
+        if (AValor.is_string()) return static_cast<T>(LerNomeDeValor(AValor, Nome, BuscarValores<T>()));
         return static_cast<T>(LerInteiro(AValor, Nome, TLimites::min(), TLimites::max()));
     }
 };

@@ -1,17 +1,26 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
 
 namespace Ory {
 
+/// A value of an enumeration, by the name that it is declared with.
+struct TValorDeEnumeracao {
+    std::string_view Nome;
+    std::int64_t Valor;
+};
+
 /// One argument of an operation, as told to people and as read from a command line.
 struct TParametro {
     std::string_view Tipo;
     /// The text of the command line is the value itself; otherwise it is JSON where it reads as JSON.
     bool TextoCru;
+    /// Of an enumeration: its values.
+    std::span<const TValorDeEnumeracao> Valores{};
 };
 
 struct TArgumentos;  // operacoes/Vinculo.hpp

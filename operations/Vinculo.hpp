@@ -30,7 +30,7 @@ auto LerArgumento(std::size_t ANumero, TLer ALer) {
 
 template <typename... TArgs>
 inline constexpr std::array<TParametro, sizeof...(TArgs)> CParametros{
-    TParametro{TTipoJson<TArgs>::Nome, TTipoJson<TArgs>::TextoCru}...};
+    TParametro{TTipoJson<TArgs>::Nome, TTipoJson<TArgs>::TextoCru, BuscarValores<TArgs>()}...};
 
 template <typename TFuncao>
 struct TAssinatura;

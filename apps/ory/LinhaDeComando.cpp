@@ -114,7 +114,7 @@ void DescreverChamar(TOpcoes AComando, TOpcoesDeChamar& AOpcoes) {
     AComando.Valor("OPERACAO", AOpcoes.Operacao, "nome da operação; veja ory operacoes");
     AComando.Valor("ARGUMENTO", AOpcoes.Argumentos,
                    "um valor por argumento: texto como está, listas em JSON ([\"a\",\"b\"]),\n"
-                   "datas AAAA-MM-DDTHH:MM:SS, enumerações pelo ordinal");
+                   "datas AAAA-MM-DDTHH:MM:SS, enumerações pelo nome ou número");
     AComando.Marca("--lote", AOpcoes.Lote, "lê um pedido JSON por linha e responde um JSON por linha");
     AComando.Marca("--json", AOpcoes.Json, "resposta em JSON, como em --lote (antes da operação)");
     AComando.Rodape(

@@ -111,6 +111,13 @@ TEST(Chamar, LinhaDeComando) {
     const std::string lista = Rodar({"operacoes"}).Saida;
     EXPECT_NE(lista.find("ValidouCnpjCpf(TTipoInscricao, texto): lógico\n"), std::string::npos);
     const json emJson = json::parse(Rodar({"operacoes", "--json"}).Saida);
+    const auto comEnumeracao = std::ranges::find(emJson, json("ValidouCnpjCpf"), [](const json& A) { return A["op"]; });
+    ASSERT_NE(comEnumeracao, emJson.end());
+    EXPECT_EQ((*comEnumeracao)["valores"]["TTipoInscricao"]["tiCPF"], 2);
+    EXPECT_EQ(Rodar({"chamar", "ValidouCnpjCpf", "ticnpj", "11222333000181"}).Saida, "true\n") << "by name";
+    const std::string recusa = Rodar({"chamar", "ValidouCnpjCpf", "tiNada", "1"}).Erro;
+    EXPECT_NE(recusa.find("esperava TTipoInscricao (um número, ou "), std::string::npos) << recusa;
+    EXPECT_NE(recusa.find("tiCNPJ, tiCPF"), std::string::npos) << recusa;
     EXPECT_EQ(static_cast<std::ptrdiff_t>(emJson.size()), std::count(lista.begin(), lista.end(), '\n'));
 }
 

@@ -78,6 +78,19 @@ void ChamarEmLote(TEntrada& AEntrada, TSaida& ASaida, std::size_t AMaiorRequisic
     descarregar();
 }
 
+namespace {
+
+// The values of the enumerations among the arguments: ,"valores":{"TTipoInscricao":{"tiCNPJ":1}}.
+void EscreverValores(std::string& ASaida, const TOperacao& AOperacao) {
+    TJson tipos = TJson::object();
+    for (const TParametro& parametro : AOperacao.Parametros)
+        for (const TValorDeEnumeracao& valor : parametro.Valores)
+            tipos[std::string(parametro.Tipo)][std::string(valor.Nome)] = valor.Valor;
+    if (!tipos.empty()) ASaida += R"(,"valores":)" + tipos.dump();
+}
+
+}  // namespace
+
 void ListarOperacoes(TSaida& ASaida, bool AJson) {
     std::vector<const TOperacao*> operacoes;
     for (const auto tabela : BuscarOperacoes())
@@ -100,6 +113,7 @@ void ListarOperacoes(TSaida& ASaida, bool AJson) {
         }
         saida += R"(],"resultado":)";
         EscreverTextoJson(saida, operacao->Resultado);
+        EscreverValores(saida, *operacao);
         saida += '}';
     }
     if (AJson) saida += "]\n";
