@@ -143,7 +143,7 @@ void TListaEscolha::SetEscolhidos(std::vector<int> AEscolhidos) {
     const int total = static_cast<int>(FItens.size());
     std::erase_if(AEscolhidos, [&](int i) { return i < 0 || i >= total; });
     std::ranges::sort(AEscolhidos);
-    AEscolhidos.erase(std::ranges::unique(AEscolhidos).begin(), AEscolhidos.end());
+    AEscolhidos.erase(std::unique(AEscolhidos.begin(), AEscolhidos.end()), AEscolhidos.end());
     if (!FVarios && AEscolhidos.size() > 1) AEscolhidos.resize(1);
     if (FEscolhidos == AEscolhidos) return;
     FEscolhidos = std::move(AEscolhidos);

@@ -81,7 +81,7 @@ TRespostaDeLista LerRespostaDeLista(const std::vector<std::u16string>& AItens, b
         AResposta.remove_prefix(virgula == AResposta.npos ? AResposta.size() : virgula + 1);
     }
     std::ranges::sort(todas.Escolhidos);
-    todas.Escolhidos.erase(std::ranges::unique(todas.Escolhidos).begin(), todas.Escolhidos.end());
+    todas.Escolhidos.erase(std::unique(todas.Escolhidos.begin(), todas.Escolhidos.end()), todas.Escolhidos.end());
     return todas;
 }
 
