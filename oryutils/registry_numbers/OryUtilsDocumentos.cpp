@@ -10,8 +10,6 @@ namespace {
 using namespace Interno;
 using C = TOryUtilsDocumentos;
 
-std::u16string Texto(std::string_view AAscii) { return {AAscii.begin(), AAscii.end()}; }
-
 [[noreturn]] void RecusarTipo(std::u16string_view ATipo) {
     std::u16string nomes;
     for (const TTipoDeDocumento& tipo : BuscarTiposDeDocumento())

@@ -7,6 +7,7 @@
 #include "oryutils/forms/win32/interno/LeitorDeTela.hpp"
 #include "oryutils/forms/win32/interno/Telas.hpp"
 #include "oryutils/forms/win32/interno/TextoNativo.hpp"
+#include "oryutils/runtime/Ligado.hpp"
 
 #include <algorithm>
 #include <oleacc.h>
@@ -17,19 +18,6 @@ namespace {
 
 // Above the numbers that the dialog keyboard sends by itself (IDOK, IDCANCEL).
 constexpr int CPrimeiroId = 100;
-
-/// Sets a flag while it lives.
-class TMarcar {
-public:
-    explicit TMarcar(bool& AMarca) : FMarca(AMarca), FAnterior(std::exchange(AMarca, true)) {}
-    ~TMarcar() { FMarca = FAnterior; }
-    TMarcar(const TMarcar&) = delete;
-    TMarcar& operator=(const TMarcar&) = delete;
-
-private:
-    bool& FMarca;
-    bool FAnterior;
-};
 
 bool EhBotao(const TControleFormulario* AControle) { return AControle && AControle->GetTipo() == tcBotao; }
 
@@ -43,7 +31,7 @@ bool EstahPressionada(int ATecla) { return (::GetKeyState(ATecla) & 0x8000) != 0
 
 TJanelaWin32::TJanelaWin32(TFormulario& AFormulario, TLacoDeMensagens& ALaco, TTelas& ATelas)
     : FFormulario(AFormulario), FLaco(ALaco), FTelas(ATelas) {
-    const TMarcar marca(FAtualizando);
+    const TLigado marca(FAtualizando);
     const HWND dona = BuscarDona();
     FTela = FTelas.Buscar(dona);
     Criar(dona);
@@ -113,7 +101,7 @@ void TJanelaWin32::ConferirTela() {
     const TTelaWin32 antes = std::exchange(FTela, tela);
     if (tela.PixelsPorPolegada == antes.PixelsPorPolegada && tela.AreaDeTrabalho == antes.AreaDeTrabalho) return;
     {
-        const TMarcar marca(FAtualizando);
+        const TLigado marca(FAtualizando);
         const TFonteDialogo& fonte = FTelas.BuscarFonte(tela.PixelsPorPolegada);
         for (const auto& nativo : FNativos) nativo->MudarFonte(fonte);
     }
@@ -123,7 +111,7 @@ void TJanelaWin32::ConferirTela() {
 
 void TJanelaWin32::Mostrar() {
     {
-        const TMarcar marca(FAtualizando);
+        const TLigado marca(FAtualizando);
         // A captured mouse would keep the clicks from this window.
         if (HWND captura = ::GetCapture()) ::SendMessageW(captura, WM_CANCELMODE, 0, 0);
         ::ReleaseCapture();
@@ -228,7 +216,7 @@ bool TJanelaWin32::AcompanharFoco() {
     LerTudo();
     bool aceitou = false;
     {
-        const TMarcar marca(FSaindo);
+        const TLigado marca(FSaindo);
         auto& caixa = static_cast<TCaixaEdicao&>(*anterior);
         aceitou = Proteger(FExcecao, [&] { caixa.OnSair(&caixa); });
     }
@@ -284,7 +272,7 @@ void TJanelaWin32::AvisarIntervencao() noexcept {
 
 void TJanelaWin32::Mudou(TControleFormulario& AControle, TMudanca AMudanca) {
     if (!FJanela) return;
-    const TMarcar marca(FAtualizando);
+    const TLigado marca(FAtualizando);
     TControleNativo* nativo = BuscarNativo(&AControle);
     if (!nativo) {
         Realizar(AControle);
@@ -316,7 +304,7 @@ void TJanelaWin32::OrdenarTabulacao() {
 
 void TJanelaWin32::MudouFormulario(TMudanca AMudanca) {
     if (!FJanela || FAtualizando) return;
-    const TMarcar marca(FAtualizando);
+    const TLigado marca(FAtualizando);
     if (AMudanca == mdTexto) EscreverTexto(FJanela, FFormulario.GetTitulo());
     if (AMudanca == mdPosicao) Posicionar(nullptr);
     if (AMudanca == mdItens) OrdenarTabulacao();
@@ -350,7 +338,7 @@ LRESULT TJanelaWin32::Tratar(UINT AMensagem, WPARAM AW, LPARAM AL) {
             FFormulario.Fechar();
             return 0;
         case WM_SETFOCUS: {
-            const TMarcar marca(FAtualizando);
+            const TLigado marca(FAtualizando);
             Focar(BuscarNativo(FFormulario.GetControleAtivo()));
             return 0;
         }
@@ -367,7 +355,7 @@ LRESULT TJanelaWin32::Tratar(UINT AMensagem, WPARAM AW, LPARAM AL) {
         }
         case WM_MOVE:
             if (!FAtualizando && !::IsIconic(janela)) {
-                const TMarcar marca(FAtualizando);
+                const TLigado marca(FAtualizando);
                 RECT r{};
                 ::GetWindowRect(janela, &r);
                 FFormulario.SetPosicao(r.left, r.top);

@@ -1,5 +1,9 @@
 #include "oryutils/registry_numbers/interno/CamposBrCode.hpp"
 
+#include "oryutils/characters/Ascii.hpp"
+#include "oryutils/characters/Caracteres.hpp"
+#include "oryutils/characters/Hexadecimal.hpp"
+
 #include <algorithm>
 #include <cstdint>
 
@@ -9,9 +13,7 @@ namespace {
 constexpr std::u16string_view CInterface = u"br.gov.bcb.pix";
 constexpr int CPrimeiroDePix = 26, CUltimoDePix = 51;
 
-bool EhDigito(char16_t c) noexcept { return c >= u'0' && c <= u'9'; }
 bool SaoDigitos(std::u16string_view ATexto) noexcept { return std::ranges::all_of(ATexto, EhDigito); }
-char16_t Minuscula(char16_t c) noexcept { return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c | 0x20) : c; }
 
 /// Two digits; -1 for anything else.
 int LerDois(std::u16string_view ATexto) noexcept {
@@ -22,12 +24,6 @@ std::uint16_t SomarAoCrc(std::uint16_t ACrc, unsigned AByte) noexcept {
     unsigned crc = ACrc ^ (AByte << 8);
     for (int bit = 0; bit < 8; ++bit) crc = crc & 0x8000 ? crc << 1 ^ 0x1021 : crc << 1;
     return static_cast<std::uint16_t>(crc);
-}
-
-int ValorHexadecimal(char16_t c) noexcept {
-    if (EhDigito(c)) return c - u'0';
-    const char16_t letra = Minuscula(c);
-    return letra >= u'a' && letra <= u'f' ? letra - u'a' + 10 : -1;
 }
 
 // Digits, then at most one point with one or two digits.
@@ -43,9 +39,8 @@ bool EhValor(std::u16string_view ATexto) noexcept {
 
 bool EhIdentificador(std::u16string_view ATexto) noexcept {
     if (ATexto == u"***") return true;
-    return !ATexto.empty() && ATexto.size() <= 25 && std::ranges::all_of(ATexto, [](char16_t c) {
-        return EhDigito(c) || (Minuscula(c) >= u'a' && Minuscula(c) <= u'z');
-    });
+    return !ATexto.empty() && ATexto.size() <= 25 &&
+           std::ranges::all_of(ATexto, [](char16_t c) { return EhDigito(c) || EhLetra(c); });
 }
 
 bool EhCampoPixCerto(std::u16string_view APix) noexcept {
@@ -125,7 +120,7 @@ std::optional<std::u16string_view> BuscarCampoPix(std::u16string_view ATexto) no
     while (const auto campo = campos.Proximo()) {
         if (campo->Numero < CPrimeiroDePix || campo->Numero > CUltimoDePix) continue;
         const auto interface = BuscarCampo(campo->Valor, 0);
-        if (interface && std::ranges::equal(*interface, CInterface, {}, Minuscula)) return campo->Valor;
+        if (interface && std::ranges::equal(*interface, CInterface, {}, MinusculaAscii<char16_t>)) return campo->Valor;
     }
     return {};
 }

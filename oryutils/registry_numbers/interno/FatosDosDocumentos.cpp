@@ -11,8 +11,6 @@
 namespace OryUtils::Interno {
 namespace {
 
-std::u16string Texto(std::string_view AAscii) { return {AAscii.begin(), AAscii.end()}; }
-
 std::string_view SemZeros(std::string_view ADigitos) noexcept {
     const std::size_t primeiro = ADigitos.find_first_not_of('0');
     return primeiro == ADigitos.npos ? ADigitos.substr(ADigitos.size() - 1) : ADigitos.substr(primeiro);

@@ -1,4 +1,6 @@
 // Rules of phones, e-mail addresses and Pix.
+#include "oryutils/characters/Caracteres.hpp"
+#include "oryutils/characters/Hexadecimal.hpp"
 #include "oryutils/registry_numbers/interno/CamposBrCode.hpp"
 #include "oryutils/registry_numbers/interno/RegrasEspeciais.hpp"
 #include "oryutils/registry_numbers/interno/SomasDeDocumentos.hpp"
@@ -17,13 +19,7 @@ bool Cumpre(const TExigencia& AExigencia, std::string_view ANumero) noexcept {
     return Interno::Cumpre(AExigencia, LerNumero(ANumero, [](char) { return false; }));
 }
 
-bool EhLetraOuDigito(char16_t c) noexcept {
-    return (c >= u'0' && c <= u'9') || (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z');
-}
-bool EhLetraAscii(char16_t c) noexcept { return EhLetraOuDigito(c) && c > u'9'; }
-bool EhHexadecimal(char16_t c) noexcept {
-    return (c >= u'0' && c <= u'9') || (c >= u'A' && c <= u'F') || (c >= u'a' && c <= u'f');
-}
+bool EhLetraOuDigito(char16_t c) noexcept { return EhLetra(c) || EhDigito(c); }
 
 TMotivoRecusa ConferirDominio(std::u16string_view ADominio) noexcept {
     if (ADominio.empty() || ADominio.size() > 253) return mrForma;
@@ -38,7 +34,7 @@ TMotivoRecusa ConferirDominio(std::u16string_view ADominio) noexcept {
         for (const char16_t c : rotulo)
             if (!EhLetraOuDigito(c) && c != u'-') return mrCaractere;
     }
-    const bool letras = std::ranges::all_of(rotulo, EhLetraAscii);
+    const bool letras = std::ranges::all_of(rotulo, EhLetra);
     const bool acentuado =
         rotulo.size() >= 4 && (rotulo[0] | 0x20) == u'x' && (rotulo[1] | 0x20) == u'n' && rotulo.substr(2, 2) == u"--";
     return rotulos >= 2 && rotulo.size() >= 2 && (letras || acentuado) ? mrNenhum : mrForma;
@@ -60,7 +56,7 @@ TMotivoRecusa ConferirEmail(std::u16string_view AEndereco) noexcept {
 bool EhChaveAleatoria(std::u16string_view AChave) noexcept {
     constexpr std::u16string_view CForma = u"hhhhhhhh-hhhh-hhhh-hhhh-hhhhhhhhhhhh";
     return AChave.size() == CForma.size() && std::ranges::equal(AChave, CForma, [](char16_t c, char16_t AForma) {
-               return AForma == u'h' ? EhHexadecimal(c) : c == u'-';
+               return AForma == u'h' ? ValorHexadecimal(c) >= 0 : c == u'-';
            });
 }
 

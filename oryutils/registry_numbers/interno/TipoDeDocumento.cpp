@@ -1,5 +1,6 @@
 #include "oryutils/registry_numbers/interno/TipoDeDocumento.hpp"
 
+#include "oryutils/characters/Caracteres.hpp"
 #include "oryutils/registry_numbers/interno/UnidadesFederativas.hpp"
 
 #include <algorithm>
@@ -7,14 +8,7 @@
 namespace OryUtils::Interno {
 namespace {
 
-constexpr bool EhBranco(char16_t c) noexcept { return c <= u' '; }
 constexpr bool EhMarca(char16_t c) noexcept { return c == u'.' || c == u'-' || c == u'/'; }
-
-constexpr std::u16string_view SemBrancosEmVolta(std::u16string_view ATexto) noexcept {
-    while (!ATexto.empty() && EhBranco(ATexto.front())) ATexto.remove_prefix(1);
-    while (!ATexto.empty() && EhBranco(ATexto.back())) ATexto.remove_suffix(1);
-    return ATexto;
-}
 
 /// "A" to "Z" for a letter in either case, "0" to "9"; 0 for anything else.
 constexpr char LerCaractere(char16_t c) noexcept {
@@ -44,7 +38,7 @@ const TUnidadeFederativa* LerUf(std::u16string_view ASigla) noexcept {
 
 TMotivoRecusa LerContexto(TUsoDoContexto AUso, std::u16string_view AContexto, const TUnidadeFederativa*& AUf) noexcept {
     if (AUso == ucNenhum) return mrNenhum;
-    const std::u16string_view sigla = SemBrancosEmVolta(AContexto);
+    const std::u16string_view sigla = Aparar(AContexto);
     if (sigla.empty()) return AUso == ucUf ? mrContexto : mrNenhum;
     AUf = LerUf(sigla);
     return AUf ? mrNenhum : mrUf;
@@ -90,7 +84,7 @@ TMotivoRecusa ConferirFormatos(std::span<const TFormatoDocumento> AFormatos, std
 
 TMotivoRecusa ConferirDocumento(const TTipoDeDocumento& ATipo, std::u16string_view ANumero,
                                 std::u16string_view AContexto, TDocumentoLido& ALido) noexcept {
-    ALido.Texto = SemBrancosEmVolta(ANumero);
+    ALido.Texto = Aparar(ANumero);
     if (ALido.Texto.empty()) return mrVazio;
     TMotivoRecusa motivo = LerContexto(ATipo.Contexto, AContexto, ALido.Uf);
     if (motivo != mrNenhum) return motivo;

@@ -47,6 +47,8 @@ private:
     std::size_t FTamanho = 0;
 };
 
+inline std::u16string Texto(std::string_view AAscii) { return {AAscii.begin(), AAscii.end()}; }
+
 struct TUnidadeFederativa;
 
 struct TDocumentoLido {
